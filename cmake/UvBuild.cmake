@@ -1,0 +1,99 @@
+# Building blocks that every folder's CMakeLists.txt uses.
+
+include(GoogleTest)
+
+# Flags that all code of the project is compiled with.
+add_library(uv_flags INTERFACE)
+target_compile_options(uv_flags INTERFACE -Wall -Wextra -Wshadow $<$<BOOL:${UV_WERROR}>:-Werror>)
+# GCC 12 sees overlaps inside std::string's operator+, and null pointers behind c_str(), that can't be.
+target_compile_options(uv_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+                       $<$<CXX_COMPILER_ID:GNU>:-Wno-format-overflow>)
+target_include_directories(uv_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/Libraries/Static)
+if(UV_SANITIZE)
+    target_compile_options(uv_flags INTERFACE -fsanitize=${UV_SANITIZE} -fno-omit-frame-pointer
+                           -fno-sanitize-recover=all)
+    target_link_options(uv_flags INTERFACE -fsanitize=${UV_SANITIZE})
+endif()
+if(UV_SANITIZE MATCHES "address")
+    target_compile_definitions(uv_flags INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+# uv_subsystem(<target> SOURCES ... HEADERS ... LINKS ...)
+# One folder's code as an object library. Objects, since a linker drops archive members whose only effect is a
+# static initialiser. LINKS carries include paths and system libraries, never objects: see uv_finish_subsystems.
+function(uv_subsystem target)
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    add_library(${target} OBJECT ${arg_SOURCES})
+    # one of the two include roots; a file set takes no root inside another
+    set(root ${PROJECT_SOURCE_DIR})
+    if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/Libraries/Static/")
+        set(root ${PROJECT_SOURCE_DIR}/Libraries/Static)
+    endif()
+    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${root} FILES ${arg_HEADERS})
+    set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    target_link_libraries(${target} PUBLIC uv_flags uv_interfaces ${arg_LINKS})
+    set_property(GLOBAL APPEND PROPERTY UV_SUBSYSTEMS ${target})
+endfunction()
+
+# uv_object_group(<target> <subsystem>...): an interface target that carries the objects of the subsystems.
+function(uv_object_group target)
+    add_library(${target} INTERFACE)
+    foreach(subsystem IN LISTS ARGN)
+        target_sources(${target} INTERFACE $<TARGET_OBJECTS:${subsystem}>)
+        target_link_libraries(${target} INTERFACE $<TARGET_PROPERTY:${subsystem},INTERFACE_LINK_LIBRARIES>)
+    endforeach()
+    target_link_libraries(${target} INTERFACE uv_flags uv_interfaces)
+endfunction()
+
+# Writes the linker's version script for a list of exported symbols, one demangled name a line.
+function(uv_version_script list script)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+    file(STRINGS ${list} symbols REGEX "^[^#]")
+    set(plain "")
+    set(mangled "")
+    foreach(symbol IN LISTS symbols)
+        if(symbol MATCHES "\\(")
+            string(APPEND mangled "        \"${symbol}\";\n")
+        else()
+            string(APPEND plain "    ${symbol};\n")
+        endif()
+    endforeach()
+    file(CONFIGURE OUTPUT ${script} @ONLY
+         CONTENT "{\nglobal:\n${plain}    extern \"C++\" {\n${mangled}    };\nlocal:\n    *;\n};\n")
+endfunction()
+
+# Makes uv_all (every subsystem's objects: the library and the tests) and uv_host (what a host links beside the
+# interfaces: foundation, catalogue, options and metadata).
+macro(uv_finish_subsystems)
+    get_property(uv_subsystems GLOBAL PROPERTY UV_SUBSYSTEMS)
+    uv_object_group(uv_all ${uv_subsystems})
+    uv_object_group(uv_host uv_foundation uv_catalogue uv_options uv_metadata)
+
+    add_library(UVParser SHARED)
+    target_link_libraries(UVParser PRIVATE uv_all)
+    set_target_properties(UVParser PROPERTIES LINKER_LANGUAGE CXX)
+    if(UV_SANITIZE)
+        # A sanitized library takes the runtime from its host program, which finds some symbols by name.
+        target_link_options(UVParser PRIVATE LINKER:-z,nodefs)
+    else()
+        # Templates of the standard library come out visible whatever we ask for; the list keeps them in.
+        set(version_script ${CMAKE_BINARY_DIR}/exports.map)
+        uv_version_script(${PROJECT_SOURCE_DIR}/cmake/exports.txt ${version_script})
+        target_link_options(UVParser PRIVATE LINKER:--version-script=${version_script} LINKER:-z,defs)
+        set_property(TARGET UVParser APPEND PROPERTY LINK_DEPENDS ${version_script})
+    endif()
+endmacro()
+
+# uv_test(<target> SOURCES ... [LINKS ...] [DEPENDS ...])
+# A GoogleTest program over all subsystems, each of its tests known to CTest.
+function(uv_test target)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;DEPENDS" ${ARGN})
+    add_executable(${target} ${arg_SOURCES})
+    target_link_libraries(${target} PRIVATE uv_all GTest::gmock_main ${arg_LINKS})
+    target_compile_definitions(${target} PRIVATE UV_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+                               UV_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+    if(arg_DEPENDS)
+        add_dependencies(${target} ${arg_DEPENDS})
+    endif()
+    gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 600)
+endfunction()
