@@ -1,0 +1,24 @@
+set(uv_string_sources
+    UVECharacter.cpp
+    UVERawString.cpp
+    UVEString.cpp
+    UVEU8String.cpp
+    UVEU8StringView.cpp
+    UVEUnicode.cpp
+    UVEUnicodeNormalize.cpp
+    UVEUnicodeString.cpp
+    UVEUnicodeStringEdit.cpp
+    UVEUnicodeStringScan.cpp
+    UVEUnicodeTables.cpp
+    UVEUtf8Search.cpp)
+set(uv_string_headers
+    UVECharacter.h
+    UVEExport.h
+    UVERawString.h
+    UVEString.h
+    UVEU8String.h
+    UVEU8StringView.h
+    UVEUnicode.h
+    UVEUnicodeString.h
+    UVEUnicodeTables.h
+    UVEUtf8Search.h)
