@@ -1,0 +1,4 @@
+#pragma once
+
+// Numbers for metadata objects: 1, 2, 3 and on, through the whole process.
+int UVDBGetNextObjectID();

@@ -1,0 +1,2 @@
+set(uv_wzd_tests
+    WizardOptionsTest.cpp)
