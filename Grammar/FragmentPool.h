@@ -1,0 +1,171 @@
+#pragma once
+
+#include "Grammar/ElementNames.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Note: fragments
+// The tree under construction is a list of fragments, each one piece of the XML text to come: a start tag, an
+// end tag, a token, a stretch of source between tokens. Lists are spliced, never copied, so a reduction costs
+// its children and not their text. A fragment doesn't hold text: it names an element by number and its source
+// by position, and the final pass writes both straight into the result, escaping on the way.
+//
+// Fragments are addressed by number, not by pointer: half the size, and the list of a long script is what a
+// parse spends its memory on.
+
+using FragmentRef = std::uint32_t;
+constexpr FragmentRef kNoFragment = 0;
+
+enum class enFragment : std::uint32_t
+{
+    Open,      // <name>
+    Close,     // </name>
+    Empty,     // <name></name>
+    Space,     // source between tokens
+    Token,     // a token whose text is its source
+    TokenText, // a token whose text an action has replaced
+};
+
+struct SFragment
+{
+    FragmentRef next;
+    std::uint32_t info; // kind in the low 3 bits, element number above
+
+    enFragment Kind() const { return static_cast<enFragment>(info & 7); }
+    std::uint32_t Element() const { return info >> 3; }
+};
+
+struct SSpaceFragment : SFragment
+{
+    std::uint32_t start;  // byte offset in the query
+    std::uint32_t length; // bytes
+};
+
+struct STokenFragment : SFragment
+{
+    std::uint32_t start; // byte offset in the query; for TokenText the number of the replaced text
+    std::uint32_t length;
+    std::uint32_t line; // 1-based
+    std::int32_t pos;
+};
+
+// Owns the fragments of one parse. They all go at once, by Release or with the pool.
+class CFragmentPool
+{
+public:
+    FragmentRef NewTag(enFragment kind, std::uint32_t element);
+    FragmentRef NewSpace(std::uint32_t start, std::uint32_t length);
+    FragmentRef NewToken(std::uint32_t element, std::uint32_t start, std::uint32_t length, std::uint32_t line,
+                         std::int32_t pos);
+    // A token with a text of its own, which is copied.
+    FragmentRef NewTokenText(std::uint32_t element, std::string_view text, std::uint32_t line,
+                             std::int32_t pos);
+
+    SFragment& operator[](FragmentRef fragment)
+    {
+        return *reinterpret_cast<SFragment*>(m_chunks[fragment >> kChunkBits].get() +
+                                             (fragment & kChunkMask));
+    }
+    const SFragment& operator[](FragmentRef fragment) const
+    {
+        return *reinterpret_cast<const SFragment*>(m_chunks[fragment >> kChunkBits].get() +
+                                                   (fragment & kChunkMask));
+    }
+    const std::string& Text(std::uint32_t number) const { return m_texts[number]; }
+
+    // How many fragments were made since the last Release.
+    std::size_t Count() const { return m_count; }
+
+    // Forgets all fragments and gives their memory back.
+    void Release();
+
+private:
+    // A unit is 8 bytes; a chunk is 1 MiB, and unit 0 of the first stands for "none".
+    static constexpr unsigned kChunkBits = 17;
+    static constexpr std::uint32_t kChunkUnits = 1u << kChunkBits;
+    static constexpr std::uint32_t kChunkMask = kChunkUnits - 1;
+
+    template <class T>
+    T& Allocate(FragmentRef& fragment, enFragment kind, std::uint32_t element)
+    {
+        static_assert(sizeof(T) % sizeof(std::uint64_t) == 0);
+        constexpr std::uint32_t kUnits = sizeof(T) / sizeof(std::uint64_t);
+        if (m_used + kUnits > m_end)
+            NewChunk();
+        fragment = m_used;
+        m_used += kUnits;
+        ++m_count;
+        T* const made = new (m_chunks[fragment >> kChunkBits].get() + (fragment & kChunkMask)) T;
+        made->next = kNoFragment;
+        made->info = static_cast<std::uint32_t>(kind) | element << 3;
+        return *made;
+    }
+    // Throws: std::length_error beyond 32 GiB of fragments.
+    void NewChunk();
+
+    std::vector<std::unique_ptr<std::uint64_t[]>> m_chunks;
+    std::vector<std::string> m_texts;
+    std::uint32_t m_used = 0; // next free unit
+    std::uint32_t m_end = 0;  // end of the last chunk
+    std::size_t m_count = 0;
+};
+
+inline FragmentRef CFragmentPool::NewTag(enFragment kind, std::uint32_t element)
+{
+    FragmentRef fragment = kNoFragment;
+    Allocate<SFragment>(fragment, kind, element);
+    return fragment;
+}
+
+inline FragmentRef CFragmentPool::NewSpace(std::uint32_t start, std::uint32_t length)
+{
+    FragmentRef fragment = kNoFragment;
+    auto& made = Allocate<SSpaceFragment>(fragment, enFragment::Space, 0);
+    made.start = start;
+    made.length = length;
+    return fragment;
+}
+
+inline FragmentRef CFragmentPool::NewToken(std::uint32_t element, std::uint32_t start, std::uint32_t length,
+                                           std::uint32_t line, std::int32_t pos)
+{
+    FragmentRef fragment = kNoFragment;
+    auto& made = Allocate<STokenFragment>(fragment, enFragment::Token, element);
+    made.start = start;
+    made.length = length;
+    made.line = line;
+    made.pos = pos;
+    return fragment;
+}
+
+// Appends one list of fragments to another; both ends of each list are known, so the length doesn't matter.
+inline void SpliceFragments(CFragmentPool& pool, FragmentRef& first, FragmentRef& last,
+                            FragmentRef otherFirst, FragmentRef otherLast)
+{
+    if (otherFirst == kNoFragment)
+        return;
+    if (first == kNoFragment)
+        first = otherFirst;
+    else
+        pool[last].next = otherFirst;
+    last = otherLast;
+}
+
+// Appends the XML text of the fragments from `first` on, in list order, to `out`. Token text has the five
+// special characters of XML escaped; space passes the rules of UVDBEscapeXML. Throws: std::runtime_error if
+// the list runs in a circle, which only damaged tables can bring about.
+void WriteFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
+                    std::string_view query, std::string& out);
+
+// At least the bytes that WriteFragments will append, and few more, so that the result is reserved in one
+// step. Throws: as WriteFragments.
+std::size_t MeasureFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
+                             std::string_view query);
+
+// Appends `text` to `out` as the space between tokens stands in the tree: one element around it.
+void WriteSpaceElement(std::string_view text, std::string& out);

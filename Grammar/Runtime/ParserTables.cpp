@@ -1,0 +1,128 @@
+#include "Grammar/Runtime/ParserTables.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t kMostStates = 32768; // the state stack holds 16-bit entries
+constexpr int kMostBase = 1 << 24;
+
+// The places where rows of one kind begin in table and check.
+class CRowStarts
+{
+public:
+    CRowStarts(const STable<int>& bases, int none, std::size_t slots)
+    {
+        const auto counts = [&](int base) { return base != none && base < static_cast<int>(slots); };
+        for (std::size_t row = 0; row < bases.count; ++row)
+            if (counts(bases[row]))
+                m_least = std::min(m_least, bases[row]);
+        m_isStart.resize(slots + static_cast<std::size_t>(-m_least));
+        for (std::size_t row = 0; row < bases.count; ++row)
+            if (counts(bases[row]))
+                m_isStart[static_cast<std::size_t>(bases[row] - m_least)] = true;
+    }
+
+    bool Has(long base) const
+    {
+        const long index = base - m_least;
+        return index >= 0 && static_cast<std::size_t>(index) < m_isStart.size() &&
+               m_isStart[static_cast<std::size_t>(index)];
+    }
+
+private:
+    int m_least = 0;
+    std::vector<bool> m_isStart;
+};
+
+} // namespace
+
+void CParserTables::Validate(const std::string& directory) const
+{
+    const auto refuse = [&](const char* file, const std::string& what) {
+        RefuseTable(directory, file, what);
+    };
+    const auto checkPresent = [&](const auto& values, const char* file) {
+        if (!values.values || values.count == 0)
+            refuse(file, "the table is empty or can't be opened");
+    };
+    checkPresent(pact, "pact.dat");
+    checkPresent(defact, "defact.dat");
+    checkPresent(pgoto, "pgoto.dat");
+    checkPresent(defgoto, "defgoto.dat");
+    checkPresent(table, "table.dat");
+    checkPresent(check, "check.dat");
+    checkPresent(stos, "stos.dat");
+    checkPresent(r1, "r1.dat");
+    checkPresent(r2, "r2.dat");
+    checkPresent(translate, "translate.dat");
+
+    const auto states = static_cast<int>(std::min(pact.count, kMostStates + 1));
+    if (pact.count > kMostStates)
+        refuse("pact.dat", "more than 32768 states");
+    if (defact.count != pact.count)
+        refuse("defact.dat", "not as long as pact.dat");
+    if (stos.count != pact.count)
+        refuse("stos.dat", "not as long as pact.dat");
+    if (defgoto.count != pgoto.count)
+        refuse("defgoto.dat", "not as long as pgoto.dat");
+    if (check.count != table.count)
+        refuse("check.dat", "not as long as table.dat");
+    if (r2.count != r1.count)
+        refuse("r2.dat", "not as long as r1.dat");
+    if (table.count > static_cast<std::size_t>(kMostBase))
+        refuse("table.dat", "too large");
+    if (final_ < 1 || final_ >= states)
+        refuse("const.dat", "accepting state " + std::to_string(final_) + " of " + std::to_string(states));
+    if (maxutok < 0 || translate.count <= static_cast<std::size_t>(maxutok))
+        refuse("translate.dat", "shorter than the largest token number in defines.dat");
+    for (std::size_t token = 0; token < translate.count; ++token)
+        if (translate[token] >= static_cast<unsigned>(ntokens))
+            refuse("translate.dat",
+                   "token number " + std::to_string(translate[token]) + " of " + std::to_string(ntokens));
+
+    const auto checkBases = [&](const STable<int>& bases, const char* file) {
+        for (std::size_t row = 0; row < bases.count; ++row)
+            if (std::abs(static_cast<long>(bases[row])) > kMostBase)
+                refuse(file, "row " + std::to_string(row) + " starts at " + std::to_string(bases[row]));
+    };
+    checkBases(pact, "pact.dat");
+    checkBases(pgoto, "pgoto.dat");
+
+    const auto rules = static_cast<int>(std::min<std::size_t>(r1.count, kMostBase));
+    for (std::size_t rule = 1; rule < r1.count; ++rule) {
+        const long nonterminal = static_cast<long>(r1[rule]) - ntokens;
+        if (nonterminal < 0 || nonterminal >= static_cast<long>(pgoto.count))
+            refuse("r1.dat", "rule " + std::to_string(rule) + " makes symbol " + std::to_string(r1[rule]));
+        if (r2[rule] > static_cast<unsigned>(std::numeric_limits<short>::max()))
+            refuse("r2.dat",
+                   "rule " + std::to_string(rule) + " has " + std::to_string(r2[rule]) + " symbols");
+    }
+    for (std::size_t state = 0; state < pact.count; ++state) {
+        if (defact[state] >= static_cast<unsigned>(rules))
+            refuse("defact.dat",
+                   "state " + std::to_string(state) + " reduces by rule " + std::to_string(defact[state]));
+        // such a state could neither read a token nor reduce
+        if (pact[state] == base_ninf && defact[state] == 0)
+            refuse("defact.dat", "state " + std::to_string(state) + " has no action at all");
+    }
+    for (std::size_t row = 0; row < defgoto.count; ++row)
+        if (defgoto[row] < 0 ? defgoto[row] != -1 : defgoto[row] >= states)
+            refuse("defgoto.dat", "next state " + std::to_string(defgoto[row]));
+
+    // A slot belongs to the rows whose base lies as far before it as check says.
+    const CRowStarts actionRows(pact, base_ninf, table.count);
+    const CRowStarts gotoRows(pgoto, base_ninf, table.count);
+    for (std::size_t slot = 0; slot < table.count; ++slot) {
+        const int value = table[slot];
+        const long base = static_cast<long>(slot) - check[slot];
+        if (check[slot] >= 0 && check[slot] < ntokens && actionRows.Has(base) &&
+            (value >= states || value <= -rules || value == 0))
+            refuse("table.dat", "action " + std::to_string(value) + " in slot " + std::to_string(slot));
+        if (check[slot] >= 0 && check[slot] < states && gotoRows.Has(base) && (value < 0 || value >= states))
+            refuse("table.dat", "next state " + std::to_string(value) + " in slot " + std::to_string(slot));
+    }
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+// One table as it is read from its file.
+template <class T>
+struct STable
+{
+    std::unique_ptr<T[]> values;
+    std::size_t count = 0;
+
+    const T& operator[](std::size_t index) const { return values[index]; }
+};
+
+// The tables of one scanner. Once loaded and compiled they never change, so several scanners may share them.
+//
+// Note: compiled transitions
+// The tables come compressed: a state's row lies somewhere in chk and nxt, mixed with others, and what isn't
+// there is looked up in the row of its default state, and so on. Compile follows these chains once for every
+// state and byte, which at the same time proves that the walk never leaves the tables. What it found is kept
+// as a plain matrix of states and byte classes (bytes that no state tells apart share a class), so that a
+// step of the scanner is one load.
+class CScannerTables
+{
+public:
+    STable<int> accept, base, chk, def, NUL_trans, nxt, rule_can_match_eol, acclist;
+
+    // Proves the tables and fills the compiled form. `startConditions` is how many the grammar defines.
+    // Throws:  Uve::U8CString with the line for the log, which names the file in `directory` and what is
+    // wrong.
+    void Compile(const std::string& directory, int startConditions);
+
+    // Number of the last state; the jam state is the one behind it.
+    int LastState() const { return static_cast<int>(accept.count) - 3; }
+    int StartConditions() const { return m_nStartConditions; }
+
+    bool IsCompiled() const { return !m_next.empty(); }
+    // Goes back to the compressed walk, which gives the same result more slowly.
+    void DropCompiled();
+
+    int Next(int state, unsigned char byte) const
+    {
+        return m_next[(static_cast<std::size_t>(state) << m_classBits) + m_classOf[byte]];
+    }
+    // True if nothing leads on from `state`: the walk ends there.
+    bool IsJam(int state) const { return m_isJam[static_cast<std::size_t>(state)] != 0; }
+
+private:
+    void CheckSizes(const std::string& directory) const;
+    void CheckAcceptList(const std::string& directory) const;
+    void CheckFirstStep(const std::string& directory, const std::vector<std::uint16_t>& rows) const;
+    void CheckEndOfBuffer(const std::string& directory, const std::vector<std::uint16_t>& rows) const;
+    std::vector<std::uint16_t> ResolveRows(const std::string& directory) const;
+    void FoldClasses(const std::vector<std::uint16_t>& rows);
+
+    std::vector<std::uint16_t> m_next;
+    std::vector<std::uint8_t> m_isJam;
+    std::array<std::uint8_t, 256> m_classOf{};
+    unsigned m_classBits = 8;
+    int m_nStartConditions = 0;
+};
+
+// The exception for a table file that can't be used: a Uve::U8CString.
+[[noreturn]] void RefuseTable(const std::string& directory, const char* file, const std::string& what);

@@ -1,0 +1,199 @@
+#include "Grammar/Runtime/yyBisonParser.h"
+
+#include <stdexcept>
+
+// Note: the parser's machine
+// A stack of states; the top state and the lookahead choose between shifting the lookahead and reducing the
+// topmost symbols to one. It differs from the textbook in three ways. States whose action doesn't depend on
+// the lookahead reduce without reading it, since an action may switch the scanner's start condition and a
+// token fetched before was scanned under the old one. After an error the stack is popped to a state that can
+// shift the error symbol, and three tokens have to be shifted before another error is reported. And the
+// action of a rule may fail, which counts as an error in that place.
+
+namespace {
+
+constexpr int kErrorToken = 1;
+constexpr int kQuietTokens = 3;
+
+// Between two shifts every symbol on the stack takes part in a bounded number of reductions; a grammar's own
+// number of rules is such a bound.
+std::size_t ReductionLimit(std::size_t depth, std::size_t rules)
+{
+    return (depth + 2) * (rules + 2);
+}
+
+} // namespace
+
+yyBisonParser::SStep yyBisonParser::NextStep(int state)
+{
+    int slot = yypact[state];
+    if (slot != yybase_ninf) {
+        if (yychar == yyempty)
+            yychar = yygettoken();
+        if (yychar < 1) {
+            yytoken = 0;
+            yychar = 0;
+        } else {
+            yytoken = yyttranslate(yychar);
+            slot += yytoken;
+        }
+        if (slot >= 0 && slot <= yylast && yycheck[slot] == yytoken) {
+            const int action = yytable[slot];
+            return action > 0 ? SStep{SStep::Shift, action} : SStep{SStep::Reduce, -action};
+        }
+    }
+    const auto rule = static_cast<int>(yydefact[state]);
+    return rule == 0 ? SStep{SStep::Error, 0} : SStep{SStep::Reduce, rule};
+}
+
+int yyBisonParser::GotoState(int rule) const
+{
+    const int nonterminal = static_cast<int>(yyr1[rule]) - yyntokens;
+    const int slot = yypgoto[nonterminal] + *yyssp;
+    if (slot >= 0 && slot <= yylast && yycheck[slot] == *yyssp)
+        return yytable[slot];
+    return yydefgoto[nonterminal];
+}
+
+// Pops to a state that can shift the error symbol.
+// Returns: false if there is none; otherwise `state` is where that shift leads.
+bool yyBisonParser::ShiftErrorToken(int& state)
+{
+    for (;;) {
+        int slot = yypact[state];
+        if (slot != yybase_ninf) {
+            slot += kErrorToken;
+            if (slot >= 0 && slot <= yylast && yycheck[slot] == kErrorToken && yytable[slot] > 0) {
+                state = yytable[slot];
+                return true;
+            }
+        }
+        if (yyssp == yyss)
+            return false;
+        yydestruct("Error: popping", static_cast<int>(yystos[state]), yyvsp);
+        yypop_attributes(1);
+        state = *yyssp;
+    }
+}
+
+int yyBisonParser::yywork()
+{
+    yytoken = 0;
+    yylen = 0;
+    yynerrs = 0;
+    yy_needs_setup = 1;
+    yyerror_flag = 0;
+    yyabort_flag = 0;
+    yychar = yyempty;
+    int state = 0;
+    int recovery = 0;
+    bool hasRaised = false; // an action has failed since the last token was shifted
+    const std::size_t rules = m_spTables->Rules();
+    std::size_t reductions = 0;
+    std::size_t reductionLimit = ReductionLimit(0, rules);
+
+    for (;;) {
+        *yyssp = static_cast<short>(state);
+        if (yyssp >= yyss + yystacksize - 1) {
+            yysize_used = static_cast<std::size_t>(yyssp - yyss) + 1;
+            if (!yystack_relocate())
+                return yyrelease(yyexhausted());
+            yyssp = yyss + yysize_used - 1;
+            yyshift_attributes(yysize_used - 1);
+            if (yyssp >= yyss + yystacksize - 1)
+                return yyrelease(1);
+        }
+        if (state == yyfinal)
+            return yyrelease(0);
+
+        const SStep step = NextStep(state);
+        if (step.kind == SStep::Shift) {
+            if (recovery > 0)
+                --recovery;
+            yychar = yyempty;
+            yylvaltostack();
+            ++yyssp;
+            state = step.number;
+            hasRaised = false;
+            reductions = 0;
+            reductionLimit = ReductionLimit(static_cast<std::size_t>(yyssp - yyss), rules);
+            continue;
+        }
+        if (step.kind == SStep::Reduce) {
+            const int rule = step.number;
+            yylen = static_cast<int>(yyr2[rule]);
+            if (yyssp - yyss < yylen)
+                throw std::runtime_error("a rule pops more than the parser's stack holds");
+            if (++reductions > reductionLimit)
+                throw std::runtime_error("the parser's tables reduce without end");
+            yystacktoval(1 - yylen);
+            bool isRaised = false;
+            try {
+                yyaction(rule);
+            } catch (...) {
+                yyerror("Syntax error");
+                isRaised = true;
+            }
+            if (yyerror_flag || isRaised) {
+                yyerror_flag = 0;
+                yypop_attributes(yylen);
+                yylen = 0;
+                state = *yyssp;
+                // a rule that ends in the error symbol and fails would fail in the same place for ever
+                if (hasRaised)
+                    return yyrelease(1);
+                hasRaised = true;
+            } else if (yyabort_flag) {
+                return yyrelease(1);
+            } else {
+                yypop_attributes(yylen);
+                yylen = 0;
+                yyvaltostack();
+                state = GotoState(rule);
+                if (state < 0)
+                    throw std::runtime_error("the parser's tables lead nowhere");
+                ++yyssp;
+                continue;
+            }
+        } else {
+            yytoken = yychar == yyempty ? yyempty : yyttranslate(yychar);
+            if (recovery == 0) {
+                ++yynerrs;
+                yysyntaxerror();
+            } else if (recovery == kQuietTokens) {
+                if (yychar == 0)
+                    return yyrelease(1);
+                if (yychar > 0) {
+                    yydestruct("Error: discarding", yytoken, yylval);
+                    yychar = yyempty;
+                    reductions = 0;
+                }
+            }
+        }
+
+        if (!ShiftErrorToken(state))
+            return yyrelease(1);
+        yylvaltostack();
+        recovery = kQuietTokens;
+        ++yyssp;
+    }
+}
+
+int yyBisonParser::yyexhausted()
+{
+    yyerror("memory exhausted");
+    return 2;
+}
+
+int yyBisonParser::yyrelease(int result)
+{
+    if (yychar != yyempty)
+        yydestruct("Cleanup: discarding lookahead", yyttranslate(yychar), yylval);
+    yypop_attributes(yylen);
+    yylen = 0;
+    while (yyssp != yyss) {
+        yydestruct("Cleanup: popping", static_cast<int>(yystos[*yyssp]), yyvsp);
+        yypop_attributes(1);
+    }
+    return result;
+}

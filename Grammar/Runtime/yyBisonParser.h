@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Grammar/Runtime/yyParser.h"
+
+// The main loop of the parser.
+class yyBisonParser : public yyParser
+{
+public:
+    // Throws: std::runtime_error if a rule pops more than the stack holds, or if reductions go on without
+    // end: only
+    //         damaged tables do that.
+    int yywork() override;
+    // Returns: 2, after reporting.
+    virtual int yyexhausted();
+    // Ends a parse: everything on the stacks is discarded.
+    // Returns: `result`.
+    virtual int yyrelease(int result);
+
+private:
+    // What the tables order in a state: a state to go to, or a rule to reduce by.
+    struct SStep
+    {
+        enum enKind
+        {
+            Shift,
+            Reduce,
+            Error
+        } kind;
+        int number;
+    };
+
+    SStep NextStep(int state);
+    int GotoState(int rule) const;
+    bool ShiftErrorToken(int& state);
+};

@@ -1,0 +1,316 @@
+#include "Grammar/Runtime/yyLexer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+constexpr int kFirstTextSize = 200;
+constexpr int kSpareSteps = 4; // a match runs over both NULs behind the text
+
+std::size_t StateSlots(int textSize)
+{
+    return static_cast<std::size_t>(textSize) * 2 + 2;
+}
+
+std::size_t TextBytes(int textSize)
+{
+    return static_cast<std::size_t>(textSize) + 2;
+}
+
+} // namespace
+
+yyLexer::yyLexer() = default;
+
+yyLexer::~yyLexer()
+{
+    yyLexer::yydestroy();
+}
+
+int yyLexer::yycreate()
+{
+    // a scanner that is linked again starts over
+    yyLexer::yycleanup();
+    yy_text_size = yy_text_initial_size;
+    yy_text_initial.reset(static_cast<char*>(std::malloc(TextBytes(yy_text_size))));
+    yy_state_initial.reset(static_cast<int*>(std::malloc(StateSlots(yy_text_size) * sizeof(int))));
+    if (!yy_text_initial || !yy_state_initial)
+        return 0;
+    yytext = yy_text_initial.get();
+    yytext[0] = 0;
+    yy_state_buf = yy_state_initial.get();
+    yy_state_ptr = yy_state_buf;
+    return 1;
+}
+
+int yyLexer::yybegin(int state)
+{
+    if (m_spTables && (state < 0 || state >= m_spTables->StartConditions()))
+        throw std::out_of_range("the scanner has no start condition " + std::to_string(state));
+    yy_start = state * 2 + 1;
+    return yy_start;
+}
+
+void yyLexer::yyinit_locals()
+{
+    yylineno = 1;
+    yyin = nullptr;
+    yyout = nullptr;
+    yy_cp = nullptr;
+    yy_bp = nullptr;
+    yytext_ptr = nullptr;
+    yy_current_state = 0;
+    yy_n_chars = 0;
+    yyleng = 0;
+    yyoldleng = 0;
+    yy_init = 0;
+    yy_start = 0;
+    yy_match_length = 0;
+    yy_hold_char = 0;
+    yy_c_buf_p = nullptr;
+    yy_full_match = nullptr;
+    yy_did_buffer_switch_on_eof = 0;
+    yy_state_ptr = nullptr;
+    yy_lp = 0;
+    yy_looking_for_trail_begin = 0;
+    yy_full_lp = 0;
+    yy_full_state = nullptr;
+    yy_action_returns = 0;
+    yy_action_failed = 0;
+}
+
+void yyLexer::yycleanup()
+{
+    while (yycurrent_buffer()) {
+        yydelete_buffer(yycurrent_buffer());
+        yycurrent_buffer_lvalue() = nullptr;
+        yypop_buffer_state();
+    }
+    yy_text_grown.reset();
+    yy_state_grown.reset();
+    yytext = yy_text_initial.get();
+    if (yytext)
+        yytext[0] = 0;
+    yy_state_buf = yy_state_initial.get();
+    yy_state_ptr = yy_state_buf;
+    yy_text_size = yy_text_initial_size;
+    yy_looking_for_trail_begin = 0;
+    yyleng = 0;
+    yyoldleng = 0;
+    yy_init = 0;
+    yylineno = 1;
+}
+
+void yyLexer::yyinitialize()
+{
+    if (yy_init)
+        return;
+    yy_init = 1;
+    if (yy_start == 0)
+        yy_start = 1;
+    yyinputbuffer();
+    if (yycurrent_buffer())
+        yyload_buffer_state();
+    else
+        yyrestart(yyin);
+}
+
+void yyLexer::yyinittables()
+{
+    yy_accept = nullptr;
+    yy_NUL_trans = nullptr;
+    yy_base = nullptr;
+    yy_def = nullptr;
+    yy_nxt = nullptr;
+    yy_chk = nullptr;
+    yy_rule_can_match_eol = nullptr;
+    yy_acclist = nullptr;
+}
+
+void yyLexer::yyremove_tables()
+{
+    yyinittables();
+    m_spTables.reset();
+}
+
+void yyLexer::yydestroy()
+{
+    yyLexer::yycleanup();
+    yyLexer::yyremove_tables();
+    std::free(yy_buffer_stack);
+    yy_buffer_stack = nullptr;
+    yy_buffer_stack_top = 0;
+    yy_buffer_stack_max = 0;
+    yy_text_initial.reset();
+    yy_state_initial.reset();
+    yytext = nullptr;
+    yy_state_buf = nullptr;
+    if (yyin)
+        std::fclose(yyin);
+    if (yyout)
+        std::fclose(yyout);
+    yyLexer::yyinit_locals();
+}
+
+void yyLexer::yyfatal_error(const char* text)
+{
+    std::fprintf(stderr, "%s\n", text);
+    std::exit(1);
+}
+
+void yyLexer::yyerror(const char* text)
+{
+    std::fprintf(stderr, "%s\n", text);
+}
+
+void yyLexer::yyset_tables(std::shared_ptr<const CScannerTables> tables)
+{
+    m_spTables = std::move(tables);
+    yy_accept = m_spTables->accept.values.get();
+    yy_base = m_spTables->base.values.get();
+    yy_chk = m_spTables->chk.values.get();
+    yy_def = m_spTables->def.values.get();
+    yy_NUL_trans = m_spTables->NUL_trans.values.get();
+    yy_nxt = m_spTables->nxt.values.get();
+    yy_rule_can_match_eol = m_spTables->rule_can_match_eol.values.get();
+    yy_acclist = m_spTables->acclist.values.get();
+    yyset_lastdfa(m_spTables->accept.count);
+    yyset_jambase(m_spTables->base.count);
+    yyset_rules_num(static_cast<int>(m_spTables->rule_can_match_eol.count));
+}
+
+void yyLexer::yyset_jambase(std::size_t count)
+{
+    if (yy_last_dfa + 1 >= count) {
+        yyerror("Can't calculate jamstate value");
+        return;
+    }
+    yy_jam_base = yy_base[yy_last_dfa + 1];
+}
+
+std::size_t yyLexer::yymatch_offset() const
+{
+    const yybuffer_state* const buffer = yycurrent_buffer();
+    return buffer && yytext_ptr ? static_cast<std::size_t>(yytext_ptr - buffer->yy_ch_buf) : 0;
+}
+
+void yyLexer::yybefore_action()
+{
+    yytext_ptr = yy_bp;
+    yyoldleng = yyleng;
+    yyleng = static_cast<int>(yy_cp - yy_bp);
+    yy_hold_char = *yy_cp;
+    *yy_cp = 0;
+    std::memcpy(yytext, yytext_ptr, static_cast<std::size_t>(yyleng) + 1);
+    yy_c_buf_p = yy_cp;
+}
+
+int yyLexer::yystep(int state, unsigned char byte) const
+{
+    if (m_spTables->IsCompiled())
+        return m_spTables->Next(state, byte);
+    int index = yy_base[state] + byte;
+    while (yy_chk[index] != state) {
+        state = yy_def[state];
+        index = yy_base[state] + byte;
+    }
+    return yy_nxt[index];
+}
+
+int yyLexer::yyget_previous_state()
+{
+    int state = yy_start + yyat_bol();
+    yy_state_ptr = yy_state_buf;
+    *yy_state_ptr++ = state;
+    for (const char* cp = yytext_ptr; cp < yy_c_buf_p; ++cp) {
+        if (*cp)
+            state = yystep(state, static_cast<unsigned char>(*cp));
+        else
+            state = static_cast<std::size_t>(state) <= yy_last_dfa ? yy_NUL_trans[state] : 0;
+        // a NUL that no rule knows leads to the jam state, which nothing leads out of
+        if (state == 0)
+            state = static_cast<int>(yy_last_dfa) + 1;
+        *yy_state_ptr++ = state;
+    }
+    return state;
+}
+
+// Doubling, so that a long match costs its length. What `n` counts can exceed the text, since bytes that were
+// given back are walked again; arrays that hold the whole buffer hold every match in it.
+bool yyLexer::yygrow_text(int n)
+{
+    const yybuffer_state* const buffer = yycurrent_buffer();
+    if (buffer && !buffer->yy_fill_buffer && yy_text_size >= buffer->yy_buf_size + kSpareSteps)
+        return true;
+    std::size_t size = yy_text_size == 0 ? kFirstTextSize : static_cast<std::size_t>(yy_text_size);
+    while (size <= static_cast<std::size_t>(n))
+        size *= 2;
+    if (yy_text_max_size > 0)
+        size = std::min(size, static_cast<std::size_t>(yy_text_max_size));
+    size = std::min(size, static_cast<std::size_t>(std::numeric_limits<int>::max()));
+    return size > static_cast<std::size_t>(n) && yytext_relocate(static_cast<int>(size));
+}
+
+bool yyLexer::yytext_relocate(int size)
+{
+    if (size < yyleng || (yy_text_max_size > 0 && size > yy_text_max_size))
+        return false;
+    const std::ptrdiff_t states = yy_state_ptr - yy_state_buf;
+    const std::ptrdiff_t fullStates = yy_full_state ? yy_full_state - yy_state_buf : 0;
+    if (size <= yy_text_initial_size) {
+        std::memcpy(yy_text_initial.get(), yytext, static_cast<std::size_t>(yyleng) + 1);
+        std::memmove(yy_state_initial.get(), yy_state_buf, static_cast<std::size_t>(states) * sizeof(int));
+        yytext = yy_text_initial.get();
+        yy_state_buf = yy_state_initial.get();
+        yy_text_grown.reset();
+        yy_state_grown.reset();
+    } else {
+        const bool hadGrown = static_cast<bool>(yy_text_grown);
+        // realloc moves large blocks without touching them
+        auto* const text = static_cast<char*>(std::realloc(yy_text_grown.get(), TextBytes(size)));
+        if (!text)
+            return false;
+        (void)yy_text_grown.release();
+        yy_text_grown.reset(text);
+        if (!hadGrown)
+            std::memcpy(text, yytext, static_cast<std::size_t>(yyleng) + 1);
+        yytext = text;
+        auto* const stateBuffer =
+            static_cast<int*>(std::realloc(yy_state_grown.get(), StateSlots(size) * sizeof(int)));
+        if (!stateBuffer)
+            return false;
+        const bool hadStates = static_cast<bool>(yy_state_grown);
+        (void)yy_state_grown.release();
+        yy_state_grown.reset(stateBuffer);
+        if (!hadStates)
+            std::memcpy(stateBuffer, yy_state_buf, static_cast<std::size_t>(states) * sizeof(int));
+        yy_state_buf = stateBuffer;
+    }
+    yy_state_ptr = yy_state_buf + states;
+    if (yy_full_state)
+        yy_full_state = yy_state_buf + fullStates;
+    yy_text_size = size;
+    return true;
+}
+
+void yyLexer::yyless_lineno(int n)
+{
+    yylineno -= static_cast<int>(std::count(yytext + n, yytext + yyleng, '\n'));
+}
+
+void yyLexer::yyless(int n)
+{
+    yyless_lineno(n);
+    yydecrementchar(yyleng - n);
+    *yy_cp = yy_hold_char;
+    yyoldleng = yyleng;
+    yyleng = n;
+    yy_cp = yy_bp + n;
+    yy_c_buf_p = yy_cp;
+    yy_hold_char = *yy_cp;
+    *yy_cp = 0;
+    std::memcpy(yytext, yytext_ptr, static_cast<std::size_t>(yyleng) + 1);
+}

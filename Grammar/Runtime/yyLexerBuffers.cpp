@@ -1,0 +1,313 @@
+#include "Grammar/Runtime/yyLexer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+// The buffers of a scanner. This system scans memory; a stream is read the way every scanner of this kind
+// does.
+
+namespace {
+
+constexpr int kDefaultBufferSize = 16384;
+constexpr int kReadSize = 8192;
+constexpr std::size_t kStackStep = 8;
+
+enum : int
+{
+    kBufferNew,
+    kBufferNormal,
+    kBufferEofPending
+};
+
+} // namespace
+
+yybuffer_state* yyLexer::yyscan_string(const char* text)
+{
+    return yyscan_bytes(text, static_cast<int>(std::strlen(text)));
+}
+
+yybuffer_state* yyLexer::yyscan_bytes(const char* bytes, int n)
+{
+    const auto size = static_cast<std::size_t>(n);
+    CMemory<char> copy(static_cast<char*>(std::malloc(size + 2)));
+    if (!copy)
+        throw std::bad_alloc();
+    std::memcpy(copy.get(), bytes, size);
+    copy[size] = 0;
+    copy[size + 1] = 0;
+    yybuffer_state* const buffer = yyscan_buffer(copy.get(), n + 2);
+    if (!buffer)
+        yyfatal_error("bad buffer in yyscan_bytes()");
+    (void)copy.release();
+    buffer->yy_is_our_buffer = 1;
+    return buffer;
+}
+
+yybuffer_state* yyLexer::yyscan_buffer(char* base, int size)
+{
+    if (size < 2 || base[size - 2] != 0 || base[size - 1] != 0)
+        return nullptr;
+    auto* const buffer = new yybuffer_state;
+    buffer->yy_buf_size = size - 2;
+    buffer->yy_ch_buf = base;
+    buffer->yy_buf_pos = base;
+    buffer->yy_n_chars = buffer->yy_buf_size;
+    yyswitch_to_buffer(buffer);
+    return buffer;
+}
+
+void yyLexer::yyrestart(std::FILE* stream)
+{
+    if (!yycurrent_buffer()) {
+        yyensure_buffer_stack();
+        yycurrent_buffer_lvalue() = yycreate_buffer(stream, kDefaultBufferSize);
+    }
+    yyinit_buffer(yycurrent_buffer(), stream);
+    yyload_buffer_state();
+}
+
+void yyLexer::yyswitch_to_buffer(yybuffer_state* buffer)
+{
+    yyensure_buffer_stack();
+    if (yycurrent_buffer() == buffer)
+        return;
+    if (yybuffer_state* const current = yycurrent_buffer()) {
+        *yy_c_buf_p = yy_hold_char;
+        current->yy_buf_pos = yy_c_buf_p;
+        current->yy_n_chars = yy_n_chars;
+    }
+    yycurrent_buffer_lvalue() = buffer;
+    yyload_buffer_state();
+    yy_did_buffer_switch_on_eof = 1;
+}
+
+void yyLexer::yypush_buffer_state(yybuffer_state* buffer)
+{
+    if (!buffer)
+        return;
+    yyensure_buffer_stack();
+    if (yybuffer_state* const current = yycurrent_buffer()) {
+        *yy_c_buf_p = yy_hold_char;
+        current->yy_buf_pos = yy_c_buf_p;
+        current->yy_n_chars = yy_n_chars;
+        ++yy_buffer_stack_top;
+    }
+    yycurrent_buffer_lvalue() = buffer;
+    yyload_buffer_state();
+    yy_did_buffer_switch_on_eof = 1;
+}
+
+void yyLexer::yypop_buffer_state()
+{
+    if (!yy_buffer_stack)
+        return;
+    if (yycurrent_buffer()) {
+        yydelete_buffer(yycurrent_buffer());
+        yycurrent_buffer_lvalue() = nullptr;
+    }
+    if (yy_buffer_stack_top > 0)
+        --yy_buffer_stack_top;
+    if (yycurrent_buffer()) {
+        yyload_buffer_state();
+        yy_did_buffer_switch_on_eof = 1;
+    }
+}
+
+yybuffer_state* yyLexer::yycreate_buffer(std::FILE* stream, int size)
+{
+    auto* const text = static_cast<char*>(std::malloc(static_cast<std::size_t>(size) + 2));
+    if (!text)
+        throw std::bad_alloc();
+    auto* const buffer = new yybuffer_state;
+    buffer->yy_buf_size = size;
+    buffer->yy_ch_buf = text;
+    buffer->yy_is_our_buffer = 1;
+    yyinit_buffer(buffer, stream);
+    return buffer;
+}
+
+void yyLexer::yydelete_buffer(yybuffer_state* buffer)
+{
+    if (!buffer)
+        return;
+    if (buffer == yycurrent_buffer())
+        yycurrent_buffer_lvalue() = nullptr;
+    if (buffer->yy_is_our_buffer)
+        std::free(buffer->yy_ch_buf);
+    delete buffer;
+}
+
+void yyLexer::yyinit_buffer(yybuffer_state* buffer, std::FILE* stream)
+{
+    yyflush_buffer(buffer);
+    buffer->yy_input_file = stream;
+    buffer->yy_fill_buffer = stream ? 1 : 0;
+    if (buffer != yycurrent_buffer()) {
+        buffer->yy_bs_lineno = 1;
+        buffer->yy_bs_column = 0;
+    }
+    buffer->yy_is_interactive = 0;
+}
+
+void yyLexer::yyflush_buffer(yybuffer_state* buffer)
+{
+    if (!buffer)
+        return;
+    buffer->yy_n_chars = 0;
+    buffer->yy_ch_buf[0] = 0;
+    buffer->yy_ch_buf[1] = 0;
+    buffer->yy_buf_pos = buffer->yy_ch_buf;
+    buffer->yy_at_bol = 1;
+    buffer->yy_buffer_status = kBufferNew;
+    if (buffer == yycurrent_buffer())
+        yyload_buffer_state();
+}
+
+void yyLexer::yyload_buffer_state()
+{
+    const yybuffer_state* const buffer = yycurrent_buffer();
+    yy_n_chars = buffer->yy_n_chars;
+    yytext_ptr = buffer->yy_buf_pos;
+    yy_c_buf_p = buffer->yy_buf_pos;
+    yyin = buffer->yy_input_file;
+    yy_hold_char = *yy_c_buf_p;
+}
+
+void yyLexer::yyensure_buffer_stack()
+{
+    if (yy_buffer_stack && yy_buffer_stack_top + 1 < yy_buffer_stack_max)
+        return;
+    const std::size_t slots = yy_buffer_stack_max + kStackStep;
+    auto* const stack =
+        static_cast<yybuffer_state**>(std::realloc(yy_buffer_stack, slots * sizeof(yybuffer_state*)));
+    if (!stack)
+        throw std::bad_alloc();
+    std::fill(stack + yy_buffer_stack_max, stack + slots, nullptr);
+    yy_buffer_stack = stack;
+    yy_buffer_stack_max = slots;
+}
+
+int yyLexer::yyread_stream(char* into, int most)
+{
+    const yybuffer_state* const buffer = yycurrent_buffer();
+    if (!yyin)
+        return 0;
+    if (buffer->yy_is_interactive) {
+        int count = 0;
+        int c = 0;
+        while (count < most && (c = std::getc(yyin)) != EOF) {
+            into[count++] = static_cast<char>(c);
+            if (c == '\n')
+                break;
+        }
+        if (c == EOF && std::ferror(yyin))
+            yyfatal_error("input in flex scanner failed");
+        return count;
+    }
+    const std::size_t count = std::fread(into, 1, static_cast<std::size_t>(most), yyin);
+    if (count == 0 && std::ferror(yyin))
+        yyfatal_error("input in flex scanner failed");
+    return static_cast<int>(count);
+}
+
+yyLexer::enRefill yyLexer::yyget_next_buffer()
+{
+    yybuffer_state* const buffer = yycurrent_buffer();
+    if (yy_c_buf_p > buffer->yy_ch_buf + yy_n_chars + 1) {
+        yyerror("flex scanner internal error--end of buffer missed");
+        return EndOfFile;
+    }
+    const auto kept =
+        static_cast<int>(yy_c_buf_p - yytext_ptr) - 1; // of the match, without the NUL that ended it
+    if (!buffer->yy_fill_buffer)
+        return kept == 0 ? EndOfFile : LastMatch;
+
+    std::memmove(buffer->yy_ch_buf, yytext_ptr, static_cast<std::size_t>(kept));
+    if (buffer->yy_buffer_status == kBufferEofPending) {
+        yy_n_chars = 0;
+    } else {
+        const int room = buffer->yy_buf_size - kept - 1;
+        if (room <= 0)
+            yyfatal_error("input buffer overflow, can't enlarge buffer because scanner uses REJECT");
+        yy_n_chars = yyread_stream(buffer->yy_ch_buf + kept, std::min(room, kReadSize));
+    }
+    enRefill result = Continue;
+    if (yy_n_chars == 0) {
+        if (kept == 0) {
+            result = EndOfFile;
+            yyrestart(yyin);
+        } else {
+            result = LastMatch;
+            buffer->yy_buffer_status = kBufferEofPending;
+        }
+    }
+    if (yy_n_chars + kept > buffer->yy_buf_size) {
+        const int size = yy_n_chars + kept + yy_n_chars / 2;
+        auto* const text =
+            static_cast<char*>(std::realloc(buffer->yy_ch_buf, static_cast<std::size_t>(size) + 2));
+        if (!text)
+            yyfatal_error("out of dynamic memory in yyget_next_buffer()");
+        buffer->yy_ch_buf = text;
+        buffer->yy_buf_size = size;
+    }
+    yy_n_chars += kept;
+    buffer->yy_n_chars = yy_n_chars;
+    buffer->yy_ch_buf[yy_n_chars] = 0;
+    buffer->yy_ch_buf[yy_n_chars + 1] = 0;
+    yytext_ptr = buffer->yy_ch_buf;
+    return result;
+}
+
+void yyLexer::yyunput(int c, char* bp)
+{
+    char* cp = yy_c_buf_p;
+    *cp = yy_hold_char;
+    yybuffer_state* const buffer = yycurrent_buffer();
+    if (cp < buffer->yy_ch_buf + 2) {
+        // make room at the front by moving the text to the end of the buffer
+        const int count = yy_n_chars + 2;
+        char* const target = buffer->yy_ch_buf + buffer->yy_buf_size + 2 - count;
+        const std::ptrdiff_t shift = target - buffer->yy_ch_buf;
+        std::memmove(target, buffer->yy_ch_buf, static_cast<std::size_t>(count));
+        cp += shift;
+        bp += shift;
+        buffer->yy_n_chars = yy_n_chars = buffer->yy_buf_size;
+        if (cp < buffer->yy_ch_buf + 2)
+            yyfatal_error("flex scanner push-back overflow");
+    }
+    *--cp = static_cast<char>(c);
+    if (c == '\n')
+        --yylineno;
+    yytext_ptr = bp;
+    yy_hold_char = *cp;
+    yy_c_buf_p = cp;
+}
+
+int yyLexer::yyinput()
+{
+    *yy_c_buf_p = yy_hold_char;
+    if (*yy_c_buf_p == 0) {
+        const yybuffer_state* const buffer = yycurrent_buffer();
+        if (yy_c_buf_p < buffer->yy_ch_buf + yy_n_chars) {
+            *yy_c_buf_p = 0; // a NUL of the text itself
+        } else {
+            const std::ptrdiff_t offset = yy_c_buf_p - yytext_ptr;
+            ++yy_c_buf_p;
+            const enRefill refill = yyget_next_buffer();
+            if (refill != Continue) {
+                yy_c_buf_p = yytext_ptr + offset;
+                yy_hold_char = *yy_c_buf_p;
+                return 0;
+            }
+            yy_c_buf_p = yytext_ptr + offset;
+        }
+    }
+    const int c = static_cast<unsigned char>(*yy_c_buf_p);
+    *yy_c_buf_p = 0;
+    yy_hold_char = *++yy_c_buf_p;
+    yyat_bol() = c == '\n';
+    if (yyat_bol())
+        ++yylineno;
+    return c;
+}

@@ -1,0 +1,352 @@
+#include "Grammar/UVGrammarLexer.h"
+
+#include "Catalogue/UVDBParserNames.h"
+#include "Grammar/UVGrammarParser.h"
+#include "UVEnvironment/LogSystem.h"
+
+#include <boost/program_options/variables_map.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+
+namespace {
+
+constexpr int kInitialTextSize = 200;
+constexpr const char* kInitialState = "INITIAL";
+
+// Grammars that any database may use.
+constexpr int kAccessNumber = 14;
+constexpr int kCommonNumber = 64;
+constexpr int kOracleSqlFormsNumber = 108;
+constexpr int kPascalNumber = 82;
+constexpr int kPascalFormNumber = 83;
+constexpr int kDelphiNumber = 116;
+constexpr int kDelphiFormNumber = 117;
+constexpr int kUnknownNumber = 60;
+
+STable<int> ReadTable(const std::string& directory, const char* name)
+{
+    STable<int> table;
+    const std::string path = GetDatFilePath(directory, directory, name);
+    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), table.count));
+    return table;
+}
+
+CActionsMap CopyActions(const CActionsMap& actions)
+{
+    CActionsMap copy;
+    for (const auto& [number, operations] : actions) {
+        auto* const target = copy[number] = new COperationsMap;
+        for (const auto& [key, operands] : *operations)
+            target->emplace(key, operands ? new std::vector<std::string>(*operands) : nullptr);
+    }
+    return copy;
+}
+
+} // namespace
+
+CSQLGrammarLexer::CSQLGrammarLexer() = default;
+
+CSQLGrammarLexer::CSQLGrammarLexer(const char* parserName, bool isPatternVersion)
+{
+    try {
+        yytables(parserName, isPatternVersion);
+    } catch (...) {
+        Cleanup();
+        throw;
+    }
+}
+
+CSQLGrammarLexer::CSQLGrammarLexer(const boost::program_options::variables_map& parameters)
+    : CSQLGrammarLexer(parameters["DBNAME"].as<std::string>().c_str(), parameters["PATTERNVER"].as<bool>())
+{
+    m_Extension.m_nCurColor = parameters["CURCOLOR"].as<int>();
+    m_Extension.m_bMSSQLQID = parameters["MSSQL_QID"].as<bool>();
+    m_Extension.m_nChar = parameters["CHAR"].as<int>();
+    m_Extension.m_nBrackets = parameters["LBRACKETS"].as<int>();
+    m_Extension.m_nLineStart = parameters["LLINE"].as<int>();
+    m_Extension.m_nPrevChar = parameters["PRCHAR"].as<int>();
+    m_Extension.m_nStartState = parameters["SSTATE"].as<int>();
+    m_Extension.m_bParserPR4GL = parameters["PARSER_PR4GL"].as<bool>();
+    m_Extension.m_strSrcUIType = parameters["SRC_UI_TYPE"].as<std::string>();
+}
+
+CSQLGrammarLexer::~CSQLGrammarLexer()
+{
+    Cleanup();
+}
+
+void CSQLGrammarLexer::Cleanup()
+{
+    m_lstOperations.clear();
+    m_lstRules.clear();
+    FreeActionsMap(m_mapActions);
+}
+
+void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
+{
+    m_strParserName = parserName;
+    m_bPatternVersion = isPatternVersion;
+    const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Lexer");
+    const auto readText = [&](const char* name) { return GetDatFile(directory, directory, name); };
+
+    UVDBGrammarKeeper::CreateActionsMap(readText("actions.dat"), m_mapActions);
+    UVDBGrammarKeeper::CreateDefinesMap(readText("defines.dat"), m_mapStartConditions);
+    auto tables = std::make_shared<CScannerTables>();
+    tables->accept = ReadTable(directory, "accept.dat");
+    tables->base = ReadTable(directory, "base.dat");
+    tables->chk = ReadTable(directory, "chk.dat");
+    tables->def = ReadTable(directory, "def.dat");
+    tables->NUL_trans = ReadTable(directory, "NUL_trans.dat");
+    tables->nxt = ReadTable(directory, "nxt.dat");
+    tables->rule_can_match_eol = ReadTable(directory, "rule_can_match_eol.dat");
+    tables->acclist = ReadTable(directory, "acclist.dat");
+    int startConditions = 1; // every scanner has the initial one
+    for (const auto& condition : m_mapStartConditions)
+        startConditions =
+            std::max(startConditions, condition.second < INT_MAX ? condition.second + 1 : INT_MAX);
+    tables->Compile(directory, startConditions);
+    yyset_tables(std::move(tables));
+    yy_text_initial_size = kInitialTextSize;
+    CheckConditions(directory);
+}
+
+void CSQLGrammarLexer::ShareTables(const CSQLGrammarLexer& other)
+{
+    Cleanup();
+    m_strParserName = other.m_strParserName;
+    m_bPatternVersion = other.m_bPatternVersion;
+    m_mapStartConditions = other.m_mapStartConditions;
+    m_mapActions = CopyActions(other.m_mapActions);
+    yyset_tables(other.m_spTables);
+    yy_text_initial_size = other.yy_text_initial_size;
+}
+
+// A start condition that the tables don't know would send the scanner outside them.
+void CSQLGrammarLexer::CheckConditions(const std::string& directory) const
+{
+    const int conditions = m_spTables->StartConditions();
+    for (const auto& [name, value] : m_mapStartConditions)
+        if (value < -1)
+            RefuseTable(directory, "defines.dat", "start condition " + name + " " + std::to_string(value));
+    for (const auto& [number, operations] : m_mapActions)
+        for (const auto& [key, operands] : *operations) {
+            if (!operands || !key.starts_with("BEGIN#"))
+                continue;
+            const int state = ResolveBegin((*operands)[0]);
+            if (state != kToStart && (state < kByName || state >= conditions))
+                RefuseTable(directory, "actions.dat",
+                            "rule " + std::to_string(number) + " begins start condition " + (*operands)[0] +
+                                " of " + std::to_string(conditions));
+        }
+}
+
+int CSQLGrammarLexer::yycreate(yyBisonParser* parser)
+{
+    if (!parser)
+        return 0;
+    m_pParser = parser;
+    m_pGrammarParser = dynamic_cast<CSQLGrammarParser*>(parser);
+    CompileActions();
+    return yyLexer::yycreate();
+}
+
+int CSQLGrammarLexer::yycreate()
+{
+    CompileActions();
+    return yyLexer::yycreate();
+}
+
+int CSQLGrammarLexer::yylex()
+{
+    if (m_Extension.m_dequePseudoTokens.empty())
+        return yyFlexLexer::yylex();
+    ParserNode* node = &m_LocalNode;
+    yylvalue(&node);
+    const int token = PseudoTokenAction(m_Extension.m_dequePseudoTokens.back(), *node);
+    m_Extension.m_dequePseudoTokens.pop_back();
+    return token;
+}
+
+void CSQLGrammarLexer::yyinputbuffer()
+{
+    yyscan_string(m_Extension.m_strQuery.c_str());
+}
+
+void CSQLGrammarLexer::yyincrementchar(int n)
+{
+    // at the end the scanner walks both NULs behind the text and gives one back: the count stops one past the
+    // end
+    const int most = std::max(m_Extension.m_nQueryLength + 1, m_Extension.m_nChar);
+    m_Extension.m_nChar = n > most - m_Extension.m_nChar ? most : m_Extension.m_nChar + n;
+}
+
+void CSQLGrammarLexer::yydecrementchar(int n)
+{
+    m_Extension.m_nChar -= n;
+}
+
+bool CSQLGrammarLexer::yycheck_state_eof(int act)
+{
+    return static_cast<std::size_t>(act) < m_lstEofRules.size() &&
+           m_lstEofRules[static_cast<std::size_t>(act)];
+}
+
+void CSQLGrammarLexer::FindEofRules()
+{
+    m_lstEofRules.clear();
+    for (const auto& condition : m_mapStartConditions) {
+        const auto rule = static_cast<std::size_t>(condition.second + yy_end_of_buffer_action + 1);
+        if (rule >= m_lstEofRules.size())
+            m_lstEofRules.resize(rule + 1);
+        m_lstEofRules[rule] = true;
+    }
+}
+
+void CSQLGrammarLexer::yyerror(const char* text)
+{
+    if (m_pParser)
+        m_pParser->yyset_last_error(text);
+    else
+        CLogWrapper::WriteTraceF("\n%s", text);
+}
+
+void CSQLGrammarLexer::yylvalue(ParserNode** node)
+{
+    if (m_pGrammarParser && m_pGrammarParser->LookaheadValue())
+        *node = m_pGrammarParser->LookaheadValue();
+}
+
+void CSQLGrammarLexer::set_Query(const std::string& query, int db)
+{
+    yycleanup();
+    m_Extension.m_nStartState = m_mapStartConditions[kInitialState];
+    if (const int state = ComputeGeneralStartState(db); state != -1)
+        m_Extension.m_nStartState = state;
+    FindEofRules();
+    yybegin(m_Extension.m_nStartState);
+    m_Extension.clean();
+    m_Extension.m_strQuery = query;
+    m_Extension.m_nQueryLength = static_cast<int>(query.size());
+    m_nLineFeedFrom = -1;
+    m_nLineFeedAt = -1;
+}
+
+int CSQLGrammarLexer::ComputeGeneralStartState(int db)
+{
+    const char* name = "SS_GENERAL";
+    if (m_strParserName == "Progress4GL" || m_strParserName == "OpenEdgeABL")
+        name = m_Extension.m_bParserPR4GL ? "SS_PROGRESS" : "SS_PROGRESS_UNIX";
+    const auto state = m_mapStartConditions.find(name);
+    if (state == m_mapStartConditions.end() || state->second == -1) {
+        CLogWrapper::WriteTraceF("\nCSQLGrammarLexer::ComputeNativeStartState: Unknown parser name: %s",
+                                 m_strParserName.c_str());
+        return -1;
+    }
+    const int number = GetUVDBNumByParserName(m_strParserName);
+    const bool isForAny =
+        number == kAccessNumber || number == kCommonNumber || number == kOracleSqlFormsNumber;
+    const bool isForDelphi = (db == kDelphiNumber && number == kPascalNumber) ||
+                             (db == kDelphiFormNumber && number == kPascalFormNumber);
+    return isForAny || number == db || isForDelphi ? state->second : -1;
+}
+
+int CSQLGrammarLexer::GetUVDBNumByParserName(const std::string& name)
+{
+    const auto number = static_cast<int>(UVDBGetNumberByParserName(name));
+    if (number == kUnknownNumber)
+        CLogWrapper::WriteTraceF("\nError in GrammarParserLib: Unknown parser name\n");
+    return number;
+}
+
+// The text form of the actions is what is loaded; what runs is this: one look-up by rule number, names
+// resolved against the parser that is linked.
+void CSQLGrammarLexer::CompileActions()
+{
+    m_lstOperations.clear();
+    m_lstRules.assign(static_cast<std::size_t>(yy_end_of_buffer_action) + 1, SRule());
+    m_lstTokens.clear();
+    m_mapTokens.clear();
+    for (auto& [number, operations] : m_mapActions) {
+        if (number < 0 || static_cast<std::size_t>(number) >= m_lstRules.size() || !operations)
+            continue; // no rule of the tables ever asks for it
+        SRule& rule = m_lstRules[static_cast<std::size_t>(number)];
+        rule.first = static_cast<std::uint32_t>(m_lstOperations.size());
+        for (auto& [key, operands] : *operations) {
+            const SGrammarKeyword* const keyword =
+                FindGrammarKeyword(std::string_view(key).substr(0, key.find('#')));
+            if (!keyword || !operands)
+                continue;
+            SOperation operation;
+            operation.keyword = keyword->keyword;
+            operation.operands = operands;
+            ResolveOperands(operation);
+            m_lstOperations.push_back(operation);
+        }
+        rule.count = static_cast<std::uint32_t>(m_lstOperations.size()) - rule.first;
+    }
+}
+
+void CSQLGrammarLexer::ResolveOperands(SOperation& operation)
+{
+    const std::vector<std::string>& operands = *operation.operands;
+    const char* const roles = GetGrammarKeyword(operation.keyword).roles;
+    for (std::size_t index = 0; index < operands.size(); ++index)
+        if (roles[index] == 'n')
+            std::from_chars(operands[index].data(), operands[index].data() + operands[index].size(),
+                            operation.number);
+    switch (operation.keyword) {
+    case enGrammarKeyword::TokenAction:
+    case enGrammarKeyword::TokenActionE:
+        operation.tokens[0] = CompileToken(operands[0]);
+        break;
+    case enGrammarKeyword::IfStrcmpAction:
+        operation.tokens[0] = CompileToken(operands[2]);
+        break;
+    case enGrammarKeyword::CodeAction:
+    case enGrammarKeyword::SelecTokenByAPISourceDBVal:
+        operation.tokens = {CompileToken(operands[1]), CompileToken(operands[2])};
+        break;
+    case enGrammarKeyword::ConditionalTokenAction:
+        operation.tokens = {CompileToken(operands[2]), CompileToken(operands[3])};
+        break;
+    case enGrammarKeyword::ActionByOption:
+        operation.tokens = {CompileToken(operands[2]), CompileToken(operands[4])};
+        operation.states = {ResolveBegin(operands[2]), ResolveBegin(operands[4])};
+        break;
+    case enGrammarKeyword::Begin:
+        operation.states[0] = ResolveBegin(operands[0]);
+        break;
+    case enGrammarKeyword::ConditionalBegin:
+        operation.states = {ResolveBegin(operands[1]), ResolveBegin(operands[2])};
+        break;
+    case enGrammarKeyword::GetFirstIfCppDirectiveParseOn:
+    case enGrammarKeyword::PatternsAction:
+        operation.states = {ResolveNamed(operands[0]), ResolveNamed(operands[1])};
+        break;
+    case enGrammarKeyword::PatternAction:
+        operation.states[0] = ResolveNamed(operands[1]);
+        break;
+    default:
+        break;
+    }
+}
+
+std::uint32_t CSQLGrammarLexer::CompileToken(const std::string& name)
+{
+    const std::string fullName = "T" + name;
+    const auto [entry, isNew] = m_mapTokens.emplace(fullName, static_cast<std::uint32_t>(m_lstTokens.size()));
+    if (isNew) {
+        SToken token;
+        token.name = fullName;
+        if (m_pGrammarParser) {
+            token.element = m_pGrammarParser->ElementNames().Intern(fullName);
+            if (const auto known = m_pGrammarParser->m_mapDefines.find(fullName);
+                known != m_pGrammarParser->m_mapDefines.end())
+                token.number = known->second;
+        }
+        m_lstTokens.push_back(std::move(token));
+    }
+    return entry->second;
+}

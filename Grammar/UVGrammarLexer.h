@@ -1,0 +1,200 @@
+#pragma once
+
+#include "Grammar/ParserNode.h"
+#include "Grammar/Runtime/yyBisonParser.h"
+#include "Grammar/Runtime/yyFlexLexer.h"
+#include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarLexerImplementation.h"
+
+#include <array>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CSQLGrammarParser;
+
+namespace boost::program_options {
+class variables_map;
+}
+
+// The scanner of one language: the table-driven scanner with the tables of a grammar folder, and an
+// interpreter for what a generated scanner would have in its rule actions. A token becomes a ParserNode whose
+// text is one XML element.
+//
+// Life: yytables once, yycreate once, then per text set_Query and yylex until 0. One object serves one scan
+// at a time. Without a parser (coloring) tokens have a fixed number that isn't 0, and only the coloring text
+// comes out.
+class CSQLGrammarLexer final : public yyFlexLexer
+{
+public:
+    // Without tables; call yytables, or ShareTables.
+    CSQLGrammarLexer();
+    // Throws: Uve::U8CString with the line for the log if a table file is missing or bad.
+    CSQLGrammarLexer(const char* parserName, bool isPatternVersion);
+    // The out-of-process tool's parameters.
+    explicit CSQLGrammarLexer(const boost::program_options::variables_map& parameters);
+    ~CSQLGrammarLexer() override;
+
+    // Throws: as the constructor.
+    void yytables(const char* parserName, bool isPatternVersion);
+    // Takes the grammar of another lexer, its name included; its own is released.
+    void ShareTables(const CSQLGrammarLexer& other);
+
+    void Initialize() { m_pParser = nullptr; }
+    // Links the parser.
+    // Borrows: the parser, until another is linked.
+    // Returns: 1; 0 for null or if memory is short.
+    int yycreate(yyBisonParser* parser);
+    // Without a parser.
+    int yycreate() override;
+
+    int yylex() override;
+    void yyinputbuffer() override;
+    void yyincrementchar(int n) override;
+    void yydecrementchar(int n) override;
+    bool yycheck_state_eof(int act) override;
+    int yyaction(int act) override;
+    void yyerror(const char* text) override;
+
+    // Hands out the parser's lookahead value; leaves `node` alone without a parser.
+    void yylvalue(ParserNode** node);
+    // Prepares the scan of `query`, a text for the database kind `db`.
+    void set_Query(const std::string& query, int db);
+    // The start condition of the language in general, which counts when the grammar is used for its own
+    // database. Returns: its number, -1 if there is none.
+    int ComputeGeneralStartState(int db);
+    // Returns: the database number of a grammar, 60 for an unknown name.
+    static int GetUVDBNumByParserName(const std::string& name);
+    int SetState(int state) { return yybegin(state); }
+    // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
+    // reads it.
+    void set_ColoringWanted(bool on) { m_bColoringWanted = on; }
+
+    // Each fills `node` with the current match as token "T" + name.
+    // Returns: the parser's number of it; 0 for a name that the parser doesn't know.
+    int TokenAction(const std::string& name, ParserNode& node);
+    int TokenActionE(const std::string& name, int color, ParserNode& node);
+    int CpyTokenAction(const std::string& name, const std::string& text, ParserNode& node);
+    int PseudoTokenAction(const std::string& name, ParserNode& node);
+    // The token for a change of indentation, if the current match (the white space of a line) is one.
+    // Returns: true with the token in `out`.
+    bool TokenActionIndentation(ParserNode& node, int& out);
+
+    // `length` above 0 overrides that of the text. A pseudo token has neither text nor length.
+    ParserNode CreateToken(const std::string& name, int color, int length, bool isPseudo);
+
+    std::map<std::string, int> m_mapStartConditions;
+    CSQLGrammarLexerImplementation m_Extension;
+    yyBisonParser* m_pParser = nullptr; // borrowed
+    std::string m_strParserName;
+    bool m_bPatternVersion = false;
+    int m_nDBVersionMajor = 0;
+    int m_nDBVersionMinor = 0;
+    CActionsMap m_mapActions;
+
+private:
+    // A token's name with what it stands for, found out once.
+    struct SToken
+    {
+        std::string name;          // with its leading T
+        std::uint32_t element = 0; // in the parser's element names
+        int number = 0;            // 0: unknown to the parser
+    };
+    // In the place of a start condition's number.
+    enum : int
+    {
+        kByName = -1, // a name that the grammar doesn't define
+        kToStart = -2
+    };
+    // One operation of a rule, ready to run.
+    struct SOperation
+    {
+        enGrammarKeyword keyword = enGrammarKeyword::TextAction;
+        std::vector<std::string>* operands = nullptr; // owned by m_mapActions
+        std::array<std::uint32_t, 2> tokens{};        // into m_lstTokens
+        std::array<int, 2> states{kByName, kByName};  // start conditions
+        int number = 0;                               // the operand that is one
+    };
+    struct SRule
+    {
+        std::uint32_t first = 0; // into m_lstOperations
+        std::uint32_t count = 0;
+    };
+    // What an operation comes to.
+    struct SResult
+    {
+        bool isToken = false;
+        int token = 0;
+    };
+    using Handler = SResult (CSQLGrammarLexer::*)(SOperation& operation, ParserNode& node);
+    static const std::array<Handler, kGrammarKeywordCount> kHandlers; // by keyword
+
+    void Cleanup();
+    void CheckConditions(const std::string& directory) const;
+    void CompileActions();
+    void ResolveOperands(SOperation& operation);
+    std::uint32_t CompileToken(const std::string& name);
+    void FindEofRules();
+
+    SResult Token(std::uint32_t token, int color, ParserNode& node);
+    int TokenNumber(const std::string& fullName);
+    void MakeToken(std::uint32_t element, int color, int length, bool isPseudo, ParserNode& node);
+    int ColumnOfMatch();
+    int LineFeedBefore(int from);
+    void AddColoring(int color, int from, int to);
+    void ReplaceText(std::string_view text);
+
+    int ResolveNamed(const std::string& condition) const;
+    int ResolveBegin(const std::string& condition) const;
+    void Begin(int state, const std::string& condition);
+    void BackToStart() { yybegin(m_Extension.m_nStartState); }
+    void SkipTo(const char* condition);
+    void ColoringFunc(int color);
+    void SetCondition(const std::string& condition);
+    bool ConditionalTokenAction(const std::string& condition, const std::string& value);
+    void StringDefine(int offset, const char* set);
+    void StringIfDefined(int offset, const char* set, bool isUpper, bool skipIfDefined,
+                         const char* skipState);
+    void StringHereDocument(const char* mark, bool isCut);
+    void AddDefine(Uve::U8CString symbol);
+    void StringElse(const char* skipState);
+    bool IsDefined(const Uve::U8CString& symbol) const;
+
+    SResult RunActionByOption(SOperation& operation, ParserNode& node);
+    SResult RunBegin(SOperation& operation, ParserNode& node);
+    SResult RunBrackets(SOperation& operation, ParserNode& node);
+    SResult RunCode(SOperation& operation, ParserNode& node);
+    SResult RunColoring(SOperation& operation, ParserNode& node);
+    SResult RunConditionalBegin(SOperation& operation, ParserNode& node);
+    SResult RunConditionalToken(SOperation& operation, ParserNode& node);
+    SResult RunCpyToken(SOperation& operation, ParserNode& node);
+    SResult RunCppDirective(SOperation& operation, ParserNode& node);
+    SResult RunIfBrackets(SOperation& operation, ParserNode& node);
+    SResult RunIfStrcmp(SOperation& operation, ParserNode& node);
+    SResult RunIndent(SOperation& operation, ParserNode& node);
+    SResult RunPattern(SOperation& operation, ParserNode& node);
+    SResult RunPatterns(SOperation& operation, ParserNode& node);
+    SResult RunSelectToken(SOperation& operation, ParserNode& node);
+    SResult RunSetCondition(SOperation& operation, ParserNode& node);
+    SResult RunStack(SOperation& operation, ParserNode& node);
+    SResult RunStrcpy(SOperation& operation, ParserNode& node);
+    SResult RunString(SOperation& operation, ParserNode& node);
+    SResult RunStrtmpFormat(SOperation& operation, ParserNode& node);
+    SResult RunToken(SOperation& operation, ParserNode& node);
+    SResult RunTokenE(SOperation& operation, ParserNode& node);
+    SResult RunYytext(SOperation& operation, ParserNode& node);
+    SResult RunUnknown(SOperation& operation, ParserNode& node);
+
+    std::vector<SOperation> m_lstOperations;
+    std::vector<SRule> m_lstRules;
+    std::vector<SToken> m_lstTokens;
+    std::map<std::string, std::uint32_t> m_mapTokens;
+    std::vector<bool> m_lstEofRules;               // by rule number
+    CSQLGrammarParser* m_pGrammarParser = nullptr; // m_pParser, if it is one
+    ParserNode m_LocalNode;                        // takes the tokens when there is no parser
+    bool m_bColoringWanted = true;
+    // The last answer of LineFeedBefore: a scan that went back asks for the same line over and over.
+    int m_nLineFeedFrom = -1;
+    int m_nLineFeedAt = -1;
+};

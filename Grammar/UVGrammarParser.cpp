@@ -1,0 +1,274 @@
+#include "Grammar/UVGrammarParser.h"
+
+#include "UVEnvironment/LogSystem.h"
+
+#include <boost/program_options/variables_map.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <stdexcept>
+
+namespace {
+
+constexpr const char* kRootName = "SQL";
+constexpr std::size_t kInitialDepth = 200;
+
+template <class T>
+STable<T> ReadTable(const std::string& directory, const char* name)
+{
+    STable<T> table;
+    const std::string path = GetDatFilePath(directory, directory, name);
+    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count));
+    return table;
+}
+
+int ToNumber(const std::string& text)
+{
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+} // namespace
+
+CSQLGrammarParser::CSQLGrammarParser() = default;
+
+CSQLGrammarParser::CSQLGrammarParser(const char* parserName, bool isPatternVersion)
+{
+    try {
+        yytables(parserName, isPatternVersion);
+    } catch (...) {
+        CleanUp();
+        throw;
+    }
+}
+
+CSQLGrammarParser::CSQLGrammarParser(const boost::program_options::variables_map& parameters)
+    : CSQLGrammarParser(parameters["DBNAME"].as<std::string>().c_str(), parameters["PATTERNVER"].as<bool>())
+{
+    m_Extension.m_bShowErrors = parameters["SHOWERR"].as<bool>();
+}
+
+CSQLGrammarParser::~CSQLGrammarParser()
+{
+    CleanUp();
+    yydestroy();
+}
+
+void CSQLGrammarParser::CleanUp()
+{
+    FreeActionsMap(m_mapActions);
+}
+
+void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
+{
+    m_strParserName = parserName;
+    m_bPatternVersion = isPatternVersion;
+    const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Parser");
+    const auto readText = [&](const char* name) { return GetDatFile(directory, directory, name); };
+
+    UVDBGrammarKeeper::CreateActionsMap(readText("actions.dat"), m_mapActions);
+    const std::uint64_t largest = UVDBGrammarKeeper::CreateDefinesMap(readText("defines.dat"), m_mapDefines);
+    yyset_yymaxutok(static_cast<int>(largest & 0xffffffffu));
+    yyset_yyntokens(m_mapDefines.size(), largest >> 32 != 0);
+
+    auto tables = std::make_shared<CParserTables>();
+    tables->maxutok = yymaxutok;
+    tables->ntokens = yyntokens;
+    tables->final_ = UVDBGrammarKeeper::GetFinalStateNum(readText("const.dat"));
+    tables->pact = ReadTable<int>(directory, "pact.dat");
+    tables->defact = ReadTable<unsigned>(directory, "defact.dat");
+    tables->pgoto = ReadTable<int>(directory, "pgoto.dat");
+    tables->base_ninf =
+        std::min(UVDBGrammarKeeper::TableNinfRemap(tables->pact.values.get(), tables->pact.count),
+                 UVDBGrammarKeeper::TableNinfRemap(tables->pgoto.values.get(), tables->pgoto.count));
+    tables->defgoto = ReadTable<int>(directory, "defgoto.dat");
+    tables->table = ReadTable<int>(directory, "table.dat");
+    tables->check = ReadTable<int>(directory, "check.dat");
+    tables->stos = ReadTable<unsigned>(directory, "stos.dat");
+    tables->r1 = ReadTable<unsigned>(directory, "r1.dat");
+    tables->r2 = ReadTable<unsigned>(directory, "r2.dat");
+    tables->translate = ReadTable<unsigned>(directory, "translate.dat");
+    tables->Validate(directory);
+    yyset_tables(std::move(tables));
+    CompileActions(directory);
+    yyinitdepth = kInitialDepth;
+    yymaxdepth = 0;
+}
+
+// The text form of the actions is what is loaded; what runs is this: one look-up by rule number, names
+// resolved.
+void CSQLGrammarParser::CompileActions(const std::string& directory)
+{
+    const std::size_t rules = m_spTables->Rules();
+    m_lstOperations.clear();
+    m_lstRules.assign(rules, SRule());
+    m_ElementNames.Intern(kRootName);
+    for (const auto& [number, operations] : m_mapActions) {
+        if (number < 0 || static_cast<std::size_t>(number) >= rules || !operations)
+            continue; // no rule of the tables ever asks for it
+        SRule& rule = m_lstRules[static_cast<std::size_t>(number)];
+        rule.first = static_cast<std::uint32_t>(m_lstOperations.size());
+        rule.isKnown = true;
+        const auto length = static_cast<int>(m_spTables->r2[static_cast<std::size_t>(number)]);
+        for (const auto& [key, operands] : *operations) {
+            const SGrammarKeyword* const keyword =
+                FindGrammarKeyword(std::string_view(key).substr(0, key.find('#')));
+            if (!keyword || !operands)
+                continue;
+            SOperation operation;
+            operation.keyword = keyword->keyword;
+            switch (keyword->keyword) {
+            case enGrammarKeyword::CreateNodeWithError:
+                operation.errorIndex = ToNumber((*operands)[2]);
+                [[fallthrough]];
+            case enGrammarKeyword::CreateNode:
+                operation.childCount = ToNumber((*operands)[1]);
+                if (operation.childCount < 0 || operation.childCount > length)
+                    RefuseTable(directory, "actions.dat",
+                                "rule " + std::to_string(number) + " of " + std::to_string(length) +
+                                    " symbols joins " + (*operands)[1]);
+                [[fallthrough]];
+            case enGrammarKeyword::Empty:
+                operation.element = m_ElementNames.Intern((*operands)[0]);
+                operation.isRoot = (*operands)[0] == kRootName;
+                break;
+            case enGrammarKeyword::YylexerptrYybegin:
+                operation.startCondition = &(*operands)[0];
+                break;
+            default:
+                continue; // loaded and ignored
+            }
+            m_lstOperations.push_back(operation);
+        }
+        rule.count = static_cast<std::uint32_t>(m_lstOperations.size()) - rule.first;
+    }
+}
+
+int CSQLGrammarParser::yycreate(yyFlexLexer* lexer)
+{
+    if (!lexer)
+        return 0;
+    yylexerptr = lexer;
+    return yyParser::yycreate();
+}
+
+int CSQLGrammarParser::yyparse()
+{
+    // whatever becomes of the parse, its fragments go with it
+    struct SRelease
+    {
+        CFragmentPool& pool;
+        ~SRelease() { pool.Release(); }
+    } const release{m_Fragments};
+    return yyBisonParser::yyparse();
+}
+
+int CSQLGrammarParser::yygettoken()
+{
+    return yylexerptr->yylex();
+}
+
+void CSQLGrammarParser::yyerror(const char* text)
+{
+    m_Extension.m_strLastError = text;
+}
+
+void CSQLGrammarParser::yyset_last_error(const char* text)
+{
+    m_Extension.m_strLastError = text;
+    yyerror_flag = 1;
+}
+
+void CSQLGrammarParser::yyinitdebug(const std::string& directory)
+{
+    if (directory.empty())
+        return;
+    yydebug_stream = std::fopen((directory + "/ParserDebug.out").c_str(), "w+t");
+    yydebug = 1;
+}
+
+void CSQLGrammarParser::yylvaltostack()
+{
+    auto* const top = static_cast<ParserNode*>(yyvsp) + 1;
+    top->MoveFrom(*static_cast<ParserNode*>(yylval));
+    yyvsp = top;
+}
+
+void CSQLGrammarParser::yyvaltostack()
+{
+    auto* const top = static_cast<ParserNode*>(yyvsp) + 1;
+    top->MoveFrom(*static_cast<ParserNode*>(yyval));
+    yyvsp = top;
+}
+
+void CSQLGrammarParser::yystacktoval(int index)
+{
+    auto& value = *static_cast<ParserNode*>(yyval);
+    // an empty rule has no first symbol; what lies above the top belongs to somebody else
+    if (index > 0)
+        static_cast<ParserNodeValue&>(value) = ParserNodeValue();
+    else
+        value.MoveFrom(StackEntry(index));
+}
+
+void CSQLGrammarParser::yyshift_attributes(std::size_t index)
+{
+    yyvsp = static_cast<ParserNode*>(yyvs) + index;
+}
+
+void CSQLGrammarParser::yypop_attributes(int count)
+{
+    yyvsp = static_cast<ParserNode*>(yyvsp) - count;
+    yyssp -= count;
+}
+
+void CSQLGrammarParser::yycopy_attributes(void* to, const void* from, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        static_cast<ParserNode*>(to)[i].MoveFrom(static_cast<const ParserNode*>(from)[i]);
+}
+
+void* CSQLGrammarParser::yynewattribute(std::size_t count)
+{
+    return new ParserNode[count];
+}
+
+void CSQLGrammarParser::yydeleteattribute(void* values)
+{
+    delete[] static_cast<ParserNode*>(values);
+}
+
+void CSQLGrammarParser::yyaction(int rule)
+{
+    const SRule& actions = m_lstRules[static_cast<std::size_t>(rule)];
+    if (!actions.isKnown) {
+        CLogWrapper::WriteTraceF("\nUVGrammarParser: Empty action: %d", rule);
+        return;
+    }
+    const SOperation* const first = m_lstOperations.data() + actions.first;
+    for (const SOperation* operation = first; operation != first + actions.count; ++operation) {
+        switch (operation->keyword) {
+        case enGrammarKeyword::CreateNodeWithError:
+            CreateErrorNodeExt(*operation);
+            break;
+        case enGrammarKeyword::YylexerptrYybegin:
+            yylexerptr->yybegin(m_mapDefines[*operation->startCondition]);
+            break;
+        default:
+            CreateNodeExt(*operation);
+        }
+    }
+}
+
+void CSQLGrammarParser::yysyntaxerror()
+{
+    const auto line = static_cast<unsigned long>(yylexerptr->yylineno);
+    const char* const text = yylexerptr->yytext;
+    m_Extension.m_strLastError = std::to_string(line) + " '" + text + "'";
+    m_Extension.m_mapErrors.emplace(line, text);
+    const bool isAtEnd = yychar == 0;
+    m_Extension.m_lstUnexpected.push_back(
+        {line, isAtEnd ? m_Extension.m_strQuery.size() : yylexerptr->yymatch_offset(),
+         isAtEnd ? 0 : static_cast<std::size_t>(yylexerptr->yyleng), text});
+}

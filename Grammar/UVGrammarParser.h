@@ -1,0 +1,125 @@
+#pragma once
+
+#include "Grammar/ElementNames.h"
+#include "Grammar/ParserNode.h"
+#include "Grammar/Runtime/yyBisonParser.h"
+#include "Grammar/Runtime/yyFlexLexer.h"
+#include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarParserImplementation.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace boost::program_options {
+class variables_map;
+}
+
+// The parser of one language: the LALR parser with the tables of a grammar folder and ParserNode values. Its
+// result is one XML text that holds every byte of the query: each reduction puts its name around its
+// children, and what stands between two tokens comes back as space.
+//
+// One object serves one parse at a time. Per text: m_Extension.set_Query, the scanner's set_Query, yyparse,
+// then read m_Extension.
+class CSQLGrammarParser final : public yyBisonParser
+{
+public:
+    // Without tables; call yytables.
+    CSQLGrammarParser();
+    // Throws: Uve::U8CString with the line for the log if a table file is missing or bad.
+    CSQLGrammarParser(const char* parserName, bool isPatternVersion);
+    // The out-of-process tool's parameters: SHOWERR, DBNAME, PATTERNVER.
+    explicit CSQLGrammarParser(const boost::program_options::variables_map& parameters);
+    ~CSQLGrammarParser() override;
+
+    // Throws: as the constructor.
+    void yytables(const char* parserName, bool isPatternVersion);
+    void Initialize() { yylexerptr = nullptr; }
+
+    using yyBisonParser::yycreate;
+    // Links the scanner.
+    // Borrows: the scanner, until another is linked.
+    // Returns: 1; 0 for null or if memory is short.
+    int yycreate(yyFlexLexer* lexer);
+
+    // Returns: 0 with the tree in m_Extension.m_strParsedXml; 1 or 2 without one.
+    // Throws:  std::runtime_error if damaged tables lead the engine astray.
+    int yyparse() override;
+
+    bool HasErrors() const { return !m_Extension.m_mapErrors.empty(); }
+    void yyerror(const char* text) override;
+    void yyset_last_error(const char* text) override;
+    // Opens `directory`/ParserDebug.out as the debug stream; an empty one does nothing.
+    void yyinitdebug(const std::string& directory);
+
+    void yylvaltostack() override;
+    void yyvaltostack() override;
+    void yystacktoval(int index) override;
+    void yyshift_attributes(std::size_t index) override;
+    void yypop_attributes(int count) override;
+    void yycopy_attributes(void* to, const void* from, std::size_t count) override;
+    void* yynewattribute(std::size_t count) override;
+    void yydeleteattribute(void* values) override;
+    void yyaction(int rule) override;
+    int yygettoken() override;
+    void yysyntaxerror() override;
+
+    // For the scanner that feeds this parser: the lookahead's value, and where its text goes. The value is
+    // null until yycreate.
+    ParserNode* LookaheadValue() { return static_cast<ParserNode*>(yylval); }
+    CFragmentPool& Fragments() { return m_Fragments; }
+    CElementNames& ElementNames() { return m_ElementNames; }
+
+    CSQLGrammarParserImplementation m_Extension;
+    yyFlexLexer* yylexerptr = nullptr;       // borrowed
+    std::map<std::string, int> m_mapDefines; // token name to number; the scanner reads it too
+    CActionsMap m_mapActions;
+    std::string m_strParserName;
+    bool m_bPatternVersion = false;
+
+private:
+    // One operation of a rule, ready to run.
+    struct SOperation
+    {
+        enGrammarKeyword keyword = enGrammarKeyword::SqlReduced;
+        bool isRoot = false;       // the node that ends the tree
+        std::uint32_t element = 0; // node name
+        int childCount = 0;
+        int errorIndex = -1;
+        const std::string* startCondition = nullptr; // owned by m_mapActions
+    };
+    struct SRule
+    {
+        std::uint32_t first = 0; // into m_lstOperations
+        std::uint32_t count = 0;
+        bool isKnown = false; // has a record in the action text
+    };
+    // Where the children joined so far have led.
+    struct SJoin
+    {
+        int lastChildStartPos = -1; // end of the last child that had text
+        int lastChildErrorPos = -1; // where text begins that the error symbol stands for
+    };
+
+    void CleanUp();
+    void CompileActions(const std::string& directory);
+    ParserNode& StackEntry(int index) { return static_cast<ParserNode*>(yyvsp)[index]; }
+    void CreateNodeExt(const SOperation& operation);
+    void CreateErrorNodeExt(const SOperation& operation);
+    void CreateNode(ParserNodeValue& node, const ParserNode& child, SJoin& join, bool show);
+    void ReportErrors(const ParserNode& child, std::string_view gap, bool show);
+    void ReportRemainingErrors();
+    void addRootSpaces(ParserNodeValue& root);
+    void Append(ParserNodeValue& node, FragmentRef fragment)
+    {
+        SpliceFragments(m_Fragments, node.m_pFirst, node.m_pLast, fragment, fragment);
+    }
+
+    std::vector<SOperation> m_lstOperations;
+    std::vector<SRule> m_lstRules;
+    CElementNames m_ElementNames;
+    CFragmentPool m_Fragments;
+};
+
+// Writes to standard error, but only in the parser tool's own process.
+void WriteMessageToErrorStream(const std::string& text);

@@ -1,0 +1,127 @@
+#include "Grammar/UVGrammarParser.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+// How a reduction makes its node.
+
+namespace {
+
+constexpr std::string_view kRootOpen = "<SQL>";
+constexpr std::string_view kRootClose = "</SQL>";
+constexpr std::size_t kRootRoom = 128; // root tags and the two elements of outer space
+
+// A node that starts nowhere yet.
+ParserNodeValue NewNode()
+{
+    ParserNodeValue node;
+    node.m_nStart = -1;
+    node.m_nLine = static_cast<unsigned>(-1);
+    return node;
+}
+
+} // namespace
+
+void CSQLGrammarParser::CreateNodeExt(const SOperation& operation)
+{
+    ParserNodeValue node = NewNode();
+    if (operation.childCount == 0) {
+        Append(node, m_Fragments.NewTag(enFragment::Empty, operation.element));
+    } else {
+        Append(node, m_Fragments.NewTag(enFragment::Open, operation.element));
+        SJoin join;
+        for (int child = 0; child < operation.childCount; ++child)
+            CreateNode(node, StackEntry(1 - operation.childCount + child), join, true);
+        SpliceFragments(m_Fragments, node.m_pFirst, node.m_pLast, node.m_pPendingFirst, node.m_pPendingLast);
+        node.m_pPendingFirst = kNoFragment;
+        node.m_pPendingLast = kNoFragment;
+        Append(node, m_Fragments.NewTag(enFragment::Close, operation.element));
+    }
+    auto& value = *static_cast<ParserNode*>(yyval);
+    static_cast<ParserNodeValue&>(value) = node;
+    if (operation.isRoot)
+        addRootSpaces(value);
+}
+
+void CSQLGrammarParser::CreateErrorNodeExt(const SOperation& operation)
+{
+    if (m_Extension.m_bDevelopmentMode)
+        yythrowerror(1);
+    ParserNodeValue node = NewNode();
+    Append(node, m_Fragments.NewTag(enFragment::Open, operation.element));
+    SJoin join;
+    for (int child = 0; child < operation.childCount; ++child) {
+        const ParserNode& entry = StackEntry(1 - operation.childCount + child);
+        if (child == operation.errorIndex) {
+            // what was skipped isn't joined: the gap before the next child covers it
+            join.lastChildErrorPos = join.lastChildStartPos != -1 ? join.lastChildStartPos : entry.m_nStart;
+            continue;
+        }
+        CreateNode(node, entry, join, m_Extension.m_bShowErrors);
+    }
+    Append(node, m_Fragments.NewTag(enFragment::Close, operation.element));
+    static_cast<ParserNodeValue&>(*static_cast<ParserNode*>(yyval)) = node;
+}
+
+// Joins one child to the node. The gap before it goes in as space; an empty child waits, so that it comes out
+// behind the space that follows it and doesn't split a gap.
+void CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJoin& join, bool show)
+{
+    if (node.m_nStart == -1)
+        node.m_nStart = child.m_nStart;
+    if (node.m_nLine >= static_cast<unsigned>(-2))
+        node.m_nLine = child.m_nLine;
+    if (join.lastChildStartPos != -1 && child.m_nStart != -1 && child.m_nStart != -2) {
+        const std::string& query = m_Extension.m_strQuery;
+        const int gapLength = child.m_nStart - join.lastChildStartPos;
+        const auto from = static_cast<std::size_t>(join.lastChildStartPos);
+        if (from > query.size())
+            throw std::out_of_range("a gap begins behind the text");
+        node.m_nLength += gapLength;
+        if (gapLength > 0 && from < query.size()) {
+            const auto length = std::min(static_cast<std::size_t>(gapLength), query.size() - from);
+            if (join.lastChildErrorPos != -1 && join.lastChildErrorPos <= child.m_nStart)
+                ReportErrors(child, std::string_view(query).substr(from, length), show);
+            Append(node, m_Fragments.NewSpace(static_cast<std::uint32_t>(from),
+                                              static_cast<std::uint32_t>(length)));
+        }
+    }
+    if (child.m_nLength != 0) {
+        node.m_nLength += child.m_nLength;
+        SpliceFragments(m_Fragments, node.m_pFirst, node.m_pLast, node.m_pPendingFirst, node.m_pPendingLast);
+        node.m_pPendingFirst = kNoFragment;
+        node.m_pPendingLast = kNoFragment;
+        SpliceFragments(m_Fragments, node.m_pFirst, node.m_pLast, child.m_pFirst, child.m_pLast);
+        join.lastChildStartPos = child.m_nStart + child.m_nLength;
+    } else {
+        SpliceFragments(m_Fragments, node.m_pPendingFirst, node.m_pPendingLast, child.m_pFirst,
+                        child.m_pLast);
+    }
+}
+
+// The tree is complete: what stands before and behind it goes around it, and the fragments become text.
+void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
+{
+    const std::string_view query = m_Extension.m_strQuery;
+    const auto end = static_cast<std::size_t>(std::max(root.m_nStart + root.m_nLength, 0));
+    if (end > query.size())
+        throw std::out_of_range("the tree ends behind the text");
+    const std::string_view lead =
+        query.substr(0, root.m_nStart >= 1 ? static_cast<std::size_t>(root.m_nStart) : 0);
+    const std::string_view tail = query.substr(end);
+
+    std::string& xml = m_Extension.m_strParsedXml;
+    xml.clear();
+    xml.reserve(MeasureFragments(m_Fragments, m_ElementNames, root.m_pFirst, query) + kRootRoom);
+    xml += kRootOpen;
+    WriteSpaceElement(lead, xml);
+    WriteFragments(m_Fragments, m_ElementNames, root.m_pFirst, query, xml);
+    WriteSpaceElement(tail, xml);
+    xml += kRootClose;
+    // a rule above the root sees a node without text
+    root.m_pFirst = kNoFragment;
+    root.m_pLast = kNoFragment;
+    root.m_pPendingFirst = kNoFragment;
+    root.m_pPendingLast = kNoFragment;
+    ReportRemainingErrors();
+}
