@@ -1,0 +1,87 @@
+// How the tools speak: messages to the standard error stream in the form that editors jump by, exit codes,
+// progress. Results go to the standard output, never through here. Texts are UTF-8, without a line feed at
+// their end.
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+
+// Exit codes, the same for every tool. With several inputs the worst one counts.
+enum enToolExit
+{
+    kToolClean = 0,
+    kToolFindings = 1,   // the work was done and something is wrong with the input
+    kToolCouldNotRun = 2 // bad arguments, missing files, failed writes
+};
+
+// Where in an input a message belongs. Lines and columns count from 1, 0 leaves them out.
+struct SSourcePlace
+{
+    std::string file;
+    int line = 0;
+    int column = 0;         // in code points
+    std::string sourceLine; // shown below the message, unless empty
+};
+
+enum class enSeverity
+{
+    Error,
+    Warning,
+    Note
+};
+
+class CToolMessages
+{
+public:
+    // `toolName` stands where a message has no file. Borrows `stream`.
+    CToolMessages(std::string toolName, std::ostream& stream);
+
+    // toolName: error: text
+    void Write(enSeverity severity, const std::string& text);
+    // file:line:column: error: text
+    //     source line
+    void Write(enSeverity severity, const SSourcePlace& place, const std::string& text);
+
+    void Error(const std::string& text) { Write(enSeverity::Error, text); }
+    void Warning(const std::string& text) { Write(enSeverity::Warning, text); }
+    void Note(const std::string& text) { Write(enSeverity::Note, text); }
+
+    std::size_t ErrorCount() const { return m_Errors; }
+    std::size_t WarningCount() const { return m_Warnings; }
+
+    // Warnings and notes are counted but no longer written.
+    void SetQuiet(bool quiet) { m_Quiet = quiet; }
+
+private:
+    void WriteLine(enSeverity severity, const std::string& place, const std::string& text,
+                   const std::string& sourceLine);
+
+    std::string m_ToolName;
+    std::ostream& m_Stream;
+    std::size_t m_Errors = 0;
+    std::size_t m_Warnings = 0;
+    bool m_Quiet = false;
+};
+
+// One line of progress over many inputs, rewritten in place. Only a terminal sees it: a log would fill with
+// it.
+class CToolProgress
+{
+public:
+    // Shows nothing for fewer than two inputs or when standard error isn't a terminal.
+    CToolProgress(std::size_t total, bool isWanted);
+    CToolProgress(const CToolProgress&) = delete;
+    CToolProgress& operator=(const CToolProgress&) = delete;
+    ~CToolProgress();
+
+    void Step(const std::string& name);
+    // Takes the line off the screen, before a message is written.
+    void Clear();
+
+private:
+    std::size_t m_Total;
+    std::size_t m_Done = 0;
+    bool m_Shows;
+    bool m_OnScreen = false;
+};

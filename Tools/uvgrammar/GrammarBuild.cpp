@@ -1,0 +1,126 @@
+#include "Tools/uvgrammar/GrammarBuild.h"
+
+#include "Grammar/UVGrammarKeeper.h"
+#include "Tools/Support/ToolFiles.h"
+#include "Tools/uvgrammar/GrammarChecks.h"
+#include "Tools/uvgrammar/TableDirectory.h"
+#include "UVEnvironment/UVEUnicodeString.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace {
+
+// Messages of the library are lines for a log and begin with a line feed.
+std::string LogText(const Uve::U8CString& text)
+{
+    const std::size_t from = text.find_first_not_of('\n');
+    return from == std::string::npos ? std::string() : text.substr(from);
+}
+
+void Require(int result, const char* what)
+{
+    if (result != 0)
+        throw CToolFailure(std::string(what) + " can't be read out of the generated text or written");
+}
+
+void WriteTables(const SGeneratedFiles& files, const std::string& directory)
+{
+    const std::string lexer = directory + "Lexer/";
+    const std::string parser = directory + "Parser/";
+    std::string defines;
+    Require(UVDBGrammarKeeper::SaveActionsToFile(files.lexerPath, lexer), "the scanner's actions");
+    Require(UVDBGrammarKeeper::SaveTablesToFile(files.lexerPath, lexer), "the scanner's tables");
+    Require(UVDBGrammarKeeper::SaveDefinesToFile(files.lexerHeaderPath, lexer, defines),
+            "the start conditions");
+    Require(UVDBGrammarKeeper::SaveActionsToFile(files.parserPath, parser), "the parser's actions");
+    Require(UVDBGrammarKeeper::SaveTablesToFile(files.parserPath, parser), "the parser's tables");
+    Require(UVDBGrammarKeeper::SaveConstantsToFile(files.parserPath, parser), "the final state");
+    Require(UVDBGrammarKeeper::SaveDefinesToFile(files.parserPath, parser, defines), "the tokens");
+}
+
+void AppendTables(std::string& report, std::initializer_list<std::pair<const char*, std::size_t>> tables)
+{
+    for (const auto& [name, entries] : tables)
+        report += std::string("  ") + name + ": " + std::to_string(entries) + " entries\n";
+}
+
+std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, const SLoadedTables& tables,
+                       const std::set<std::string>& used)
+{
+    const auto number = [](std::size_t value) { return std::to_string(value); };
+    std::string report = "grammar " + build.name + "\n\nscanner\n";
+    report +=
+        "  rules: " + number(tables.ruleCanMatchEol.size() - 2) + '\n'; // without rule 0 and flex's default
+    report += "  start conditions: " + number(tables.startConditions.size()) + '\n';
+    report += "  states: " + number(tables.accept.size() - 3) + '\n';
+    AppendTables(report, {{"accept", tables.accept.size()},
+                          {"base", tables.base.size()},
+                          {"nxt", tables.nxt.size()},
+                          {"acclist", tables.acclist.size()}});
+    report += "\nparser\n";
+    report += "  rules: " + number(parser.rules.size() - 1) + '\n'; // without that of $accept
+    report += "  terminals: " + std::to_string(parser.terminals) + '\n';
+    report += "  nonterminals: " + std::to_string(parser.nonterminals) + '\n';
+    report += "  states: " + number(tables.pact.size()) + '\n';
+    AppendTables(
+        report,
+        {{"table", tables.table.size()}, {"r1", tables.r1.size()}, {"translate", tables.translate.size()}});
+    report += "  conflicts: " + std::to_string(parser.shiftReduceConflicts) + " shift/reduce, " +
+              std::to_string(parser.reduceReduceConflicts) + " reduce/reduce\n";
+    report += "  unused nonterminals: " + number(parser.uselessNonterminals.size()) + '\n';
+    for (const std::string& name : parser.uselessNonterminals)
+        report += "    " + name + '\n';
+    report += "  unused rules: " + number(parser.uselessRules.size()) + '\n';
+    for (const std::string& rule : parser.uselessRules)
+        report += "    " + rule + '\n';
+
+    std::string unmade;
+    std::size_t unmadeCount = 0;
+    for (const auto& [token, value] : tables.tokens) {
+        if (value == 0 || used.count(token) != 0 || tables.startConditions.count(token) != 0)
+            continue;
+        ++unmadeCount;
+        unmade += "    " + token + '\n';
+    }
+    report += "  tokens that no scanner action names: " + number(unmadeCount) + '\n' + unmade;
+    return report;
+}
+
+} // namespace
+
+enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report)
+{
+    const CGrammarSource lexer(build.lexerPath);
+    const CGrammarSource parser(build.parserPath);
+    CTableDirectory output(build.outputPath);
+    const CTemporaryFolder scratch((std::filesystem::temp_directory_path() / "uvgrammar.").string());
+
+    SGeneratedFiles files;
+    RunFlex(lexer, scratch.Path(), files, messages);
+    RunBison(parser, scratch.Path(), files, messages);
+    if (!files.lexerText.empty())
+        CheckScannerForm(lexer, files, messages);
+    if (!files.parserText.empty())
+        CheckParserForm(parser, files, messages);
+    if (messages.ErrorCount() > 0)
+        return kToolFindings;
+
+    try {
+        WriteTables(files, output.NewPath());
+        SLoadedTables tables;
+        LoadTablesBack(output.NewPath(), tables);
+        const SParserReport parserReport = ReadParserReport(files.parserReport);
+        std::set<std::string> used;
+        CheckScannerRules(lexer, files, tables, messages, used);
+        CheckScannerReach(lexer, files, tables, messages);
+        CheckParserRules(parser, files, parserReport, tables, messages);
+        report = ReportText(build, parserReport, tables, used);
+    } catch (const Uve::U8CString& text) {
+        throw CToolFailure(LogText(text));
+    }
+    if (messages.ErrorCount() > 0)
+        return kToolFindings;
+    output.Commit();
+    return kToolClean;
+}

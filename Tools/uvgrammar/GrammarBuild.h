@@ -1,0 +1,19 @@
+// From a flex file and a bison file to the table directory of a language.
+#pragma once
+
+#include "Tools/Support/ToolMessages.h"
+
+#include <string>
+
+struct SGrammarBuild
+{
+    std::string lexerPath;
+    std::string parserPath;
+    std::string outputPath; // the language's directory
+    std::string name;       // of the language
+};
+
+// Writes the tables, unless the grammar is refused; then the directory stays as it was.
+// Returns: kToolClean, or kToolFindings with the reasons in `messages`. `report` takes the counts as text.
+// Throws:  CToolFailure if the work couldn't be done.
+enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report);
