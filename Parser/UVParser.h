@@ -1,0 +1,132 @@
+// The parser object behind the plug-in entry: it owns the scanner and the parser of one grammar, takes options and a
+// text from its host, and makes the result. What a host may call, and when, is told at the interface.
+//
+// Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo), the way
+// from a text to its result (UVParserPipeline), errors and statistics (UVParserErrors).
+#pragma once
+
+#include "Grammar/UVGrammarLexer.h"
+#include "Grammar/UVGrammarParser.h"
+#include "Interfaces/DB_VERSION_INFO.h"
+#include "Interfaces/IUVDBSQLParser.h"
+#include "UVEnvironment/UVEUnicodeString.h"
+
+#include <map>
+#include <memory>
+#include <string>
+
+class CUVDBSQLParser : public IUVDBSQLParser
+{
+public:
+    // An object that isn't ready (Load missing, or Init behind the last Load) answers UVDB_ERROR where it would need
+    // a grammar. Only Load, FastParse and SetLastError let exceptions pass.
+
+    // Returns: UVDB_INVALID_ARGUMENT for a null name. A grammar that can't be loaded leaves the earlier one in place.
+    int Load(const char* parserName) override;
+    int Init(const char* mode) override;
+    int set_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info) override;
+    int get_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2>& out) override;
+    int set_Log(std::shared_ptr<ILog> log) override;
+    int set_Query(const char* text) override;
+
+    // With the option REPORT_UNEXPECTED_TOKENS "1" on the database info, a parse that got as far as the database info
+    // leaves the list of FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS.
+    int Parse(bool showErrors) override;
+
+    // Adds to the unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't ready.
+    std::string FastParse() override;
+
+    int get_SQLTree(Uve::U8CString& out) override;
+    int get_ColoringMap(Uve::U8CString& out) override;
+    int set_ConvertingObject(std::shared_ptr<IUVDBObjectInfo> object) override;
+    int get_ConvertingObject(std::shared_ptr<IUVDBObjectInfo>& out) override;
+    std::shared_ptr<std::map<std::string, std::string>> GetUndefinesTokens() override;
+    int get_LastError(std::shared_ptr<IUVDBErrorInfo>& out) override;
+    int set_ParserDevelopmentMode(bool isOn) override;
+    std::string GetParsedXml() override;
+
+    // The result is the parser's own tree. Returns: UVDB_OK.
+    int ExecuteTree2Serial() override;
+    // Returns: UVDB_NOT_SUPPORTED, with `text` as it was.
+    int Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& text) override;
+
+    // Keeps the outcome of the second parse if it met no unexpected token, and the flipped rule with it. Otherwise
+    // everything is put back but the error, which is the second parse's message.
+    void TryParseWithOtherOpts(bool showErrors) override;
+    bool IsParseHasErrors() override;
+    void SetLastError() override;
+
+    // Leave the command line as it is.
+    void CreateUVParserCmdParameterList(std::string& commandLine, bool showErrors, unsigned long querySize) override;
+    void CreateUVTranslatorCmdParameterList(std::string& commandLine, int querySize) override;
+
+protected:
+    // ---- Options ----
+
+    int TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info);
+    void ReadParsingOptions();
+    // Returns: false for the kinds that leave no choice about quotes.
+    bool SelectQuoteRule(const DB_VERSION_INFO& version);
+    void TakeLanguage(const DB_VERSION_INFO& version);
+    void ReadPascalDefines();
+    void FillLexerOptions();
+    // Runs `write` on the scanner and on the coloring scanner: their fields follow the same options.
+    template <class Write>
+    void WriteLexers(Write&& write)
+    {
+        write(*m_Lexer);
+        write(m_ColoringLexer);
+    }
+    DB_VERSION_INFO GetVersion() const;
+
+    // ---- The way of a text ----
+
+    int ParseQuery(bool showErrors);
+    int ExecuteParsing(bool showErrors);
+    // Returns: UVDB_OK if there is a text to parse; UVDB_NO_DATA if not; UVDB_ERROR if a formatter failed.
+    int PrepareToParse();
+    // Returns: 0; the parser's own code if the grammar refuses the text; UVDB_ERROR for an exception.
+    int ExecuteParsingInternal(bool showErrors);
+    int ExecuteParsingColoring(bool showErrors);
+    int FlattenResult();
+    void replaceXmlHeader();
+    // The text itself as the result, for sources that no grammar reads.
+    int ExecuteEmbeddedParsing();
+    int ExecuteParsingTool(bool showErrors);
+    bool IsPropertiesFile() const;
+    void GiveQueryToParser();
+    int ReportUnexpectedTokens();
+
+    // ---- Errors ----
+
+    void SetLastError(long code, const char* description, const char* nativeInfo,
+                      std::multimap<unsigned long, std::string>* tokens);
+    // The number that the parser's message begins with: -1 without one, 0 if it doesn't begin with a number.
+    static int ExtractLineNumber(const std::string& errorMessage);
+    // `place` stays as it is if there is no such line.
+    static void GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place);
+    void UpdateWarningsInfo();
+
+    std::shared_ptr<CSQLGrammarLexer> m_Lexer;
+    std::shared_ptr<CSQLGrammarParser> m_Parser;
+    CSQLGrammarLexer m_ColoringLexer; // of the same grammar, without a parser
+    std::shared_ptr<IUVDBDatabaseInfo2> m_DatabaseInfo;
+    std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
+    std::shared_ptr<IUVDBErrorInfo> m_LastError;
+    Uve::U8CString m_Query; // rewritten in place by the preparation
+    Uve::U8CString m_Result;
+    bool m_ColoringMode = false;
+    bool m_CommentMode = false;
+    std::shared_ptr<ILog> m_Log;
+    int m_ExtParserSize = 102400;
+    int m_ExtParserSizeCopy = 10240000;
+    bool m_TryOtherOpts = false;
+    bool m_PatternProcess = false; // texts come prepared, and the grammar is the one for patterns
+    std::shared_ptr<std::map<std::string, std::string>> m_UndefinedTokens;
+
+private:
+    class CSecondAttempt;
+
+    bool m_IsConnected = false;     // scanner and parser are linked: texts can be parsed
+    bool m_IsSecondAttempt = false; // the second attempt doesn't start a third
+};

@@ -1,0 +1,99 @@
+#include "Interfaces/IUVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVDBErrorInfo.h"
+#include "Parser/UVParser.h"
+#include "Parser/UVParserText.h"
+#include "UVEnvironment/LogSystem.h"
+#include "UVEnvironment/UVEEncoding.h"
+
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+bool CUVDBSQLParser::IsParseHasErrors()
+{
+    return m_Parser && m_Parser->HasErrors();
+}
+
+void CUVDBSQLParser::SetLastError(long code, const char* description, const char* nativeInfo,
+                                  std::multimap<unsigned long, std::string>* tokens)
+{
+    auto error = std::make_shared<CUVDBErrorInfo>();
+    error->Code = code;
+    error->Description = description;
+    error->NativeInfo = nativeInfo;
+    if (tokens != nullptr) {
+        // Hosts read the keys: a token that came twice still counts 1 here.
+        for (const auto& [line, token] : *tokens)
+            error->ErrorList.emplace(token, 1);
+    }
+    m_LastError = std::move(error);
+}
+
+void CUVDBSQLParser::SetLastError()
+{
+    std::string message;
+    std::multimap<unsigned long, std::string> tokens;
+    if (m_Parser) {
+        message = m_Parser->m_Extension.m_strLastError;
+        for (const auto& [line, token] : m_Parser->m_Extension.m_mapErrors) {
+            std::string text;
+            UVDB::UTF8Toisolat1(token, text);
+            tokens.emplace(line, std::move(text));
+        }
+    }
+    std::string place;
+    GetErrorPlace(static_cast<unsigned long>(ExtractLineNumber(message)), m_Query, place);
+    message += ' ';
+    message += place;
+    SetLastError(0, message.c_str(), nullptr, &tokens);
+    CLogWrapper::WriteTraceF("\nFAILED: %s\n", message.c_str());
+}
+
+int CUVDBSQLParser::ExtractLineNumber(const std::string& errorMessage)
+{
+    if (errorMessage.empty()) {
+        CLogWrapper::WriteTraceF("\nUVParser: ExtractLineNumber(): errorMessage == Empty\n");
+        return -1;
+    }
+    const std::size_t blank = errorMessage.find(' ');
+    if (blank == std::string::npos)
+        return -1;
+    // On a word that is no number the stream stores 0.
+    int lineNumber = -1;
+    std::istringstream(errorMessage.substr(0, blank)) >> lineNumber;
+    return lineNumber;
+}
+
+void CUVDBSQLParser::GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place)
+{
+    if (lineNumber == static_cast<unsigned long>(-1)) {
+        CLogWrapper::WriteTraceF("\nUVParser: GetErrorPlace(): numLine == -1\n");
+        return;
+    }
+    if (text.empty())
+        return;
+    if (auto quote = QuoteLinesAround(lineNumber, text))
+        place = std::move(*quote);
+}
+
+void CUVDBSQLParser::UpdateWarningsInfo()
+{
+    constexpr char kWarningsCount[] = "WARNINGS_COUNT";
+    constexpr char kWarningsTypes[] = "WARNINGS_TYPES";
+    const auto& tokens = m_Parser->m_Extension.m_mapErrors;
+
+    int objectType = 0;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "CONVERTED_OBJECT_TYPE", objectType);
+    // An object type without a single unexpected token gets its entry too: hosts count parsed types by it.
+    std::map<int, unsigned long> counts;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kWarningsCount, counts);
+    counts[objectType] += tokens.size();
+    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, kWarningsCount, counts);
+
+    std::map<std::string, int> types;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kWarningsTypes, types);
+    for (const auto& [line, token] : tokens)
+        ++types[token];
+    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, kWarningsTypes, types);
+}

@@ -1,0 +1,165 @@
+#include "Interfaces/ILog.h"
+#include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBObjectInfo.h"
+#include "Interfaces/UVDBResults.h"
+#include "Parser/UVParser.h"
+#include "Parser/UVParserGuard.h"
+#include "Parser/UVParserText.h"
+#include "UVEnvironment/LogSystem.h"
+#include "UVEnvironment/UVECompat.h"
+
+#include <utility>
+
+namespace
+{
+
+// What yycreate answers when the stacks and buffers are there.
+constexpr int kConnected = 1;
+
+bool IsPatternProcess()
+{
+    const Uve::U8CString path = Uve::Compat::GetCurrentProcessExePath();
+    return path.Find("pattern2xslt.exe") >= 0 || path.Find("pattern2rule.exe") >= 0;
+}
+
+} // namespace
+
+int CUVDBSQLParser::Load(const char* parserName)
+{
+    if (parserName == nullptr)
+        return UVDB_INVALID_ARGUMENT;
+    m_PatternProcess = IsPatternProcess();
+    CLogWrapper::WriteTraceF("\nUVParser%s : Creation...", parserName);
+    auto lexer = std::make_shared<CSQLGrammarLexer>(parserName, m_PatternProcess);
+    auto parser = std::make_shared<CSQLGrammarParser>(parserName, m_PatternProcess);
+    auto undefinedTokens = std::make_shared<std::map<std::string, std::string>>();
+
+    // Only the coloring scanner's map is ever read.
+    lexer->set_ColoringWanted(false);
+    m_IsConnected = false;
+    m_Lexer = std::move(lexer);
+    m_Parser = std::move(parser);
+    m_UndefinedTokens = std::move(undefinedTokens);
+    // It starts with the same flags as the new scanner, whatever was written to it for an earlier grammar.
+    m_ColoringLexer.m_Extension = CSQLGrammarLexerImplementation();
+    m_ColoringLexer.ShareTables(*m_Lexer);
+    CLogWrapper::WriteTraceF("OK");
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::Init(const char* mode)
+{
+    if (Uve::Compat::stricmp(mode, "-cl") == 0) {
+        m_ColoringMode = true;
+    } else if (Uve::Compat::stricmp(mode, "-cb") == 0) {
+        m_CommentMode = true;
+    } else {
+        m_ColoringMode = false;
+        m_CommentMode = false;
+    }
+    return GuardEdge([&] {
+        if (!m_Lexer || !m_Parser) {
+            CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Init before Load");
+            return static_cast<int>(UVDB_ERROR);
+        }
+        // A connection that can't be made is no failure of Init: the parse that needs it fails.
+        m_IsConnected =
+            m_Parser->yycreate(m_Lexer.get()) == kConnected && m_Lexer->yycreate(m_Parser.get()) == kConnected;
+        if (m_IsConnected)
+            m_ColoringLexer.yycreate();
+        return static_cast<int>(UVDB_OK);
+    });
+}
+
+int CUVDBSQLParser::get_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2>& out)
+{
+    out = m_DatabaseInfo;
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::set_Log(std::shared_ptr<ILog> log)
+{
+    m_Log = std::move(log);
+    if (m_Log)
+        CLogWrapper::Init(m_Log);
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::set_Query(const char* text)
+{
+    return GuardEdge([&] {
+        Uve::U8CString().swap(m_Result); // gives the memory of a large result back
+        if (text != nullptr)
+            m_Query = text;
+        return UVDB_OK;
+    });
+}
+
+int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
+{
+    return GuardEdge([&] {
+        if (m_ColoringMode)
+            out = WrapInElement("Coloring", m_Result);
+        else
+            out = m_Result;
+        return UVDB_OK;
+    });
+}
+
+int CUVDBSQLParser::get_ColoringMap(Uve::U8CString& out)
+{
+    return GuardEdge([&] {
+        out = m_Result;
+        return UVDB_OK;
+    });
+}
+
+int CUVDBSQLParser::set_ConvertingObject(std::shared_ptr<IUVDBObjectInfo> object)
+{
+    m_ConvertingObject = std::move(object);
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::get_ConvertingObject(std::shared_ptr<IUVDBObjectInfo>& out)
+{
+    out = m_ConvertingObject;
+    return UVDB_OK;
+}
+
+std::shared_ptr<std::map<std::string, std::string>> CUVDBSQLParser::GetUndefinesTokens()
+{
+    return m_UndefinedTokens;
+}
+
+int CUVDBSQLParser::get_LastError(std::shared_ptr<IUVDBErrorInfo>& out)
+{
+    out = m_LastError;
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::set_ParserDevelopmentMode(bool isOn)
+{
+    if (!m_Parser)
+        return UVDB_ERROR;
+    m_Parser->m_Extension.set_DevelopmentMode(isOn);
+    return UVDB_OK;
+}
+
+std::string CUVDBSQLParser::GetParsedXml()
+{
+    return m_Result;
+}
+
+int CUVDBSQLParser::ExecuteTree2Serial()
+{
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2>, Uve::U8CString&)
+{
+    return UVDB_NOT_SUPPORTED;
+}
+
+void CUVDBSQLParser::CreateUVParserCmdParameterList(std::string&, bool, unsigned long) {}
+
+void CUVDBSQLParser::CreateUVTranslatorCmdParameterList(std::string&, int) {}

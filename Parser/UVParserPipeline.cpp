@@ -1,0 +1,286 @@
+// From a text to its result: preparation, scanning and parsing or coloring, a second attempt with the other rule for
+// quoted identifiers, flattening.
+#include "Interfaces/IUVDBDatabaseInfo.h"
+#include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBObjectInfo.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVDBErrorInfo.h"
+#include "Parser/UVParser.h"
+#include "Parser/UVParserFormatters.h"
+#include "Parser/UVParserGuard.h"
+#include "Parser/UVParserText.h"
+#include "Parser/UVUnexpectedTokens.h"
+#include "UVEnvironment/LogSystem.h"
+
+#include <utility>
+
+namespace
+{
+
+using Uve::U8CString;
+
+bool HasDescription(IUVDBErrorInfo& error)
+{
+    char description[1024];
+    std::size_t length = 0;
+    return error.get_Description(description, sizeof description, &length) == UVDB_OK && length > 0;
+}
+
+} // namespace
+
+// Everything that the second attempt changes, set aside for its time. What isn't accepted comes back at the end.
+class CUVDBSQLParser::CSecondAttempt
+{
+public:
+    explicit CSecondAttempt(CUVDBSQLParser& owner)
+        : m_Owner(owner), m_FirstErrors(std::exchange(Extension().m_mapErrors, {})),
+          m_FirstUnexpected(std::exchange(Extension().m_lstUnexpected, {}))
+    {
+        m_FirstResult.swap(owner.m_Result);
+        FlipQuoteRule();
+        owner.m_IsSecondAttempt = true;
+    }
+
+    CSecondAttempt(const CSecondAttempt&) = delete;
+    CSecondAttempt& operator=(const CSecondAttempt&) = delete;
+
+    ~CSecondAttempt()
+    {
+        m_Owner.m_IsSecondAttempt = false;
+        if (m_IsAccepted)
+            return;
+        FlipQuoteRule();
+        m_Owner.m_Result.swap(m_FirstResult);
+        Extension().m_mapErrors.swap(m_FirstErrors);
+        Extension().m_lstUnexpected.swap(m_FirstUnexpected);
+    }
+
+    // The attempt's result stands. One that found nothing to parse made none, and the first one's stays.
+    void Accept(int result)
+    {
+        m_IsAccepted = true;
+        if (result == UVDB_NO_DATA)
+            m_Owner.m_Result.swap(m_FirstResult);
+    }
+
+private:
+    CSQLGrammarParserImplementation& Extension() { return m_Owner.m_Parser->m_Extension; }
+
+    void FlipQuoteRule()
+    {
+        bool& isQuotedIdentifier = m_Owner.m_Lexer->m_Extension.m_bMSSQLQID;
+        isQuotedIdentifier = !isQuotedIdentifier;
+    }
+
+    CUVDBSQLParser& m_Owner;
+    U8CString m_FirstResult;
+    decltype(CSQLGrammarParserImplementation::m_mapErrors) m_FirstErrors;
+    decltype(CSQLGrammarParserImplementation::m_lstUnexpected) m_FirstUnexpected;
+    bool m_IsAccepted = false;
+};
+
+int CUVDBSQLParser::Parse(bool showErrors)
+{
+    const int result = GuardEdge([&] { return ParseQuery(showErrors); });
+    // A host that asked for the list takes a missing one for a clean parse.
+    const int reported = GuardEdge([&] { return ReportUnexpectedTokens(); });
+    return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
+}
+
+int CUVDBSQLParser::ParseQuery(bool showErrors)
+{
+    CLogWrapper::WriteTraceF("\nParsing...");
+    m_LastError = std::make_shared<CUVDBErrorInfo>();
+    if (m_Parser) {
+        m_Parser->m_Extension.m_mapErrors.clear();
+        m_Parser->m_Extension.m_lstUnexpected.clear();
+        m_Parser->m_Extension.m_bShowErrors = showErrors;
+    }
+    if (!m_DatabaseInfo) {
+        CLogWrapper::WriteTraceF("\nFAILED: %s\n", "DatabaseInfo or query is empty");
+        return UVDB_ERROR;
+    }
+    if (!m_IsConnected) {
+        constexpr char kNotReady[] = "Parse before Load and Init";
+        SetLastError(0, kNotReady, nullptr, nullptr);
+        CLogWrapper::WriteTraceF("\nFAILED: %s\n", kNotReady);
+        return UVDB_ERROR;
+    }
+    return ExecuteParsing(showErrors);
+}
+
+int CUVDBSQLParser::ExecuteParsing(bool showErrors)
+{
+    if (IsPropertiesFile())
+        return ExecuteEmbeddedParsing();
+    if (!m_PatternProcess) {
+        const int prepared = PrepareToParse();
+        if (prepared != UVDB_OK)
+            return prepared;
+    }
+
+    const bool isColoring = m_ColoringMode || m_CommentMode;
+    const int parsed = isColoring ? ExecuteParsingColoring(showErrors) : ExecuteParsingInternal(showErrors);
+    if (m_TryOtherOpts && !m_IsSecondAttempt && (IsParseHasErrors() || parsed < UVDB_OK)) {
+        TryParseWithOtherOpts(showErrors);
+        return m_Result.IsEmpty() ? UVDB_ERROR : FlattenResult();
+    }
+
+    bool isChild = false;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "ORVA_CHILD", isChild);
+    if (parsed != UVDB_OK || (isChild && m_Parser->HasErrors())) {
+        // An exception has left a record of its own, which says more than the parser's message.
+        if (parsed >= UVDB_OK)
+            SetLastError();
+        return UVDB_ERROR;
+    }
+    return FlattenResult();
+}
+
+int CUVDBSQLParser::FlattenResult()
+{
+    CLogWrapper::WriteTraceF("OK\n");
+    CLogWrapper::WriteTraceF("\nExecuteTree2Serial: execution...");
+    const int flattened = ExecuteTree2Serial();
+    if (flattened >= UVDB_OK) {
+        CLogWrapper::WriteTraceF("\nOK\n");
+        return UVDB_OK;
+    }
+    constexpr char kFailure[] = "can't transform tree to serial";
+    SetLastError(0, kFailure, nullptr, nullptr);
+    CLogWrapper::WriteTraceF("\n");
+    CLogWrapper::WriteTraceF("FAILED: %s\n", kFailure);
+    return flattened;
+}
+
+int CUVDBSQLParser::PrepareToParse()
+{
+    bool parsesDirectives = true;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "PARSE_DIRECTIVES", parsesDirectives);
+    WriteLexers([&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_bCppDirectiveParse = parsesDirectives; });
+
+    ReplaceZeroWidthSpaces(m_Query);
+    const SFormatterRow* const formatter = FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject});
+    if (formatter != nullptr && formatter->format != nullptr)
+        formatter->format(*this);
+
+    if (!m_Query.IsEmpty()) {
+        CLogWrapper::WriteTraceF("\nFormatted query:\n%s\n", m_Query.c_str());
+        return UVDB_OK;
+    }
+    CLogWrapper::WriteTraceF("\nFormatted query is empty.\n");
+    return m_LastError && HasDescription(*m_LastError) ? UVDB_ERROR : UVDB_NO_DATA;
+}
+
+void CUVDBSQLParser::GiveQueryToParser()
+{
+    m_Parser->m_Extension.set_Query(m_Query);
+    m_Lexer->set_Query(m_Query, static_cast<int>(GetVersion().db));
+}
+
+int CUVDBSQLParser::ExecuteParsingInternal(bool)
+{
+    GiveQueryToParser();
+    int parsed = UVDB_ERROR;
+    try {
+        parsed = m_Parser->yyparse();
+    } catch (...) {
+        SetLastError(0, "Exception in yyparse", nullptr, nullptr);
+        CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yyparse");
+        return UVDB_ERROR;
+    }
+    if (parsed != UVDB_OK)
+        return parsed;
+    m_Result = std::move(m_Parser->m_Extension.m_strParsedXml);
+    UpdateWarningsInfo();
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::ExecuteParsingColoring(bool)
+{
+    m_ColoringLexer.m_Extension.m_strColoring.clear();
+    m_ColoringLexer.set_Query(m_Query, static_cast<int>(GetVersion().db));
+    // A grammar that doesn't know the state gets it with number 0, its first one.
+    if (m_CommentMode)
+        m_ColoringLexer.SetState(m_Lexer->m_mapStartConditions["SS_FIND_COMMENT"]);
+    try {
+        while (m_ColoringLexer.yylex() != 0) {
+        }
+    } catch (...) {
+        SetLastError(0, "Exception in yylex on coloring", nullptr, nullptr);
+        CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yylex");
+        return UVDB_ERROR;
+    }
+    m_Result = std::move(m_ColoringLexer.m_Extension.m_strColoring);
+    CLogWrapper::WriteTraceF("OK\n");
+    return UVDB_OK;
+}
+
+void CUVDBSQLParser::TryParseWithOtherOpts(bool showErrors)
+{
+    GuardEdge([&] {
+        if (!m_DatabaseInfo || !m_IsConnected)
+            return static_cast<int>(UVDB_ERROR);
+        {
+            CSecondAttempt attempt(*this);
+            const int result = ExecuteParsing(showErrors);
+            if (result >= UVDB_OK && !IsParseHasErrors()) {
+                attempt.Accept(result);
+                return result;
+            }
+        }
+        // The second attempt's message with the first one's tokens.
+        SetLastError();
+        return static_cast<int>(UVDB_ERROR);
+    });
+}
+
+std::string CUVDBSQLParser::FastParse()
+{
+    if (!m_IsConnected)
+        return {};
+    GiveQueryToParser();
+    m_Parser->yyparse();
+    return std::move(m_Parser->m_Extension.m_strParsedXml);
+}
+
+bool CUVDBSQLParser::IsPropertiesFile() const
+{
+    if (!m_ConvertingObject)
+        return false;
+    U8CString path;
+    CUVDBOptionWrapper::GetParam(m_ConvertingObject, "FilePath", path);
+    const auto extension = TextBehindLastDot(path);
+    return extension && extension->CollateNoCase("properties") == 0;
+}
+
+int CUVDBSQLParser::ExecuteEmbeddedParsing()
+{
+    m_Result = WrapInElement("SQL", m_Query);
+    replaceXmlHeader();
+    return UVDB_OK;
+}
+
+int CUVDBSQLParser::ExecuteParsingTool(bool)
+{
+    UpdateWarningsInfo();
+    return UVDB_OK;
+}
+
+void CUVDBSQLParser::replaceXmlHeader()
+{
+    ReplaceXmlHeader(m_Result);
+}
+
+int CUVDBSQLParser::ReportUnexpectedTokens()
+{
+    if (!m_DatabaseInfo || !m_Parser)
+        return UVDB_OK;
+    U8CString isWanted;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", isWanted);
+    if (isWanted != "1")
+        return UVDB_OK;
+    const U8CString list = FormatUnexpectedTokens(m_Query, m_Parser->m_Extension.m_lstUnexpected);
+    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "UNEXPECTED_TOKENS", list);
+}

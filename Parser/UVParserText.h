@@ -1,0 +1,24 @@
+// Work on texts that can be hundreds of megabytes long: each operation is one pass and counts bytes.
+#pragma once
+
+#include "UVEnvironment/UVEUnicodeString.h"
+
+#include <optional>
+#include <string_view>
+
+// What stands behind the last "." of `path`; nothing if there is no dot.
+std::optional<Uve::U8CString> TextBehindLastDot(const Uve::U8CString& path);
+
+// Puts a blank in the place of each zero-width space. Needs no memory.
+void ReplaceZeroWidthSpaces(Uve::U8CString& text);
+
+// `text` behind an XML header of its own: one that it has goes, with everything in front of it.
+void ReplaceXmlHeader(Uve::U8CString& text);
+
+// The text between `<name>` and `</name>`, not escaped.
+Uve::U8CString WrapInElement(std::string_view name, std::string_view text);
+
+// The lines of `text` around line `lineNumber` (from 1), between markers: the line before, the line and the line
+// behind it, as far as they exist. A text that ends in a line feed has an empty last line.
+// Returns: nothing if there is no such line.
+std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::string_view text);

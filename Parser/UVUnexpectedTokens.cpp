@@ -1,0 +1,75 @@
+#include "Parser/UVUnexpectedTokens.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <string>
+
+namespace
+{
+
+struct STextPlace
+{
+    std::size_t line = 1;
+    std::size_t column = 1;
+};
+
+// Walks forward over a text and tells places in it. Texts may be one line of many megabytes, so no byte is looked at
+// twice: the offsets that it is asked for ascend.
+class CPlaceFinder
+{
+public:
+    explicit CPlaceFinder(std::string_view text) : m_Text(text) {}
+
+    STextPlace MoveTo(std::size_t offset)
+    {
+        for (; m_Offset < std::min(offset, m_Text.size()); ++m_Offset) {
+            const auto byte = static_cast<unsigned char>(m_Text[m_Offset]);
+            if (byte == '\n')
+                m_Place = {m_Place.line + 1, 1};
+            else if ((byte & 0xC0) != 0x80) // a continuation byte belongs to the character before it
+                ++m_Place.column;
+        }
+        return m_Place;
+    }
+
+private:
+    std::string_view m_Text;
+    std::size_t m_Offset = 0;
+    STextPlace m_Place;
+};
+
+std::vector<STextPlace> FindPlaces(std::string_view query, const std::vector<SUnexpectedToken>& tokens)
+{
+    std::vector<std::size_t> byOffset(tokens.size());
+    std::iota(byOffset.begin(), byOffset.end(), std::size_t{0});
+    std::ranges::stable_sort(byOffset, {}, [&](std::size_t index) { return tokens[index].offset; });
+
+    std::vector<STextPlace> places(tokens.size());
+    CPlaceFinder finder(query);
+    for (const std::size_t index : byOffset)
+        places[index] = finder.MoveTo(tokens[index].offset);
+    return places;
+}
+
+} // namespace
+
+Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens)
+{
+    const std::vector<STextPlace> places = FindPlaces(query, tokens);
+    std::string list;
+    for (std::size_t index = 0; index < tokens.size(); ++index) {
+        const SUnexpectedToken& token = tokens[index];
+        for (const std::size_t number : {places[index].line, places[index].column, token.offset, token.length}) {
+            list += std::to_string(number);
+            list += '\t';
+        }
+        const std::size_t textStart = list.size();
+        list += token.text;
+        std::replace_if(
+            list.begin() + static_cast<std::ptrdiff_t>(textStart), list.end(),
+            [](char byte) { return byte == '\t' || byte == '\n' || byte == '\r'; }, ' ');
+        list += '\n';
+    }
+    return Uve::U8CString(std::move(list));
+}

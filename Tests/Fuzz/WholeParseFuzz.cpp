@@ -1,0 +1,95 @@
+// Any bytes through the front door, with the fixture grammar that stands beside the program: a parse that succeeds
+// gives a tree whose text is the source.
+#include "Catalogue/UVDBDatabaseKinds.h"
+#include "Catalogue/UVDBHelpers.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVParser.h"
+#include "Tests/Parser/TreeText.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace
+{
+
+void Erase(std::string& text, std::string_view part)
+{
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at))
+        text.erase(at, part.size());
+}
+
+// Two control characters have no place in XML: one is dropped, the other replaced by a word.
+std::string WithoutControls(std::string text)
+{
+    Erase(text, "\f");
+    Erase(text, "\x10");
+    Erase(text, "ORVANTA_DATA_LINK_ESCAPE_REPLACER");
+    return text;
+}
+
+void Expect(bool holds, const char* what, const std::string& source, const std::string& tree)
+{
+    if (holds)
+        return;
+    std::fprintf(stderr, "%s\nsource: %s\ntree: %s\n", what, source.c_str(), tree.c_str());
+    std::abort();
+}
+
+class CFuzzedParser
+{
+public:
+    CFuzzedParser()
+    {
+        CUVDBOptionWrapper::SetParam(m_Info, "REPORT_UNEXPECTED_TOKENS", Uve::U8CString("1"));
+        try {
+            m_Parser.Load("Common");
+        } catch (const Uve::U8CString& message) {
+            std::fprintf(stderr, "%s\n", message.c_str());
+            std::abort();
+        }
+        m_Parser.set_DatabaseInfo(m_Info);
+        m_Parser.Init("");
+    }
+
+    void Check(const std::string& source)
+    {
+        m_Parser.set_Query(source.c_str());
+        const std::string raw = m_Parser.FastParse();
+        Expect(raw.empty() || WithoutControls(TreeText(raw)) == WithoutControls(source), "raw parse lost text", source,
+               raw);
+
+        Uve::U8CString prepared = source;
+        prepared.Replace("\xE2\x80\x8B", " ");
+        const int result = m_Parser.Parse(false);
+        Uve::U8CString tree;
+        m_Parser.get_SQLTree(tree);
+        Expect(result == UVDB_OK || tree.empty(), "failure with a tree", source, tree);
+        Expect(result != UVDB_OK || WithoutControls(TreeText(tree)) == WithoutControls(prepared), "parse lost text",
+               source, tree);
+        Uve::U8CString unexpected;
+        CUVDBOptionWrapper::GetParam(m_Info, "UNEXPECTED_TOKENS", unexpected);
+        Expect(unexpected.empty() != m_Parser.IsParseHasErrors(), "list of tokens and state differ", source,
+               unexpected);
+    }
+
+private:
+    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(
+        UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    CUVDBSQLParser m_Parser;
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static CFuzzedParser parser; // loading the tables for each input would be most of the work
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    parser.Check(std::string(bytes.substr(0, bytes.find('\0'))));
+    return 0;
+}

@@ -1,0 +1,11 @@
+%define lr.default-reduction consistent
+%define api.value.type {int}
+%token TOPEN TNAME TCLOSE TKEY TWORD TUNKNOWN
+%start SQL
+%%
+SQL: words { CREATE_NODE(SQL, 1); } ;
+words: %empty { EMPTY(none); }
+     | words word { CREATE_NODE(words, 2); } ;
+word: TNAME | TKEY | TWORD
+    | TOPEN words TCLOSE { CREATE_NODE(subquery, 3); } ;
+%%

@@ -1,0 +1,144 @@
+// A parser over the fixture grammar Basic, with its insides in reach, a database info and a log.
+//
+// The grammar takes double-quoted text in `use` statements as an identifier and in `print` statements as a string, so
+// the first is clean under one rule for quoted identifiers and the second under the other.
+#pragma once
+
+#include "Catalogue/UVDBDatabaseKinds.h"
+#include "Catalogue/UVDBHelpers.h"
+#include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBObjectInfo.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVParser.h"
+#include "Tests/Parser/TreeText.h"
+#include "Tests/Support/MemoryLog.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+class CParserProbe : public CUVDBSQLParser
+{
+public:
+    using CUVDBSQLParser::ExtractLineNumber;
+    using CUVDBSQLParser::GetErrorPlace;
+    using CUVDBSQLParser::m_ColoringLexer;
+    using CUVDBSQLParser::m_ColoringMode;
+    using CUVDBSQLParser::m_CommentMode;
+    using CUVDBSQLParser::m_ExtParserSize;
+    using CUVDBSQLParser::m_ExtParserSizeCopy;
+    using CUVDBSQLParser::m_Lexer;
+    using CUVDBSQLParser::m_Parser;
+    using CUVDBSQLParser::m_PatternProcess;
+    using CUVDBSQLParser::m_TryOtherOpts;
+    using CUVDBSQLParser::SetLastError;
+
+    int ExecuteTree2Serial() override
+    {
+        ++m_FlattenCount;
+        return m_Flatten ? m_Flatten() : CUVDBSQLParser::ExecuteTree2Serial();
+    }
+
+    int m_FlattenCount = 0;
+    std::function<int()> m_Flatten;
+};
+
+inline constexpr char kFixtureGrammar[] = "Common";
+
+class ParserTest : public testing::Test
+{
+protected:
+    template <class T>
+    void SetOption(const char* name, const T& value)
+    {
+        CUVDBOptionWrapper::SetParam(m_Info, name, value);
+    }
+    void SetOption(const char* name, const char* value) { SetOption(name, Uve::U8CString(value)); }
+
+    template <class T>
+    T Option(const char* name)
+    {
+        T value{};
+        CUVDBOptionWrapper::GetParam(m_Info, name, value);
+        return value;
+    }
+
+    void SetDatabase(std::uint64_t kind, std::uint64_t subType = UVDB_NO_VERSION_WORD,
+                     std::uint64_t major = UVDB_NO_VERSION_WORD, std::uint64_t minor = UVDB_NO_VERSION_WORD)
+    {
+        m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(kind, subType, major, minor));
+    }
+
+    void SetFilePath(const char* path)
+    {
+        std::shared_ptr<IUVDBObjectInfo> object;
+        m_Info->create_new_object(object, 0);
+        CUVDBOptionWrapper::SetParam(object, "FilePath", Uve::U8CString(path));
+        m_Parser.set_ConvertingObject(object);
+    }
+
+    void Load()
+    {
+        try {
+            ASSERT_EQ(m_Parser.Load(kFixtureGrammar), UVDB_OK);
+        } catch (const Uve::U8CString& message) {
+            FAIL() << message;
+        }
+    }
+
+    // The host's calling order.
+    void Start(const char* mode = "")
+    {
+        ASSERT_NO_FATAL_FAILURE(Load());
+        ASSERT_EQ(m_Parser.set_DatabaseInfo(m_Info), UVDB_OK);
+        ASSERT_EQ(m_Parser.Init(mode), UVDB_OK);
+    }
+
+    int Parse(const char* text)
+    {
+        m_Parser.set_Query(text);
+        return m_Parser.Parse(false);
+    }
+
+    std::string Tree()
+    {
+        Uve::U8CString tree;
+        m_Parser.get_SQLTree(tree);
+        return tree;
+    }
+
+    std::string LastDescription()
+    {
+        std::shared_ptr<IUVDBErrorInfo> error;
+        m_Parser.get_LastError(error);
+        if (!error)
+            return "no record";
+        std::size_t length = 0;
+        error->get_Description(nullptr, 0, &length);
+        std::string description(length + 1, '\0');
+        error->get_Description(description.data(), description.size(), &length);
+        description.resize(length);
+        return description;
+    }
+
+    std::map<std::string, int> LastErrorList()
+    {
+        std::shared_ptr<IUVDBErrorInfo> error;
+        m_Parser.get_LastError(error);
+        void* list = nullptr;
+        if (!error || error->get_ErrorList(&list) != UVDB_OK)
+            return {};
+        return *static_cast<std::map<std::string, int>*>(list);
+    }
+
+    CLogCapture m_Log;
+    std::shared_ptr<IUVDBDatabaseInfo2> m_Info =
+        UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD,
+                                                           UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    CParserProbe m_Parser;
+};

@@ -1,0 +1,67 @@
+// The built library as a host sees it: nothing but the entry symbol and the interface.
+#include "Catalogue/UVDBDatabaseKinds.h"
+#include "Catalogue/UVDBHelpers.h"
+#include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBSQLParser.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Tests/Parser/ParserFixture.h"
+#include "UVEnvironment/PluginHelpers.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include <boost/dll/library_info.hpp>
+
+namespace
+{
+
+TEST(PluginEntry, SymbolStandsInASectionOfItsOwn)
+{
+    boost::dll::library_info library(UV_BIN_DIR "/libUVParser.so");
+    const std::vector<std::string> symbols = library.symbols("boostdll");
+    EXPECT_NE(std::ranges::find(symbols, "CreateInstanceIUVDBSQLParser"), symbols.end());
+}
+
+TEST(PluginEntry, HostWalksTheCallingOrder)
+{
+    const auto log = std::make_shared<CMemoryLog>();
+    const auto parser = PluginHelpers::CreateParser(UV_BIN_DIR "/libUVParser.so");
+    const auto info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(
+        UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    CUVDBOptionWrapper::SetParam(info, "REPORT_UNEXPECTED_TOKENS", Uve::U8CString("1"));
+
+    ASSERT_EQ(parser->set_Log(log), UVDB_OK);
+    ASSERT_EQ(parser->Load(GetParserModuleName(info->get_DbmsVersion())), UVDB_OK);
+    ASSERT_EQ(parser->set_DatabaseInfo(info), UVDB_OK);
+    ASSERT_EQ(parser->Init(""), UVDB_OK);
+    EXPECT_TRUE(log->Text().starts_with("\nUVParserCommon : Creation...OK")) << log->Text();
+
+    Uve::U8CString tree;
+    parser->set_Query("print 'a<b';");
+    ASSERT_EQ(parser->Parse(false), UVDB_OK);
+    ASSERT_EQ(parser->get_SQLTree(tree), UVDB_OK);
+    EXPECT_EQ(TreeText(tree), "print 'a<b';");
+
+    // The texts and records below are made by the library and read here.
+    parser->set_Query("print 1 1");
+    ASSERT_EQ(parser->Parse(false), UVDB_ERROR);
+    std::shared_ptr<IUVDBErrorInfo> error;
+    ASSERT_EQ(parser->get_LastError(error), UVDB_OK);
+    char description[256];
+    std::size_t length = 0;
+    ASSERT_EQ(error->get_Description(description, sizeof description, &length), UVDB_OK);
+    EXPECT_STREQ(description, "1 '1' Code lines:\n<<<<\nprint 1 1\n>>>>\n");
+    Uve::U8CString tokens;
+    EXPECT_TRUE(CUVDBOptionWrapper::GetParam(info, "UNEXPECTED_TOKENS", tokens));
+    EXPECT_EQ(tokens, "1\t9\t8\t1\t1\n");
+
+    Uve::U8CString text = "<SQL/>";
+    EXPECT_EQ(parser->Tree2Serial(info, text), UVDB_NOT_SUPPORTED);
+    EXPECT_EQ(text, "<SQL/>");
+    EXPECT_THROW(parser->Load("NoSuchGrammar"), Uve::U8CString);
+}
+
+} // namespace

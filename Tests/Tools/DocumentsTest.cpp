@@ -1,0 +1,97 @@
+#include "Tools/Support/ToolFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<fs::path> Documents()
+{
+    std::vector<fs::path> documents;
+    for (const auto& entry : fs::directory_iterator(UV_SOURCE_DIR))
+        if (entry.path().extension() == ".md")
+            documents.push_back(entry.path());
+    for (const char* folder : {"Documentation", "Languages"})
+        for (const auto& entry : fs::recursive_directory_iterator(fs::path(UV_SOURCE_DIR) / folder))
+            if (entry.path().extension() == ".md")
+                documents.push_back(entry.path());
+    return documents;
+}
+
+// A code block that shows a file of the project stands behind a comment with the file's path.
+TEST(Documents, CodeBlocksAreTheFilesThatTheyShow)
+{
+    int blocks = 0;
+    for (const fs::path& document : Documents()) {
+        const std::string text = ReadWholeFile(document.string());
+        const std::string open = "<!-- ";
+        for (std::size_t at = text.find(open); at != std::string::npos; at = text.find(open, at + 1)) {
+            const std::size_t nameEnd = text.find(" -->\n```cpp\n", at);
+            const std::string name = text.substr(at + open.size(), nameEnd - at - open.size());
+            SCOPED_TRACE(document.string() + ": " + name);
+            ASSERT_NE(nameEnd, std::string::npos);
+            const std::size_t begin = text.find("```cpp\n", nameEnd) + 7;
+            EXPECT_EQ(text.substr(begin, text.find("```", begin) - begin),
+                      ReadWholeFile((fs::path(UV_SOURCE_DIR) / name).string()));
+            ++blocks;
+        }
+    }
+    EXPECT_EQ(blocks, 2);
+}
+
+TEST(Documents, PathsInThemLeadSomewhere)
+{
+    const std::regex path(
+        "`((?:Interfaces|Libraries|Catalogue|Metadata|Stylesheets|Grammar|Parser|Tools|Languages|"
+        "Tests|Benchmarks|Documentation|cmake|\\.ci)/[A-Za-z0-9_./-]+)`");
+    for (const fs::path& document : Documents()) {
+        const std::string text = ReadWholeFile(document.string());
+        for (std::sregex_iterator found(text.begin(), text.end(), path), end; found != end; ++found)
+            EXPECT_TRUE(fs::exists(fs::path(UV_SOURCE_DIR) / (*found)[1].str()))
+                << document << ": " << (*found)[1].str();
+    }
+}
+
+struct SRun
+{
+    int status;
+    std::string output;
+};
+
+SRun Shell(const std::string& command)
+{
+    const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
+    const std::string file = folder.Path() + "/output";
+    const int status = std::system((command + " >'" + file + "' 2>&1").c_str());
+    return {status, ReadWholeFile(file)};
+}
+
+TEST(Documents, TheHostsInThemGiveTheTreesThatUvparseGives)
+{
+    const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
+    const std::string file = folder.Path() + "/a.sql";
+    WriteWholeFile(file, "select 'every byte' -- comes back\n from the, tree;");
+    const SRun tree = Shell(UV_BIN_DIR "/uvparse " + file);
+    ASSERT_EQ(tree.status, 0) << tree.output;
+
+    const SRun host = Shell(UV_BIN_DIR "/host_example " + file);
+    EXPECT_EQ(host.status, 0);
+    EXPECT_EQ(host.output, tree.output);
+    const SRun readme = Shell(UV_BIN_DIR "/readme_host");
+    EXPECT_EQ(readme.status, 0);
+    EXPECT_EQ(readme.output, tree.output);
+
+    WriteWholeFile(file, "select from from t;");
+    const SRun bad = Shell(UV_BIN_DIR "/host_example " + file);
+    EXPECT_NE(bad.status, 0);
+    EXPECT_NE(bad.output.find("a.sql: "), std::string::npos) << bad.output;
+}
+
+} // namespace

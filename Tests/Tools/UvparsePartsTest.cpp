@@ -1,0 +1,318 @@
+#include "Tools/Support/ToolFiles.h"
+#include "Tools/uvparse/CommandLine.h"
+#include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/SourceText.h"
+#include "Tools/uvparse/TreeText.h"
+#include "Tools/uvparse/UnexpectedTokens.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+using namespace uvparse;
+using namespace std::string_literals;
+
+namespace {
+
+SCommandLine Read(std::vector<const char*> arguments)
+{
+    arguments.insert(arguments.begin(), "uvparse");
+    return ReadCommandLine(static_cast<int>(arguments.size()), arguments.data());
+}
+
+struct SDecodeCase
+{
+    std::string bytes;
+    std::string text;    // empty: refused
+    std::string refusal; // what the message must hold
+};
+
+const SDecodeCase kDecodeCases[] = {
+    {"a\xC3\xA9", "a\xC3\xA9", ""},
+    {"\xEF\xBB\xBFselect", "select", ""},
+    {"\xEF\xBB\xBF"s + "x\xEF\xBB\xBF", "x\xEF\xBB\xBF", ""}, // a mark behind the start is text
+    {"\xFF\xFEs\0\xE9\0=\xD8\0\xDE"s, "s\xC3\xA9\xF0\x9F\x98\x80", ""},
+    {"\xFE\xFF\0s\0\xE9\xD8=\xDE\0"s, "s\xC3\xA9\xF0\x9F\x98\x80", ""},
+    {"\xFF\xFE\0\0s\0\0\0\0\xF6\x01\0"s, "s\xF0\x9F\x98\x80", ""},
+    {"\0\0\xFE\xFF\0\0\0s\0\x01\xF6\0"s, "s\xF0\x9F\x98\x80", ""},
+    {"select 'caf\xE9", "", "byte 0xE9 at byte offset 11"},
+    {"\xEF\xBB\xBF"s + "ab\x80", "", "byte 0x80 at byte offset 5"}, // counted in the file, mark included
+    {"select\0 1"s, "", "NUL byte, which source text can't hold, at byte offset 6"},
+    {"s\0e\0l\0"s, "", "NUL byte, which source text can't hold, at byte offset 1"},
+    {"\xFF\xFEs\0\0\0"s, "", "NUL character"},
+    {"\xFF\xFEs\0\x3D\xD8s\0"s, "", "not well-formed UTF-16 at byte offset 4"}, // half of a pair
+    {"\xFF\xFEs\0x"s, "", "cut off at byte offset 4"},
+    {"\xFF\xFE\0\0s\0\0\0x\0"s, "", "cut off at byte offset 8"},
+    {"\xFF\xFE\0\0\0\0\x11\0"s, "", "not well-formed UTF-32 at byte offset 4"},
+};
+
+TEST(UvparseSourceText, MarksDecideAndWhatIsNoTextIsRefusedWithItsOffset)
+{
+    for (const auto& c : kDecodeCases) {
+        SCOPED_TRACE(testing::PrintToString(c.bytes));
+        if (c.refusal.empty()) {
+            EXPECT_EQ(DecodeSourceText(c.bytes, "f"), c.text);
+            continue;
+        }
+        try {
+            DecodeSourceText(c.bytes, "f.sql");
+            ADD_FAILURE() << "not refused";
+        } catch (const CToolFailure& e) {
+            EXPECT_EQ(std::string(e.what()).substr(0, 7), "f.sql: ");
+            EXPECT_NE(std::string(e.what()).find(c.refusal), std::string::npos) << e.what();
+        }
+    }
+}
+
+TEST(UvparseSourceText, UTF16LongerThanOnePieceKeepsItsPairs)
+{
+    // The pieces of the conversion end in the middle of a surrogate pair.
+    std::string bytes = "\xFF\xFE"s + "x\0"s;
+    std::string text = "x";
+    for (int i = 0; i < 600000; ++i) {
+        bytes += "\x3D\xD8\0\xDE"s;
+        text += "\xF0\x9F\x98\x80";
+    }
+    EXPECT_EQ(DecodeSourceText(bytes, "f"), text);
+}
+
+struct STreeCase
+{
+    const char* tree;
+    std::string text;
+    bool isEqual;
+    std::size_t treeOffset;
+    std::size_t textOffset;
+};
+
+const STreeCase kTreeCases[] = {
+    {"<SQL><a>x</a> <b p=\"1\">y</b></SQL>", "x y", true, 0, 0},
+    {"<?xml version=\"1.0\" ?><SQL><!-- > --><e/>a&lt;b&gt;&amp;&apos;&quot;&#13;&#xe9;</SQL>",
+     "a<b>&'\"\r\xC3\xA9", true, 0, 0},
+    {"", "", true, 0, 0},
+    {"<a>xy</a>", "x\x0Cy\x0C", true, 0, 0}, // form feeds aren't in the tree
+    {"<a>xORVANTA_DATA_LINK_ESCAPE_REPLACERy</a>", "x\x10y", true, 0, 0},
+    {"<a>ORVANTA_DATA_LINK_</a><b>ESCAPE_REPLACER</b>", "\x10", true, 0, 0},
+    {"<a>ORVANTA_DATA_LINK_ESCAPE_REPLACER</a>", "ORVANTA_DATA_LINK_ESCAPE_REPLACER", true, 0, 0},
+    {"<a>xORVANTA_DATA_LINK_ESC</a>", "x\x10", false, 29, 1},
+    {"<a>abc</a>", "abd", false, 5, 2},
+    {"<a>ab</a>", "abc", false, 9, 2},
+    {"<a>abc</a>", "ab", false, 5, 2},
+    {"<a>a&lt;</a>", "a&", false, 4, 1},
+    {"<a>a&amp;lt;</a>", "a<", false, 4, 1}, // escaped twice
+    {"<a>a&b</a>", "a&b", false, 4, 1},      // escaped not at all
+    {"<a>a&unknown;</a>", "a&unknown;", false, 4, 1},
+    {"<a>a</a", "a", false, 4, 1},
+};
+
+TEST(UvparseTreeText, TreeAndSourceAreComparedByteForByte)
+{
+    for (const auto& c : kTreeCases) {
+        SCOPED_TRACE(c.tree);
+        const std::optional<STreeDifference> difference = FindTreeDifference(c.tree, c.text);
+        EXPECT_EQ(!difference, c.isEqual);
+        if (difference && !c.isEqual) {
+            EXPECT_EQ(difference->treeOffset, c.treeOffset);
+            EXPECT_EQ(difference->textOffset, c.textOffset);
+        }
+    }
+}
+
+TEST(UvparseTreeText, StatementsAreCountedOnceHoweverTheyNest)
+{
+    const std::string inner = "<pl_sql_statement><select></select></pl_sql_statement>";
+    const std::string delimited = "<delimited_pl_sql_statement>" + inner + "</delimited_pl_sql_statement>";
+    EXPECT_EQ(CountStatements(""), 0u);
+    EXPECT_EQ(CountStatements("<SQL><pl_sql_statements></pl_sql_statements></SQL>"), 0u);
+    EXPECT_EQ(CountStatements("<SQL>" + delimited + delimited + inner + "</SQL>"), 3u);
+    EXPECT_EQ(
+        CountStatements("<pl_sql_statement><body>" + delimited + delimited + "</body></pl_sql_statement>"),
+        1u);
+    EXPECT_EQ(CountStatements("<delimited_pl_sql_statement></delimited_pl_sql_statement>" + inner), 2u);
+    EXPECT_EQ(CountStatements("<pl_sql_statement_delimiter></pl_sql_statement_delimiter>"), 0u);
+}
+
+struct SPlaceCase
+{
+    std::size_t offset;
+    std::size_t line;
+    std::size_t column;
+};
+
+TEST(UvparseTokens, ColumnsAreCodePointsHoweverPlacesAreAskedFor)
+{
+    //                          0    1   2 4  5   6     9 10
+    const std::string text = "a\n\xC3\xA9"
+                             "b\n\xE2\x82\xAC"
+                             "c\n";
+    const SPlaceCase places[] = {{0, 1, 1}, {1, 1, 2}, {2, 2, 1},  {4, 2, 2},  {5, 2, 3},
+                                 {6, 3, 1}, {9, 3, 2}, {10, 3, 3}, {11, 4, 1}, {99, 4, 1}};
+    // Every ordered pair, so that no answer depends on the question before.
+    for (const auto& first : places)
+        for (const auto& second : places) {
+            CTextPlaces finder(text);
+            finder.Find(first.offset);
+            const STextPlace place = finder.Find(second.offset);
+            SCOPED_TRACE(testing::Message() << first.offset << " then " << second.offset);
+            EXPECT_EQ(place.line, second.line);
+            EXPECT_EQ(place.column, second.column);
+        }
+}
+
+std::string Messages(const std::string& text, std::vector<SUnexpectedToken> tokens)
+{
+    std::ostringstream stream;
+    CToolMessages messages("uvparse", stream);
+    WriteUnexpectedTokens(messages, stream, "f.sql", text, std::move(tokens));
+    return stream.str();
+}
+
+TEST(UvparseTokens, MessagesPointAtTheToken)
+{
+    EXPECT_EQ(Messages("select\n\t\xC3\xA9 form t;", {{11, 4}}), "f.sql:2:4: error: unexpected token 'form'\n"
+                                                                 "     \xC3\xA9 form t;\n"
+                                                                 "       ^\n");
+    EXPECT_EQ(Messages("a b", {{2, 1}, {0, 1}}),
+              "f.sql:1:1: error: unexpected token 'a'\n    a b\n    ^\n"
+              "f.sql:1:3: error: unexpected token 'b'\n    a b\n      ^\n");
+    EXPECT_EQ(Messages("a\n", {{2, 0}}), "f.sql:2:1: error: unexpected end of text\n");
+    EXPECT_EQ(Messages("'x\ny'", {{0, 5}}), "f.sql:1:1: error: unexpected token ''x...'\n    'x\n    ^\n");
+    EXPECT_EQ(Messages("\x1B[2J", {{0, 4}}), "f.sql:1:1: error: unexpected token ' [2J'\n     [2J\n    ^\n");
+    EXPECT_EQ(Messages("ab", {{7, 9}}), "f.sql:1:3: error: unexpected end of text\n    ab\n      ^\n");
+}
+
+TEST(UvparseTokens, LongLinesAreShownAroundThePlace)
+{
+    std::string text;
+    for (int i = 0; i < 1000; ++i)
+        text += "\xC3\xA9";
+    const std::string shown = Messages(text + "!" + text, {{2000, 1}});
+    const std::size_t line = shown.find("\n    ") + 5;
+    const std::size_t lineEnd = shown.find('\n', line);
+    EXPECT_EQ(shown.substr(0, line), "f.sql:1:1001: error: unexpected token '!'\n    ");
+    EXPECT_EQ(lineEnd - line, 2 * (60 + 59) + 1u);
+    EXPECT_EQ(shown.substr(lineEnd), "\n    " + std::string(60, ' ') + "^\n");
+}
+
+TEST(UvparseTokens, TokenListIsReadWhateverTheTokenHolds)
+{
+    const auto tokens = ReadTokenList("1\t2\t3\t4\tfoo bar\n\n2\t1\t10\t0\t\nnonsense\n3\t1\t12\t1\t\t\n");
+    ASSERT_EQ(tokens.size(), 3u);
+    EXPECT_EQ(tokens[0].offset, 3u);
+    EXPECT_EQ(tokens[0].length, 4u);
+    EXPECT_EQ(tokens[1].offset, 10u);
+    EXPECT_EQ(tokens[2].offset, 12u);
+}
+
+TEST(UvparseSourceText, ZeroWidthSpacesAreBlanksInPreparedText)
+{
+    EXPECT_EQ(PreparedText("\xE2\x80\x8B"
+                           "a\xE2\x80\x8B\xE2\x80\x8B"
+                           "b\xE2\x80\x8C\xE2\x80\x8B"),
+              " a  b\xE2\x80\x8C ");
+    EXPECT_EQ(PreparedText("plain"), "plain");
+}
+
+struct SChoiceCase
+{
+    const char* language;
+    const char* database;
+    const char* path;
+    const char* parser; // null: refused
+    std::uint64_t db;
+    const char* refusal;
+};
+
+TEST(UvparseLanguage, RulesAreTriedInOrder)
+{
+    const CLanguageChoice here({"COBOL", "MySQL", "Pascal", "PostgreSQL", "Tiny"});
+    const SChoiceCase cases[] = {
+        {"PostgreSQL", "", "x", "PostgreSQL", 8, ""},
+        {"Tiny", "", "x.sql", "Tiny", 60, ""}, // a grammar that no database has
+        {"Tiny", "mysql", "x.sql", "Tiny", 5, ""},
+        {"", "Postgre", "x.cob", "PostgreSQL", 8, ""}, // the wizard's name
+        {"", "postgresql", "-", "PostgreSQL", 8, ""},
+        {"", "8", "-", "PostgreSQL", 8, ""},
+        {"", "UVDB_DB_MySQL", "-", "MySQL", 5, ""},
+        {"", "", "a/b.CBL/x.COB", "COBOL", 90, ""},
+        {"", "", "x.pas", "Pascal", 82, ""}, // two kinds, one grammar
+        {"", "", "x.sql", nullptr, 0, "several languages"},
+        {"", "", "x.java", nullptr, 0, "no language here"},
+        {"", "", "x.", nullptr, 0, "no extension"},
+        {"", "", "a.sql/x", nullptr, 0, "no extension"},
+        {"", "", "-", nullptr, 0, "Languages: COBOL MySQL Pascal PostgreSQL Tiny"},
+        {"postgresql", "", "x.sql", nullptr, 0, "there is no language 'postgresql'. Languages: COBOL"},
+        {"../Grammar/Tiny", "", "x.sql", nullptr, 0, "is no parser name"},
+        {"/etc", "", "x.sql", nullptr, 0, "is no parser name"},
+        {"", "Oracle", "x.sql", nullptr, 0, "there is no language 'Oracle'"},
+        {"", "nonesuch", "x.sql", nullptr, 0, "no database is called 'nonesuch'"},
+        {"", "128x", "x.sql", nullptr, 0, "no database is called"},
+        {"", "4000", "x.sql", nullptr, 0, "there is no database kind 4000"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.language << '|' << c.database << '|' << c.path);
+        try {
+            const SLanguage language = here.Choose(c.language, c.database, c.path);
+            ASSERT_NE(c.parser, nullptr) << "gave " << language.parserName;
+            EXPECT_EQ(language.parserName, c.parser);
+            EXPECT_EQ(language.version.db, c.db);
+        } catch (const CLanguageError& e) {
+            EXPECT_EQ(c.parser, nullptr) << e.what();
+            EXPECT_NE(std::string(e.what()).find(c.refusal), std::string::npos) << e.what();
+        }
+    }
+}
+
+struct SDatabaseCase
+{
+    const char* text;
+    std::uint64_t db, subType, major, minor;
+};
+
+TEST(UvparseLanguage, DatabaseHasSubtypeAndVersion)
+{
+    const std::uint64_t none = UVDB_NO_VERSION_WORD;
+    const SDatabaseCase cases[] = {
+        {"Oracle", 1, none, none, none},  {"DB2 AS400", 0, 2, none, none}, {"SYBASE_ASE::12.5", 4, 1, 12, 5},
+        {"SYBASE:1:12.49", 4, 1, 12, 49}, {"8::15", 8, none, 15, none},    {"DB2 OS390:2", 0, 2, none, none},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        const DB_VERSION_INFO version = ReadDatabase(c.text);
+        EXPECT_EQ(version.db, c.db);
+        EXPECT_EQ(version.subType, c.subType);
+        EXPECT_EQ(version.major, c.major);
+        EXPECT_EQ(version.minor, c.minor);
+    }
+    for (const char* bad : {"Sybase ASE:1", "8:x", "8::1.x", "8::-1", "8::1.2.3", ""})
+        EXPECT_THROW(ReadDatabase(bad), CLanguageError) << bad;
+}
+
+TEST(UvparseCommandLine, OptionsMeanWhatTheySay)
+{
+    const SCommandLine line = Read({"-l", "X", "-o", "A=b=c", "--option=D=", "--object-option", "E=-1",
+                                    "--raw", "-", "--stat", "f.sql", "--", "--raw"});
+    EXPECT_EQ(line.language, "X");
+    EXPECT_EQ(line.options, (std::vector<std::pair<std::string, std::string>>{{"A", "b=c"}, {"D", ""}}));
+    EXPECT_EQ(line.objectOptions, (std::vector<std::pair<std::string, std::string>>{{"E", "-1"}}));
+    EXPECT_EQ(line.files, (std::vector<std::string>{"-", "f.sql", "--raw"}));
+    EXPECT_TRUE(line.isRaw && line.isStat);
+    EXPECT_FALSE(line.isVerify || line.isColor || line.isQuiet);
+}
+
+TEST(UvparseCommandLine, WhatMakesNoSenseIsRefused)
+{
+    EXPECT_THROW(Read({}), CUsageError);
+    EXPECT_THROW(Read({"--nonesuch", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--verif", "f"}),
+                 CUsageError); // no guessing: a later option could change what it means
+    EXPECT_THROW(Read({"-o", "novalue", "f"}), CUsageError);
+    EXPECT_THROW(Read({"-o", "=x", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--color", "--verify", "f"}), CUsageError);
+    EXPECT_NO_THROW(Read({"--help"}));
+}
+
+} // namespace

@@ -1,0 +1,108 @@
+#include "Tools/uvparse/CommandLine.h"
+
+#include <boost/program_options.hpp>
+
+#include <sstream>
+
+namespace po = boost::program_options;
+
+namespace uvparse {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts& objectOptions)
+{
+    po::options_description visible("Options", 100);
+    // clang-format off
+    visible.add_options()
+        ("language,l", po::value(&line.language)->value_name("NAME"), "parser name; else chosen by --db or by the file's extension")
+        ("db", po::value(&line.database)->value_name("KIND[:SUBTYPE[:VERSION]]"), "database by number or by any of its names")
+        ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
+        ("object-option", po::value(&objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
+        ("raw", po::bool_switch(&line.isRaw), "the tree of the text as it stands, neither prepared nor flattened")
+        ("color", po::bool_switch(&line.isColor), "the coloring map instead of the tree")
+        ("verify", po::bool_switch(&line.isVerify), "check that the tree's text equals the source text")
+        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color) instead of standard output")
+        ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages that are there")
+        ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
+        ("time", po::bool_switch(&line.isTime), "tell how long each step took")
+        ("stat", po::bool_switch(&line.isStat), "count statements, unexpected tokens, bytes a second")
+        ("quiet", po::bool_switch(&line.isQuiet), "no progress and no messages but about what could not run")
+        ("version", po::bool_switch(&line.isVersion), "print the version")
+        ("help", po::bool_switch(&line.isHelp), "print this help");
+    // clang-format on
+    return visible;
+}
+
+std::vector<std::pair<std::string, std::string>> SplitPairs(const Texts& texts, const char* option)
+{
+    std::vector<std::pair<std::string, std::string>> pairs;
+    for (const std::string& text : texts) {
+        const std::size_t equals = text.find('=');
+        if (equals == std::string::npos || equals == 0)
+            throw CUsageError(std::string(option) + " takes KEY=VALUE, not '" + text + "'");
+        pairs.emplace_back(text.substr(0, equals), text.substr(equals + 1));
+    }
+    return pairs;
+}
+
+void RefuseContradictions(const SCommandLine& line)
+{
+    if (line.isHelp || line.isVersion || line.isListLanguages)
+        return;
+    if (line.files.empty())
+        throw CUsageError("no file given ('-' reads standard input)");
+    if (line.isColor && (line.isRaw || line.isVerify || line.isStat))
+        throw CUsageError("--color makes no tree: it can't go with --raw, --verify or --stat");
+}
+
+} // namespace
+
+SCommandLine ReadCommandLine(int argc, const char* const* argv)
+{
+    SCommandLine line;
+    Texts options;
+    Texts objectOptions;
+    try {
+        po::options_description all = VisibleOptions(line, options, objectOptions);
+        all.add_options()("file", po::value(&line.files));
+        po::positional_options_description files;
+        files.add("file", -1);
+
+        using po::command_line_style::allow_guessing;
+        using po::command_line_style::unix_style;
+        po::variables_map values;
+        po::store(po::command_line_parser(argc, argv)
+                      .options(all)
+                      .positional(files)
+                      .style(unix_style & ~allow_guessing)
+                      .run(),
+                  values);
+        po::notify(values);
+    } catch (const po::error& e) {
+        throw CUsageError(e.what());
+    }
+    line.options = SplitPairs(options, "--option");
+    line.objectOptions = SplitPairs(objectOptions, "--object-option");
+    RefuseContradictions(line);
+    return line;
+}
+
+std::string HelpText()
+{
+    SCommandLine line;
+    Texts options;
+    Texts objectOptions;
+    std::ostringstream text;
+    text << "usage: uvparse [options] FILE... | -\n"
+            "Turns source text into an XML tree that keeps every byte of it.\n\n"
+         << VisibleOptions(line, options, objectOptions)
+         << "\nResults go to standard output, messages to standard error.\n"
+            "Exit code: 0 clean; 1 a text has unexpected tokens, failed to parse or differs from its tree;\n"
+            "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
+    return text.str();
+}
+
+} // namespace uvparse

@@ -1,0 +1,43 @@
+// What the user asked for on uvparse's command line.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace uvparse {
+
+struct SCommandLine
+{
+    std::vector<std::string> files; // "-" is standard input
+    std::string language;           // parser name; empty: by database or extension
+    std::string database;           // KIND[:SUBTYPE[:VERSION]]; empty: by language
+    std::vector<std::pair<std::string, std::string>> options;
+    std::vector<std::pair<std::string, std::string>> objectOptions;
+    std::string outputFolder; // empty: standard output
+    std::string traceFile;    // empty: no trace
+    bool isRaw = false;
+    bool isColor = false;
+    bool isVerify = false;
+    bool isTime = false;
+    bool isStat = false;
+    bool isQuiet = false;
+    bool isListLanguages = false;
+    bool isHelp = false;
+    bool isVersion = false;
+};
+
+// The command line makes no sense; the text says why.
+class CUsageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws: CUsageError.
+SCommandLine ReadCommandLine(int argc, const char* const* argv);
+
+std::string HelpText();
+
+} // namespace uvparse

@@ -1,0 +1,62 @@
+// Which grammar reads a text, and which database kind the text is of.
+#pragma once
+
+#include "Interfaces/DB_VERSION_INFO.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace uvparse {
+
+struct SLanguage
+{
+    std::string parserName;
+    DB_VERSION_INFO version;
+};
+
+// No language, or no single one, can be told; the text says why and lists the languages.
+class CLanguageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Chooses among the grammars that are there. The rules, first to last:
+//   a parser name is taken as it is given, and the database kind is the one whose texts it reads;
+//   a database names its parser;
+//   a file's extension is looked up in the catalogue, and must lead to exactly one grammar that is there.
+class CLanguageChoice
+{
+public:
+    // `grammars`: names of the grammars that are there, ascending.
+    explicit CLanguageChoice(std::vector<std::string> grammars) : m_Grammars(std::move(grammars)) {}
+
+    const std::vector<std::string>& GetGrammars() const { return m_Grammars; }
+
+    // `parserName` and `database` (KIND[:SUBTYPE[:VERSION]]) may be empty.
+    // Throws: CLanguageError.
+    SLanguage Choose(const std::string& parserName, const std::string& database,
+                     const std::string& path) const;
+
+private:
+    SLanguage ChooseByExtension(const std::string& path) const;
+    void RequireGrammar(const std::string& parserName) const;
+    std::string ListText() const;
+
+    std::vector<std::string> m_Grammars;
+};
+
+// The folders below `grammarFolder`, ascending; none if there is no such folder.
+std::vector<std::string> ListGrammars(const std::string& grammarFolder);
+
+// The database kind whose texts the parser reads.
+DB_VERSION_INFO VersionOfParser(const std::string& parserName);
+
+// KIND[:SUBTYPE[:VERSION]]: KIND is a number, any catalogue name or an enumerator's name, SUBTYPE a number,
+// VERSION "major" or "major.minor". An empty SUBTYPE is the one that belongs to the name. Throws:
+// CLanguageError.
+DB_VERSION_INFO ReadDatabase(std::string_view text);
+
+} // namespace uvparse

@@ -1,0 +1,168 @@
+#include "Tools/uvparse/ParserHost.h"
+
+#include "Interfaces/IUVDBDatabaseInfo.h"
+#include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBObjectInfo.h"
+#include "Interfaces/IUVDBSQLParser.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "UVEnvironment/PluginHelpers.h"
+
+#include <chrono>
+#include <stdexcept>
+
+namespace uvparse {
+
+namespace {
+
+constexpr char kUnexpectedTokens[] = "UNEXPECTED_TOKENS";
+
+class CStopwatch
+{
+public:
+    double Seconds() const
+    {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - m_Start).count();
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_Start = std::chrono::steady_clock::now();
+};
+
+template <class T>
+void SetTextOption(const std::shared_ptr<T>& object, const std::string& key, const std::string& value)
+{
+    if (CUVDBOptionWrapper::SetParam(object, key, Uve::U8CString(value)) != 0)
+        throw std::runtime_error("the option " + key + " can't take the value '" + value + "'");
+}
+
+// The library's texts are made for logs, where a line feed opens a record.
+std::string Trimmed(const std::string& text)
+{
+    const std::size_t begin = text.find_first_not_of(" \n");
+    return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(" \n") - begin + 1);
+}
+
+std::string Description(IUVDBErrorInfo& error)
+{
+    std::size_t length = 0;
+    if (error.get_Description(nullptr, 0, &length) != UVDB_OK)
+        return {};
+    std::string text(length + 1, '\0');
+    error.get_Description(text.data(), text.size(), &length);
+    text.resize(length);
+    return text;
+}
+
+} // namespace
+
+CParserHost::CParserHost(const SLanguage& language, const SHostSettings& settings)
+    : m_ParserName(language.parserName), m_Settings(settings),
+      m_DatabaseInfo(std::make_shared<CUVDBDatabaseInfo>(language.version)),
+      m_Parser(PluginHelpers::CreateParser())
+{
+    for (const auto& [key, value] : settings.options)
+        SetTextOption(m_DatabaseInfo, key, value);
+    SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "1");
+
+    m_DatabaseInfo->create_new_object(m_ConvertingObject, 0);
+    for (const auto& [key, value] : settings.objectOptions)
+        SetTextOption(m_ConvertingObject, key, value);
+
+    m_Parser->set_Log(settings.log);
+    Load();
+}
+
+CParserHost::~CParserHost() = default;
+
+void CParserHost::Load()
+{
+    const CStopwatch watch;
+    try {
+        m_Parser->Load(m_ParserName.c_str());
+    } catch (const Uve::U8CString& message) {
+        throw std::runtime_error(Trimmed(message));
+    }
+    // A grammar may have no state of its own for this kind of database; it then starts in its first one.
+    m_Parser->set_DatabaseInfo(m_DatabaseInfo);
+    if (m_Parser->Init(m_Settings.mode == enMode::Coloring ? "-cl" : "") != UVDB_OK)
+        throw std::runtime_error("the parser of '" + m_ParserName + "' could not be initialised");
+    m_LoadSeconds = watch.Seconds();
+}
+
+SParseResult CParserHost::Parse(const std::string& text, const std::string& path)
+{
+    // Column positions in the tree count on from the text before, unless the tables are loaded anew.
+    if (m_IsUsed)
+        Load();
+    m_IsUsed = true;
+
+    SetTextOption(m_ConvertingObject, "FilePath", path);
+    SetTextOption(m_DatabaseInfo, kUnexpectedTokens, "");
+    m_Parser->set_ConvertingObject(m_ConvertingObject);
+    m_Parser->set_Query(text.c_str());
+    if (m_Settings.mode != enMode::RawTree)
+        return RunParse();
+
+    // The fast way tells only that something is wrong. What it is comes from the ordinary one, whose own tree
+    // isn't wanted here.
+    SParseResult fast = RunFastParse();
+    if (fast.isParsed && !m_Parser->IsParseHasErrors())
+        return fast;
+    SParseResult report = RunParse();
+    fast.unexpectedTokens = std::move(report.unexpectedTokens);
+    if (fast.failure.empty())
+        fast.failure = std::move(report.failure);
+    return fast;
+}
+
+SParseResult CParserHost::RunFastParse()
+{
+    SParseResult result;
+    const CStopwatch watch;
+    try {
+        result.output = m_Parser->FastParse();
+        result.isParsed = !result.output.empty();
+    } catch (const std::exception& e) {
+        result.failure = e.what();
+    }
+    result.seconds = watch.Seconds();
+    return result;
+}
+
+SParseResult CParserHost::RunParse()
+{
+    SParseResult result;
+    const CStopwatch watch;
+    const int code = m_Parser->Parse(false);
+    Uve::U8CString output;
+    // A coloring map is no document, which Parse may answer with a failure: it is there all the same.
+    if (m_Settings.mode == enMode::Coloring) {
+        m_Parser->get_ColoringMap(output);
+        result.isParsed = code >= UVDB_OK || !output.empty();
+    } else {
+        result.isParsed = code >= UVDB_OK;
+        if (result.isParsed)
+            m_Parser->get_SQLTree(output);
+    }
+    result.output = std::move(output);
+    result.seconds = watch.Seconds();
+
+    Uve::U8CString tokens;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kUnexpectedTokens, tokens);
+    result.unexpectedTokens = ReadTokenList(tokens);
+    if (!result.isParsed)
+        result.failure = ReadFailure();
+    return result;
+}
+
+std::string CParserHost::ReadFailure() const
+{
+    std::shared_ptr<IUVDBErrorInfo> error;
+    m_Parser->get_LastError(error);
+    const std::string description = error ? Trimmed(Description(*error)) : std::string();
+    return description.empty() ? "the text could not be parsed" : description;
+}
+
+} // namespace uvparse

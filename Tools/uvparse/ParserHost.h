@@ -1,0 +1,78 @@
+// The library behind its plug-in entry: one parser object for one language, driven in the order that hosts
+// follow.
+#pragma once
+
+#include "Interfaces/ILog.h"
+#include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/UnexpectedTokens.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+class IUVDBDatabaseInfo2;
+class IUVDBObjectInfo;
+class IUVDBSQLParser;
+
+namespace uvparse {
+
+enum class enMode
+{
+    Tree,
+    RawTree, // of the text as it stands, not prepared, not flattened
+    Coloring
+};
+
+using TOptions = std::vector<std::pair<std::string, std::string>>;
+
+struct SHostSettings
+{
+    enMode mode = enMode::Tree;
+    TOptions options;          // of the database info
+    TOptions objectOptions;    // of the object being converted
+    std::shared_ptr<ILog> log; // may be empty
+};
+
+struct SParseResult
+{
+    bool isParsed = false; // false: the parse failed, `failure` tells why
+    std::string output;    // tree or coloring map; empty for an empty text
+    std::vector<SUnexpectedToken> unexpectedTokens;
+    std::string failure;
+    double seconds = 0; // what making the output took
+};
+
+class CParserHost
+{
+public:
+    // Creates the parser object and loads its tables.
+    // Throws: std::runtime_error.
+    CParserHost(const SLanguage& language, const SHostSettings& settings);
+    ~CParserHost();
+
+    CParserHost(const CParserHost&) = delete;
+    CParserHost& operator=(const CParserHost&) = delete;
+
+    // `path` becomes the option FilePath of the object being converted.
+    // Throws: std::runtime_error if the tables can't be loaded any more.
+    SParseResult Parse(const std::string& text, const std::string& path);
+
+    double GetLoadSeconds() const { return m_LoadSeconds; }
+
+private:
+    void Load();
+    SParseResult RunFastParse();
+    SParseResult RunParse();
+    std::string ReadFailure() const;
+
+    std::string m_ParserName;
+    SHostSettings m_Settings;
+    std::shared_ptr<IUVDBDatabaseInfo2> m_DatabaseInfo;
+    std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
+    std::shared_ptr<IUVDBSQLParser> m_Parser;
+    double m_LoadSeconds = 0;
+    bool m_IsUsed = false;
+};
+
+} // namespace uvparse

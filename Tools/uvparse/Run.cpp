@@ -1,0 +1,284 @@
+#include "Tools/uvparse/Run.h"
+
+#include "Tools/Support/ToolFiles.h"
+#include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/ParserHost.h"
+#include "Tools/uvparse/SourceText.h"
+#include "Tools/uvparse/TraceFile.h"
+#include "Tools/uvparse/TreeText.h"
+#include "Tools/uvparse/UnexpectedTokens.h"
+#include "UVEnvironment/FileHelper.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace uvparse {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+long Milliseconds(double seconds)
+{
+    return std::lround(seconds * 1000);
+}
+
+double SecondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+std::string ShownName(const std::string& path)
+{
+    return path == "-" ? "<stdin>" : path;
+}
+
+// Counts of one text, or of all.
+struct SStatistics
+{
+    std::size_t statements = 0;
+    std::size_t unexpectedTokens = 0;
+    std::size_t bytes = 0;
+    double seconds = 0;
+
+    SStatistics& operator+=(const SStatistics& other)
+    {
+        statements += other.statements;
+        unexpectedTokens += other.unexpectedTokens;
+        bytes += other.bytes;
+        seconds += other.seconds;
+        return *this;
+    }
+
+    std::string Text() const
+    {
+        const auto rate =
+            seconds > 0 ? static_cast<unsigned long long>(static_cast<double>(bytes) / seconds) : 0;
+        return std::to_string(statements) + " statements, " + std::to_string(unexpectedTokens) +
+               " unexpected tokens, " + std::to_string(bytes) + " bytes, " + std::to_string(rate) +
+               " bytes/s";
+    }
+};
+
+class CRun
+{
+public:
+    CRun(const SCommandLine& line, CToolMessages& messages);
+
+    int Run();
+
+private:
+    void ListLanguages();
+    void NameOutputs();
+    void RunFile(const std::string& path);
+    CParserHost& HostOf(const SLanguage& language);
+    void Report(const std::string& path, const std::string& text, const SParseResult& result);
+    void Verify(const std::string& path, const std::string& text, const SParseResult& result);
+    void WriteOutput(const std::string& path, const std::string& output);
+    void Tell(const std::string& path, const std::string& text);
+    void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
+
+    const SCommandLine& m_Line;
+    CToolMessages& m_Messages;
+    CLanguageChoice m_Languages;
+    std::shared_ptr<CTraceFile> m_Trace;
+    // By parser name and database, one parser object each.
+    std::map<std::string, std::unique_ptr<CParserHost>> m_Hosts;
+    std::map<std::string, std::string> m_OutputPaths; // by file
+    SStatistics m_Sum;
+    std::size_t m_Counted = 0;
+    CToolProgress m_Progress;
+    int m_ExitCode = kToolClean;
+};
+
+std::vector<std::string> GrammarsBesideProgram()
+{
+    return ListGrammars(Uve::Path::Combine(Uve::GetPathOfExe(), "Grammar"));
+}
+
+CRun::CRun(const SCommandLine& line, CToolMessages& messages)
+    : m_Line(line), m_Messages(messages), m_Languages(GrammarsBesideProgram()),
+      m_Progress(line.files.size(), !line.isQuiet)
+{}
+
+void CRun::ListLanguages()
+{
+    std::string text;
+    for (const std::string& name : m_Languages.GetGrammars())
+        text += name + '\n';
+    WriteStandardOutput(text);
+}
+
+// Two files of one name would overwrite each other's result, so that is found before the work begins.
+void CRun::NameOutputs()
+{
+    std::map<std::string, std::string> users;
+    for (const std::string& path : m_Line.files) {
+        std::string name = path == "-" ? "stdin" : std::filesystem::path(path).filename().string();
+        name += m_Line.isColor ? ".color" : ".xml";
+        const std::string target = (std::filesystem::path(m_Line.outputFolder) / name).string();
+        const auto [user, isFree] = users.emplace(target, path);
+        if (!isFree)
+            throw CToolFailure("'" + user->second + "' and '" + path + "' would both be written to '" +
+                               target + "'");
+        m_OutputPaths[path] = target;
+    }
+    std::error_code failed;
+    std::filesystem::create_directories(m_Line.outputFolder, failed);
+    if (failed)
+        throw CToolFailure(m_Line.outputFolder + ": " + failed.message());
+}
+
+CParserHost& CRun::HostOf(const SLanguage& language)
+{
+    // The database is the same for all files of a language, unless --db gives it, and then it is the same for
+    // all.
+    std::unique_ptr<CParserHost>& host = m_Hosts[language.parserName];
+    if (!host) {
+        SHostSettings settings;
+        settings.mode = m_Line.isColor ? enMode::Coloring : m_Line.isRaw ? enMode::RawTree : enMode::Tree;
+        settings.options = m_Line.options;
+        settings.objectOptions = m_Line.objectOptions;
+        settings.log = m_Trace;
+        host = std::make_unique<CParserHost>(language, settings);
+    }
+    return *host;
+}
+
+void CRun::Tell(const std::string& path, const std::string& text)
+{
+    m_Progress.Clear();
+    std::cerr << path << ": " << text << '\n';
+}
+
+void CRun::Verify(const std::string& path, const std::string& text, const SParseResult& result)
+{
+    const std::optional<STreeDifference> difference = FindTreeDifference(result.output, text);
+    if (!difference) {
+        if (!m_Line.isQuiet)
+            Tell(ShownName(path),
+                 "verified: the tree holds the " + std::to_string(text.size()) + " bytes of the text");
+        return;
+    }
+    const STextPlace place = CTextPlaces(text).Find(difference->textOffset);
+    m_Progress.Clear();
+    m_Messages.Write(
+        enSeverity::Error,
+        SSourcePlace{ShownName(path), static_cast<int>(place.line), static_cast<int>(place.column), {}},
+        "the tree's text differs from the source from byte " + std::to_string(difference->textOffset) +
+            " on (byte " + std::to_string(difference->treeOffset) + " of the tree)");
+    Worsen(kToolFindings);
+}
+
+void CRun::Report(const std::string& path, const std::string& text, const SParseResult& result)
+{
+    if (!result.unexpectedTokens.empty() || !result.isParsed)
+        Worsen(kToolFindings);
+    if (m_Line.isQuiet)
+        return;
+    m_Progress.Clear();
+    WriteUnexpectedTokens(m_Messages, std::cerr, ShownName(path), text, result.unexpectedTokens);
+    if (!result.isParsed && result.unexpectedTokens.empty())
+        m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}}, result.failure);
+}
+
+void CRun::WriteOutput(const std::string& path, const std::string& output)
+{
+    std::string closed;
+    std::string_view content = output;
+    if (!output.empty() && output.back() != '\n')
+        content = closed = output + '\n';
+    if (m_Line.outputFolder.empty())
+        WriteStandardOutput(content);
+    else
+        WriteWholeFile(m_OutputPaths.at(path), content);
+}
+
+void CRun::RunFile(const std::string& path)
+{
+    const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
+    const Clock::time_point start = Clock::now();
+    const std::string text = ReadSourceText(path);
+    const double readSeconds = SecondsSince(start);
+
+    CParserHost& host = HostOf(language);
+    SParseResult result = host.Parse(text, path);
+    const std::string prepared = PreparedText(text);
+    Report(path, prepared, result);
+    if (m_Line.isVerify && result.isParsed)
+        Verify(path, m_Line.isRaw ? text : prepared, result);
+    if (m_Line.isStat) {
+        const SStatistics statistics{CountStatements(result.output), result.unexpectedTokens.size(),
+                                     text.size(), result.seconds};
+        Tell(ShownName(path), statistics.Text());
+        m_Sum += statistics;
+        ++m_Counted;
+    }
+
+    const Clock::time_point writing = Clock::now();
+    if (result.isParsed)
+        WriteOutput(path, result.output);
+    if (m_Line.isTime)
+        Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
+                                  std::to_string(Milliseconds(readSeconds)) + " ms, parse " +
+                                  std::to_string(Milliseconds(result.seconds)) + " ms, write " +
+                                  std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
+}
+
+int CRun::Run()
+{
+    if (m_Line.isHelp) {
+        WriteStandardOutput(HelpText());
+        return kToolClean;
+    }
+    if (m_Line.isVersion) {
+        WriteStandardOutput("uvparse " UV_VERSION "\n");
+        return kToolClean;
+    }
+    if (m_Line.isListLanguages) {
+        ListLanguages();
+        return kToolClean;
+    }
+    if (!m_Line.outputFolder.empty())
+        NameOutputs();
+    if (!m_Line.traceFile.empty())
+        m_Trace = std::make_shared<CTraceFile>(m_Line.traceFile);
+
+    for (const std::string& path : m_Line.files) {
+        m_Progress.Step(ShownName(path));
+        try {
+            RunFile(path);
+        } catch (const CLanguageError& e) {
+            m_Progress.Clear();
+            m_Messages.Error(ShownName(path) + ": " + e.what());
+            Worsen(kToolCouldNotRun);
+        } catch (const std::exception& e) {
+            m_Progress.Clear();
+            m_Messages.Error(e.what());
+            Worsen(kToolCouldNotRun);
+        }
+    }
+    m_Progress.Clear();
+    if (m_Line.isStat && m_Counted > 1)
+        Tell("sum of " + std::to_string(m_Counted) + " texts", m_Sum.Text());
+    m_Hosts.clear();
+    if (m_Trace)
+        m_Trace->Close();
+    return m_ExitCode;
+}
+
+} // namespace
+
+int Run(const SCommandLine& line, CToolMessages& messages)
+{
+    return CRun(line, messages).Run();
+}
+
+} // namespace uvparse

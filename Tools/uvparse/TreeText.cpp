@@ -1,0 +1,212 @@
+#include "Tools/uvparse/TreeText.h"
+
+#include "UVEnvironment/UVEEncoding.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+
+namespace uvparse {
+
+namespace {
+
+constexpr char kFormFeed = '\x0C';
+constexpr char kDataLinkEscape = '\x10';
+constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLACER";
+
+// Hands out the text content of a tree piece by piece, unescaped.
+class CTreeTextReader
+{
+public:
+    explicit CTreeTextReader(std::string_view tree) : m_Tree(tree) {}
+
+    // The next piece, never empty before the end; valid until the next call.
+    // Returns: false at the end, or where the tree isn't well-formed.
+    bool Next(std::string_view& piece)
+    {
+        while (m_Offset < m_Tree.size()) {
+            m_PieceOffset = m_Offset;
+            switch (m_Tree[m_Offset]) {
+            case '<':
+                if (!SkipMarkup())
+                    return false;
+                break;
+            case '&':
+                return ReadEntity(piece);
+            default: {
+                const std::size_t end = std::min(m_Tree.find_first_of("<&", m_Offset), m_Tree.size());
+                piece = m_Tree.substr(m_Offset, end - m_Offset);
+                m_Offset = end;
+                return true;
+            }
+            }
+        }
+        m_PieceOffset = m_Offset;
+        return false;
+    }
+
+    bool IsAtEnd() const { return m_Offset == m_Tree.size(); }
+    std::size_t GetPieceOffset() const { return m_PieceOffset; }
+
+private:
+    bool SkipMarkup()
+    {
+        const std::string_view rest = m_Tree.substr(m_Offset);
+        const std::string_view close = rest.starts_with("<!--") ? "-->" : rest.starts_with("<?") ? "?>" : ">";
+        const std::size_t end = rest.find(close);
+        if (end == std::string_view::npos)
+            return false;
+        m_Offset += end + close.size();
+        return true;
+    }
+
+    bool ReadEntity(std::string_view& piece)
+    {
+        const std::size_t end = m_Tree.find(';', m_Offset);
+        if (end == std::string_view::npos)
+            return false;
+        const std::string_view name = m_Tree.substr(m_Offset + 1, end - m_Offset - 1);
+        if (name == "amp")
+            piece = "&";
+        else if (name == "lt")
+            piece = "<";
+        else if (name == "gt")
+            piece = ">";
+        else if (name == "apos")
+            piece = "'";
+        else if (name == "quot")
+            piece = "\"";
+        else if (!ReadCharacterReference(name, piece))
+            return false;
+        m_Offset = end + 1;
+        return true;
+    }
+
+    bool ReadCharacterReference(std::string_view name, std::string_view& piece)
+    {
+        if (!name.starts_with('#'))
+            return false;
+        name.remove_prefix(1);
+        const bool isHexadecimal = name.starts_with('x');
+        if (isHexadecimal)
+            name.remove_prefix(1);
+        unsigned int codePoint = 0;
+        const auto [end, error] =
+            std::from_chars(name.data(), name.data() + name.size(), codePoint, isHexadecimal ? 16 : 10);
+        if (error != std::errc() || end != name.data() + name.size() || codePoint > 0x10FFFF)
+            return false;
+        piece = {m_Sequence, static_cast<std::size_t>(Uve::Encoding::UTF8::cp2UTF8(codePoint, m_Sequence))};
+        return true;
+    }
+
+    std::string_view m_Tree;
+    std::size_t m_Offset = 0;
+    std::size_t m_PieceOffset = 0;
+    char m_Sequence[4] = {};
+};
+
+// The source text as the tree's content shows it, compared byte by byte with what comes from there.
+class CSourceTextMatcher
+{
+public:
+    explicit CSourceTextMatcher(std::string_view text) : m_Text(text) { SkipFormFeeds(); }
+
+    // Returns: how many bytes of `piece` match; `piece.size()` if all do.
+    std::size_t Match(std::string_view piece)
+    {
+        std::size_t matched = 0;
+        while (matched < piece.size()) {
+            if (!m_Word.empty()) {
+                if (piece[matched] != m_Word.front())
+                    return matched;
+                m_Word.remove_prefix(1);
+                ++matched;
+                if (m_Word.empty())
+                    Step(1);
+                continue;
+            }
+            const std::size_t run = EqualRun(piece.substr(matched));
+            if (run > 0) {
+                Step(run);
+                matched += run;
+            } else if (m_Offset < m_Text.size() && m_Text[m_Offset] == kDataLinkEscape) {
+                m_Word = kDataLinkEscapeWord;
+            } else {
+                return matched;
+            }
+        }
+        return matched;
+    }
+
+    bool IsAtEnd() const { return m_Offset == m_Text.size(); }
+    std::size_t GetOffset() const { return m_Offset; }
+
+private:
+    std::size_t EqualRun(std::string_view piece) const
+    {
+        const std::string_view rest = m_Text.substr(m_Offset, piece.size());
+        const auto [here, there] = std::mismatch(rest.begin(), rest.end(), piece.begin());
+        return static_cast<std::size_t>(here - rest.begin());
+    }
+
+    void Step(std::size_t count)
+    {
+        m_Offset += count;
+        SkipFormFeeds();
+    }
+
+    void SkipFormFeeds()
+    {
+        while (m_Offset < m_Text.size() && m_Text[m_Offset] == kFormFeed)
+            ++m_Offset;
+    }
+
+    std::string_view m_Text;
+    std::size_t m_Offset = 0;
+    std::string_view m_Word; // what is left of the word that stands for the character at m_Offset
+};
+
+bool IsStatement(std::string_view name)
+{
+    return name == "delimited_pl_sql_statement" || name == "pl_sql_statement";
+}
+
+} // namespace
+
+std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text)
+{
+    CTreeTextReader reader(tree);
+    CSourceTextMatcher matcher(text);
+    std::string_view piece;
+    while (reader.Next(piece)) {
+        const std::size_t matched = matcher.Match(piece);
+        if (matched != piece.size())
+            return STreeDifference{reader.GetPieceOffset() + matched, matcher.GetOffset()};
+    }
+    if (!reader.IsAtEnd() || !matcher.IsAtEnd())
+        return STreeDifference{reader.GetPieceOffset(), matcher.GetOffset()};
+    return std::nullopt;
+}
+
+std::size_t CountStatements(std::string_view tree)
+{
+    std::size_t count = 0;
+    std::size_t depth = 0; // of statement elements alone
+    for (std::size_t at = tree.find('<'); at != std::string_view::npos; at = tree.find('<', at)) {
+        const bool isEnd = tree.substr(++at).starts_with('/');
+        if (isEnd)
+            ++at;
+        // Elements of rules have no attributes, so their names end in the bracket.
+        constexpr std::size_t kLongestTag = 27;
+        const std::string_view tag = tree.substr(at, kLongestTag);
+        if (!IsStatement(tag.substr(0, tag.find('>'))))
+            continue;
+        if (isEnd)
+            depth -= depth > 0 ? 1 : 0;
+        else if (depth++ == 0)
+            ++count;
+    }
+    return count;
+}
+
+} // namespace uvparse

@@ -1,0 +1,25 @@
+// Questions to the XML text of a tree that don't need a document built from it.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace uvparse {
+
+struct STreeDifference
+{
+    std::size_t treeOffset = 0; // bytes into the XML
+    std::size_t textOffset = 0; // bytes into the source text
+};
+
+// Compares the text content of `tree`, unescaped, with `text`. Two control characters can't stand in XML and
+// are taken as the tree writes them: a form feed is left out, a data link escape is a word of its own.
+// Returns: where they part; nothing if they are equal.
+std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text);
+
+// The number of statements: of elements "delimited_pl_sql_statement" and "pl_sql_statement" that stand in no
+// other of these. A delimiter without a statement in front of it counts as one.
+std::size_t CountStatements(std::string_view tree);
+
+} // namespace uvparse
