@@ -118,7 +118,8 @@ block
     : chunk chunk chunk chunk chunk chunk chunk chunk                           { CREATE_NODE(pl_sql_statements, 8); }
     ;
 chunk
-    : delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 8); }
+    : delimited delimited delimited delimited delimited delimited delimited delimited
+      { CREATE_NODE(pl_sql_statements, 8); }
     ;
 
 section_rest
@@ -157,29 +158,32 @@ block_rest
     ;
 chunk_rest
     : last_statement                                                            { CREATE_NODE(pl_sql_statements, 1); }
-    | delimited_pl_sql_statement                                                { CREATE_NODE(pl_sql_statements, 1); }
-    | delimited_pl_sql_statement last_statement                                 { CREATE_NODE(pl_sql_statements, 2); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement                     { CREATE_NODE(pl_sql_statements, 2); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement last_statement      { CREATE_NODE(pl_sql_statements, 3); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 3); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement last_statement  { CREATE_NODE(pl_sql_statements, 4); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 4); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement last_statement  { CREATE_NODE(pl_sql_statements, 5); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 5); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement last_statement  { CREATE_NODE(pl_sql_statements, 6); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 6); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement last_statement  { CREATE_NODE(pl_sql_statements, 7); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement  { CREATE_NODE(pl_sql_statements, 7); }
-    | delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement delimited_pl_sql_statement last_statement  { CREATE_NODE(pl_sql_statements, 8); }
+    | delimited                                                                 { CREATE_NODE(pl_sql_statements, 1); }
+    | delimited last_statement                                                  { CREATE_NODE(pl_sql_statements, 2); }
+    | delimited delimited                                                       { CREATE_NODE(pl_sql_statements, 2); }
+    | delimited delimited last_statement                                        { CREATE_NODE(pl_sql_statements, 3); }
+    | delimited delimited delimited                                             { CREATE_NODE(pl_sql_statements, 3); }
+    | delimited delimited delimited last_statement                              { CREATE_NODE(pl_sql_statements, 4); }
+    | delimited delimited delimited delimited                                   { CREATE_NODE(pl_sql_statements, 4); }
+    | delimited delimited delimited delimited last_statement                    { CREATE_NODE(pl_sql_statements, 5); }
+    | delimited delimited delimited delimited delimited                         { CREATE_NODE(pl_sql_statements, 5); }
+    | delimited delimited delimited delimited delimited last_statement          { CREATE_NODE(pl_sql_statements, 6); }
+    | delimited delimited delimited delimited delimited delimited               { CREATE_NODE(pl_sql_statements, 6); }
+    | delimited delimited delimited delimited delimited delimited last_statement
+      { CREATE_NODE(pl_sql_statements, 7); }
+    | delimited delimited delimited delimited delimited delimited delimited     { CREATE_NODE(pl_sql_statements, 7); }
+    | delimited delimited delimited delimited delimited delimited delimited last_statement
+      { CREATE_NODE(pl_sql_statements, 8); }
     ;
 
-/* What stands behind the last delimiter. Only here a rule may end in an error. */
+/* What stands behind the last delimiter. A rule may end in an error where nothing but the end of the text follows:
+   anywhere else the parser would raise the error again on the same token. */
 last_statement
     : pl_sql_statement
     | error                                                                     { CREATE_NODE_WITH_ERROR(pl_sql_statement, 1, 0); }
     ;
 
-delimited_pl_sql_statement
+delimited
     : pl_sql_statement pl_sql_statement_delimiter                               { CREATE_NODE(delimited_pl_sql_statement, 2); }
     | pl_sql_statement_delimiter                                                { CREATE_NODE(delimited_pl_sql_statement, 1); }
     | error pl_sql_statement_delimiter                                          { CREATE_NODE_WITH_ERROR(delimited_pl_sql_statement, 2, 0); }
@@ -282,17 +286,22 @@ name_list_chunks
     | name_list_chunks T__COMMA name_list_chunk                                 { CREATE_NODE(name_list, 3); }
     ;
 name_list_chunk
-    : column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 15); }
+    : column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name
+      T__COMMA column_name T__COMMA column_name T__COMMA column_name            { CREATE_NODE(name_list, 15); }
     ;
 name_list_part
     : column_name                                                               { CREATE_NODE(name_list, 1); }
     | column_name T__COMMA column_name                                          { CREATE_NODE(name_list, 3); }
     | column_name T__COMMA column_name T__COMMA column_name                     { CREATE_NODE(name_list, 5); }
     | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 7); }
-    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 9); }
-    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 11); }
-    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 13); }
-    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name  { CREATE_NODE(name_list, 15); }
+    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name
+      { CREATE_NODE(name_list, 9); }
+    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name
+      T__COMMA column_name                                                      { CREATE_NODE(name_list, 11); }
+    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name
+      T__COMMA column_name T__COMMA column_name                                 { CREATE_NODE(name_list, 13); }
+    | column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name T__COMMA column_name
+      T__COMMA column_name T__COMMA column_name T__COMMA column_name            { CREATE_NODE(name_list, 15); }
     ;
 
 qualified_name_list
@@ -353,7 +362,8 @@ constant
     | T__NULL
     | function_name string_literal                                              { CREATE_NODE(typed_literal, 2); }
     | function_name T__LPAREN function_arguments T__RPAREN string_literal       { CREATE_NODE(typed_literal, 5); }
-    | function_name T__LPAREN function_arguments sort_clause T__RPAREN string_literal  { CREATE_NODE(typed_literal, 6); }
+    | function_name T__LPAREN function_arguments sort_clause T__RPAREN string_literal
+      { CREATE_NODE(typed_literal, 6); }
     | constant_type string_literal                                              { CREATE_NODE(typed_literal, 2); }
     | T__INTERVAL string_literal                                                { CREATE_NODE(typed_literal, 2); }
     | T__INTERVAL string_literal interval_fields                                { CREATE_NODE(typed_literal, 3); }
@@ -516,7 +526,8 @@ expression
     | expression T__SIMILAR T__TO expression %prec T__SIMILAR                   { CREATE_NODE(expression, 4); }
     | expression T__SIMILAR T__TO expression T__ESCAPE expression %prec T__SIMILAR  { CREATE_NODE(expression, 6); }
     | expression T__NOT_LA T__SIMILAR T__TO expression %prec T__NOT_LA          { CREATE_NODE(expression, 5); }
-    | expression T__NOT_LA T__SIMILAR T__TO expression T__ESCAPE expression %prec T__NOT_LA  { CREATE_NODE(expression, 7); }
+    | expression T__NOT_LA T__SIMILAR T__TO expression T__ESCAPE expression %prec T__NOT_LA
+      { CREATE_NODE(expression, 7); }
     | expression T__IS T__NULL %prec T__IS                                      { CREATE_NODE(expression, 3); }
     | expression T__IS T__NOT T__NULL %prec T__IS                               { CREATE_NODE(expression, 4); }
     | expression T__ISNULL                                                      { CREATE_NODE(expression, 2); }
@@ -533,13 +544,17 @@ expression
     | expression T__IS T__NOT normal_form T__NORMALIZED %prec T__IS             { CREATE_NODE(expression, 5); }
     | row T__OVERLAPS row                                                       { CREATE_NODE(expression, 3); }
     | expression T__BETWEEN restricted_expression T__AND expression %prec T__BETWEEN  { CREATE_NODE(expression, 5); }
-    | expression T__BETWEEN between_kind restricted_expression T__AND expression %prec T__BETWEEN  { CREATE_NODE(expression, 6); }
-    | expression T__NOT_LA T__BETWEEN restricted_expression T__AND expression %prec T__NOT_LA  { CREATE_NODE(expression, 6); }
-    | expression T__NOT_LA T__BETWEEN between_kind restricted_expression T__AND expression %prec T__NOT_LA  { CREATE_NODE(expression, 7); }
+    | expression T__BETWEEN between_kind restricted_expression T__AND expression %prec T__BETWEEN
+      { CREATE_NODE(expression, 6); }
+    | expression T__NOT_LA T__BETWEEN restricted_expression T__AND expression %prec T__NOT_LA
+      { CREATE_NODE(expression, 6); }
+    | expression T__NOT_LA T__BETWEEN between_kind restricted_expression T__AND expression %prec T__NOT_LA
+      { CREATE_NODE(expression, 7); }
     | expression T__IN in_list %prec T__IN                                      { CREATE_NODE(expression, 3); }
     | expression T__NOT_LA T__IN in_list %prec T__NOT_LA                        { CREATE_NODE(expression, 4); }
     | expression quantified_operator quantifier subquery %prec T__OPERATOR_SYMBOL  { CREATE_NODE(expression, 4); }
-    | expression quantified_operator quantifier T__LPAREN expression T__RPAREN %prec T__OPERATOR_SYMBOL  { CREATE_NODE(expression, 6); }
+    | expression quantified_operator quantifier T__LPAREN expression T__RPAREN %prec T__OPERATOR_SYMBOL
+      { CREATE_NODE(expression, 6); }
     | T__DEFAULT
     ;
 
@@ -563,8 +578,10 @@ restricted_expression
     | restricted_expression T__NOT_EQUAL restricted_expression                  { CREATE_NODE(expression, 3); }
     | restricted_expression operator restricted_expression %prec T__OPERATOR_SYMBOL  { CREATE_NODE(expression, 3); }
     | operator restricted_expression %prec T__OPERATOR_SYMBOL                   { CREATE_NODE(expression, 2); }
-    | restricted_expression T__IS T__DISTINCT T__FROM restricted_expression %prec T__IS  { CREATE_NODE(expression, 5); }
-    | restricted_expression T__IS T__NOT T__DISTINCT T__FROM restricted_expression %prec T__IS  { CREATE_NODE(expression, 6); }
+    | restricted_expression T__IS T__DISTINCT T__FROM restricted_expression %prec T__IS
+      { CREATE_NODE(expression, 5); }
+    | restricted_expression T__IS T__NOT T__DISTINCT T__FROM restricted_expression %prec T__IS
+      { CREATE_NODE(expression, 6); }
     | restricted_expression T__IS T__DOCUMENT %prec T__IS                       { CREATE_NODE(expression, 3); }
     | restricted_expression T__IS T__NOT T__DOCUMENT %prec T__IS                { CREATE_NODE(expression, 4); }
     ;
@@ -646,17 +663,22 @@ expression_list_chunks
     | expression_list_chunks T__COMMA expression_list_chunk                     { CREATE_NODE(expression_list, 3); }
     ;
 expression_list_chunk
-    : expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression  { CREATE_NODE(expression_list, 15); }
+    : expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA
+      expression T__COMMA expression T__COMMA expression                        { CREATE_NODE(expression_list, 15); }
     ;
 expression_list_part
     : expression                                                                { CREATE_NODE(expression_list, 1); }
     | expression T__COMMA expression                                            { CREATE_NODE(expression_list, 3); }
     | expression T__COMMA expression T__COMMA expression                        { CREATE_NODE(expression_list, 5); }
     | expression T__COMMA expression T__COMMA expression T__COMMA expression    { CREATE_NODE(expression_list, 7); }
-    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression  { CREATE_NODE(expression_list, 9); }
-    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression  { CREATE_NODE(expression_list, 11); }
-    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression  { CREATE_NODE(expression_list, 13); }
-    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression  { CREATE_NODE(expression_list, 15); }
+    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression
+      { CREATE_NODE(expression_list, 9); }
+    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA
+      expression                                                                { CREATE_NODE(expression_list, 11); }
+    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA
+      expression T__COMMA expression                                            { CREATE_NODE(expression_list, 13); }
+    | expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA expression T__COMMA
+      expression T__COMMA expression T__COMMA expression                        { CREATE_NODE(expression_list, 15); }
     ;
 
 primary
@@ -664,17 +686,21 @@ primary
     | column_reference
     | T__PARAMETER_NUMBER
     | T__PARAMETER_NUMBER indirection                                           { CREATE_NODE(indirect_value, 2); }
-    | T__LPAREN expression T__RPAREN                                            { CREATE_NODE(parenthesized_expression, 3); }
-    | T__LPAREN expression T__RPAREN indirection                                { CREATE_NODE(indirect_value, 4); }
-    | case_expression
+    | parenthesized
+    | parenthesized indirection                                                 { CREATE_NODE(indirect_value, 2); }
+    | case_expression                                                           { CREATE_NODE(expression, 1); }
     | function_expression
     | subquery %prec UMINUS
     | subquery indirection                                                      { CREATE_NODE(indirect_value, 2); }
     | T__EXISTS subquery                                                        { CREATE_NODE(exists_condition, 2); }
     | T__ARRAY subquery                                                         { CREATE_NODE(array_constructor, 2); }
     | T__ARRAY array_items                                                      { CREATE_NODE(array_constructor, 2); }
-    | row
+    | row                                                                       { CREATE_NODE(expression, 1); }
     | T__GROUPING T__LPAREN expression_list T__RPAREN                           { CREATE_NODE(function_call, 4); }
+    ;
+
+parenthesized
+    : T__LPAREN expression T__RPAREN                                            { CREATE_NODE(expression, 3); }
     ;
 
 column_reference
@@ -718,7 +744,7 @@ array_items
     | T__LBRACKET array_items_list T__RBRACKET                                  { CREATE_NODE(array_items, 3); }
     ;
 array_items_list
-    : array_items
+    : array_items                                                               { CREATE_NODE(array_items_list, 1); }
     | array_items_list T__COMMA array_items                                     { CREATE_NODE(array_items_list, 3); }
     ;
 
@@ -744,7 +770,8 @@ else_part
 function_expression
     : function_call
     | function_call function_suffix                                             { CREATE_NODE(function_call, 2); }
-    | special_function
+    | special_value
+    | special_function                                                          { CREATE_NODE(expression, 1); }
     ;
 
 function_call
@@ -767,17 +794,26 @@ function_arguments_chunks
     | function_arguments_chunks T__COMMA function_arguments_chunk               { CREATE_NODE(function_arguments, 3); }
     ;
 function_arguments_chunk
-    : function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 15); }
+    : function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA
+      function_argument                                                         { CREATE_NODE(function_arguments, 15); }
     ;
 function_arguments_part
     : function_argument                                                         { CREATE_NODE(function_arguments, 1); }
     | function_argument T__COMMA function_argument                              { CREATE_NODE(function_arguments, 3); }
     | function_argument T__COMMA function_argument T__COMMA function_argument   { CREATE_NODE(function_arguments, 5); }
-    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 7); }
-    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 9); }
-    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 11); }
-    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 13); }
-    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument  { CREATE_NODE(function_arguments, 15); }
+    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      { CREATE_NODE(function_arguments, 7); }
+    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      T__COMMA function_argument                                                { CREATE_NODE(function_arguments, 9); }
+    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      T__COMMA function_argument T__COMMA function_argument                     { CREATE_NODE(function_arguments, 11); }
+    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      { CREATE_NODE(function_arguments, 13); }
+    | function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument
+      T__COMMA function_argument T__COMMA function_argument T__COMMA function_argument T__COMMA
+      function_argument                                                         { CREATE_NODE(function_arguments, 15); }
     ;
 
 function_argument
@@ -807,37 +843,47 @@ over_clause
     | T__OVER column_name                                                       { CREATE_NODE(over_clause, 2); }
     ;
 
-special_function
-    : T__COLLATION T__FOR T__LPAREN expression T__RPAREN                        { CREATE_NODE(special_function, 5); }
-    | T__CURRENT_DATE
+special_value
+    : T__CURRENT_DATE
     | T__CURRENT_TIME
-    | T__CURRENT_TIME T__LPAREN T__INTEGER_NUMBER T__RPAREN                     { CREATE_NODE(special_function, 4); }
+    | T__CURRENT_TIME T__LPAREN T__INTEGER_NUMBER T__RPAREN                     { CREATE_NODE(special_value, 4); }
     | T__CURRENT_TIMESTAMP
-    | T__CURRENT_TIMESTAMP T__LPAREN T__INTEGER_NUMBER T__RPAREN                { CREATE_NODE(special_function, 4); }
+    | T__CURRENT_TIMESTAMP T__LPAREN T__INTEGER_NUMBER T__RPAREN                { CREATE_NODE(special_value, 4); }
     | T__LOCALTIME
-    | T__LOCALTIME T__LPAREN T__INTEGER_NUMBER T__RPAREN                        { CREATE_NODE(special_function, 4); }
+    | T__LOCALTIME T__LPAREN T__INTEGER_NUMBER T__RPAREN                        { CREATE_NODE(special_value, 4); }
     | T__LOCALTIMESTAMP
-    | T__LOCALTIMESTAMP T__LPAREN T__INTEGER_NUMBER T__RPAREN                   { CREATE_NODE(special_function, 4); }
+    | T__LOCALTIMESTAMP T__LPAREN T__INTEGER_NUMBER T__RPAREN                   { CREATE_NODE(special_value, 4); }
     | T__CURRENT_ROLE
     | T__CURRENT_USER
     | T__SESSION_USER
     | T__USER
     | T__CURRENT_CATALOG
     | T__CURRENT_SCHEMA
+    ;
+
+/* Functions with words of their own between their arguments. */
+special_function
+    : T__COLLATION T__FOR T__LPAREN expression T__RPAREN                        { CREATE_NODE(special_function, 5); }
     | T__CAST T__LPAREN expression T__AS type_name T__RPAREN                    { CREATE_NODE(cast_expression, 6); }
     | T__EXTRACT T__LPAREN extract_field T__FROM expression T__RPAREN           { CREATE_NODE(special_function, 6); }
     | T__NORMALIZE T__LPAREN expression T__RPAREN                               { CREATE_NODE(special_function, 4); }
     | T__NORMALIZE T__LPAREN expression T__COMMA normal_form T__RPAREN          { CREATE_NODE(special_function, 6); }
-    | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression T__FOR expression T__RPAREN  { CREATE_NODE(special_function, 10); }
-    | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression T__RPAREN  { CREATE_NODE(special_function, 8); }
+    | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression T__FOR expression T__RPAREN
+      { CREATE_NODE(special_function, 10); }
+    | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression T__RPAREN
+      { CREATE_NODE(special_function, 8); }
     | T__OVERLAY T__LPAREN T__RPAREN                                            { CREATE_NODE(special_function, 3); }
     | T__OVERLAY T__LPAREN function_arguments T__RPAREN                         { CREATE_NODE(special_function, 4); }
-    | T__POSITION T__LPAREN restricted_expression T__IN restricted_expression T__RPAREN  { CREATE_NODE(special_function, 6); }
-    | T__SUBSTRING T__LPAREN expression T__FROM expression T__FOR expression T__RPAREN  { CREATE_NODE(special_function, 8); }
-    | T__SUBSTRING T__LPAREN expression T__FOR expression T__FROM expression T__RPAREN  { CREATE_NODE(special_function, 8); }
+    | T__POSITION T__LPAREN restricted_expression T__IN restricted_expression T__RPAREN
+      { CREATE_NODE(special_function, 6); }
+    | T__SUBSTRING T__LPAREN expression T__FROM expression T__FOR expression T__RPAREN
+      { CREATE_NODE(special_function, 8); }
+    | T__SUBSTRING T__LPAREN expression T__FOR expression T__FROM expression T__RPAREN
+      { CREATE_NODE(special_function, 8); }
     | T__SUBSTRING T__LPAREN expression T__FROM expression T__RPAREN            { CREATE_NODE(special_function, 6); }
     | T__SUBSTRING T__LPAREN expression T__FOR expression T__RPAREN             { CREATE_NODE(special_function, 6); }
-    | T__SUBSTRING T__LPAREN expression T__SIMILAR expression T__ESCAPE expression T__RPAREN  { CREATE_NODE(special_function, 8); }
+    | T__SUBSTRING T__LPAREN expression T__SIMILAR expression T__ESCAPE expression T__RPAREN
+      { CREATE_NODE(special_function, 8); }
     | T__SUBSTRING T__LPAREN T__RPAREN                                          { CREATE_NODE(special_function, 3); }
     | T__SUBSTRING T__LPAREN function_arguments T__RPAREN                       { CREATE_NODE(special_function, 4); }
     | T__TREAT T__LPAREN expression T__AS type_name T__RPAREN                   { CREATE_NODE(cast_expression, 6); }
@@ -849,18 +895,24 @@ special_function
     | T__LEAST T__LPAREN expression_list T__RPAREN                              { CREATE_NODE(special_function, 4); }
     | T__XMLCONCAT T__LPAREN expression_list T__RPAREN                          { CREATE_NODE(special_function, 4); }
     | T__XMLELEMENT T__LPAREN T__NAME any_label T__RPAREN                       { CREATE_NODE(special_function, 5); }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__RPAREN  { CREATE_NODE(special_function, 7); }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA expression_list T__RPAREN  { CREATE_NODE(special_function, 7); }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__COMMA expression_list T__RPAREN  { CREATE_NODE(special_function, 9); }
+    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__RPAREN
+      { CREATE_NODE(special_function, 7); }
+    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA expression_list T__RPAREN
+      { CREATE_NODE(special_function, 7); }
+    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__COMMA expression_list T__RPAREN
+      { CREATE_NODE(special_function, 9); }
     | T__XMLEXISTS T__LPAREN primary xml_passing T__RPAREN                      { CREATE_NODE(special_function, 5); }
     | T__XMLFOREST T__LPAREN xml_attribute_list T__RPAREN                       { CREATE_NODE(special_function, 4); }
     | T__XMLPARSE T__LPAREN document_or_content expression T__RPAREN            { CREATE_NODE(special_function, 5); }
-    | T__XMLPARSE T__LPAREN document_or_content expression whitespace_option T__RPAREN  { CREATE_NODE(special_function, 6); }
+    | T__XMLPARSE T__LPAREN document_or_content expression whitespace_option T__RPAREN
+      { CREATE_NODE(special_function, 6); }
     | T__XMLPI T__LPAREN T__NAME any_label T__RPAREN                            { CREATE_NODE(special_function, 5); }
     | T__XMLPI T__LPAREN T__NAME any_label T__COMMA expression T__RPAREN        { CREATE_NODE(special_function, 7); }
     | T__XMLROOT T__LPAREN expression T__COMMA xml_version T__RPAREN            { CREATE_NODE(special_function, 6); }
-    | T__XMLROOT T__LPAREN expression T__COMMA xml_version xml_standalone T__RPAREN  { CREATE_NODE(special_function, 7); }
-    | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type T__RPAREN  { CREATE_NODE(special_function, 7); }
+    | T__XMLROOT T__LPAREN expression T__COMMA xml_version xml_standalone T__RPAREN
+      { CREATE_NODE(special_function, 7); }
+    | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type T__RPAREN
+      { CREATE_NODE(special_function, 7); }
     ;
 
 extract_field
@@ -971,8 +1023,8 @@ simple_select
     | T__TABLE relation                                                         { CREATE_NODE(table_statement, 2); }
     | select_part T__UNION select_part                                          { CREATE_NODE(set_operation, 3); }
     | select_part T__UNION set_quantifier select_part %prec T__UNION            { CREATE_NODE(set_operation, 4); }
-    | select_part T__INTERSECT select_part                                      { CREATE_NODE(set_operation, 3); }
-    | select_part T__INTERSECT set_quantifier select_part %prec T__INTERSECT    { CREATE_NODE(set_operation, 4); }
+    | select_part T__INTERSECT select_part                                      { CREATE_NODE(intersect_operation, 3); }
+    | select_part T__INTERSECT set_quantifier select_part %prec T__INTERSECT    { CREATE_NODE(intersect_operation, 4); }
     | select_part T__EXCEPT select_part                                         { CREATE_NODE(set_operation, 3); }
     | select_part T__EXCEPT set_quantifier select_part %prec T__EXCEPT          { CREATE_NODE(set_operation, 4); }
     ;
@@ -1000,17 +1052,22 @@ select_list_chunks
     | select_list_chunks T__COMMA select_list_chunk                             { CREATE_NODE(select_list, 3); }
     ;
 select_list_chunk
-    : select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 15); }
+    : select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item
+      T__COMMA select_item T__COMMA select_item T__COMMA select_item            { CREATE_NODE(select_list, 15); }
     ;
 select_list_part
     : select_item                                                               { CREATE_NODE(select_list, 1); }
     | select_item T__COMMA select_item                                          { CREATE_NODE(select_list, 3); }
     | select_item T__COMMA select_item T__COMMA select_item                     { CREATE_NODE(select_list, 5); }
     | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 7); }
-    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 9); }
-    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 11); }
-    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 13); }
-    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item  { CREATE_NODE(select_list, 15); }
+    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item
+      { CREATE_NODE(select_list, 9); }
+    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item
+      T__COMMA select_item                                                      { CREATE_NODE(select_list, 11); }
+    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item
+      T__COMMA select_item T__COMMA select_item                                 { CREATE_NODE(select_list, 13); }
+    | select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item T__COMMA select_item
+      T__COMMA select_item T__COMMA select_item T__COMMA select_item            { CREATE_NODE(select_list, 15); }
     ;
 
 select_item
@@ -1084,7 +1141,7 @@ window_clause
     ;
 
 group_list
-    : group_item
+    : group_item                                                                { CREATE_NODE(group_list, 1); }
     | group_list T__COMMA group_item                                            { CREATE_NODE(group_list, 3); }
     ;
 group_item
@@ -1245,17 +1302,22 @@ values_rows_chunks
     | values_rows_chunks T__COMMA values_rows_chunk                             { CREATE_NODE(values_rows, 3); }
     ;
 values_rows_chunk
-    : values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row  { CREATE_NODE(values_rows, 15); }
+    : values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA
+      values_row T__COMMA values_row T__COMMA values_row                        { CREATE_NODE(values_rows, 15); }
     ;
 values_rows_part
     : values_row                                                                { CREATE_NODE(values_rows, 1); }
     | values_row T__COMMA values_row                                            { CREATE_NODE(values_rows, 3); }
     | values_row T__COMMA values_row T__COMMA values_row                        { CREATE_NODE(values_rows, 5); }
     | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row    { CREATE_NODE(values_rows, 7); }
-    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row  { CREATE_NODE(values_rows, 9); }
-    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row  { CREATE_NODE(values_rows, 11); }
-    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row  { CREATE_NODE(values_rows, 13); }
-    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row  { CREATE_NODE(values_rows, 15); }
+    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row
+      { CREATE_NODE(values_rows, 9); }
+    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA
+      values_row                                                                { CREATE_NODE(values_rows, 11); }
+    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA
+      values_row T__COMMA values_row                                            { CREATE_NODE(values_rows, 13); }
+    | values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA values_row T__COMMA
+      values_row T__COMMA values_row T__COMMA values_row                        { CREATE_NODE(values_rows, 15); }
     ;
 
 values_row
@@ -1293,7 +1355,8 @@ search_clause
     ;
 cycle_clause
     : T__CYCLE name_list T__SET column_name T__USING column_name                { CREATE_NODE(cycle_clause, 6); }
-    | T__CYCLE name_list T__SET column_name T__TO constant T__DEFAULT constant T__USING column_name  { CREATE_NODE(cycle_clause, 10); }
+    | T__CYCLE name_list T__SET column_name T__TO constant T__DEFAULT constant T__USING column_name
+      { CREATE_NODE(cycle_clause, 10); }
     ;
 
 preparable_statement
@@ -1362,11 +1425,13 @@ table_function_column
 
 tablesample
     : T__TABLESAMPLE function_name T__LPAREN expression_list T__RPAREN          { CREATE_NODE(tablesample, 5); }
-    | T__TABLESAMPLE function_name T__LPAREN expression_list T__RPAREN T__REPEATABLE T__LPAREN expression T__RPAREN  { CREATE_NODE(tablesample, 9); }
+    | T__TABLESAMPLE function_name T__LPAREN expression_list T__RPAREN T__REPEATABLE T__LPAREN expression
+      T__RPAREN                                                                 { CREATE_NODE(tablesample, 9); }
     ;
 
 plain_function
     : function_call
+    | special_value
     | special_function
     ;
 function_table
@@ -1385,7 +1450,7 @@ rows_from_item
     ;
 
 joined_table
-    : T__LPAREN joined_table T__RPAREN                                          { CREATE_NODE(joined_table, 3); }
+    : T__LPAREN joined_table T__RPAREN                                          { CREATE_NODE(parenthesized_join, 3); }
     | table_reference T__CROSS T__JOIN table_reference                          { CREATE_NODE(joined_table, 4); }
     | table_reference T__JOIN table_reference join_condition                    { CREATE_NODE(joined_table, 4); }
     | table_reference join_type T__JOIN table_reference join_condition          { CREATE_NODE(joined_table, 5); }
@@ -1409,7 +1474,8 @@ join_condition
 
 xml_table
     : T__XMLTABLE T__LPAREN primary xml_passing T__COLUMNS xml_table_columns T__RPAREN  { CREATE_NODE(xml_table, 7); }
-    | T__XMLTABLE T__LPAREN T__XMLNAMESPACES T__LPAREN xml_namespaces T__RPAREN T__COMMA primary xml_passing T__COLUMNS xml_table_columns T__RPAREN  { CREATE_NODE(xml_table, 12); }
+    | T__XMLTABLE T__LPAREN T__XMLNAMESPACES T__LPAREN xml_namespaces T__RPAREN T__COMMA primary xml_passing
+      T__COLUMNS xml_table_columns T__RPAREN                                    { CREATE_NODE(xml_table, 12); }
     ;
 xml_table_columns
     : xml_table_column
@@ -1476,17 +1542,25 @@ insert_column_list_chunks
     | insert_column_list_chunks T__COMMA insert_column_list_chunk               { CREATE_NODE(insert_column_list, 3); }
     ;
 insert_column_list_chunk
-    : target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 15); }
+    : target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA
+      target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column
+      { CREATE_NODE(insert_column_list, 15); }
     ;
 insert_column_list_part
     : target_column                                                             { CREATE_NODE(insert_column_list, 1); }
     | target_column T__COMMA target_column                                      { CREATE_NODE(insert_column_list, 3); }
     | target_column T__COMMA target_column T__COMMA target_column               { CREATE_NODE(insert_column_list, 5); }
-    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 7); }
-    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 9); }
-    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 11); }
-    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 13); }
-    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column  { CREATE_NODE(insert_column_list, 15); }
+    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column
+      { CREATE_NODE(insert_column_list, 7); }
+    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA
+      target_column                                                             { CREATE_NODE(insert_column_list, 9); }
+    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA
+      target_column T__COMMA target_column                                      { CREATE_NODE(insert_column_list, 11); }
+    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA
+      target_column T__COMMA target_column T__COMMA target_column               { CREATE_NODE(insert_column_list, 13); }
+    | target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column T__COMMA
+      target_column T__COMMA target_column T__COMMA target_column T__COMMA target_column
+      { CREATE_NODE(insert_column_list, 15); }
     ;
 
 target_column
@@ -1574,7 +1648,8 @@ merge_statement
     | with_clause merge_core                                                    { CREATE_NODE(merge_statement, 2); }
     ;
 merge_core
-    : T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list  { CREATE_NODE(merge_statement, 8); }
+    : T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list
+      { CREATE_NODE(merge_statement, 8); }
     ;
 merge_when_list
     : merge_when
@@ -1595,7 +1670,8 @@ merge_insert_action
     : T__INSERT merge_values                                                    { CREATE_NODE(merge_insert_action, 2); }
     | T__INSERT T__OVERRIDING overriding_kind T__VALUE merge_values             { CREATE_NODE(merge_insert_action, 5); }
     | T__INSERT insert_columns merge_values                                     { CREATE_NODE(merge_insert_action, 3); }
-    | T__INSERT insert_columns T__OVERRIDING overriding_kind T__VALUE merge_values  { CREATE_NODE(merge_insert_action, 6); }
+    | T__INSERT insert_columns T__OVERRIDING overriding_kind T__VALUE merge_values
+      { CREATE_NODE(merge_insert_action, 6); }
     | T__INSERT T__DEFAULT T__VALUES                                            { CREATE_NODE(merge_insert_action, 3); }
     | T__DO T__NOTHING                                                          { CREATE_NODE(merge_insert_action, 2); }
     ;
@@ -1714,7 +1790,8 @@ table_definition
     | new_name T__PARTITION T__OF qualified_name partition_bound                { CREATE_NODE(table_definition, 5); }
     | new_name T__PARTITION T__OF qualified_name partition_bound table_options  { CREATE_NODE(table_definition, 6); }
     | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound  { CREATE_NODE(table_definition, 6); }
-    | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound table_options  { CREATE_NODE(table_definition, 7); }
+    | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound table_options
+      { CREATE_NODE(table_definition, 7); }
     | table_as
     ;
 /* The name of something to be made. */
@@ -1761,17 +1838,25 @@ table_elements_chunks
     | table_elements_chunks T__COMMA table_elements_chunk                       { CREATE_NODE(table_elements, 3); }
     ;
 table_elements_chunk
-    : table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 15); }
+    : table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA
+      table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element
+      { CREATE_NODE(table_elements, 15); }
     ;
 table_elements_part
     : table_element                                                             { CREATE_NODE(table_elements, 1); }
     | table_element T__COMMA table_element                                      { CREATE_NODE(table_elements, 3); }
     | table_element T__COMMA table_element T__COMMA table_element               { CREATE_NODE(table_elements, 5); }
-    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 7); }
-    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 9); }
-    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 11); }
-    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 13); }
-    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element  { CREATE_NODE(table_elements, 15); }
+    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element
+      { CREATE_NODE(table_elements, 7); }
+    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA
+      table_element                                                             { CREATE_NODE(table_elements, 9); }
+    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA
+      table_element T__COMMA table_element                                      { CREATE_NODE(table_elements, 11); }
+    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA
+      table_element T__COMMA table_element T__COMMA table_element               { CREATE_NODE(table_elements, 13); }
+    | table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element T__COMMA
+      table_element T__COMMA table_element T__COMMA table_element T__COMMA table_element
+      { CREATE_NODE(table_elements, 15); }
     ;
 
 table_element
@@ -1851,8 +1936,10 @@ column_constraint_body
     | T__CHECK T__LPAREN expression T__RPAREN T__NO T__INHERIT                  { CREATE_NODE(column_constraint_body, 6); }
     | T__DEFAULT restricted_expression                                          { CREATE_NODE(column_constraint_body, 2); }
     | T__GENERATED generated_when T__AS T__IDENTITY                             { CREATE_NODE(column_constraint_body, 4); }
-    | T__GENERATED generated_when T__AS T__IDENTITY T__LPAREN sequence_options T__RPAREN  { CREATE_NODE(column_constraint_body, 7); }
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN T__STORED  { CREATE_NODE(column_constraint_body, 7); }
+    | T__GENERATED generated_when T__AS T__IDENTITY T__LPAREN sequence_options T__RPAREN
+      { CREATE_NODE(column_constraint_body, 7); }
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN T__STORED
+      { CREATE_NODE(column_constraint_body, 7); }
     | references_clause
     ;
 generated_when
@@ -1920,7 +2007,8 @@ table_constraint_body
     | T__PRIMARY T__KEY T__USING T__INDEX column_name constraint_attributes     { CREATE_NODE(table_constraint_body, 6); }
     | T__EXCLUDE exclusion                                                      { CREATE_NODE(table_constraint_body, 2); }
     | T__FOREIGN T__KEY parenthesized_names references_clause                   { CREATE_NODE(table_constraint_body, 4); }
-    | T__FOREIGN T__KEY parenthesized_names references_clause constraint_attributes  { CREATE_NODE(table_constraint_body, 5); }
+    | T__FOREIGN T__KEY parenthesized_names references_clause constraint_attributes
+      { CREATE_NODE(table_constraint_body, 5); }
     ;
 key_columns
     : parenthesized_names
@@ -1996,7 +2084,8 @@ table_option
 partition_bound
     : T__FOR T__VALUES T__WITH T__LPAREN hash_bounds T__RPAREN                  { CREATE_NODE(partition_bound, 6); }
     | T__FOR T__VALUES T__IN T__LPAREN expression_list T__RPAREN                { CREATE_NODE(partition_bound, 6); }
-    | T__FOR T__VALUES T__FROM T__LPAREN expression_list T__RPAREN T__TO T__LPAREN expression_list T__RPAREN  { CREATE_NODE(partition_bound, 10); }
+    | T__FOR T__VALUES T__FROM T__LPAREN expression_list T__RPAREN T__TO T__LPAREN expression_list T__RPAREN
+      { CREATE_NODE(partition_bound, 10); }
     | T__DEFAULT
     ;
 hash_bounds
@@ -2124,8 +2213,10 @@ sequence_option
     ;
 
 create_foreign_table
-    : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER column_name  { CREATE_NODE(create_foreign_table, 6); }
-    | T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER column_name generic_options  { CREATE_NODE(create_foreign_table, 7); }
+    : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER column_name
+      { CREATE_NODE(create_foreign_table, 6); }
+    | T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER column_name generic_options
+      { CREATE_NODE(create_foreign_table, 7); }
     ;
 foreign_table_definition
     : new_name T__LPAREN T__RPAREN                                              { CREATE_NODE(foreign_table_definition, 3); }
@@ -2133,7 +2224,8 @@ foreign_table_definition
     | new_name T__LPAREN T__RPAREN inherits_clause                              { CREATE_NODE(foreign_table_definition, 4); }
     | new_name T__LPAREN table_elements T__RPAREN inherits_clause               { CREATE_NODE(foreign_table_definition, 5); }
     | new_name T__PARTITION T__OF qualified_name partition_bound                { CREATE_NODE(foreign_table_definition, 5); }
-    | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound  { CREATE_NODE(foreign_table_definition, 6); }
+    | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound
+      { CREATE_NODE(foreign_table_definition, 6); }
     ;
 inherits_clause
     : T__INHERITS T__LPAREN qualified_name_list T__RPAREN                       { CREATE_NODE(inherits_clause, 4); }
@@ -2381,8 +2473,10 @@ create_trigger
     | T__CREATE T__OR T__REPLACE T__CONSTRAINT trigger_definition               { CREATE_NODE(create_trigger, 5); }
     ;
 trigger_definition
-    : T__TRIGGER column_name trigger_time trigger_events T__ON qualified_name trigger_action  { CREATE_NODE(trigger_definition, 7); }
-    | T__TRIGGER column_name trigger_time trigger_events T__ON qualified_name trigger_clauses trigger_action  { CREATE_NODE(trigger_definition, 8); }
+    : T__TRIGGER column_name trigger_time trigger_events T__ON qualified_name trigger_action
+      { CREATE_NODE(trigger_definition, 7); }
+    | T__TRIGGER column_name trigger_time trigger_events T__ON qualified_name trigger_clauses trigger_action
+      { CREATE_NODE(trigger_definition, 8); }
     ;
 trigger_time
     : T__BEFORE
@@ -2447,8 +2541,10 @@ trigger_argument
     ;
 
 create_event_trigger
-    : T__CREATE T__EVENT T__TRIGGER column_name T__ON any_label event_trigger_action  { CREATE_NODE(create_event_trigger, 7); }
-    | T__CREATE T__EVENT T__TRIGGER column_name T__ON any_label T__WHEN event_conditions event_trigger_action  { CREATE_NODE(create_event_trigger, 9); }
+    : T__CREATE T__EVENT T__TRIGGER column_name T__ON any_label event_trigger_action
+      { CREATE_NODE(create_event_trigger, 7); }
+    | T__CREATE T__EVENT T__TRIGGER column_name T__ON any_label T__WHEN event_conditions
+      event_trigger_action                                                      { CREATE_NODE(create_event_trigger, 9); }
     ;
 event_trigger_action
     : T__EXECUTE T__FUNCTION function_name T__LPAREN T__RPAREN                  { CREATE_NODE(event_trigger_action, 5); }
@@ -2471,8 +2567,10 @@ create_rule
     | T__CREATE T__OR T__REPLACE rule_definition                                { CREATE_NODE(create_rule, 4); }
     ;
 rule_definition
-    : T__RULE column_name T__AS T__ON rule_event T__TO qualified_name T__DO rule_actions  { CREATE_NODE(rule_definition, 9); }
-    | T__RULE column_name T__AS T__ON rule_event T__TO qualified_name where_clause T__DO rule_actions  { CREATE_NODE(rule_definition, 10); }
+    : T__RULE column_name T__AS T__ON rule_event T__TO qualified_name T__DO rule_actions
+      { CREATE_NODE(rule_definition, 9); }
+    | T__RULE column_name T__AS T__ON rule_event T__TO qualified_name where_clause T__DO rule_actions
+      { CREATE_NODE(rule_definition, 10); }
     ;
 rule_event
     : T__SELECT
@@ -2634,9 +2732,12 @@ option_text
 
 create_tablespace
     : T__CREATE T__TABLESPACE column_name T__LOCATION string_literal            { CREATE_NODE(create_tablespace, 5); }
-    | T__CREATE T__TABLESPACE column_name T__LOCATION string_literal T__WITH relation_options  { CREATE_NODE(create_tablespace, 7); }
-    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal  { CREATE_NODE(create_tablespace, 7); }
-    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal T__WITH relation_options  { CREATE_NODE(create_tablespace, 9); }
+    | T__CREATE T__TABLESPACE column_name T__LOCATION string_literal T__WITH relation_options
+      { CREATE_NODE(create_tablespace, 7); }
+    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal
+      { CREATE_NODE(create_tablespace, 7); }
+    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal T__WITH relation_options
+      { CREATE_NODE(create_tablespace, 9); }
     ;
 
 create_extension
@@ -2691,7 +2792,8 @@ create_publication
     : T__CREATE T__PUBLICATION column_name                                      { CREATE_NODE(create_publication, 3); }
     | T__CREATE T__PUBLICATION column_name publication_content                  { CREATE_NODE(create_publication, 4); }
     | T__CREATE T__PUBLICATION column_name T__WITH parenthesized_definitions    { CREATE_NODE(create_publication, 5); }
-    | T__CREATE T__PUBLICATION column_name publication_content T__WITH parenthesized_definitions  { CREATE_NODE(create_publication, 6); }
+    | T__CREATE T__PUBLICATION column_name publication_content T__WITH parenthesized_definitions
+      { CREATE_NODE(create_publication, 6); }
     ;
 publication_content
     : T__FOR T__ALL T__TABLES                                                   { CREATE_NODE(publication_content, 3); }
@@ -2716,8 +2818,10 @@ published_relation
     ;
 
 create_subscription
-    : T__CREATE T__SUBSCRIPTION column_name T__CONNECTION string_literal T__PUBLICATION name_list  { CREATE_NODE(create_subscription, 7); }
-    | T__CREATE T__SUBSCRIPTION column_name T__CONNECTION string_literal T__PUBLICATION name_list T__WITH parenthesized_definitions  { CREATE_NODE(create_subscription, 9); }
+    : T__CREATE T__SUBSCRIPTION column_name T__CONNECTION string_literal T__PUBLICATION name_list
+      { CREATE_NODE(create_subscription, 7); }
+    | T__CREATE T__SUBSCRIPTION column_name T__CONNECTION string_literal T__PUBLICATION name_list T__WITH
+      parenthesized_definitions                                                 { CREATE_NODE(create_subscription, 9); }
     ;
 
 /* ---- Foreign data ---- */
@@ -2726,13 +2830,17 @@ create_foreign_object
     : T__CREATE T__FOREIGN T__DATA T__WRAPPER column_name                       { CREATE_NODE(create_foreign_object, 5); }
     | T__CREATE T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options       { CREATE_NODE(create_foreign_object, 6); }
     | T__CREATE T__FOREIGN T__DATA T__WRAPPER column_name generic_options       { CREATE_NODE(create_foreign_object, 6); }
-    | T__CREATE T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options generic_options  { CREATE_NODE(create_foreign_object, 7); }
+    | T__CREATE T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options generic_options
+      { CREATE_NODE(create_foreign_object, 7); }
     | T__CREATE T__SERVER new_name server_clauses                               { CREATE_NODE(create_foreign_object, 4); }
     | T__CREATE T__SERVER new_name server_clauses generic_options               { CREATE_NODE(create_foreign_object, 5); }
     | T__CREATE T__USER T__MAPPING T__FOR mapped_user T__SERVER column_name     { CREATE_NODE(create_foreign_object, 7); }
-    | T__CREATE T__USER T__MAPPING T__FOR mapped_user T__SERVER column_name generic_options  { CREATE_NODE(create_foreign_object, 8); }
-    | T__CREATE T__USER T__MAPPING T__IF T__NOT T__EXISTS T__FOR mapped_user T__SERVER column_name  { CREATE_NODE(create_foreign_object, 10); }
-    | T__CREATE T__USER T__MAPPING T__IF T__NOT T__EXISTS T__FOR mapped_user T__SERVER column_name generic_options  { CREATE_NODE(create_foreign_object, 11); }
+    | T__CREATE T__USER T__MAPPING T__FOR mapped_user T__SERVER column_name generic_options
+      { CREATE_NODE(create_foreign_object, 8); }
+    | T__CREATE T__USER T__MAPPING T__IF T__NOT T__EXISTS T__FOR mapped_user T__SERVER column_name
+      { CREATE_NODE(create_foreign_object, 10); }
+    | T__CREATE T__USER T__MAPPING T__IF T__NOT T__EXISTS T__FOR mapped_user T__SERVER column_name
+      generic_options                                                           { CREATE_NODE(create_foreign_object, 11); }
     ;
 wrapper_options
     : wrapper_option
@@ -2763,10 +2871,14 @@ mapped_user
     ;
 
 import_foreign_schema
-    : T__IMPORT T__FOREIGN T__SCHEMA column_name T__FROM T__SERVER column_name T__INTO column_name  { CREATE_NODE(import_foreign_schema, 9); }
-    | T__IMPORT T__FOREIGN T__SCHEMA column_name T__FROM T__SERVER column_name T__INTO column_name generic_options  { CREATE_NODE(import_foreign_schema, 10); }
-    | T__IMPORT T__FOREIGN T__SCHEMA column_name import_filter T__FROM T__SERVER column_name T__INTO column_name  { CREATE_NODE(import_foreign_schema, 10); }
-    | T__IMPORT T__FOREIGN T__SCHEMA column_name import_filter T__FROM T__SERVER column_name T__INTO column_name generic_options  { CREATE_NODE(import_foreign_schema, 11); }
+    : T__IMPORT T__FOREIGN T__SCHEMA column_name T__FROM T__SERVER column_name T__INTO column_name
+      { CREATE_NODE(import_foreign_schema, 9); }
+    | T__IMPORT T__FOREIGN T__SCHEMA column_name T__FROM T__SERVER column_name T__INTO column_name
+      generic_options                                                           { CREATE_NODE(import_foreign_schema, 10); }
+    | T__IMPORT T__FOREIGN T__SCHEMA column_name import_filter T__FROM T__SERVER column_name T__INTO
+      column_name                                                               { CREATE_NODE(import_foreign_schema, 10); }
+    | T__IMPORT T__FOREIGN T__SCHEMA column_name import_filter T__FROM T__SERVER column_name T__INTO
+      column_name generic_options                                               { CREATE_NODE(import_foreign_schema, 11); }
     ;
 import_filter
     : T__LIMIT T__TO T__LPAREN relation_list T__RPAREN                          { CREATE_NODE(import_filter, 5); }
@@ -2781,7 +2893,8 @@ relation_list
 
 create_statistics
     : T__CREATE T__STATISTICS new_name T__ON statistics_columns from_clause     { CREATE_NODE(create_statistics, 6); }
-    | T__CREATE T__STATISTICS new_name parenthesized_names T__ON statistics_columns from_clause  { CREATE_NODE(create_statistics, 7); }
+    | T__CREATE T__STATISTICS new_name parenthesized_names T__ON statistics_columns from_clause
+      { CREATE_NODE(create_statistics, 7); }
     ;
 statistics_columns
     : statistics_column
@@ -2797,7 +2910,8 @@ create_definition
     : T__CREATE T__OPERATOR any_operator parenthesized_definitions              { CREATE_NODE(create_definition, 4); }
     | T__CREATE T__COLLATION new_name parenthesized_definitions                 { CREATE_NODE(create_definition, 4); }
     | T__CREATE T__COLLATION new_name T__FROM qualified_name                    { CREATE_NODE(create_definition, 5); }
-    | T__CREATE T__TEXT T__SEARCH text_search_word qualified_name parenthesized_definitions  { CREATE_NODE(create_definition, 6); }
+    | T__CREATE T__TEXT T__SEARCH text_search_word qualified_name parenthesized_definitions
+      { CREATE_NODE(create_definition, 6); }
     ;
 text_search_word
     : T__PARSER
@@ -2810,7 +2924,8 @@ create_type
     : T__CREATE T__TYPE qualified_name                                          { CREATE_NODE(create_type, 3); }
     | T__CREATE T__TYPE qualified_name parenthesized_definitions                { CREATE_NODE(create_type, 4); }
     | T__CREATE T__TYPE qualified_name T__AS T__LPAREN T__RPAREN                { CREATE_NODE(create_type, 6); }
-    | T__CREATE T__TYPE qualified_name T__AS T__LPAREN table_function_columns T__RPAREN  { CREATE_NODE(create_type, 7); }
+    | T__CREATE T__TYPE qualified_name T__AS T__LPAREN table_function_columns T__RPAREN
+      { CREATE_NODE(create_type, 7); }
     | T__CREATE T__TYPE qualified_name T__AS T__ENUM T__LPAREN T__RPAREN        { CREATE_NODE(create_type, 7); }
     | T__CREATE T__TYPE qualified_name T__AS T__ENUM T__LPAREN string_list T__RPAREN  { CREATE_NODE(create_type, 8); }
     | T__CREATE T__TYPE qualified_name T__AS T__RANGE parenthesized_definitions  { CREATE_NODE(create_type, 6); }
@@ -2828,7 +2943,8 @@ create_aggregate
     | T__CREATE T__OR T__REPLACE aggregate_definition                           { CREATE_NODE(create_aggregate, 4); }
     ;
 aggregate_definition
-    : T__AGGREGATE function_name aggregate_parameters parenthesized_definitions  { CREATE_NODE(aggregate_definition, 4); }
+    : T__AGGREGATE function_name aggregate_parameters parenthesized_definitions
+      { CREATE_NODE(aggregate_definition, 4); }
     | T__AGGREGATE function_name T__LPAREN old_aggregate_list T__RPAREN         { CREATE_NODE(aggregate_definition, 5); }
     ;
 old_aggregate_list
@@ -2840,13 +2956,15 @@ old_aggregate_item
     ;
 
 create_operator_class
-    : T__CREATE T__OPERATOR T__CLASS qualified_name operator_class_head T__AS operator_class_items  { CREATE_NODE(create_operator_class, 7); }
+    : T__CREATE T__OPERATOR T__CLASS qualified_name operator_class_head T__AS operator_class_items
+      { CREATE_NODE(create_operator_class, 7); }
     ;
 operator_class_head
     : T__FOR T__TYPE type_name T__USING column_name                             { CREATE_NODE(operator_class_head, 5); }
     | T__DEFAULT T__FOR T__TYPE type_name T__USING column_name                  { CREATE_NODE(operator_class_head, 6); }
     | T__FOR T__TYPE type_name T__USING column_name T__FAMILY qualified_name    { CREATE_NODE(operator_class_head, 7); }
-    | T__DEFAULT T__FOR T__TYPE type_name T__USING column_name T__FAMILY qualified_name  { CREATE_NODE(operator_class_head, 8); }
+    | T__DEFAULT T__FOR T__TYPE type_name T__USING column_name T__FAMILY qualified_name
+      { CREATE_NODE(operator_class_head, 8); }
     ;
 operator_class_items
     : operator_class_item
@@ -2858,7 +2976,8 @@ operator_class_item
     | T__OPERATOR T__INTEGER_NUMBER operator_signature                          { CREATE_NODE(operator_class_item, 3); }
     | T__OPERATOR T__INTEGER_NUMBER operator_signature operator_class_purpose   { CREATE_NODE(operator_class_item, 4); }
     | T__FUNCTION T__INTEGER_NUMBER routine_signature                           { CREATE_NODE(operator_class_item, 3); }
-    | T__FUNCTION T__INTEGER_NUMBER T__LPAREN type_list T__RPAREN routine_signature  { CREATE_NODE(operator_class_item, 6); }
+    | T__FUNCTION T__INTEGER_NUMBER T__LPAREN type_list T__RPAREN routine_signature
+      { CREATE_NODE(operator_class_item, 6); }
     | T__STORAGE type_name                                                      { CREATE_NODE(operator_class_item, 2); }
     ;
 operator_class_purpose
@@ -2877,7 +2996,8 @@ create_operator_family
 
 create_cast
     : T__CREATE T__CAST T__LPAREN type_name T__AS type_name T__RPAREN cast_method  { CREATE_NODE(create_cast, 8); }
-    | T__CREATE T__CAST T__LPAREN type_name T__AS type_name T__RPAREN cast_method cast_context  { CREATE_NODE(create_cast, 9); }
+    | T__CREATE T__CAST T__LPAREN type_name T__AS type_name T__RPAREN cast_method cast_context
+      { CREATE_NODE(create_cast, 9); }
     ;
 cast_method
     : T__WITH T__FUNCTION routine_signature                                     { CREATE_NODE(cast_method, 3); }
@@ -2894,7 +3014,8 @@ create_transform
     | T__CREATE T__OR T__REPLACE transform_definition                           { CREATE_NODE(create_transform, 4); }
     ;
 transform_definition
-    : T__TRANSFORM T__FOR type_name T__LANGUAGE column_name T__LPAREN transform_functions T__RPAREN  { CREATE_NODE(transform_definition, 8); }
+    : T__TRANSFORM T__FOR type_name T__LANGUAGE column_name T__LPAREN transform_functions T__RPAREN
+      { CREATE_NODE(transform_definition, 8); }
     ;
 transform_functions
     : transform_function
@@ -2906,23 +3027,31 @@ transform_function
     ;
 
 create_conversion
-    : T__CREATE T__CONVERSION qualified_name T__FOR string_literal T__TO string_literal T__FROM qualified_name  { CREATE_NODE(create_conversion, 9); }
-    | T__CREATE T__DEFAULT T__CONVERSION qualified_name T__FOR string_literal T__TO string_literal T__FROM qualified_name  { CREATE_NODE(create_conversion, 10); }
+    : T__CREATE T__CONVERSION qualified_name T__FOR string_literal T__TO string_literal T__FROM
+      qualified_name                                                            { CREATE_NODE(create_conversion, 9); }
+    | T__CREATE T__DEFAULT T__CONVERSION qualified_name T__FOR string_literal T__TO string_literal T__FROM
+      qualified_name                                                            { CREATE_NODE(create_conversion, 10); }
     ;
 
 create_access_method
-    : T__CREATE T__ACCESS T__METHOD column_name T__TYPE T__INDEX T__HANDLER qualified_name  { CREATE_NODE(create_access_method, 8); }
-    | T__CREATE T__ACCESS T__METHOD column_name T__TYPE T__TABLE T__HANDLER qualified_name  { CREATE_NODE(create_access_method, 8); }
+    : T__CREATE T__ACCESS T__METHOD column_name T__TYPE T__INDEX T__HANDLER qualified_name
+      { CREATE_NODE(create_access_method, 8); }
+    | T__CREATE T__ACCESS T__METHOD column_name T__TYPE T__TABLE T__HANDLER qualified_name
+      { CREATE_NODE(create_access_method, 8); }
     ;
 
 /* ---- ALTER ---- */
 
 alter_relation
     : T__ALTER relation_word altered_relation alter_actions                     { CREATE_NODE(alter_relation, 4); }
-    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__SET T__TABLESPACE column_name  { CREATE_NODE(alter_relation, 9); }
-    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__SET T__TABLESPACE column_name T__NOWAIT  { CREATE_NODE(alter_relation, 10); }
-    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__OWNED T__BY role_list T__SET T__TABLESPACE column_name  { CREATE_NODE(alter_relation, 12); }
-    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__OWNED T__BY role_list T__SET T__TABLESPACE column_name T__NOWAIT  { CREATE_NODE(alter_relation, 13); }
+    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__SET T__TABLESPACE column_name
+      { CREATE_NODE(alter_relation, 9); }
+    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__SET T__TABLESPACE column_name
+      T__NOWAIT                                                                 { CREATE_NODE(alter_relation, 10); }
+    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__OWNED T__BY role_list T__SET
+      T__TABLESPACE column_name                                                 { CREATE_NODE(alter_relation, 12); }
+    | T__ALTER relation_word T__ALL T__IN T__TABLESPACE column_name T__OWNED T__BY role_list T__SET
+      T__TABLESPACE column_name T__NOWAIT                                       { CREATE_NODE(alter_relation, 13); }
     ;
 relation_word
     : T__TABLE
@@ -3033,7 +3162,8 @@ column_action
     | T__SET T__COMPRESSION column_name                                         { CREATE_NODE(column_action, 3); }
     | T__SET T__COMPRESSION T__DEFAULT                                          { CREATE_NODE(column_action, 3); }
     | T__ADD T__GENERATED generated_when T__AS T__IDENTITY                      { CREATE_NODE(column_action, 5); }
-    | T__ADD T__GENERATED generated_when T__AS T__IDENTITY T__LPAREN sequence_options T__RPAREN  { CREATE_NODE(column_action, 8); }
+    | T__ADD T__GENERATED generated_when T__AS T__IDENTITY T__LPAREN sequence_options T__RPAREN
+      { CREATE_NODE(column_action, 8); }
     | identity_changes
     | T__DROP T__IDENTITY                                                       { CREATE_NODE(column_action, 2); }
     | T__DROP T__IDENTITY T__IF T__EXISTS                                       { CREATE_NODE(column_action, 4); }
@@ -3084,10 +3214,14 @@ alter_type
     | T__ALTER T__TYPE qualified_name type_changes                              { CREATE_NODE(alter_type, 4); }
     | T__ALTER T__TYPE qualified_name T__SET parenthesized_definitions          { CREATE_NODE(alter_type, 5); }
     | T__ALTER T__TYPE qualified_name T__ADD T__VALUE enum_value                { CREATE_NODE(alter_type, 6); }
-    | T__ALTER T__TYPE qualified_name T__ADD T__VALUE T__IF T__NOT T__EXISTS enum_value  { CREATE_NODE(alter_type, 9); }
-    | T__ALTER T__TYPE qualified_name T__RENAME T__VALUE string_literal T__TO string_literal  { CREATE_NODE(alter_type, 8); }
-    | T__ALTER T__TYPE qualified_name T__RENAME T__ATTRIBUTE column_name T__TO column_name  { CREATE_NODE(alter_type, 8); }
-    | T__ALTER T__TYPE qualified_name T__RENAME T__ATTRIBUTE column_name T__TO column_name drop_behavior  { CREATE_NODE(alter_type, 9); }
+    | T__ALTER T__TYPE qualified_name T__ADD T__VALUE T__IF T__NOT T__EXISTS enum_value
+      { CREATE_NODE(alter_type, 9); }
+    | T__ALTER T__TYPE qualified_name T__RENAME T__VALUE string_literal T__TO string_literal
+      { CREATE_NODE(alter_type, 8); }
+    | T__ALTER T__TYPE qualified_name T__RENAME T__ATTRIBUTE column_name T__TO column_name
+      { CREATE_NODE(alter_type, 8); }
+    | T__ALTER T__TYPE qualified_name T__RENAME T__ATTRIBUTE column_name T__TO column_name drop_behavior
+      { CREATE_NODE(alter_type, 9); }
     ;
 enum_value
     : string_literal
@@ -3115,7 +3249,8 @@ alter_domain
     | T__ALTER T__DOMAIN qualified_name T__ADD table_constraint                 { CREATE_NODE(alter_domain, 5); }
     | T__ALTER T__DOMAIN qualified_name T__DROP T__CONSTRAINT dropped_column    { CREATE_NODE(alter_domain, 6); }
     | T__ALTER T__DOMAIN qualified_name T__VALIDATE T__CONSTRAINT column_name   { CREATE_NODE(alter_domain, 6); }
-    | T__ALTER T__DOMAIN qualified_name T__RENAME T__CONSTRAINT column_name T__TO column_name  { CREATE_NODE(alter_domain, 8); }
+    | T__ALTER T__DOMAIN qualified_name T__RENAME T__CONSTRAINT column_name T__TO column_name
+      { CREATE_NODE(alter_domain, 8); }
     ;
 
 any_routine_word
@@ -3139,9 +3274,11 @@ alter_object
     | T__ALTER T__LARGE T__OBJECT signed_number T__OWNER T__TO role             { CREATE_NODE(alter_object, 7); }
     | T__ALTER T__SCHEMA column_name common_change                              { CREATE_NODE(alter_object, 4); }
     | T__ALTER T__RULE column_name T__ON qualified_name T__RENAME T__TO column_name  { CREATE_NODE(alter_object, 8); }
-    | T__ALTER T__TRIGGER column_name T__ON qualified_name T__RENAME T__TO column_name  { CREATE_NODE(alter_object, 8); }
+    | T__ALTER T__TRIGGER column_name T__ON qualified_name T__RENAME T__TO column_name
+      { CREATE_NODE(alter_object, 8); }
     | T__ALTER T__TRIGGER column_name T__ON qualified_name extension_dependency  { CREATE_NODE(alter_object, 6); }
-    | T__ALTER T__OPERATOR T__CLASS qualified_name T__USING column_name common_change  { CREATE_NODE(alter_object, 7); }
+    | T__ALTER T__OPERATOR T__CLASS qualified_name T__USING column_name common_change
+      { CREATE_NODE(alter_object, 7); }
     ;
 language_word
     : T__LANGUAGE
@@ -3150,7 +3287,8 @@ language_word
 
 alter_operator
     : T__ALTER T__OPERATOR operator_signature common_change                     { CREATE_NODE(alter_operator, 4); }
-    | T__ALTER T__OPERATOR operator_signature T__SET T__LPAREN operator_changes T__RPAREN  { CREATE_NODE(alter_operator, 7); }
+    | T__ALTER T__OPERATOR operator_signature T__SET T__LPAREN operator_changes T__RPAREN
+      { CREATE_NODE(alter_operator, 7); }
     ;
 operator_changes
     : operator_change
@@ -3170,9 +3308,12 @@ operator_change_value
     ;
 
 alter_operator_family
-    : T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name common_change  { CREATE_NODE(alter_operator_family, 7); }
-    | T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name T__ADD operator_class_items  { CREATE_NODE(alter_operator_family, 8); }
-    | T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name T__DROP dropped_family_items  { CREATE_NODE(alter_operator_family, 8); }
+    : T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name common_change
+      { CREATE_NODE(alter_operator_family, 7); }
+    | T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name T__ADD operator_class_items
+      { CREATE_NODE(alter_operator_family, 8); }
+    | T__ALTER T__OPERATOR T__FAMILY qualified_name T__USING column_name T__DROP dropped_family_items
+      { CREATE_NODE(alter_operator_family, 8); }
     ;
 dropped_family_items
     : dropped_family_item
@@ -3184,8 +3325,10 @@ dropped_family_item
     ;
 
 alter_policy
-    : T__ALTER T__POLICY column_name T__ON qualified_name T__RENAME T__TO column_name  { CREATE_NODE(alter_policy, 8); }
-    | T__ALTER T__POLICY T__IF T__EXISTS column_name T__ON qualified_name T__RENAME T__TO column_name  { CREATE_NODE(alter_policy, 10); }
+    : T__ALTER T__POLICY column_name T__ON qualified_name T__RENAME T__TO column_name
+      { CREATE_NODE(alter_policy, 8); }
+    | T__ALTER T__POLICY T__IF T__EXISTS column_name T__ON qualified_name T__RENAME T__TO column_name
+      { CREATE_NODE(alter_policy, 10); }
     | T__ALTER T__POLICY column_name T__ON qualified_name                       { CREATE_NODE(alter_policy, 5); }
     | T__ALTER T__POLICY column_name T__ON qualified_name policy_clauses        { CREATE_NODE(alter_policy, 6); }
     ;
@@ -3259,9 +3402,12 @@ alter_subscription
     | T__ALTER T__SUBSCRIPTION column_name T__SKIP parenthesized_definitions    { CREATE_NODE(alter_subscription, 5); }
     | T__ALTER T__SUBSCRIPTION column_name T__CONNECTION string_literal         { CREATE_NODE(alter_subscription, 5); }
     | T__ALTER T__SUBSCRIPTION column_name T__REFRESH T__PUBLICATION            { CREATE_NODE(alter_subscription, 5); }
-    | T__ALTER T__SUBSCRIPTION column_name T__REFRESH T__PUBLICATION T__WITH parenthesized_definitions  { CREATE_NODE(alter_subscription, 7); }
-    | T__ALTER T__SUBSCRIPTION column_name subscription_change T__PUBLICATION name_list  { CREATE_NODE(alter_subscription, 6); }
-    | T__ALTER T__SUBSCRIPTION column_name subscription_change T__PUBLICATION name_list T__WITH parenthesized_definitions  { CREATE_NODE(alter_subscription, 8); }
+    | T__ALTER T__SUBSCRIPTION column_name T__REFRESH T__PUBLICATION T__WITH parenthesized_definitions
+      { CREATE_NODE(alter_subscription, 7); }
+    | T__ALTER T__SUBSCRIPTION column_name subscription_change T__PUBLICATION name_list
+      { CREATE_NODE(alter_subscription, 6); }
+    | T__ALTER T__SUBSCRIPTION column_name subscription_change T__PUBLICATION name_list T__WITH
+      parenthesized_definitions                                                 { CREATE_NODE(alter_subscription, 8); }
     | T__ALTER T__SUBSCRIPTION column_name T__ENABLE                            { CREATE_NODE(alter_subscription, 4); }
     | T__ALTER T__SUBSCRIPTION column_name T__DISABLE                           { CREATE_NODE(alter_subscription, 4); }
     ;
@@ -3275,22 +3421,26 @@ alter_foreign_object
     : T__ALTER T__FOREIGN T__DATA T__WRAPPER column_name common_change          { CREATE_NODE(alter_foreign_object, 6); }
     | T__ALTER T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options        { CREATE_NODE(alter_foreign_object, 6); }
     | T__ALTER T__FOREIGN T__DATA T__WRAPPER column_name alter_generic_options  { CREATE_NODE(alter_foreign_object, 6); }
-    | T__ALTER T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options alter_generic_options  { CREATE_NODE(alter_foreign_object, 7); }
+    | T__ALTER T__FOREIGN T__DATA T__WRAPPER column_name wrapper_options alter_generic_options
+      { CREATE_NODE(alter_foreign_object, 7); }
     | T__ALTER T__SERVER column_name common_change                              { CREATE_NODE(alter_foreign_object, 4); }
     | T__ALTER T__SERVER column_name server_version                             { CREATE_NODE(alter_foreign_object, 4); }
     | T__ALTER T__SERVER column_name alter_generic_options                      { CREATE_NODE(alter_foreign_object, 4); }
     | T__ALTER T__SERVER column_name server_version alter_generic_options       { CREATE_NODE(alter_foreign_object, 5); }
-    | T__ALTER T__USER T__MAPPING T__FOR mapped_user T__SERVER column_name alter_generic_options  { CREATE_NODE(alter_foreign_object, 8); }
+    | T__ALTER T__USER T__MAPPING T__FOR mapped_user T__SERVER column_name alter_generic_options
+      { CREATE_NODE(alter_foreign_object, 8); }
     ;
 
 alter_statistics
     : T__ALTER T__STATISTICS qualified_name common_change                       { CREATE_NODE(alter_statistics, 4); }
     | T__ALTER T__STATISTICS qualified_name T__SET T__STATISTICS signed_integer  { CREATE_NODE(alter_statistics, 6); }
-    | T__ALTER T__STATISTICS T__IF T__EXISTS qualified_name T__SET T__STATISTICS signed_integer  { CREATE_NODE(alter_statistics, 8); }
+    | T__ALTER T__STATISTICS T__IF T__EXISTS qualified_name T__SET T__STATISTICS signed_integer
+      { CREATE_NODE(alter_statistics, 8); }
     ;
 
 alter_text_search
-    : T__ALTER T__TEXT T__SEARCH text_search_word qualified_name text_search_change  { CREATE_NODE(alter_text_search, 6); }
+    : T__ALTER T__TEXT T__SEARCH text_search_word qualified_name text_search_change
+      { CREATE_NODE(alter_text_search, 6); }
     ;
 text_search_change
     : common_change
@@ -3298,7 +3448,8 @@ text_search_change
     | T__ADD T__MAPPING T__FOR name_list T__WITH qualified_name_list            { CREATE_NODE(text_search_change, 6); }
     | T__ALTER T__MAPPING T__FOR name_list T__WITH qualified_name_list          { CREATE_NODE(text_search_change, 6); }
     | T__ALTER T__MAPPING T__REPLACE qualified_name T__WITH qualified_name      { CREATE_NODE(text_search_change, 6); }
-    | T__ALTER T__MAPPING T__FOR name_list T__REPLACE qualified_name T__WITH qualified_name  { CREATE_NODE(text_search_change, 8); }
+    | T__ALTER T__MAPPING T__FOR name_list T__REPLACE qualified_name T__WITH qualified_name
+      { CREATE_NODE(text_search_change, 8); }
     | T__DROP T__MAPPING T__FOR name_list                                       { CREATE_NODE(text_search_change, 4); }
     | T__DROP T__MAPPING T__IF T__EXISTS T__FOR name_list                       { CREATE_NODE(text_search_change, 6); }
     ;
@@ -3319,7 +3470,8 @@ alter_system
 
 alter_default_privileges
     : T__ALTER T__DEFAULT T__PRIVILEGES default_privileges_action               { CREATE_NODE(alter_default_privileges, 4); }
-    | T__ALTER T__DEFAULT T__PRIVILEGES default_privileges_scope default_privileges_action  { CREATE_NODE(alter_default_privileges, 5); }
+    | T__ALTER T__DEFAULT T__PRIVILEGES default_privileges_scope default_privileges_action
+      { CREATE_NODE(alter_default_privileges, 5); }
     ;
 default_privileges_scope
     : default_privileges_part
@@ -3332,11 +3484,15 @@ default_privileges_part
     ;
 default_privileges_action
     : T__GRANT privileges T__ON default_privileges_target T__TO grantees        { CREATE_NODE(default_privileges_action, 6); }
-    | T__GRANT privileges T__ON default_privileges_target T__TO grantees T__WITH T__GRANT T__OPTION  { CREATE_NODE(default_privileges_action, 9); }
+    | T__GRANT privileges T__ON default_privileges_target T__TO grantees T__WITH T__GRANT T__OPTION
+      { CREATE_NODE(default_privileges_action, 9); }
     | T__REVOKE privileges T__ON default_privileges_target T__FROM grantees     { CREATE_NODE(default_privileges_action, 6); }
-    | T__REVOKE privileges T__ON default_privileges_target T__FROM grantees drop_behavior  { CREATE_NODE(default_privileges_action, 7); }
-    | T__REVOKE T__GRANT T__OPTION T__FOR privileges T__ON default_privileges_target T__FROM grantees  { CREATE_NODE(default_privileges_action, 9); }
-    | T__REVOKE T__GRANT T__OPTION T__FOR privileges T__ON default_privileges_target T__FROM grantees drop_behavior  { CREATE_NODE(default_privileges_action, 10); }
+    | T__REVOKE privileges T__ON default_privileges_target T__FROM grantees drop_behavior
+      { CREATE_NODE(default_privileges_action, 7); }
+    | T__REVOKE T__GRANT T__OPTION T__FOR privileges T__ON default_privileges_target T__FROM grantees
+      { CREATE_NODE(default_privileges_action, 9); }
+    | T__REVOKE T__GRANT T__OPTION T__FOR privileges T__ON default_privileges_target T__FROM grantees
+      drop_behavior                                                             { CREATE_NODE(default_privileges_action, 10); }
     ;
 default_privileges_target
     : T__TABLES
@@ -3464,7 +3620,8 @@ comment_statement
     ;
 security_label_statement
     : T__SECURITY T__LABEL T__ON commented_object T__IS security_label          { CREATE_NODE(security_label_statement, 6); }
-    | T__SECURITY T__LABEL T__FOR word_or_string T__ON commented_object T__IS security_label  { CREATE_NODE(security_label_statement, 8); }
+    | T__SECURITY T__LABEL T__FOR word_or_string T__ON commented_object T__IS security_label
+      { CREATE_NODE(security_label_statement, 8); }
     ;
 security_label
     : string_literal
@@ -3475,13 +3632,16 @@ security_label
 
 grant_statement
     : T__GRANT privileges T__ON privilege_target T__TO grantees                 { CREATE_NODE(grant_statement, 6); }
-    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION  { CREATE_NODE(grant_statement, 9); }
+    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION
+      { CREATE_NODE(grant_statement, 9); }
     | T__GRANT privileges T__ON privilege_target T__TO grantees granted_by      { CREATE_NODE(grant_statement, 7); }
-    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION granted_by  { CREATE_NODE(grant_statement, 10); }
+    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION granted_by
+      { CREATE_NODE(grant_statement, 10); }
     | T__GRANT privilege_list T__TO grantees                                    { CREATE_NODE(grant_statement, 4); }
     | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION         { CREATE_NODE(grant_statement, 7); }
     | T__GRANT privilege_list T__TO grantees granted_by                         { CREATE_NODE(grant_statement, 5); }
-    | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION granted_by  { CREATE_NODE(grant_statement, 8); }
+    | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION granted_by
+      { CREATE_NODE(grant_statement, 8); }
     ;
 revoke_statement
     : T__REVOKE revoked_privileges                                              { CREATE_NODE(revoke_statement, 2); }
@@ -3489,7 +3649,8 @@ revoke_statement
     ;
 revoked_privileges
     : privileges T__ON privilege_target T__FROM grantees                        { CREATE_NODE(revoked_privileges, 5); }
-    | T__GRANT T__OPTION T__FOR privileges T__ON privilege_target T__FROM grantees  { CREATE_NODE(revoked_privileges, 8); }
+    | T__GRANT T__OPTION T__FOR privileges T__ON privilege_target T__FROM grantees
+      { CREATE_NODE(revoked_privileges, 8); }
     | privilege_list T__FROM grantees                                           { CREATE_NODE(revoked_privileges, 3); }
     | T__ADMIN T__OPTION T__FOR privilege_list T__FROM grantees                 { CREATE_NODE(revoked_privileges, 6); }
     ;
@@ -3704,7 +3865,8 @@ copy_statement
     : T__COPY copied_table copy_direction copy_place                            { CREATE_NODE(copy_statement, 4); }
     | T__COPY copied_table copy_direction copy_place copy_clauses               { CREATE_NODE(copy_statement, 5); }
     | T__COPY T__LPAREN preparable_statement T__RPAREN T__TO copy_place         { CREATE_NODE(copy_statement, 6); }
-    | T__COPY T__LPAREN preparable_statement T__RPAREN T__TO copy_place copy_clauses  { CREATE_NODE(copy_statement, 7); }
+    | T__COPY T__LPAREN preparable_statement T__RPAREN T__TO copy_place copy_clauses
+      { CREATE_NODE(copy_statement, 7); }
     ;
 copied_table
     : qualified_name
@@ -3844,7 +4006,8 @@ call_statement
     ;
 prepare_statement
     : T__PREPARE column_name T__AS prepared_statement                           { CREATE_NODE(prepare_statement, 4); }
-    | T__PREPARE column_name T__LPAREN type_list T__RPAREN T__AS prepared_statement  { CREATE_NODE(prepare_statement, 7); }
+    | T__PREPARE column_name T__LPAREN type_list T__RPAREN T__AS prepared_statement
+      { CREATE_NODE(prepare_statement, 7); }
     ;
 prepared_statement
     : preparable_statement
@@ -4023,7 +4186,8 @@ refresh_statement
     : T__REFRESH T__MATERIALIZED T__VIEW qualified_name                         { CREATE_NODE(refresh_statement, 4); }
     | T__REFRESH T__MATERIALIZED T__VIEW T__CONCURRENTLY qualified_name         { CREATE_NODE(refresh_statement, 5); }
     | T__REFRESH T__MATERIALIZED T__VIEW qualified_name with_data               { CREATE_NODE(refresh_statement, 5); }
-    | T__REFRESH T__MATERIALIZED T__VIEW T__CONCURRENTLY qualified_name with_data  { CREATE_NODE(refresh_statement, 6); }
+    | T__REFRESH T__MATERIALIZED T__VIEW T__CONCURRENTLY qualified_name with_data
+      { CREATE_NODE(refresh_statement, 6); }
     ;
 
 /* ---- Notification and the rest ---- */

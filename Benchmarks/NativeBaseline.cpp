@@ -1,0 +1,202 @@
+// native_baseline [--repeat N] FILE...: the table-driven engine beside the natively compiled grammar, on the
+// same texts in one run. Each measurement runs in a process of its own, so that its peak memory is its own
+// too.
+
+#include "Benchmarks/Native/NativeParse.h"
+#include "Grammar/UVGrammarLexer.h"
+#include "Metadata/UVDBDatabaseInfo.h"
+#include "Parser/UVParser.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr const char* kParserName = "PostgreSQL";
+constexpr unsigned long kPostgreSql = 8;
+constexpr double kMega = 1e6;
+
+struct SMeasure
+{
+    double seconds = 0;
+    std::size_t tokens = 0;
+    std::size_t output = 0;
+    long peakKiB = 0;
+    bool isDone = false;
+};
+
+std::string ReadFile(const char* path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+double Seconds(std::chrono::steady_clock::time_point since)
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - since).count();
+}
+
+std::unique_ptr<CUVDBSQLParser> MakeParser()
+{
+    auto parser = std::make_unique<CUVDBSQLParser>();
+    parser->Load(kParserName);
+    DB_VERSION_INFO version;
+    version.db = kPostgreSql;
+    parser->set_DatabaseInfo(std::make_shared<CUVDBDatabaseInfo>(version));
+    parser->Init("");
+    return parser;
+}
+
+SMeasure EngineScan(const std::string& text)
+{
+    static CSQLGrammarLexer lexer(kParserName, false);
+    lexer.yycreate();
+    lexer.set_ColoringWanted(false);
+    SMeasure measure;
+    const auto start = std::chrono::steady_clock::now();
+    lexer.set_Query(text, static_cast<int>(kPostgreSql));
+    while (lexer.yylex() != 0)
+        ++measure.tokens;
+    measure.seconds = Seconds(start);
+    return measure;
+}
+
+SMeasure CompiledScan(const std::string& text)
+{
+    SMeasure measure;
+    const auto start = std::chrono::steady_clock::now();
+    measure.tokens = NativeScan(text);
+    measure.seconds = Seconds(start);
+    return measure;
+}
+
+SMeasure EngineParse(const std::string& text)
+{
+    static const std::unique_ptr<CUVDBSQLParser> parser = MakeParser();
+    SMeasure measure;
+    parser->set_Query(text.c_str());
+    const auto start = std::chrono::steady_clock::now();
+    const std::string xml = parser->FastParse();
+    measure.seconds = Seconds(start);
+    measure.output = xml.size();
+    return measure;
+}
+
+SMeasure CompiledParse(const std::string& text)
+{
+    SMeasure measure;
+    const auto start = std::chrono::steady_clock::now();
+    const SNativeResult result = NativeParse(text);
+    measure.seconds = Seconds(start);
+    measure.tokens = result.tokens;
+    measure.output = result.xml.size();
+    return measure;
+}
+
+SMeasure LoadTables(const std::string&)
+{
+    SMeasure measure;
+    const auto start = std::chrono::steady_clock::now();
+    CUVDBSQLParser parser;
+    parser.Load(kParserName);
+    measure.seconds = Seconds(start);
+    return measure;
+}
+
+using Work = SMeasure (*)(const std::string& text);
+
+SMeasure Measure(Work work, const char* path, int repeat)
+{
+    int ends[2];
+    if (pipe(ends) != 0)
+        return {};
+    const pid_t child = fork();
+    if (child == 0) {
+        const std::string text = path ? ReadFile(path) : std::string();
+        SMeasure best;
+        for (int run = 0; run < repeat; ++run) {
+            const SMeasure measure = work(text);
+            if (run == 0 || measure.seconds < best.seconds)
+                best = measure;
+        }
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        best.peakKiB = usage.ru_maxrss;
+        best.isDone = true;
+        const bool isWritten = write(ends[1], &best, sizeof best) == static_cast<ssize_t>(sizeof best);
+        _exit(isWritten ? 0 : 1);
+    }
+    close(ends[1]);
+    SMeasure measure;
+    if (child < 0 || read(ends[0], &measure, sizeof measure) != static_cast<ssize_t>(sizeof measure))
+        measure = SMeasure();
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return measure;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int repeat = 3;
+    std::vector<const char*> files;
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--repeat") == 0 && i + 1 < argc)
+            repeat = std::max(1, std::atoi(argv[++i]));
+        else
+            files.push_back(argv[i]);
+    }
+    if (files.empty()) {
+        std::fprintf(stderr, "usage: native_baseline [--repeat N] FILE...\n");
+        return 2;
+    }
+
+    const struct
+    {
+        const char* name;
+        Work work;
+    } rows[] = {
+        {"engine scan", EngineScan},
+        {"native scan", CompiledScan},
+        {"engine parse", EngineParse},
+        {"native parse", CompiledParse},
+    };
+    const SMeasure load = Measure(LoadTables, nullptr, 20);
+    std::printf("loading the tables of %s: %.1f ms\n", kParserName, load.seconds * 1000);
+    bool isAllDone = load.isDone;
+    for (const char* file : files) {
+        const auto bytes = static_cast<double>(ReadFile(file).size());
+        std::printf("\n%s: %.2f MB\n", file, bytes / kMega);
+        std::printf("%-14s %9s %9s %10s %12s %11s %16s\n", "", "seconds", "MB/s", "Mtokens/s", "output MB",
+                    "peak MB", "beyond output/B");
+        double seconds[std::size(rows)] = {};
+        std::size_t tokens = 0;
+        for (std::size_t row = 0; row < std::size(rows); ++row) {
+            const SMeasure measure = Measure(rows[row].work, file, repeat);
+            isAllDone = isAllDone && measure.isDone;
+            seconds[row] = measure.seconds;
+            tokens = measure.tokens ? measure.tokens : tokens;
+            const double peak = static_cast<double>(measure.peakKiB) * 1024;
+            std::printf("%-14s %9.3f %9.2f %10.2f %12.2f %11.1f %16.1f\n", rows[row].name, measure.seconds,
+                        bytes / measure.seconds / kMega,
+                        static_cast<double>(tokens) / measure.seconds / kMega,
+                        static_cast<double>(measure.output) / kMega, peak / kMega,
+                        (peak - static_cast<double>(measure.output)) / bytes);
+        }
+        std::printf("engine to native: scan %.2f, parse %.2f\n", seconds[1] / seconds[0],
+                    seconds[3] / seconds[2]);
+    }
+    return isAllDone ? 0 : 1;
+}
