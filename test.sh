@@ -3,7 +3,6 @@
 #   test.sh [CTEST ARGUMENT...]   debug build with the default compiler, every test (or those that the arguments choose)
 #   test.sh --all                 what CI runs: beside that the second compiler, header verification, the sanitizers
 #                                 over every test, the fuzz targets, format and tidy
-# FUZZ_SECONDS says how long each fuzz target runs (20).
 set -uo pipefail
 
 top=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -109,18 +108,6 @@ check_tidy() {
     list_code '*.cpp' | grep -vE '^\./(Tests|Benchmarks)/' | xargs -n 1 -P "$jobs" clang-tidy --quiet -p build/ci
 }
 
-# fuzz <program>
-fuzz() {
-    local name
-    name=$(basename "$1")
-    local corpus=build/fuzz/corpus/$name
-    mkdir -p "$corpus" build/fuzz/findings
-    local seeds=()
-    [ ! -d "Tests/Fuzz/$name" ] || seeds=("Tests/Fuzz/$name")
-    "${unrandomised[@]}" "$1" -max_total_time="${FUZZ_SECONDS:-20}" -timeout=10 -rss_limit_mb=2048 \
-        -print_final_stats=1 -artifact_prefix="build/fuzz/findings/$name-" "$corpus" "${seeds[@]}"
-}
-
 everything=false
 if [ "${1:-}" = --all ]; then
     everything=true
@@ -149,10 +136,8 @@ else
     tally 0 1
 fi
 
-if run_logged "build fuzz" build fuzz fuzz_targets; then
-    for program in build/fuzz/bin/*Fuzz; do
-        check "fuzz $(basename "$program")" fuzz "$program"
-    done
+if run_logged "build fuzz" build fuzz Tests/Fuzz/all; then
+    run_tests fuzz
 else
     tally 0 1
 fi

@@ -180,7 +180,7 @@ void FreeActionsMap(CActionsMap& actions)
 
 std::string ComposeGrammarDirectory(const std::string& parserName, bool isCr, const char* part)
 {
-    std::string directory = Uve::GetPathOfExe();
+    std::string directory = Uve::GetPathOfExe().c_str();
     directory += "/Grammar";
     if (isCr)
         directory += ".CR";

@@ -2,8 +2,7 @@
 
 #include "Metadata/UVProcessName.h"
 
-namespace
-{
+namespace {
 
 constexpr char kWizardName[] = "OrvantaAssessmentWzd";
 
@@ -13,8 +12,8 @@ bool g_IsAssessorParent = false;
 
 void SetAssessorIsParentOpt(bool isAssessorParent)
 {
-    g_IsAssessorParent = isAssessorParent || GetParentProcessName().Right(sizeof kWizardName - 1)
-                                                     .CollateNoCase(kWizardName) == 0;
+    g_IsAssessorParent = isAssessorParent ||
+                         GetParentProcessName().Right(sizeof kWizardName - 1).CollateNoCase(kWizardName) == 0;
 }
 
 bool GetAssessorIsParentOpt()

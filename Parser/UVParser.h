@@ -1,8 +1,9 @@
-// The parser object behind the plug-in entry: it owns the scanner and the parser of one grammar, takes options and a
-// text from its host, and makes the result. What a host may call, and when, is told at the interface.
+// The parser object behind the plug-in entry: it owns the scanner and the parser of one grammar, takes
+// options and a text from its host, and makes the result. What a host may call, and when, is told at the
+// interface.
 //
-// Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo), the way
-// from a text to its result (UVParserPipeline), errors and statistics (UVParserErrors).
+// Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo),
+// the way from a text to its result (UVParserPipeline), errors and statistics (UVParserErrors).
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
@@ -18,10 +19,11 @@
 class CUVDBSQLParser : public IUVDBSQLParser
 {
 public:
-    // An object that isn't ready (Load missing, or Init behind the last Load) answers UVDB_ERROR where it would need
-    // a grammar. Only Load, FastParse and SetLastError let exceptions pass.
+    // An object that isn't ready (Load missing, or Init behind the last Load) answers UVDB_ERROR where it
+    // would need a grammar. Only Load, FastParse and SetLastError let exceptions pass.
 
-    // Returns: UVDB_INVALID_ARGUMENT for a null name. A grammar that can't be loaded leaves the earlier one in place.
+    // Returns: UVDB_INVALID_ARGUMENT for a null name. A grammar that can't be loaded leaves the earlier one
+    // in place.
     int Load(const char* parserName) override;
     int Init(const char* mode) override;
     int set_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info) override;
@@ -29,8 +31,8 @@ public:
     int set_Log(std::shared_ptr<ILog> log) override;
     int set_Query(const char* text) override;
 
-    // With the option REPORT_UNEXPECTED_TOKENS "1" on the database info, a parse that got as far as the database info
-    // leaves the list of FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS.
+    // With the option REPORT_UNEXPECTED_TOKENS "1" on the database info, a parse that got as far as the
+    // database info leaves the list of FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS.
     int Parse(bool showErrors) override;
 
     // Adds to the unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't ready.
@@ -50,14 +52,15 @@ public:
     // Returns: UVDB_NOT_SUPPORTED, with `text` as it was.
     int Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& text) override;
 
-    // Keeps the outcome of the second parse if it met no unexpected token, and the flipped rule with it. Otherwise
-    // everything is put back but the error, which is the second parse's message.
+    // Keeps the outcome of the second parse if it met no unexpected token, and the flipped rule with it.
+    // Otherwise everything is put back but the error, which is the second parse's message.
     void TryParseWithOtherOpts(bool showErrors) override;
     bool IsParseHasErrors() override;
     void SetLastError() override;
 
     // Leave the command line as it is.
-    void CreateUVParserCmdParameterList(std::string& commandLine, bool showErrors, unsigned long querySize) override;
+    void CreateUVParserCmdParameterList(std::string& commandLine, bool showErrors,
+                                        unsigned long querySize) override;
     void CreateUVTranslatorCmdParameterList(std::string& commandLine, int querySize) override;
 
 protected:

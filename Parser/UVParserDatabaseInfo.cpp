@@ -10,8 +10,7 @@
 
 #include <utility>
 
-namespace
-{
+namespace {
 
 using Uve::U8CString;
 
@@ -24,8 +23,8 @@ constexpr int kExtParserSizeCopy = 10240000;
 // The line feed belongs to the name: tools look the file up with it.
 constexpr char kDefinesFile[] = "UVParserCmd.cfg\n";
 
-// From 12.50 on, and in the releases of 11, a quoted text is a string unless an option says otherwise. Versions are
-// compared unsigned, so that an unknown one counts as the newest.
+// From 12.50 on, and in the releases of 11, a quoted text is a string unless an option says otherwise.
+// Versions are compared unsigned, so that an unknown one counts as the newest.
 bool TakesQuotedTextAsString(const DB_VERSION_INFO& version)
 {
     return version.major == 11 || version.major > 12 || (version.major == 12 && version.minor > 49);
@@ -149,7 +148,8 @@ void CUVDBSQLParser::ReadPascalDefines()
     if (!Uve::File::WriteAllText(kDefinesFile, "DEFINES=" + defines))
         CLogWrapper::WriteTraceF("\nFAILED to write file %s", kDefinesFile);
     int position = 0;
-    for (U8CString symbol = defines.Tokenize(";", position); position != -1; symbol = defines.Tokenize(";", position))
+    for (U8CString symbol = defines.Tokenize(";", position); position != -1;
+         symbol = defines.Tokenize(";", position))
         WriteLexers([&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_lstDefines.push_back(symbol); });
 }
 

@@ -6,8 +6,7 @@
 #include "Metadata/UVDBOptionWrapper.h"
 #include "Parser/UVParserText.h"
 
-namespace
-{
+namespace {
 
 using Uve::U8CString;
 

@@ -10,8 +10,7 @@
 
 #include <utility>
 
-namespace
-{
+namespace {
 
 // What yycreate answers when the stacks and buffers are there.
 constexpr int kConnected = 1;
@@ -63,8 +62,8 @@ int CUVDBSQLParser::Init(const char* mode)
             return static_cast<int>(UVDB_ERROR);
         }
         // A connection that can't be made is no failure of Init: the parse that needs it fails.
-        m_IsConnected =
-            m_Parser->yycreate(m_Lexer.get()) == kConnected && m_Lexer->yycreate(m_Parser.get()) == kConnected;
+        m_IsConnected = m_Parser->yycreate(m_Lexer.get()) == kConnected &&
+                        m_Lexer->yycreate(m_Parser.get()) == kConnected;
         if (m_IsConnected)
             m_ColoringLexer.yycreate();
         return static_cast<int>(UVDB_OK);

@@ -1,5 +1,5 @@
-// From a text to its result: preparation, scanning and parsing or coloring, a second attempt with the other rule for
-// quoted identifiers, flattening.
+// From a text to its result: preparation, scanning and parsing or coloring, a second attempt with the other
+// rule for quoted identifiers, flattening.
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
@@ -15,8 +15,7 @@
 
 #include <utility>
 
-namespace
-{
+namespace {
 
 using Uve::U8CString;
 
@@ -29,7 +28,8 @@ bool HasDescription(IUVDBErrorInfo& error)
 
 } // namespace
 
-// Everything that the second attempt changes, set aside for its time. What isn't accepted comes back at the end.
+// Everything that the second attempt changes, set aside for its time. What isn't accepted comes back at the
+// end.
 class CUVDBSQLParser::CSecondAttempt
 {
 public:
@@ -161,7 +161,8 @@ int CUVDBSQLParser::PrepareToParse()
     WriteLexers([&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_bCppDirectiveParse = parsesDirectives; });
 
     ReplaceZeroWidthSpaces(m_Query);
-    const SFormatterRow* const formatter = FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject});
+    const SFormatterRow* const formatter =
+        FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject});
     if (formatter != nullptr && formatter->format != nullptr)
         formatter->format(*this);
 

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 constexpr std::string_view kZeroWidthSpace = "\xE2\x80\x8B";
 constexpr std::string_view kXmlHeader = "<?xml version=\"1.0\" ?>";
@@ -84,5 +83,6 @@ std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::strin
     }
     const std::size_t end = LineEnd(text, start);
     const std::size_t quoteEnd = end == text.size() ? end : LineEnd(text, end + 1);
-    return "Code lines:\n<<<<\n" + std::string(text.substr(previousStart, quoteEnd - previousStart)) + "\n>>>>\n";
+    return "Code lines:\n<<<<\n" + std::string(text.substr(previousStart, quoteEnd - previousStart)) +
+           "\n>>>>\n";
 }

@@ -5,8 +5,7 @@
 #include <numeric>
 #include <string>
 
-namespace
-{
+namespace {
 
 struct STextPlace
 {
@@ -14,8 +13,8 @@ struct STextPlace
     std::size_t column = 1;
 };
 
-// Walks forward over a text and tells places in it. Texts may be one line of many megabytes, so no byte is looked at
-// twice: the offsets that it is asked for ascend.
+// Walks forward over a text and tells places in it. Texts may be one line of many megabytes, so no byte is
+// looked at twice: the offsets that it is asked for ascend.
 class CPlaceFinder
 {
 public:
@@ -60,7 +59,8 @@ Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<
     std::string list;
     for (std::size_t index = 0; index < tokens.size(); ++index) {
         const SUnexpectedToken& token = tokens[index];
-        for (const std::size_t number : {places[index].line, places[index].column, token.offset, token.length}) {
+        for (const std::size_t number :
+             {places[index].line, places[index].column, token.offset, token.length}) {
             list += std::to_string(number);
             list += '\t';
         }

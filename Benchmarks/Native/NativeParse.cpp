@@ -1,7 +1,7 @@
 #include "Benchmarks/Native/NativeParse.h"
 
 #include "Benchmarks/Native/NativeSupport.h"
-#include "NativeParser.h"
+#include <NativeParser.h> // generated
 
 #include <utility>
 

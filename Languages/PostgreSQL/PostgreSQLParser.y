@@ -1,16 +1,16 @@
 %define lr.default-reduction consistent
 %define api.value.type {int}
 
-%token T__NOT_LA T__NOT T__NULLS_LA T__NULLS T__WITH_LA T__WITH T__UESCAPE_LA T__FROM T__ABORT T__ABSOLUTE
-%token T__ACCESS T__ACTION T__ADD T__ADMIN T__AFTER T__AGGREGATE T__ALL T__ALSO T__ALTER T__ALWAYS T__ANALYSE
-%token T__ANALYZE T__AND T__ANY T__ARRAY T__AS T__ASC T__ASENSITIVE T__ASSERTION T__ASSIGNMENT T__ASYMMETRIC
-%token T__AT T__ATOMIC T__ATTACH T__ATTRIBUTE T__AUTHORIZATION T__BACKWARD T__BEFORE T__BEGIN T__BETWEEN
-%token T__BIGINT T__BINARY T__BIT T__BOOLEAN T__BOTH T__BREADTH T__BY T__CACHE T__CALL T__CALLED T__CASCADE
-%token T__CASCADED T__CASE T__CAST T__CATALOG T__CHAIN T__CHAR T__CHARACTER T__CHARACTERISTICS T__CHECK
-%token T__CHECKPOINT T__CLASS T__CLOSE T__CLUSTER T__COALESCE T__COLLATE T__COLLATION T__COLUMN T__COLUMNS
-%token T__COMMENT T__COMMENTS T__COMMIT T__COMMITTED T__COMPRESSION T__CONCURRENTLY T__CONFIGURATION
-%token T__CONFLICT T__CONNECTION T__CONSTRAINT T__CONSTRAINTS T__CONTENT T__CONTINUE T__CONVERSION T__COPY
-%token T__COST T__CREATE T__CROSS T__CSV T__CUBE T__CURRENT T__CURRENT_CATALOG T__CURRENT_DATE T__CURRENT_ROLE
+%token T__NOT_LA T__NOT T__NULLS_LA T__NULLS T__WITH_LA T__WITH T__FROM T__ABORT T__ABSOLUTE T__ACCESS
+%token T__ACTION T__ADD T__ADMIN T__AFTER T__AGGREGATE T__ALL T__ALSO T__ALTER T__ALWAYS T__ANALYSE T__ANALYZE
+%token T__AND T__ANY T__ARRAY T__AS T__ASC T__ASENSITIVE T__ASSERTION T__ASSIGNMENT T__ASYMMETRIC T__AT
+%token T__ATOMIC T__ATTACH T__ATTRIBUTE T__AUTHORIZATION T__BACKWARD T__BEFORE T__BEGIN T__BETWEEN T__BIGINT
+%token T__BINARY T__BIT T__BOOLEAN T__BOTH T__BREADTH T__BY T__CACHE T__CALL T__CALLED T__CASCADE T__CASCADED
+%token T__CASE T__CAST T__CATALOG T__CHAIN T__CHAR T__CHARACTER T__CHARACTERISTICS T__CHECK T__CHECKPOINT
+%token T__CLASS T__CLOSE T__CLUSTER T__COALESCE T__COLLATE T__COLLATION T__COLUMN T__COLUMNS T__COMMENT
+%token T__COMMENTS T__COMMIT T__COMMITTED T__COMPRESSION T__CONCURRENTLY T__CONFIGURATION T__CONFLICT
+%token T__CONNECTION T__CONSTRAINT T__CONSTRAINTS T__CONTENT T__CONTINUE T__CONVERSION T__COPY T__COST
+%token T__CREATE T__CROSS T__CSV T__CUBE T__CURRENT T__CURRENT_CATALOG T__CURRENT_DATE T__CURRENT_ROLE
 %token T__CURRENT_SCHEMA T__CURRENT_TIME T__CURRENT_TIMESTAMP T__CURRENT_USER T__CURSOR T__CYCLE T__DATA
 %token T__DATABASE T__DAY T__DEALLOCATE T__DEC T__DECIMAL T__DECLARE T__DEFAULT T__DEFAULTS T__DEFERRABLE
 %token T__DEFERRED T__DEFINER T__DELETE T__DELIMITER T__DELIMITERS T__DEPENDS T__DEPTH T__DESC T__DETACH
@@ -205,7 +205,6 @@ pl_sql_statement
 other_identifier
     : T__QUOTED_IDENTIFIER
     | T__UNICODE_IDENTIFIER
-    | T__UNICODE_IDENTIFIER T__UESCAPE_LA T__STRING                             { CREATE_NODE(unicode_identifier, 3); }
     | T__CLIENT_VARIABLE
     | T__CLIENT_IDENTIFIER
     ;
@@ -319,7 +318,6 @@ string_literal
     : T__STRING
     | T__ESCAPE_STRING
     | T__UNICODE_STRING
-    | T__UNICODE_STRING T__UESCAPE_LA T__STRING                                 { CREATE_NODE(unicode_string, 3); }
     | T__CLIENT_STRING
     | dollar_string
     ;
@@ -2360,7 +2358,7 @@ routine_items
     ;
 routine_item
     : T__RETURNS function_type                                                  { CREATE_NODE(routine_item, 2); }
-    | T__RETURNS T__TABLE T__LPAREN table_function_columns T__RPAREN            { CREATE_NODE(routine_item, 5); }
+    | T__RETURNS T__TABLE T__LPAREN returned_columns T__RPAREN                  { CREATE_NODE(routine_item, 5); }
     | T__AS string_literal                                                      { CREATE_NODE(routine_item, 2); }
     | T__AS string_literal T__COMMA string_literal                              { CREATE_NODE(routine_item, 4); }
     | T__LANGUAGE non_reserved_word                                             { CREATE_NODE(routine_item, 2); }
@@ -2368,6 +2366,13 @@ routine_item
     | T__TRANSFORM transform_types                                              { CREATE_NODE(routine_item, 2); }
     | T__WINDOW
     | routine_attribute
+    ;
+returned_columns
+    : returned_column
+    | returned_columns T__COMMA returned_column                                 { CREATE_NODE(returned_columns, 3); }
+    ;
+returned_column
+    : type_function_name function_type                                          { CREATE_NODE(returned_column, 2); }
     ;
 transform_types
     : T__FOR T__TYPE type_name                                                  { CREATE_NODE(transform_types, 3); }
@@ -3363,7 +3368,8 @@ role_setting
     ;
 
 alter_database
-    : T__ALTER T__DATABASE column_name database_options                         { CREATE_NODE(alter_database, 4); }
+    : T__ALTER T__DATABASE column_name                                          { CREATE_NODE(alter_database, 3); }
+    | T__ALTER T__DATABASE column_name database_options                         { CREATE_NODE(alter_database, 4); }
     | T__ALTER T__DATABASE column_name T__WITH database_options                 { CREATE_NODE(alter_database, 5); }
     | T__ALTER T__DATABASE column_name T__WITH                                  { CREATE_NODE(alter_database, 4); }
     | T__ALTER T__DATABASE column_name T__SET T__TABLESPACE column_name         { CREATE_NODE(alter_database, 6); }

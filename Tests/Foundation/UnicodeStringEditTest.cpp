@@ -197,6 +197,8 @@ TEST(U8CStringEdit, FormatTakesAnyLength)
     EXPECT_EQ(text, "kept");
     text.AppendFormat("!%c%c", 0, 0); // NUL bytes at the end don't stay
     EXPECT_EQ(text, "kept!");
+    text.Format("x%c", 0);
+    EXPECT_EQ(text, "x");
     text.Format("%c%c", 0, 'x');
     EXPECT_EQ(text, std::string("\0x", 2));
 }
@@ -229,6 +231,7 @@ TEST(U8CStringEdit, BuffersCountFourBytesACharacter)
 
 TEST(U8CStringEdit, MalformedTextLosesNoByte)
 {
+    EXPECT_EQ(U8CString("a\xE2").FindOneOf("\xE2\x82\xAC"), -1); // a part of a member isn't a member
     const std::string malformed[] = {
         "\x80",       "a\x80\x80",         "\xE2\x82",      "a\xF0\x9F",        "\xFF\xFE",
         "\xC3 \xC3,", "\xE2 ,\x82\xAC ab", "\xFD\x80 \xFC", "\x80\xE2\x82\xAC", std::string("\xF0\0,\0", 4),
@@ -237,8 +240,7 @@ TEST(U8CStringEdit, MalformedTextLosesNoByte)
         SCOPED_TRACE(testing::PrintToString(text));
         for (int known = 0; known <= 8; ++known) {
             for (int index = 0; index <= 8; ++index) {
-                // A remembered position makes no difference, although ways back and forth count differently
-                // here.
+                // A remembered position makes no difference, although the way back counts differently here.
                 const U8CString fresh(text);
                 U8CString subject(text);
                 subject.Mid(known, 1);

@@ -39,9 +39,13 @@ TEST(U8CString, PartsAgreeWithCodePointsFromEveryKnownPosition)
         const int length = static_cast<int>(text.size());
         WithEveryKnownPosition(text, [&](const U8CString& subject) {
             for (int first = -1; first <= length + 1; ++first) {
-                for (int count = -1; count <= length + 1; ++count)
+                for (int count = -1; count <= length + 1; ++count) {
                     ASSERT_EQ(subject.Mid(first, count), Utf8(Mid(text, first, count)))
                         << first << ' ' << count;
+                    const U8CString fresh(Utf8(text));
+                    fresh.Mid(first, count);
+                    ASSERT_EQ(fresh.GetLength(), length) << first << ' ' << count;
+                }
                 ASSERT_EQ(subject.Left(first), Utf8(Mid(text, 0, first))) << first;
                 ASSERT_EQ(subject.Right(first), Utf8(Mid(text, length - first, first))) << first;
             }
@@ -71,7 +75,9 @@ TEST(U8CString, SearchesAgreeWithCodePointsFromEveryKnownPosition)
                               Index(text.find_last_of(wanted, from)))
                         << start;
                 }
-                ASSERT_EQ(subject.FindOneOf(utf8.c_str()), Index(text.find_first_of(wanted)));
+                const U8CString fresh(Utf8(text));
+                ASSERT_EQ(fresh.FindOneOf(utf8.c_str()), Index(text.find_first_of(wanted)));
+                ASSERT_EQ(fresh.GetLength(), length);
                 ASSERT_EQ(subject.ReverseFind(utf8.c_str()),
                           wanted.empty() ? -1 : Index(text.rfind(wanted[0])));
             }
@@ -116,8 +122,8 @@ TEST(U8CString, TokensAgreeWithCodePoints)
     };
     for (const auto& text : kTexts) {
         for (const auto& delimiters : kShortTexts) {
-            const U8CString subject(Utf8(text));
             for (int start = 0; start <= static_cast<int>(text.size()) + 1; ++start) {
+                const U8CString subject(Utf8(text));
                 int position = start;
                 int expected = start;
                 do {
@@ -126,6 +132,7 @@ TEST(U8CString, TokensAgreeWithCodePoints)
                         << '\'' << Utf8(text) << "' by '" << Utf8(delimiters) << "' from " << start;
                     ASSERT_EQ(position, expected)
                         << '\'' << Utf8(text) << "' by '" << Utf8(delimiters) << '\'';
+                    ASSERT_EQ(U8CString(subject).GetLength(), static_cast<int>(text.size()));
                 } while (position != -1 && !delimiters.empty());
             }
         }
@@ -228,9 +235,11 @@ TEST(U8CString, IsAByteStringToContainersAndTypes)
 TEST(U8CString, MovingTakesThePositionAlong)
 {
     U8CString source("\xC3\xA9\xC3\xA9z");
+    source.GetLength();
     source.Mid(2, 1);
     U8CString target(std::move(source));
-    source = "abc"; // NOLINT: reused on purpose
+    EXPECT_EQ(source.GetLength(), 0); // NOLINT: what is left behind is empty in every respect
+    source = "abc";                   // NOLINT: reused on purpose
     EXPECT_EQ(source.Mid(2, 1), "c");
     EXPECT_EQ(target.Mid(2, 1), "z");
     swap(source, target);

@@ -12,8 +12,7 @@
 #include <vector>
 
 // Any bytes through the string classes. The first bytes of the input choose positions and the size of a
-// needle, the rest is the text. Besides staying inside its memory and coming to an end, text must not get
-// lost.
+// needle, the rest is the text. Besides reading inside its memory and coming to an end, no text may get lost.
 
 namespace {
 

@@ -1,5 +1,5 @@
-// Any bytes through the front door, with the fixture grammar that stands beside the program: a parse that succeeds
-// gives a tree whose text is the source.
+// Any bytes through the front door, with the fixture grammar that stands beside the program: a parse that
+// succeeds gives a tree whose text is the source.
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Interfaces/UVDBResults.h"
@@ -15,8 +15,7 @@
 #include <string>
 #include <string_view>
 
-namespace
-{
+namespace {
 
 void Erase(std::string& text, std::string_view part)
 {
@@ -61,8 +60,8 @@ public:
     {
         m_Parser.set_Query(source.c_str());
         const std::string raw = m_Parser.FastParse();
-        Expect(raw.empty() || WithoutControls(TreeText(raw)) == WithoutControls(source), "raw parse lost text", source,
-               raw);
+        Expect(raw.empty() || WithoutControls(TreeText(raw)) == WithoutControls(source),
+               "raw parse lost text", source, raw);
 
         Uve::U8CString prepared = source;
         prepared.Replace("\xE2\x80\x8B", " ");
@@ -70,8 +69,8 @@ public:
         Uve::U8CString tree;
         m_Parser.get_SQLTree(tree);
         Expect(result == UVDB_OK || tree.empty(), "failure with a tree", source, tree);
-        Expect(result != UVDB_OK || WithoutControls(TreeText(tree)) == WithoutControls(prepared), "parse lost text",
-               source, tree);
+        Expect(result != UVDB_OK || WithoutControls(TreeText(tree)) == WithoutControls(prepared),
+               "parse lost text", source, tree);
         Uve::U8CString unexpected;
         CUVDBOptionWrapper::GetParam(m_Info, "UNEXPECTED_TOKENS", unexpected);
         Expect(unexpected.empty() != m_Parser.IsParseHasErrors(), "list of tokens and state differ", source,
@@ -79,8 +78,8 @@ public:
     }
 
 private:
-    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(
-        UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(
+        MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
     CUVDBSQLParser m_Parser;
 };
 

@@ -144,6 +144,8 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         {L, "noecs ", "", "the option 'noecs' is missing"},
         {L, "nometa-ecs ", "ecs nometa-ecs ", "the option 'noecs' is missing"},
         {L, " lex-compat", "", "the option 'lex-compat' is missing"},
+        {L, "lex-compat", "lex-compat 7bit",
+         "uvgrammar: error: the tables made of this grammar can't be loaded: "},
         // what flex says itself
         {L, "<COMMENT>\"*/\"", "<NOWHERE>\"*/\"",
          "L.l:7: error: undeclared start condition NOWHERE\n    <NOWHERE>"},
@@ -342,6 +344,7 @@ TEST_F(Uvgrammar, CouldNotRun)
         {"--lexer L.l --parser P.y", "", "uvgrammar: error: "},
         {"--lexer L.l --parser P.y --output out more", "", "uvgrammar: error: "},
         {"--lexer L.l --parser P.y --output out --nonsense", "", "uvgrammar: error: "},
+        {"--lexer L.l --parser P.y --output out --name ../out", "", "can't be the name of a language"},
         {"--lexer none.l --parser P.y --output out", "", "none.l: No such file"},
         {"--lexer L.l --parser P.y --output sources", "", "is not part of a table directory"},
         {"--lexer L.l --parser P.y --output file", "", "is not a folder"},

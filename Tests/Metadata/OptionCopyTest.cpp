@@ -19,6 +19,9 @@ namespace {
 
 using Uve::U8CString;
 
+// The wizard option that gets a default here. Defaults belong to the process, and stay.
+constexpr const char* kDefaultedKey = "TRACE";
+
 std::shared_ptr<CUVDBDatabaseInfo> MakeInfo()
 {
     return UVDBMakeObject<CUVDBDatabaseInfo>(DB_VERSION_INFO{});
@@ -103,7 +106,7 @@ TEST(OptionCopy, RecordsReachTheTargetForEveryKey)
     UVOptionInfo option;
     for (const std::string& key : keys) {
         option.value = "not read";
-        if (key == "PORT")
+        if (key == "PORT" || key == kDefaultedKey)
             continue;
         ASSERT_TRUE(CUVDBOptionWrapper::GetParam(target, key, option)) << key;
         EXPECT_EQ(option.value, key == "HOST" ? "db.example.org" : "") << key;
@@ -113,17 +116,17 @@ TEST(OptionCopy, RecordsReachTheTargetForEveryKey)
     CUVDBOptionWrapper::GetParam(target, "PORT", port);
     EXPECT_EQ(port, "5432");
     EXPECT_THAT(log.Lines(),
-                testing::Each("\nFAILED to set typed option. Unsupported option type (value type: "
-                              "12UVOptionInfo)"));
-    EXPECT_FALSE(log.Lines().empty());
+                testing::Contains("\nFAILED to set typed option. Unsupported option type (value type: "
+                                  "12UVOptionInfo)"));
 }
 
 TEST(OptionCopy, PresentTextsBecomeTheTargetsType)
 {
     const auto source = MakeInfo();
     const auto target = MakeInfo();
+    CUVDBOptionWrapper::SetParam(&GetDefaultsValues(), kDefaultedKey, U8CString("default"));
     UVDBCopyOptions(source.get(), target.get());
-    EXPECT_TRUE(target->IsEmpty());
+    EXPECT_TRUE(target->IsEmpty()) << "defaults don't travel";
 
     CUVDBOptionWrapper::SetParam(source, "PORT", 5432l);
     CUVDBOptionWrapper::SetParam(source, "HOST", U8CString("h"));

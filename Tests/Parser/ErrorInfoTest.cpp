@@ -4,8 +4,7 @@
 
 #include <string>
 
-namespace
-{
+namespace {
 
 struct SBufferCase
 {
@@ -16,9 +15,9 @@ struct SBufferCase
 
 constexpr SBufferCase kBuffers[] = {
     //  size copied  length
-    {0, "######", 4}, // asks for the length alone
-    {1, "", 0},   {4, "abc", 3}, // no room for the terminator: the last byte goes
-    {5, "abcd", 4}, {6, "abcd", 4},
+    {0, "######", 4},                // asks for the length alone
+    {1, "", 0},       {4, "abc", 3}, // no room for the terminator: the last byte goes
+    {5, "abcd", 4},   {6, "abcd", 4},
 };
 
 TEST(ErrorInfo, BufferSizeDecidesWhatIsCopied)

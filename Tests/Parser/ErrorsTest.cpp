@@ -1,7 +1,6 @@
 #include "Tests/Parser/ParserFixture.h"
 
-namespace
-{
+namespace {
 
 TEST(ParserErrors, LineNumberIsTheFirstPieceOfTheMessage)
 {
@@ -50,8 +49,7 @@ TEST(ParserErrors, PlaceQuotesTheLineWithItsNeighbours)
 }
 
 class ParserErrorRecords : public ParserTest
-{
-};
+{};
 
 TEST_F(ParserErrorRecords, RepeatedTokenStandsOnceInTheList)
 {

@@ -1,15 +1,13 @@
-#include "Parser/UVParserFormatters.h"
-
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVParserFormatters.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
+namespace {
 
 struct SFormatterCase
 {
@@ -47,8 +45,8 @@ constexpr SFormatterCase kCases[] = {
 TEST(Formatters, KindAndOptionsChoose)
 {
     for (const SFormatterCase& c : kCases) {
-        SCOPED_TRACE(testing::Message() << c.kind << ' ' << (c.option ? c.option : "") << '='
-                                        << (c.value ? c.value : ""));
+        SCOPED_TRACE(testing::Message()
+                     << c.kind << ' ' << (c.option ? c.option : "") << '=' << (c.value ? c.value : ""));
         const DB_VERSION_INFO version =
             MakeDbVersionInfo(c.kind, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD);
         SFormatterOptions options{UVDBMakeObject<CUVDBDatabaseInfo>(version), nullptr};

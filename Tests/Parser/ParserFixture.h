@@ -1,7 +1,7 @@
 // A parser over the fixture grammar Basic, with its insides in reach, a database info and a log.
 //
-// The grammar takes double-quoted text in `use` statements as an identifier and in `print` statements as a string, so
-// the first is clean under one rule for quoted identifiers and the second under the other.
+// The grammar takes double-quoted text in `use` statements as an identifier and in `print` statements as a
+// string, so the first is clean under one rule for quoted identifiers and the second under the other.
 #pragma once
 
 #include "Catalogue/UVDBDatabaseKinds.h"
@@ -137,8 +137,7 @@ protected:
     }
 
     CLogCapture m_Log;
-    std::shared_ptr<IUVDBDatabaseInfo2> m_Info =
-        UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD,
-                                                           UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(
+        MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
     CParserProbe m_Parser;
 };

@@ -4,8 +4,7 @@
 
 #include <string>
 
-namespace
-{
+namespace {
 
 using Uve::U8CString;
 
@@ -22,8 +21,9 @@ TEST(ParserText, ZeroWidthSpacesBecomeBlanks)
         {"a\xE2\x80\x8B\xE2\x80\x8B"
          "b\xE2\x80\x8B",
          "a  b "},
-        {"\xE2\x82\xAC\xE2\x80\x8B\xE2\x82\xAC", "\xE2\x82\xAC \xE2\x82\xAC"}, // neighbours with the same first byte
-        {"\xE2\x80", "\xE2\x80"},                                              // cut off at the end
+        {"\xE2\x82\xAC\xE2\x80\x8B\xE2\x82\xAC",
+         "\xE2\x82\xAC \xE2\x82\xAC"}, // neighbours with the same first byte
+        {"\xE2\x80", "\xE2\x80"},      // cut off at the end
     };
     for (const auto& c : kCases) {
         U8CString text = c.text;
@@ -44,9 +44,9 @@ TEST(ParserText, XmlHeaderIsReplacedByOneOfItsOwn)
         {"", ""},
         {"<SQL></SQL>", "<SQL></SQL>"},
         {"<?xml version='1.1'?><a/>", "<a/>"},
-        {"<SQL><?xml?>rest", "rest"},    // what stands in front goes too
-        {"<SQL><?xml", "<SQL><?xml"},    // never closed
-        {"<?php ?>", "<?php ?>"},        // another instruction
+        {"<SQL><?xml?>rest", "rest"}, // what stands in front goes too
+        {"<SQL><?xml", "<SQL><?xml"}, // never closed
+        {"<?php ?>", "<?php ?>"},     // another instruction
     };
     for (const auto& c : kCases) {
         U8CString text = c.text;

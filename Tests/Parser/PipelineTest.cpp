@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 class Pipeline : public ParserTest
-{
-};
+{};
 
 TEST_F(Pipeline, CallsOutOfOrderFailAndNothingElse)
 {
@@ -113,8 +111,8 @@ TEST_F(Pipeline, PropertiesFilesAreWrapped)
         const char* path;
         bool isWrapped;
     } constexpr kCases[] = {
-        {"a.PROPERTIES", true}, {"a.sql.properties", true}, {"properties", false},
-        {"a.properties.sql", false}, {".properties", true}, {"", false},
+        {"a.PROPERTIES", true},      {"a.sql.properties", true}, {"properties", false},
+        {"a.properties.sql", false}, {".properties", true},      {"", false},
     };
     Start();
     for (const auto& c : kCases) {
@@ -190,16 +188,19 @@ struct SRetryCase
 };
 
 // The rule at the start is "identifier".
+// clang-format off
 constexpr SRetryCase kRetries[] = {
+//   text                          result      tree   errors identifier flattened description             token      warnings
     // clean at once: no second attempt
-    {"use \"x\";", UVDB_OK, true, false, true, 1, "", nullptr, 0},
+    {"use \"x\";",                 UVDB_OK,    true,  false, true,      1,        "",                     nullptr,   0},
     // clean under the other rule, which stays
-    {"print \"x\";", UVDB_OK, true, false, false, 2, "", nullptr, 1},
+    {"print \"x\";",               UVDB_OK,    true,  false, false,     2,        "",                     nullptr,   1},
     // the first tree stays; the message is the second attempt's, the tokens are the first one's
-    {"print \"x\"; use \"y\";", UVDB_OK, true, true, true, 2, "1 '\"y\"' Code lines:", "\"x\"", 2},
+    {"print \"x\"; use \"y\";",    UVDB_OK,    true,  true,  true,      2,        "1 '\"y\"' Code lines:", "\"x\"", 2},
     // no tree under either rule
-    {"print 1", UVDB_ERROR, false, true, true, 0, "1 '1' Code lines:", "1", 0},
+    {"print 1",                    UVDB_ERROR, false, true,  true,      0,        "1 '1' Code lines:",    "1",       0},
 };
+// clang-format on
 
 TEST_F(Pipeline, SecondAttemptTriesTheOtherQuoteRule)
 {
@@ -251,7 +252,7 @@ TEST_F(Pipeline, ModesFollowInit)
         bool isColoring;
         bool isComment;
     } constexpr kCases[] = {
-        {"-CL", true, false}, {"-cb", true, true}, {"", false, false},    {"-cb", false, true},
+        {"-CL", true, false}, {"-cb", true, true},  {"", false, false},      {"-cb", false, true},
         {"-cl", true, true},  {"-x", false, false}, {nullptr, false, false},
     };
     Load();

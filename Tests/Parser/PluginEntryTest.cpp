@@ -9,14 +9,12 @@
 #include "Tests/Parser/ParserFixture.h"
 #include "UVEnvironment/PluginHelpers.h"
 
+#include <boost/dll/library_info.hpp>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include <boost/dll/library_info.hpp>
-
-namespace
-{
+namespace {
 
 TEST(PluginEntry, SymbolStandsInASectionOfItsOwn)
 {
@@ -29,8 +27,8 @@ TEST(PluginEntry, HostWalksTheCallingOrder)
 {
     const auto log = std::make_shared<CMemoryLog>();
     const auto parser = PluginHelpers::CreateParser(UV_BIN_DIR "/libUVParser.so");
-    const auto info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(
-        UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    const auto info = UVDBMakeObject<CUVDBDatabaseInfo>(
+        MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
     CUVDBOptionWrapper::SetParam(info, "REPORT_UNEXPECTED_TOKENS", Uve::U8CString("1"));
 
     ASSERT_EQ(parser->set_Log(log), UVDB_OK);

@@ -1,8 +1,7 @@
 #include "Parser/UVUnexpectedTokens.h"
 #include "Tests/Parser/ParserFixture.h"
 
-namespace
-{
+namespace {
 
 SUnexpectedToken Token(std::size_t offset, const char* text)
 {
@@ -34,8 +33,7 @@ TEST(UnexpectedTokens, TokenStaysOnItsLineOfTheList)
 }
 
 class UnexpectedTokensOption : public ParserTest
-{
-};
+{};
 
 TEST_F(UnexpectedTokensOption, StandsOnlyWhereItIsAskedFor)
 {

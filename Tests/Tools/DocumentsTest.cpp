@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <regex>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,10 +32,10 @@ TEST(Documents, CodeBlocksAreTheFilesThatTheyShow)
     int blocks = 0;
     for (const fs::path& document : Documents()) {
         const std::string text = ReadWholeFile(document.string());
-        const std::string open = "<!-- ";
+        const std::string open = "<!-- Tests/";
         for (std::size_t at = text.find(open); at != std::string::npos; at = text.find(open, at + 1)) {
             const std::size_t nameEnd = text.find(" -->\n```cpp\n", at);
-            const std::string name = text.substr(at + open.size(), nameEnd - at - open.size());
+            const std::string name = text.substr(at + 5, nameEnd - at - 5);
             SCOPED_TRACE(document.string() + ": " + name);
             ASSERT_NE(nameEnd, std::string::npos);
             const std::size_t begin = text.find("```cpp\n", nameEnd) + 7;
@@ -92,6 +93,47 @@ TEST(Documents, TheHostsInThemGiveTheTreesThatUvparseGives)
     const SRun bad = Shell(UV_BIN_DIR "/host_example " + file);
     EXPECT_NE(bad.status, 0);
     EXPECT_NE(bad.output.find("a.sql: "), std::string::npos) << bad.output;
+}
+
+// The guide is a script: it puts files ("<!-- put NAME -->" and a block), runs commands (blocks "sh") and
+// shows what they print (blocks "text").
+TEST(Documents, LanguageGuideWorksWhenFollowedToTheLetter)
+{
+    const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
+    const fs::path bin = fs::path(folder.Path()) / "build/dev/bin";
+    fs::create_directories(bin);
+    for (const char* file : {"uvgrammar", "uvparse", "libUVParser.so"})
+        fs::create_hard_link(fs::path(UV_BIN_DIR) / file, bin / file);
+
+    const std::string text = ReadWholeFile(UV_SOURCE_DIR "/Documentation/LanguageGuide.md");
+    std::istringstream lines(text);
+    std::string name;
+    std::string printed;
+    int commands = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("<!-- put "))
+            name = line.substr(9, line.size() - 13);
+        if (!line.starts_with("```"))
+            continue;
+        const std::string kind = line.substr(3);
+        std::string content;
+        while (std::getline(lines, line) && line != "```")
+            content += line + '\n';
+        SCOPED_TRACE(name + content);
+        if (!name.empty()) {
+            const fs::path file = fs::path(folder.Path()) / name;
+            fs::create_directories(file.parent_path());
+            WriteWholeFile(file.string(), content);
+            name.clear();
+        } else if (kind == "sh") {
+            printed = Shell("cd '" + folder.Path() + "' && (" + content + ")").output;
+            ++commands;
+        } else {
+            ASSERT_EQ(kind, "text");
+            EXPECT_EQ(printed, content);
+        }
+    }
+    EXPECT_EQ(commands, 4);
 }
 
 } // namespace

@@ -272,6 +272,13 @@ struct SDatabaseCase
     std::uint64_t db, subType, major, minor;
 };
 
+TEST(UvparseLanguage, CommonGivesWayToALanguageOfItsOwn)
+{
+    EXPECT_EQ(CLanguageChoice({"Common", "PostgreSQL"}).Choose("", "", "x.sql").parserName, "PostgreSQL");
+    EXPECT_EQ(CLanguageChoice({"COBOL", "Common"}).Choose("", "", "x.sql").parserName, "Common");
+    EXPECT_THROW(CLanguageChoice({"Common", "MySQL", "PostgreSQL"}).Choose("", "", "x.sql"), CLanguageError);
+}
+
 TEST(UvparseLanguage, DatabaseHasSubtypeAndVersion)
 {
     const std::uint64_t none = UVDB_NO_VERSION_WORD;

@@ -328,7 +328,8 @@ private:
             if (operand.empty())
                 Problem(name + " has an empty argument");
             else if (operand.find_first_of("( \t\r\n") != std::string::npos)
-                Problem(name + ": the argument " + operand + " holds a blank or bracket and can't be stored");
+                Problem(std::string(name).append(": the argument ").append(operand) +
+                        " holds a blank or bracket and can't be stored");
         }
     }
 

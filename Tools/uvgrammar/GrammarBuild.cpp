@@ -50,22 +50,22 @@ std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, 
 {
     const auto number = [](std::size_t value) { return std::to_string(value); };
     std::string report = "grammar " + build.name + "\n\nscanner\n";
-    report +=
-        "  rules: " + number(tables.ruleCanMatchEol.size() - 2) + '\n'; // without rule 0 and flex's default
+    report += "  rules: " + number(tables.scanner.rule_can_match_eol.count - 2) +
+              '\n'; // without rule 0 and flex's default
     report += "  start conditions: " + number(tables.startConditions.size()) + '\n';
-    report += "  states: " + number(tables.accept.size() - 3) + '\n';
-    AppendTables(report, {{"accept", tables.accept.size()},
-                          {"base", tables.base.size()},
-                          {"nxt", tables.nxt.size()},
-                          {"acclist", tables.acclist.size()}});
+    report += "  states: " + number(tables.scanner.accept.count - 3) + '\n';
+    AppendTables(report, {{"accept", tables.scanner.accept.count},
+                          {"base", tables.scanner.base.count},
+                          {"nxt", tables.scanner.nxt.count},
+                          {"acclist", tables.scanner.acclist.count}});
     report += "\nparser\n";
     report += "  rules: " + number(parser.rules.size() - 1) + '\n'; // without that of $accept
     report += "  terminals: " + std::to_string(parser.terminals) + '\n';
     report += "  nonterminals: " + std::to_string(parser.nonterminals) + '\n';
-    report += "  states: " + number(tables.pact.size()) + '\n';
-    AppendTables(
-        report,
-        {{"table", tables.table.size()}, {"r1", tables.r1.size()}, {"translate", tables.translate.size()}});
+    report += "  states: " + number(tables.parser.pact.count) + '\n';
+    AppendTables(report, {{"table", tables.parser.table.count},
+                          {"r1", tables.parser.r1.count},
+                          {"translate", tables.parser.translate.count}});
     report += "  conflicts: " + std::to_string(parser.shiftReduceConflicts) + " shift/reduce, " +
               std::to_string(parser.reduceReduceConflicts) + " reduce/reduce\n";
     report += "  unused nonterminals: " + number(parser.uselessNonterminals.size()) + '\n';
@@ -106,21 +106,33 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
     if (messages.ErrorCount() > 0)
         return kToolFindings;
 
+    const std::string written = output.NewPath();
     try {
-        WriteTables(files, output.NewPath());
-        SLoadedTables tables;
-        LoadTablesBack(output.NewPath(), tables);
-        const SParserReport parserReport = ReadParserReport(files.parserReport);
-        std::set<std::string> used;
-        CheckScannerRules(lexer, files, tables, messages, used);
-        CheckScannerReach(lexer, files, tables, messages);
-        CheckParserRules(parser, files, parserReport, tables, messages);
-        report = ReportText(build, parserReport, tables, used);
+        WriteTables(files, written);
     } catch (const Uve::U8CString& text) {
         throw CToolFailure(LogText(text));
     }
-    if (messages.ErrorCount() > 0)
+    try {
+        SLoadedTables tables;
+        LoadTables(written, tables);
+        const SParserReport parserReport = ReadParserReport(files.parserReport);
+        std::set<std::string> used;
+        CheckScannerRules(lexer, files, tables, messages, used);
+        CheckParserRules(parser, files, parserReport, tables, messages);
+        report = ReportText(build, parserReport, tables, used);
+        if (messages.ErrorCount() > 0)
+            return kToolFindings;
+        ProveTables(written, tables);
+        CheckScannerReach(lexer, files, tables, messages);
+    } catch (const Uve::U8CString& text) {
+        // The directory that the text names goes in a moment.
+        std::string shown = LogText(text);
+        const std::size_t at = shown.find(written);
+        if (at != std::string::npos)
+            shown.erase(at, written.size());
+        messages.Error("the tables made of this grammar can't be loaded: " + shown);
         return kToolFindings;
+    }
     output.Commit();
     return kToolClean;
 }

@@ -1,67 +1,67 @@
 #include "Tools/uvgrammar/LoadBack.h"
 
-#include "Tools/Support/ToolFiles.h"
-
 #include <algorithm>
-#include <memory>
 
 namespace {
 
 template <class T>
-std::vector<T> LoadTable(const std::string& directory, const char* name)
+void LoadTable(STable<T>& table, const std::string& directory, const char* name)
 {
     const std::string path = GetDatFilePath(directory, directory, name);
-    std::size_t count = 0;
-    const std::unique_ptr<T[]> entries(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), count));
-    if (count == 0)
-        throw CToolFailure(path + ": the table is empty");
-    return {entries.get(), entries.get() + count};
+    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count));
+    if (table.count == 0)
+        RefuseTable(directory, name, "the table is empty");
 }
 
-void Require(bool holds, const std::string& directory, const char* text)
+std::string LexerFolder(const std::string& directory)
 {
-    if (!holds)
-        throw CToolFailure(directory + ": " + text);
+    return directory + "Lexer/";
 }
 
-bool AreBetween(const std::vector<int>& entries, long long low, long long high)
+std::string ParserFolder(const std::string& directory)
 {
-    return std::all_of(entries.begin(), entries.end(),
-                       [=](int entry) { return entry >= low && entry < high; });
+    return directory + "Parser/";
 }
 
-// What the scanner's loop takes for granted. Every byte is an index: a scanner of 7 bits has shorter tables.
-void CheckScanner(const std::string& directory, const SLoadedTables& tables)
+void LoadScanner(const std::string& directory, SLoadedTables& tables)
 {
-    const auto size = [](const auto& table) { return static_cast<long long>(table.size()); };
-    const long long states = size(tables.accept) - 2; // the state before which the machine jams is the last
-    Require(states > 0, directory, "accept.dat holds no state");
-    Require(size(tables.base) == size(tables.def) && size(tables.base) >= states, directory,
-            "base.dat and def.dat don't fit the number of states");
-    Require(size(tables.chk) == size(tables.nxt), directory, "chk.dat and nxt.dat differ in size");
-    Require(AreBetween(tables.base, 0, size(tables.nxt) - 255), directory,
-            "base.dat leads outside of nxt.dat: the scanner has to take all 256 bytes (option 8bit)");
-    Require(AreBetween(tables.def, 0, size(tables.base)), directory, "def.dat leads outside of base.dat");
-    Require(AreBetween(tables.nxt, 0, size(tables.base)), directory,
-            "nxt.dat leads to a state that isn't there");
-    Require(size(tables.nulTrans) >= states, directory, "NUL_trans.dat has too few states");
-    Require(AreBetween(tables.accept, 0, size(tables.acclist) + 1), directory,
-            "accept.dat leads outside of acclist.dat");
+    UVDBGrammarKeeper::CreateActionsMap(GetDatFile(directory, directory, "actions.dat"), tables.lexerActions);
+    UVDBGrammarKeeper::CreateDefinesMap(GetDatFile(directory, directory, "defines.dat"),
+                                        tables.startConditions);
+    CScannerTables& scanner = tables.scanner;
+    LoadTable(scanner.accept, directory, "accept.dat");
+    LoadTable(scanner.base, directory, "base.dat");
+    LoadTable(scanner.chk, directory, "chk.dat");
+    LoadTable(scanner.def, directory, "def.dat");
+    LoadTable(scanner.NUL_trans, directory, "NUL_trans.dat");
+    LoadTable(scanner.nxt, directory, "nxt.dat");
+    LoadTable(scanner.rule_can_match_eol, directory, "rule_can_match_eol.dat");
+    LoadTable(scanner.acclist, directory, "acclist.dat");
 }
 
-void CheckParser(const std::string& directory, const SLoadedTables& tables)
+void LoadParser(const std::string& directory, SLoadedTables& tables)
 {
-    const std::size_t states = tables.pact.size();
-    // The state stack holds numbers of 16 bits.
-    Require(states <= 32768, directory, "the parser has more than 32768 states");
-    Require(tables.defact.size() == states && tables.stos.size() == states, directory,
-            "pact.dat, defact.dat and stos.dat differ in size");
-    Require(tables.table.size() == tables.check.size(), directory, "table.dat and check.dat differ in size");
-    Require(tables.r1.size() == tables.r2.size(), directory, "r1.dat and r2.dat differ in size");
-    Require(tables.pgoto.size() == tables.defgoto.size(), directory,
-            "pgoto.dat and defgoto.dat differ in size");
-    Require(tables.finalState > 0 && static_cast<std::size_t>(tables.finalState) < states, directory,
-            "const.dat names no state of the parser");
+    UVDBGrammarKeeper::CreateActionsMap(GetDatFile(directory, directory, "actions.dat"),
+                                        tables.parserActions);
+    const std::uint64_t defines =
+        UVDBGrammarKeeper::CreateDefinesMap(GetDatFile(directory, directory, "defines.dat"), tables.tokens);
+    CParserTables& parser = tables.parser;
+    parser.maxutok = static_cast<int>(defines & 0xffffffff);
+    parser.ntokens = static_cast<int>(tables.tokens.size()) + ((defines >> 32) != 0 ? 2 : 3);
+    parser.final_ = UVDBGrammarKeeper::GetFinalStateNum(GetDatFile(directory, directory, "const.dat"));
+    LoadTable(parser.pact, directory, "pact.dat");
+    LoadTable(parser.defact, directory, "defact.dat");
+    LoadTable(parser.pgoto, directory, "pgoto.dat");
+    LoadTable(parser.defgoto, directory, "defgoto.dat");
+    LoadTable(parser.table, directory, "table.dat");
+    LoadTable(parser.check, directory, "check.dat");
+    LoadTable(parser.stos, directory, "stos.dat");
+    LoadTable(parser.r1, directory, "r1.dat");
+    LoadTable(parser.r2, directory, "r2.dat");
+    LoadTable(parser.translate, directory, "translate.dat");
+    parser.base_ninf =
+        std::min(UVDBGrammarKeeper::TableNinfRemap(parser.pact.values.get(), parser.pact.count),
+                 UVDBGrammarKeeper::TableNinfRemap(parser.pgoto.values.get(), parser.pgoto.count));
 }
 
 } // namespace
@@ -72,36 +72,17 @@ SLoadedTables::~SLoadedTables()
     FreeActionsMap(parserActions);
 }
 
-void LoadTablesBack(const std::string& directory, SLoadedTables& tables)
+void LoadTables(const std::string& directory, SLoadedTables& tables)
 {
-    const std::string lexer = directory + "Lexer/";
-    UVDBGrammarKeeper::CreateActionsMap(GetDatFile(lexer, lexer, "actions.dat"), tables.lexerActions);
-    UVDBGrammarKeeper::CreateDefinesMap(GetDatFile(lexer, lexer, "defines.dat"), tables.startConditions);
-    tables.accept = LoadTable<int>(lexer, "accept.dat");
-    tables.base = LoadTable<int>(lexer, "base.dat");
-    tables.chk = LoadTable<int>(lexer, "chk.dat");
-    tables.def = LoadTable<int>(lexer, "def.dat");
-    tables.nulTrans = LoadTable<int>(lexer, "NUL_trans.dat");
-    tables.nxt = LoadTable<int>(lexer, "nxt.dat");
-    tables.ruleCanMatchEol = LoadTable<int>(lexer, "rule_can_match_eol.dat");
-    tables.acclist = LoadTable<int>(lexer, "acclist.dat");
-    CheckScanner(lexer, tables);
+    LoadScanner(LexerFolder(directory), tables);
+    LoadParser(ParserFolder(directory), tables);
+}
 
-    const std::string parser = directory + "Parser/";
-    UVDBGrammarKeeper::CreateActionsMap(GetDatFile(parser, parser, "actions.dat"), tables.parserActions);
-    const std::uint64_t defines =
-        UVDBGrammarKeeper::CreateDefinesMap(GetDatFile(parser, parser, "defines.dat"), tables.tokens);
-    tables.terminals = static_cast<int>(tables.tokens.size()) + ((defines >> 32) != 0 ? 2 : 3);
-    tables.finalState = UVDBGrammarKeeper::GetFinalStateNum(GetDatFile(parser, parser, "const.dat"));
-    tables.pact = LoadTable<int>(parser, "pact.dat");
-    tables.defact = LoadTable<unsigned>(parser, "defact.dat");
-    tables.pgoto = LoadTable<int>(parser, "pgoto.dat");
-    tables.defgoto = LoadTable<int>(parser, "defgoto.dat");
-    tables.table = LoadTable<int>(parser, "table.dat");
-    tables.check = LoadTable<int>(parser, "check.dat");
-    tables.stos = LoadTable<unsigned>(parser, "stos.dat");
-    tables.r1 = LoadTable<unsigned>(parser, "r1.dat");
-    tables.r2 = LoadTable<unsigned>(parser, "r2.dat");
-    tables.translate = LoadTable<unsigned>(parser, "translate.dat");
-    CheckParser(parser, tables);
+void ProveTables(const std::string& directory, SLoadedTables& tables)
+{
+    int startConditions = 1; // every scanner has the initial one
+    for (const auto& condition : tables.startConditions)
+        startConditions = std::max(startConditions, condition.second + 1);
+    tables.scanner.Compile(LexerFolder(directory), startConditions);
+    tables.parser.Validate(ParserFolder(directory));
 }

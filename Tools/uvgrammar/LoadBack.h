@@ -1,11 +1,12 @@
-// A written table directory, read again through the readers that the engine uses.
+// A written table directory, read again and proved as the engine does it.
 #pragma once
 
+#include "Grammar/Runtime/ParserTables.h"
+#include "Grammar/Runtime/ScannerTables.h"
 #include "Grammar/UVGrammarKeeper.h"
 
 #include <map>
 #include <string>
-#include <vector>
 
 struct SLoadedTables
 {
@@ -14,19 +15,19 @@ struct SLoadedTables
     SLoadedTables& operator=(const SLoadedTables&) = delete;
     ~SLoadedTables();
 
-    // Of the scanner, then of the parser.
-    std::vector<int> accept, base, chk, def, nulTrans, nxt, ruleCanMatchEol, acclist;
+    CScannerTables scanner;
     CActionsMap lexerActions;
     std::map<std::string, int> startConditions;
 
-    std::vector<int> pact, pgoto, defgoto, table, check;
-    std::vector<unsigned> defact, stos, r1, r2, translate;
+    CParserTables parser;
     CActionsMap parserActions;
     std::map<std::string, int> tokens;
-    int finalState = 0;
-    int terminals = 0; // as the engine counts them: named tokens and bison's own
 };
 
-// Loads the directory (with a slash at its end) as the engine would and proves that the engine can run on it.
-// Throws: U8CString with a line for the log, or CToolFailure, naming the file and what is wrong with it.
-void LoadTablesBack(const std::string& directory, SLoadedTables& tables);
+// Loads the directory, which ends in a slash.
+// Throws: U8CString with a line for the log that names the file and what is wrong with it.
+void LoadTables(const std::string& directory, SLoadedTables& tables);
+
+// Proves that the engine can run on what LoadTables read; the scanner's states can be walked afterwards.
+// Throws: U8CString with a line for the log that names the file and what is wrong with it.
+void ProveTables(const std::string& directory, SLoadedTables& tables);

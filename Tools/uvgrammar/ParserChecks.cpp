@@ -93,7 +93,7 @@ private:
     {
         const int line = LineOf(rule);
         const auto number = static_cast<std::size_t>(rule.number);
-        if (number >= m_Tables.r2.size() || m_Tables.r2[number] != rule.right.size()) {
+        if (number >= m_Tables.parser.r2.count || m_Tables.parser.r2[number] != rule.right.size()) {
             Error(line, "the rule's length differs from that in its table");
             return;
         }
@@ -296,8 +296,9 @@ void CheckParserRules(const CGrammarSource& source, const SGeneratedFiles& files
 {
     CParserRules(source, files, report, tables, messages).Check();
     const int terminals = DefinedNumber(files.parserText, "YYNTOKENS");
-    if (terminals != tables.terminals)
+    if (terminals != tables.parser.ntokens)
         messages.Write(enSeverity::Error, source.Place(0),
                        "the parser has " + std::to_string(terminals) + " terminals, but their names make " +
-                           std::to_string(tables.terminals) + ": every terminal needs a name of its own");
+                           std::to_string(tables.parser.ntokens) +
+                           ": every terminal needs a name of its own");
 }

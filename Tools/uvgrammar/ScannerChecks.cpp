@@ -1,9 +1,7 @@
 #include "Tools/uvgrammar/GrammarChecks.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -227,45 +225,20 @@ private:
     bool m_IsShared = false;
 };
 
-// Which rule a state of the scanner ends up with.
-class CScannerStates
+// The first rule that a state of the scanner accepts, 0 for none. The head of a trailing context isn't an
+// acceptance.
+int AcceptedRule(const CScannerTables& scanner, int state)
 {
-public:
-    explicit CScannerStates(const SLoadedTables& tables) : m_Tables(tables) {}
-
-    int StateCount() const { return static_cast<int>(m_Tables.accept.size()) - 2; }
-
-    // The first accepted rule, 0 for none. The head of a trailing context isn't an acceptance.
-    int RuleOf(int state) const
-    {
-        constexpr int kTrail = 0x2000;
-        constexpr int kHead = 0x4000;
-        const auto& list = m_Tables.acclist;
-        const int end =
-            std::min(m_Tables.accept[static_cast<std::size_t>(state) + 1], static_cast<int>(list.size()));
-        for (int at = m_Tables.accept[static_cast<std::size_t>(state)]; at > 0 && at < end; ++at) {
-            const int entry = list[static_cast<std::size_t>(at)];
-            if ((entry & kHead) == 0)
-                return entry & ~kTrail;
-        }
-        return 0;
+    constexpr int kTrail = 0x2000;
+    constexpr int kHead = 0x4000;
+    const auto row = static_cast<std::size_t>(state);
+    for (int at = scanner.accept[row]; at > 0 && at < scanner.accept[row + 1]; ++at) {
+        const int entry = scanner.acclist[static_cast<std::size_t>(at)];
+        if ((entry & kHead) == 0)
+            return entry & ~kTrail;
     }
-
-    // The state behind one byte, nothing if the defaults lead in a circle.
-    std::optional<int> Next(int state, int byte) const
-    {
-        for (std::size_t steps = 0; steps <= m_Tables.def.size(); ++steps) {
-            const auto at = static_cast<std::size_t>(m_Tables.base[static_cast<std::size_t>(state)] + byte);
-            if (m_Tables.chk[at] == state)
-                return m_Tables.nxt[at];
-            state = m_Tables.def[static_cast<std::size_t>(state)];
-        }
-        return std::nullopt;
-    }
-
-private:
-    const SLoadedTables& m_Tables;
-};
+    return 0;
+}
 
 std::string ShownByte(int byte)
 {
@@ -286,7 +259,7 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
         messages.Write(enSeverity::Error, source.Place(line), "an action behind <<EOF>> is lost");
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
     if (static_cast<int>(actions.cases.size()) != defaultRule ||
-        static_cast<int>(tables.ruleCanMatchEol.size()) != defaultRule + 1)
+        static_cast<int>(tables.scanner.rule_can_match_eol.count) != defaultRule + 1)
         messages.Write(enSeverity::Error, source.Place(0),
                        "the action switch doesn't hold one case for each rule");
     CScannerRules rules(source, tables, messages, used);
@@ -299,13 +272,13 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
 void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& files,
                        const SLoadedTables& tables, CToolMessages& messages)
 {
-    const CScannerStates states(tables);
+    const CScannerTables& scanner = tables.scanner;
     const SScannerActions actions = ReadScannerActions(files.lexerText);
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
 
     std::set<int> matched;
-    for (int state = 1; state < states.StateCount(); ++state)
-        matched.insert(states.RuleOf(state));
+    for (int state = 1; state <= scanner.LastState(); ++state)
+        matched.insert(AcceptedRule(scanner, state));
     for (const SActionCase& action : actions.cases) {
         if (action.number != defaultRule && matched.count(action.number) == 0)
             messages.Write(enSeverity::Warning, source.Place(action.line),
@@ -314,21 +287,22 @@ void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& file
 
     for (const auto& [name, number] : tables.startConditions) {
         constexpr int kShown = 5;
-        const int start = number * 2 + 1;
         int count = 0;
         std::string shown;
-        for (int i = 0; i < 255 && start < states.StateCount(); ++i) {
+        for (int i = 0; i < 255; ++i) {
             const int byte = 1 + (0x20 + i) % 255; // printable ones first
-            const std::optional<int> next = states.Next(start, byte);
-            if (!next || *next >= states.StateCount() || states.RuleOf(*next) != defaultRule)
+            const int next = scanner.Next(number * 2 + 1, static_cast<unsigned char>(byte));
+            if (next > scanner.LastState() || AcceptedRule(scanner, next) != defaultRule || ++count > kShown)
                 continue;
-            if (++count <= kShown)
-                shown += (shown.empty() ? "" : ", ") + ShownByte(byte);
+            shown += shown.empty() ? "" : ", ";
+            shown += ShownByte(byte);
         }
-        if (count > 0)
-            messages.Write(enSeverity::Warning, source.Place(0),
-                           "start condition " + name + ": no rule takes a lone " + shown +
-                               (count > kShown ? " and " + std::to_string(count - kShown) + " more" : "") +
-                               "; it would pass as space");
+        if (count > kShown)
+            shown += " and " + std::to_string(count - kShown) + " more";
+        if (count == 0)
+            continue;
+        std::string text = "start condition " + name;
+        text.append(": no rule takes a lone ").append(shown).append("; it would pass as space");
+        messages.Write(enSeverity::Warning, source.Place(0), text);
     }
 }

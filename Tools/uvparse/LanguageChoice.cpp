@@ -1,5 +1,6 @@
 #include "Tools/uvparse/LanguageChoice.h"
 
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Catalogue/UVDBNamesHelper.h"
 #include "Catalogue/UVDBParserNames.h"
@@ -138,6 +139,9 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
         if (std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
             fitting.insert(parserName);
     }
+    // The common grammar stands in for databases that have none: it gives way to any that has its own.
+    if (fitting.size() > 1)
+        fitting.erase(GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON}));
     if (fitting.size() != 1)
         throw CLanguageError((fitting.empty() ? "no language here reads files with the extension '"
                                               : "several languages read files with the extension '") +

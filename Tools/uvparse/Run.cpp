@@ -18,6 +18,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace uvparse {
 
@@ -81,7 +82,7 @@ private:
     CParserHost& HostOf(const SLanguage& language);
     void Report(const std::string& path, const std::string& text, const SParseResult& result);
     void Verify(const std::string& path, const std::string& text, const SParseResult& result);
-    void WriteOutput(const std::string& path, const std::string& output);
+    void WriteOutput(const std::string& path, std::string output);
     void Tell(const std::string& path, const std::string& text);
     void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
 
@@ -189,16 +190,14 @@ void CRun::Report(const std::string& path, const std::string& text, const SParse
         m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}}, result.failure);
 }
 
-void CRun::WriteOutput(const std::string& path, const std::string& output)
+void CRun::WriteOutput(const std::string& path, std::string output)
 {
-    std::string closed;
-    std::string_view content = output;
     if (!output.empty() && output.back() != '\n')
-        content = closed = output + '\n';
+        output += '\n';
     if (m_Line.outputFolder.empty())
-        WriteStandardOutput(content);
+        WriteStandardOutput(output);
     else
-        WriteWholeFile(m_OutputPaths.at(path), content);
+        WriteWholeFile(m_OutputPaths.at(path), output);
 }
 
 void CRun::RunFile(const std::string& path)
@@ -224,7 +223,7 @@ void CRun::RunFile(const std::string& path)
 
     const Clock::time_point writing = Clock::now();
     if (result.isParsed)
-        WriteOutput(path, result.output);
+        WriteOutput(path, std::move(result.output));
     if (m_Line.isTime)
         Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
                                   std::to_string(Milliseconds(readSeconds)) + " ms, parse " +

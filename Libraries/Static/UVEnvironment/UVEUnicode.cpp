@@ -74,49 +74,84 @@ bool HasTwoLettersI(std::string_view locale)
     return language == "tr" || language == "az";
 }
 
+// Where mapped text goes: first into a measure, since it may be longer or shorter than its source, then into
+// memory of that size.
+struct SMeasure
+{
+    std::size_t byteCount = 0;
+
+    void Put(std::string_view part) { byteCount += part.size(); }
+    void PutAscii(std::string_view part, bool) { byteCount += part.size(); }
+};
+
+struct SWriter
+{
+    std::string& text;
+
+    void Put(std::string_view part) { text += part; }
+    void PutAscii(std::string_view part, bool toUpper)
+    {
+        const std::size_t start = text.size();
+        text += part;
+        std::transform(part.begin(), part.end(), text.begin() + static_cast<std::ptrdiff_t>(start),
+                       toUpper ? AsciiToUpper : AsciiToLower);
+    }
+};
+
 template <class Sink>
-void WriteCodePoint(char32_t codePoint, Sink& sink)
+void PutCodePoint(char32_t codePoint, Sink& sink)
 {
     char bytes[6];
-    sink(std::string_view(bytes, utf8_from_codepoint(codePoint, bytes)));
+    sink.Put(std::string_view(bytes, utf8_from_codepoint(codePoint, bytes)));
+}
+
+const char* EndOfAscii(const char* text, const char* end)
+{
+    while (end - text >= 8 && utf8_is_ascii_run(text))
+        text += 8;
+    while (text < end && static_cast<unsigned char>(*text) < 0x80)
+        ++text;
+    return text;
 }
 
 template <class Sink>
-void MapCase(std::string_view text, bool toUpper, bool twoLettersI, Sink sink)
+void MapCase(std::string_view text, bool toUpper, bool twoLettersI, Sink& sink)
 {
     const char* const end = text.data() + text.size();
     for (const char* at = text.data(); at < end;) {
+        if (!twoLettersI) {
+            const char* const asciiEnd = EndOfAscii(at, end);
+            sink.PutAscii({at, static_cast<std::size_t>(asciiEnd - at)}, toUpper);
+            at = asciiEnd;
+            if (at == end)
+                break;
+        }
         const SUtf8CodePoint read = utf8_decode(at, end);
         const std::string_view source(at, read.bytes);
         at += read.bytes;
 
         if (const char32_t dotted = twoLettersI ? DottedMapping(read.codePoint, toUpper) : 0)
-            WriteCodePoint(dotted, sink);
+            PutCodePoint(dotted, sink);
         else if (const std::uint32_t value = read.wellFormed ? CaseValue(read.codePoint, toUpper) : 0;
                  value == 0)
-            sink(source);
+            sink.Put(source);
         else if (value < Tables::kSpecialCase)
-            WriteCodePoint(value, sink);
+            PutCodePoint(value, sink);
         else // the full mapping stands behind the simple one
             for (std::size_t i = value - Tables::kSpecialCase + 1; Tables::specialCases[i] != 0; ++i)
-                WriteCodePoint(Tables::specialCases[i], sink);
+                PutCodePoint(Tables::specialCases[i], sink);
     }
 }
 
 std::string ChangeCase(std::string_view text, bool toUpper, std::string_view locale)
 {
-    std::string result;
     const bool twoLettersI = HasTwoLettersI(locale);
-    if (!twoLettersI && utf8_is_ascii(text)) {
-        result.resize(text.size());
-        std::ranges::transform(text, result.begin(), toUpper ? AsciiToUpper : AsciiToLower);
-        return result;
-    }
-    // The result may be longer or shorter than the text, so it is measured first.
-    std::size_t byteCount = 0;
-    MapCase(text, toUpper, twoLettersI, [&](std::string_view part) { byteCount += part.size(); });
-    result.reserve(byteCount);
-    MapCase(text, toUpper, twoLettersI, [&](std::string_view part) { result += part; });
+    SMeasure measure;
+    MapCase(text, toUpper, twoLettersI, measure);
+    std::string result;
+    result.reserve(measure.byteCount);
+    SWriter writer{result};
+    MapCase(text, toUpper, twoLettersI, writer);
     return result;
 }
 
@@ -124,11 +159,8 @@ std::string ChangeCase(std::string_view text, bool toUpper, std::string_view loc
 
 bool utf8_is_ascii(std::string_view text)
 {
-    std::size_t i = 0;
-    while (text.size() - i >= 8 && utf8_is_ascii_run(text.data() + i))
-        i += 8;
-    return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+    const char* const end = text.data() + text.size();
+    return EndOfAscii(text.data(), end) == end;
 }
 
 const char* utf8_advance(const char* text, const char* end, std::size_t& charCount)
@@ -290,27 +322,29 @@ std::string utf8_to_lowercase(std::string_view text, std::string_view locale)
 
 std::string utf8_casefold(std::string_view text)
 {
-    if (utf8_is_ascii(text))
-        return ChangeCase(text, false, {});
-
     std::string result;
     result.reserve(text.size());
-    const auto sink = [&](std::string_view part) { result += part; };
+    SWriter writer{result};
     const char* const end = text.data() + text.size();
     for (const char* at = text.data(); at < end;) {
+        const char* const asciiEnd = EndOfAscii(at, end);
+        writer.PutAscii({at, static_cast<std::size_t>(asciiEnd - at)}, false);
+        at = asciiEnd;
+        if (at == end)
+            break;
         const SUtf8CodePoint read = utf8_decode(at, end);
         const std::string_view source(at, read.bytes);
         at += read.bytes;
         if (!read.wellFormed) {
-            sink(source);
+            writer.Put(source);
             continue;
         }
         const auto row =
             std::ranges::lower_bound(Tables::foldings, read.codePoint, {}, &Tables::SFolding::codePoint);
         if (row != Tables::foldings.end() && row->codePoint == read.codePoint)
-            sink(row->text);
+            writer.Put(row->text);
         else
-            WriteCodePoint(UnicodeToLower(read.codePoint), sink);
+            PutCodePoint(UnicodeToLower(read.codePoint), writer);
     }
     return result;
 }

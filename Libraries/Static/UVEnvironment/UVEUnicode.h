@@ -70,8 +70,7 @@ const char* utf8_previous(const char* begin, const char* text);
 // Characters in `text`.
 std::size_t utf8_strlen(std::string_view text);
 
-// Characters in the first `byteCount` bytes of `text`, or up to its NUL if that comes first; -1: up to the
-// NUL.
+// Characters in the first `byteCount` bytes of `text`, or up to its NUL if that comes first or -1 is given.
 std::size_t utf8_strlen(const char* text, std::ptrdiff_t byteCount = -1);
 
 // Characters from `text` to `position`; negative if `position` lies in front of `text`.
@@ -150,8 +149,8 @@ enum enUnicodeType : unsigned char
 enUnicodeType UnicodeToType(char32_t codePoint);
 
 // The other case of a letter: the upper case letter of a lower case one and the reverse; 0 if it has none or
-// `codePoint` is no such letter. From 0x1000000 on, the value less 0x1000000 is the offset of a special case
-// text.
+// `codePoint` is no such letter. From 0x1000000 on, the value less 0x1000000 is where a special case text
+// begins.
 std::uint32_t UnicodeToAttribute(char32_t codePoint);
 
 // One code point for one. Letters that have no counterpart of a single code point, such as U+00DF, stay.
@@ -161,8 +160,7 @@ char32_t UnicodeToLower(char32_t codePoint);
 // ---- Case ----
 
 // Text in upper or lower case with the full mappings: U+00DF becomes "SS". Malformed bytes stay as they are.
-// `locale` is a locale's name; languages "tr" and "az" keep dotted and dotless i apart, all others are the
-// default.
+// `locale` is a locale's name; languages "tr" and "az" keep dotted and dotless i apart, others don't.
 std::string utf8_to_uppercase(std::string_view text, std::string_view locale = {});
 std::string utf8_to_lowercase(std::string_view text, std::string_view locale = {});
 

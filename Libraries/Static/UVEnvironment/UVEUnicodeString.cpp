@@ -104,8 +104,7 @@ void U8CString::RememberLength(std::uint64_t charCount) const noexcept
         cached_length = static_cast<std::int32_t>(charCount);
 }
 
-// The byte offset at which character `charIndex` starts, the length included; nothing if it lies past the
-// end.
+// The byte offset at which character `charIndex` starts, which may be the length; nothing if it lies beyond.
 std::optional<std::size_t> U8CString::ByteOffsetOf(std::uint64_t charIndex) const noexcept
 {
     if (cached_length && charIndex > static_cast<std::uint64_t>(*cached_length))

@@ -114,8 +114,7 @@ public:
 
     // ---- Parts ----
 
-    // The first or last `count` characters: nothing for a `count` below 1, everything for one beyond the
-    // length.
+    // The first or last `count` characters: nothing for a `count` below 1, at most everything.
     U8CString Left(int count) const noexcept;
     U8CString Right(int count) const noexcept;
 
@@ -189,8 +188,7 @@ public:
 
     // The text for writing in place, as long as it is.
     char* GetBuffer() noexcept;
-    // Room for `charCount` characters: the string becomes four times as many bytes long. Close with
-    // ReleaseBuffer.
+    // Room for `charCount` characters: the string gets four times as many bytes. ReleaseBuffer must follow.
     char* GetBuffer(int charCount) noexcept;
     char* GetBufferBytes(int byteCount) noexcept;
     // Ends the writing: -1 cuts at the first NUL, otherwise the first so many characters or bytes stay.
