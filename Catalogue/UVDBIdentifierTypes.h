@@ -5,7 +5,7 @@
 
 enum enUVDB_DATABASE_OBJECT : int
 {
-#define UVDB_OBJECT_TYPE(name, number, text) name = number,
+#define UVDB_OBJECT_TYPE(name, number, text) name = (number),
 #include "Catalogue/UVDBIdentifierTypes.inc"
 #undef UVDB_OBJECT_TYPE
 };

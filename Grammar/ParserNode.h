@@ -27,5 +27,8 @@ struct ParserNode : ParserNodeValue
     std::string m_strTemp;
 
     // What a value stack does: everything but the work texts.
-    void MoveFrom(const ParserNode& other) { static_cast<ParserNodeValue&>(*this) = other; }
+    void MoveFrom(const ParserNode& other)
+    {
+        static_cast<ParserNodeValue&>(*this) = static_cast<const ParserNodeValue&>(other);
+    }
 };

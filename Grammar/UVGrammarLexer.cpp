@@ -197,7 +197,8 @@ void CSQLGrammarLexer::FindEofRules()
 {
     m_lstEofRules.clear();
     for (const auto& condition : m_mapStartConditions) {
-        const auto rule = static_cast<std::size_t>(condition.second + yy_end_of_buffer_action + 1);
+        const auto rule = static_cast<std::size_t>(condition.second) +
+                          static_cast<std::size_t>(yy_end_of_buffer_action) + 1;
         if (rule >= m_lstEofRules.size())
             m_lstEofRules.resize(rule + 1);
         m_lstEofRules[rule] = true;

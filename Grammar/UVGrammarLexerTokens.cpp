@@ -63,7 +63,8 @@ ParserNode CSQLGrammarLexer::CreateToken(const std::string& name, int color, int
     return node;
 }
 
-void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, bool isPseudo, ParserNode& node)
+void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, bool isPseudo,
+                                 ParserNode& node)
 {
     const int pos = ColumnOfMatch();
     const int start = m_Extension.m_nChar - yyleng;

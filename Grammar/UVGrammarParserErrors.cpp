@@ -13,8 +13,7 @@ namespace {
 
 bool IsToolProcess()
 {
-    static const bool isTool =
-        std::string(Uve::Compat::GetCurrentProcessExePath()).find("UVParserUtil.exe") != std::string::npos;
+    static const bool isTool = Uve::Compat::GetCurrentProcessExePath().Find("UVParserUtil.exe") != -1;
     return isTool;
 }
 
@@ -60,7 +59,7 @@ void CSQLGrammarParser::ReportErrors(const ParserNode& child, std::string_view g
     try {
         Uve::U8CString heading;
         heading.Format("\n/*PARSER ERROR: %s (%lu,%lu) :\n", m_strParserName.c_str(), from, to);
-        std::string report = heading;
+        std::string report(heading.c_str());
         std::string others;
         for (auto error = first; error != last; ++error) {
             std::string& text = error == first ? report : others;

@@ -40,4 +40,4 @@ bool IsAllowedValuePreprocessing(const Uve::U8CString& key);
 // What position `index` of the wizard's list of targets and the text `version` ("major.minor") stand for. A
 // position behind the list is the unknown kind, an empty major part an unknown version. A null `info` is left
 // alone.
-void GetTargetDbmsInfo(unsigned int index, Uve::U8CString version, DB_VERSION_INFO* info);
+void GetTargetDbmsInfo(unsigned int index, const Uve::U8CString& version, DB_VERSION_INFO* info);

@@ -204,7 +204,7 @@ bool IsSectionCommon(const Uve::U8CString& section)
     return std::ranges::find(kCommonSections, std::string_view{upperCase}) != std::end(kCommonSections);
 }
 
-void GetTargetDbmsInfo(unsigned int index, Uve::U8CString version, DB_VERSION_INFO* info)
+void GetTargetDbmsInfo(unsigned int index, const Uve::U8CString& version, DB_VERSION_INFO* info)
 {
     if (!info)
         return;

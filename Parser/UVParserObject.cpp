@@ -146,7 +146,7 @@ int CUVDBSQLParser::set_ParserDevelopmentMode(bool isOn)
 
 std::string CUVDBSQLParser::GetParsedXml()
 {
-    return m_Result;
+    return static_cast<const std::string&>(m_Result);
 }
 
 int CUVDBSQLParser::ExecuteTree2Serial()

@@ -176,7 +176,7 @@ int CUVDBSQLParser::PrepareToParse()
 
 void CUVDBSQLParser::GiveQueryToParser()
 {
-    m_Parser->m_Extension.set_Query(m_Query);
+    m_Parser->m_Extension.set_Query(static_cast<const std::string&>(m_Query));
     m_Lexer->set_Query(m_Query, static_cast<int>(GetVersion().db));
 }
 

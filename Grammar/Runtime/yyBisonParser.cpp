@@ -15,8 +15,11 @@ namespace {
 constexpr int kErrorToken = 1;
 constexpr int kQuietTokens = 3;
 
-// Between two shifts every symbol on the stack takes part in a bounded number of reductions, and the empty rules
-// of one long rule come on top. A grammar stays far below this; damaged tables go on for ever.
+// Rules may name the end of the text, but nothing comes behind it.
+constexpr int kMostEnds = 1000;
+
+// Between two shifts every symbol on the stack takes part in a bounded number of reductions, and the empty
+// rules of one long rule come on top. A grammar stays far below this; damaged tables go on for ever.
 constexpr std::size_t kSpareReductions = 100000;
 
 std::size_t ReductionLimit(std::size_t depth, std::size_t rules)
@@ -91,6 +94,7 @@ int yyBisonParser::yywork()
     int recovery = 0;
     bool hasRaised = false; // an action has failed since the last token was shifted
     const std::size_t rules = m_spTables->Rules();
+    int ends = 0;
     std::size_t reductions = 0;
     std::size_t reductionLimit = ReductionLimit(0, rules);
 
@@ -110,6 +114,8 @@ int yyBisonParser::yywork()
 
         const SStep step = NextStep(state);
         if (step.kind == SStep::Shift) {
+            if (yychar == 0 && ++ends > kMostEnds)
+                throw std::runtime_error("the parser's tables lead beyond the end of the text");
             if (recovery > 0)
                 --recovery;
             yychar = yyempty;

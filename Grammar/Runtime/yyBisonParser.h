@@ -6,9 +6,8 @@
 class yyBisonParser : public yyParser
 {
 public:
-    // Throws: std::runtime_error if a rule pops more than the stack holds, or if reductions go on without
-    // end: only
-    //         damaged tables do that.
+    // Throws: std::runtime_error if a rule pops more than the stack holds, or if reductions or the end of the
+    //         text go on without end: only damaged tables do that.
     int yywork() override;
     // Returns: 2, after reporting.
     virtual int yyexhausted();

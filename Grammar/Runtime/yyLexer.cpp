@@ -140,8 +140,7 @@ void yyLexer::yydestroy()
 {
     yyLexer::yycleanup();
     yyLexer::yyremove_tables();
-    std::free(yy_buffer_stack);
-    yy_buffer_stack = nullptr;
+    yy_buffer_stack.reset();
     yy_buffer_stack_top = 0;
     yy_buffer_stack_max = 0;
     yy_text_initial.reset();

@@ -167,7 +167,7 @@ protected:
     char* yy_bp = nullptr;      // start of the current match
     char* yytext_ptr = nullptr; // start of the match inside the buffer
     int yy_current_state = 0;
-    yybuffer_state** yy_buffer_stack = nullptr;
+    std::unique_ptr<yybuffer_state*[]> yy_buffer_stack;
     std::size_t yy_buffer_stack_top = 0;
     std::size_t yy_buffer_stack_max = 0;
     int yy_n_chars = 0;

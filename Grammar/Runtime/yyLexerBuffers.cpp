@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 // The buffers of a scanner. This system scans memory; a stream is read the way every scanner of this kind
 // does.
@@ -179,12 +180,9 @@ void yyLexer::yyensure_buffer_stack()
     if (yy_buffer_stack && yy_buffer_stack_top + 1 < yy_buffer_stack_max)
         return;
     const std::size_t slots = yy_buffer_stack_max + kStackStep;
-    auto* const stack =
-        static_cast<yybuffer_state**>(std::realloc(yy_buffer_stack, slots * sizeof(yybuffer_state*)));
-    if (!stack)
-        throw std::bad_alloc();
-    std::fill(stack + yy_buffer_stack_max, stack + slots, nullptr);
-    yy_buffer_stack = stack;
+    auto stack = std::make_unique<yybuffer_state*[]>(slots);
+    std::copy(yy_buffer_stack.get(), yy_buffer_stack.get() + yy_buffer_stack_max, stack.get());
+    yy_buffer_stack = std::move(stack);
     yy_buffer_stack_max = slots;
 }
 

@@ -156,6 +156,6 @@ INSTANTIATE_TEST_SUITE_P(Fixtures, EngineCases,
                          testing::Values("Coloring", "CopyToken", "Directives", "Heredoc", "Indent", "Less", "Nesting",
                                          "Order", "Patterns", "Pending", "Recovery", "Saved", "States", "Stuck",
                                          "Switch", "Tiny", "Trailing"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& entry) { return std::string(entry.param); });
 
 } // namespace

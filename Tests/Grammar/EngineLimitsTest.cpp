@@ -1,1 +1,166 @@
+// Large and deep texts, and the places where something grows.
 #include "Tests/Support/EngineFixture.h"
+#include "Tests/Support/ModelEngine.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+std::string Repeated(std::string_view piece, std::size_t count)
+{
+    std::string text;
+    text.reserve(piece.size() * count);
+    for (std::size_t i = 0; i < count; ++i)
+        text += piece;
+    return text;
+}
+
+std::size_t CountOf(const std::string& text, std::string_view piece)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + piece.size()))
+        ++count;
+    return count;
+}
+
+// Parses cleanly and keeps every byte.
+SParseOutcome ParseClean(const std::string& grammar, const std::string& text)
+{
+    CEngine engine(grammar);
+    SParseOutcome outcome = engine.Parse(text);
+    EXPECT_EQ(outcome.result, 0);
+    EXPECT_EQ(outcome.lastError, "");
+    EXPECT_EQ(engine.m_strException, "");
+    EXPECT_TRUE(TextOfTree(outcome.tree) == text);
+    EXPECT_EQ(engine.m_Parser.Fragments().Count(), 0u);
+    return outcome;
+}
+
+TEST(EngineLimits, MatchesGrowPastTheFirstTextSize)
+{
+    for (const std::size_t length : {198, 199, 200, 201, 202, 399, 400, 401, 799, 800, 801, 100000}) {
+        SCOPED_TRACE(length);
+        const std::string word = Repeated("a", length);
+        ParseClean("Nesting", word + ";");
+        ParseClean("Nesting", word + " ," + word + ";" + word + ";");
+        // the growth happens while the match is to be given back to a head, or to its first byte
+        EXPECT_EQ(Sketch(ParseClean("Trailing", word + " =>").tree), "words(none() NAME'" + word + "' ' ' SIGN'=>')");
+        EXPECT_EQ(Sketch(ParseClean("Less", "[SELECT " + word + "]").tree),
+                  "words(none() subquery(OPEN'[' words(none() KEY'SELECT' ' ' WORD'" + word + "') CLOSE']'))");
+        CEngine engine("Nesting");
+        EXPECT_EQ(engine.Parse(word).lastError, "1 '" + word + "'");
+    }
+}
+
+TEST(EngineLimits, ALongTokenAtTheEndIsShownWhole)
+{
+    CEngine engine("Nesting");
+    EXPECT_EQ(engine.Parse("(" + Repeated("a", 5000)).lastError, "1 '" + Repeated("a", 5000) + "'");
+    EXPECT_EQ(engine.Parse("(a").lastError, "1 'a'");
+}
+
+TEST(EngineLimits, StacksGrowWithTheNesting)
+{
+    // the states of the start and the list's beginning lie below the brackets
+    for (const std::size_t depth : {195, 196, 197, 198, 199, 200, 395, 396, 397, 398, 399, 400, 1000}) {
+        SCOPED_TRACE(depth);
+        const std::string text = Repeated("(", depth) + "a" + Repeated(")", depth) + ";";
+        const SParseOutcome outcome = ParseClean("Nesting", text);
+        EXPECT_EQ(CountOf(outcome.tree, "<nested>"), depth);
+        EXPECT_EQ(CModelEngine("Nesting").Parse(text), outcome);
+    }
+}
+
+TEST(EngineLimits, TheFullParserStackReachesAnyDepth)
+{
+    constexpr std::size_t kDepth = 100000;
+    const SParseOutcome outcome =
+        ParseClean("Nesting", Repeated("(", kDepth) + "a" + Repeated(")", kDepth) + ";");
+    EXPECT_EQ(CountOf(outcome.tree, "<nested>"), kDepth);
+    EXPECT_EQ(CountOf(outcome.tree, "</nested>"), kDepth);
+}
+
+TEST(EngineLimits, ListsNestAsDeepAsTheyAreLong)
+{
+    constexpr std::size_t kItems = 300000;
+    const SParseOutcome outcome = ParseClean("Nesting", Repeated("a, ", kItems - 1) + "b;");
+    EXPECT_EQ(CountOf(outcome.tree, "<list>"), kItems - 1);
+    EXPECT_EQ(CountOf(outcome.tree, "<item>"), kItems);
+}
+
+TEST(EngineLimits, OneLineOfMegabytes)
+{
+    const std::string word(5 << 20, 'a');
+    ParseClean("Nesting", word + ";");
+    ParseClean("Nesting", Repeated("a,b,(c),", (5 << 20) / 8) + "d;");
+}
+
+TEST(EngineLimits, SkippedTextOfMegabytes)
+{
+    const std::string comment = "/*" + std::string(5 << 20, '-') + "*/";
+    const SParseOutcome outcome = ParseClean("Nesting", "a " + comment + "\n;");
+    EXPECT_EQ(Sketch(outcome.tree), "lists(none() item(WORD'a') ' " + comment + "\\n' SEMI';')");
+    // in small pieces, which all belong to one call of the scanner
+    ParseClean("Nesting", "a" + Repeated(" /*-*/\n", 200000) + ";");
+}
+
+TEST(EngineLimits, ParsesGiveTheirFragmentsBack)
+{
+    CEngine engine("Nesting");
+    for (const char* const text : {"a;", "((((a", "a;b", ")", "", "(a;"}) {
+        engine.Parse(text);
+        EXPECT_EQ(engine.m_Parser.Fragments().Count(), 0u) << text;
+    }
+    CEngine stuck("Stuck");
+    EXPECT_TRUE(stuck.Parse("a y").hasThrown);
+    EXPECT_EQ(stuck.m_Parser.Fragments().Count(), 0u);
+}
+
+TEST(EngineLimits, AScannerThatMatchesNothingStopsAndGoesOnWithTheNextText)
+{
+    CEngine engine("Stuck");
+    EXPECT_TRUE(engine.Parse("y").hasThrown);
+    EXPECT_NE(engine.m_strException, "");
+    // one match of nothing, in the place where the last text got stuck
+    const SParseOutcome next = engine.Parse("u");
+    EXPECT_FALSE(next.hasThrown);
+    EXPECT_EQ(Sketch(next.tree), "words(none() WORD'u')");
+}
+
+// A rule that pops more than the stack holds, and rules that are reduced for ever: no single entry is wrong.
+TEST(EngineLimits, TablesThatReduceWithoutEndAreStopped)
+{
+    const struct
+    {
+        const char* file;
+        std::vector<int> (*damage)(std::vector<int>);
+    } damages[] = {
+        {"Parser/r2.dat", [](std::vector<int> lengths) { return std::vector<int>(lengths.size(), 300); }},
+        {"Parser/defgoto.dat", [](std::vector<int> states) { return std::vector<int>(states.size(), 0); }},
+    };
+    for (const auto& [file, damage] : damages) {
+        const CGrammarCopy copy("Tiny");
+        copy.SetTable(file, damage(copy.Table(file)));
+        copy.Write("Parser/actions.dat", "");
+        CEngine engine(copy.Name());
+        EXPECT_TRUE(engine.Parse("ab ").hasThrown) << file;
+        EXPECT_EQ(engine.m_Parser.Fragments().Count(), 0u) << file;
+    }
+}
+
+TEST(EngineLimits, AnEndThatIsShiftedAgainAndAgainStops)
+{
+    // with another accepting state the parser walks over the end of the text
+    const CGrammarCopy copy("Tiny");
+    const std::size_t states = copy.Table("Parser/pact.dat").size();
+    for (std::size_t state = 1; state < states; ++state) {
+        copy.Write("Parser/const.dat", "YYFINAL " + std::to_string(state) + "\n");
+        CEngine engine(copy.Name());
+        for (const char* const text : {"", "ab ", "x", "aab b "})
+            engine.Parse(text);
+    }
+}
+
+} // namespace

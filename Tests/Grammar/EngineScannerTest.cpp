@@ -1,1 +1,282 @@
+// The scanner by itself: positions, start conditions, the scanner without a parser, and its buffers.
 #include "Tests/Support/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+// "line/pos" of each token of a tree.
+std::string Positions(const std::string& tree)
+{
+    std::string positions;
+    constexpr std::string_view kLine = " line=\"";
+    for (std::size_t at = tree.find(kLine); at != std::string::npos; at = tree.find(kLine, at + 1)) {
+        const std::size_t line = at + kLine.size();
+        const std::size_t lineEnd = tree.find('"', line);
+        const std::size_t pos = lineEnd + std::string_view("\" pos=\"").size();
+        positions += (positions.empty() ? "" : " ") + tree.substr(line, lineEnd - line) + '/' +
+                     tree.substr(pos, tree.find('"', pos) - pos);
+    }
+    return positions;
+}
+
+struct SPositionCase
+{
+    const char* grammar;
+    const char* text;
+    const char* positions;
+};
+
+// A token counts from the line's beginning if it is the first of its line, else from the end of the one before.
+constexpr SPositionCase kPositions[] = {
+    {"Order", "ab cd", "0/-1 0/1"},
+    {"Order", "  ab", "0/1"},
+    {"Order", "\nab", "1/0"},
+    {"Order", "ab\n  cd ef", "0/-1 1/2 1/1"},
+    {"Order", "ab   cd\n\n ef", "0/-1 0/3 2/1"},
+    {"Recovery", "say a;say b;\n say c;", "0/-1 0/1 0/0 0/0 0/1 0/0 1/1 1/1 1/0"},
+    {"Nesting", "a/*\n*/;", "0/-1 1/2"},
+    // given back bytes are counted once
+    {"Less", "a [SELECT b]", "0/-1 0/1 0/0 0/1 0/0"},
+    {"Trailing", "ab =>\nab12", "0/-1 0/1 1/0 1/0"},
+    // a token over a line's end has the line of that end, and its column counts from its own beginning
+    {"Switch", "raw:a\n b;c;", "0/-1 0/0 1/0 1/1 1/0 1/0"},
+};
+
+TEST(ScannerPositions, CountFromTheLineOrTheTokenBefore)
+{
+    for (const SPositionCase& entry : kPositions) {
+        SCOPED_TRACE(entry.text);
+        EXPECT_EQ(Positions(CEngine(entry.grammar).Parse(entry.text).tree), entry.positions);
+    }
+}
+
+// The recorded line start survives, so a second text is measured against it until it has passed it.
+TEST(ScannerPositions, ASecondTextBeginsBeforeTheRecordedPoint)
+{
+    CEngine engine("Order");
+    engine.Parse("aaaa bbbb");
+    EXPECT_EQ(Positions(engine.Parse("ab cd\nef gh").tree), "0/0 0/3 1/0 1/1");
+}
+
+struct SStartCase
+{
+    const char* parserName;
+    int db;
+    bool isPr4Gl;
+    std::map<std::string, int> conditions;
+    int state;
+};
+
+TEST(ScannerStart, TheGeneralConditionIsForTheGrammarsOwnDatabase)
+{
+    const std::map<std::string, int> general = {{"INITIAL", 0}, {"SS_GENERAL", 3}};
+    const std::map<std::string, int> progress = {
+        {"INITIAL", 0}, {"SS_GENERAL", 3}, {"SS_PROGRESS", 4}, {"SS_PROGRESS_UNIX", 5}};
+    const SStartCase cases[] = {
+        {"Oracle", 1, true, general, 3},
+        {"Oracle", 0, true, general, -1},
+        {"Access", 1, true, general, 3}, // any database
+        {"Common", 77, true, general, 3},
+        {"OracleSQLForms", 0, true, general, 3},
+        {"Pascal", 116, true, general, 3},
+        {"PascalFRM", 117, true, general, 3},
+        {"Pascal", 117, true, general, -1},
+        {"oracle", 60, true, general, 3}, // names are exact; an unknown one has number 60
+        {"oracle", 1, true, general, -1},
+        {"Progress4GL", 72, true, progress, 4},
+        {"Progress4GL", 72, false, progress, 5},
+        {"OpenEdgeABL", 73, false, progress, 5},
+        {"OpenEdgeABL", 73, true, general, -1},
+        {"Oracle", 1, true, {{"INITIAL", 0}}, -1},
+        {"Oracle", 1, true, {{"SS_GENERAL", -1}}, -1},
+    };
+    for (const SStartCase& entry : cases) {
+        SCOPED_TRACE(testing::Message() << entry.parserName << ' ' << entry.db);
+        CSQLGrammarLexer lexer;
+        lexer.m_strParserName = entry.parserName;
+        lexer.m_mapStartConditions = entry.conditions;
+        lexer.m_Extension.m_bParserPR4GL = entry.isPr4Gl;
+        EXPECT_EQ(lexer.ComputeGeneralStartState(entry.db), entry.state);
+    }
+}
+
+TEST(ScannerStart, ConditionsOutsideTheTablesAreRefused)
+{
+    CEngine engine("States");
+    EXPECT_EQ(engine.m_Lexer.SetState(4), 9);
+    EXPECT_THROW(engine.m_Lexer.SetState(5), std::out_of_range);
+    EXPECT_THROW(engine.m_Lexer.SetState(-1), std::out_of_range);
+}
+
+TEST(ScannerAlone, ColorsWithoutAParser)
+{
+    CEngine owner("Coloring");
+    CSQLGrammarLexer lexer;
+    lexer.ShareTables(owner.m_Lexer);
+    lexer.Initialize();
+    ASSERT_EQ(lexer.yycreate(), 1);
+    const std::string text = "key a -- b\n{c} 'd'";
+    const std::string coloring = owner.Parse(text).coloring;
+    for (int round = 0; round < 2; ++round) {
+        lexer.m_Extension.m_strColoring = "";
+        lexer.set_Query(text, 0);
+        while (lexer.yylex() != 0) {
+        }
+        EXPECT_EQ(lexer.m_Extension.m_strColoring, coloring);
+    }
+}
+
+TEST(ScannerAlone, SharedTablesOutliveTheirOwner)
+{
+    auto owner = std::make_unique<CEngine>("States");
+    CSQLGrammarLexer lexer;
+    lexer.ShareTables(owner->m_Lexer);
+    owner.reset();
+    ASSERT_EQ(lexer.yycreate(), 1);
+    lexer.set_Query("a /* b */ c", 0);
+    int tokens = 0;
+    while (lexer.yylex() != 0)
+        ++tokens;
+    EXPECT_EQ(tokens, 2);
+}
+
+// A scanner over the tables of a fixture that keeps the texts of its matches.
+class CPlainScanner : public yyFlexLexer
+{
+public:
+    explicit CPlainScanner(const std::string& grammar, int conditions, const std::string& text = {})
+        : m_text(text)
+    {
+        const std::shared_ptr<CScannerTables> tables = ReadScannerTables(grammar);
+        tables->Compile("", conditions);
+        yyset_tables(tables);
+        yy_text_initial_size = 200;
+        yycreate();
+    }
+
+    std::vector<std::string> Matches()
+    {
+        m_matches.clear();
+        while (yylex() != 0) {
+        }
+        return m_matches;
+    }
+
+    void yyinputbuffer() override
+    {
+        if (!yycurrent_buffer() && !yyin)
+            yyscan_bytes(m_text.data(), static_cast<int>(m_text.size()));
+    }
+    void yyincrementchar(int n) override { m_char += n; }
+    void yydecrementchar(int n) override { m_char -= n; }
+    bool yycheck_state_eof(int act) override { return act > yy_end_of_buffer_action; }
+    int yyaction(int act) override
+    {
+        yy_action_returns = 0;
+        m_matches.push_back(std::to_string(act) + ":" + std::string(yytext, static_cast<std::size_t>(yyleng)));
+        if (m_onMatch)
+            m_onMatch();
+        return 0;
+    }
+
+    std::function<void()> m_onMatch;
+    int m_char = 0;
+
+private:
+    std::string m_text;
+    std::vector<std::string> m_matches;
+};
+
+using Matches = std::vector<std::string>;
+
+TEST(ScannerBuffers, ANulInsideTheTextIsAByteLikeOthers)
+{
+    using namespace std::string_literals;
+    struct SNulCase
+    {
+        std::string text;
+        Matches matches;
+    };
+    // rules of Tiny: 1 blank, 2 a, 3 b before a blank, 5 and 6 inside brackets, 7 any other
+    const SNulCase cases[] = {
+        {"a\0a"s, {"2:a", "7:\0"s, "2:a"}},
+        {"\0"s, {"7:\0"s}},
+        {"b\0"s, {"7:b", "7:\0"s}},
+        {"\0\0b "s, {"7:\0"s, "7:\0"s, "3:b", "1: "}},
+    };
+    for (const SNulCase& entry : cases)
+        EXPECT_EQ(CPlainScanner("Tiny", 2, entry.text).Matches(), entry.matches);
+    // in the middle of a longer match, which grows on the way
+    const std::string comment = "/*" + std::string(300, '-') + '\0' + std::string(300, '-') + "*/";
+    EXPECT_EQ(CPlainScanner("Nesting", 1, comment + "a").Matches(), (Matches{"2:" + comment, "3:a"}));
+}
+
+TEST(ScannerBuffers, StreamsAreReadAsTextsAre)
+{
+    std::string text;
+    for (int i = 0; i < 4000; ++i)
+        text += "word" + std::string(1, static_cast<char>('a' + i % 26)) + (i % 7 == 0 ? "\n" : " ");
+    for (const std::string& input : {text, std::string(), std::string("a"), text + "no end"}) {
+        std::FILE* const file = std::tmpfile();
+        ASSERT_NE(file, nullptr);
+        std::fwrite(input.data(), 1, input.size(), file);
+        std::rewind(file);
+        CPlainScanner stream("Order", 2);
+        stream.yyset_in(file); // closed with the scanner
+        EXPECT_EQ(stream.Matches(), CPlainScanner("Order", 2, input).Matches());
+        stream.yyset_in(file);
+    }
+}
+
+TEST(ScannerBuffers, InputAndPushBackLieBetweenTheMatches)
+{
+    CPlainScanner scanner("Tiny", 2, "a]x\na");
+    std::string read;
+    scanner.m_onMatch = [&] {
+        if (scanner.yytext[0] != 'a' || !read.empty())
+            return;
+        read += static_cast<char>(scanner.yyinput());
+        read += static_cast<char>(scanner.yyinput());
+        read += static_cast<char>(scanner.yyinput());
+        EXPECT_EQ(scanner.yylineno, 2);
+    };
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "2:a"}));
+    EXPECT_EQ(read, "]x\n");
+    EXPECT_EQ(scanner.yyinput(), 0);
+}
+
+TEST(ScannerBuffers, OnlyTextWithTwoNulsIsScannedInPlace)
+{
+    CPlainScanner scanner("Tiny", 2);
+    char good[] = {'a', 'b', ' ', 0, 0};
+    char bad[] = {'a', 0, 'b'};
+    EXPECT_EQ(scanner.yyscan_buffer(bad, 3), nullptr);
+    EXPECT_EQ(scanner.yyscan_buffer(good, 1), nullptr);
+    ASSERT_NE(scanner.yyscan_buffer(good, 5), nullptr);
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "3:b", "1: "}));
+}
+
+TEST(ScannerBuffers, APushedBufferReturnsToTheOneBelow)
+{
+    CPlainScanner scanner("Tiny", 2, "ab a");
+    char inner[] = {'x', 0, 0};
+    bool isPushed = false;
+    scanner.m_onMatch = [&] {
+        if (isPushed)
+            return;
+        isPushed = true;
+        auto* const buffer = new yybuffer_state;
+        buffer->yy_ch_buf = buffer->yy_buf_pos = inner;
+        buffer->yy_buf_size = buffer->yy_n_chars = 1;
+        scanner.yypush_buffer_state(buffer);
+    };
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "7:x"}));
+    scanner.yypop_buffer_state();
+    EXPECT_EQ(scanner.Matches(), (Matches{"3:b", "1: ", "2:a"}));
+}
+
+} // namespace

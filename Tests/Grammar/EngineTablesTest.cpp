@@ -1,1 +1,236 @@
+// Table files that would lead the engine astray are refused when they are loaded, by the file's name.
 #include "Tests/Support/EngineFixture.h"
+
+#include "UVEnvironment/UVEUnicodeString.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+
+namespace {
+
+// The line for the log, or nothing if the grammar loads.
+std::string LoadError(const std::string& grammar)
+{
+    try {
+        CEngine engine(grammar);
+    } catch (const Uve::U8CString& message) {
+        return message;
+    }
+    return {};
+}
+
+using Entries = std::vector<int>;
+
+struct SRefusal
+{
+    const char* file;
+    const char* what; // of the message
+    std::function<void(Entries&)> damage;
+};
+
+std::function<void(Entries&)> Resize(std::size_t size, int value = 0)
+{
+    return [=](Entries& entries) { entries.resize(size, value); };
+}
+
+std::function<void(Entries&)> Shorten(std::size_t count)
+{
+    return [=](Entries& entries) { entries.resize(entries.size() - count); };
+}
+
+std::function<void(Entries&)> SetEntry(std::size_t index, int value)
+{
+    return [=](Entries& entries) { entries.at(index) = value; };
+}
+
+std::function<void(Entries&)> SetLast(int value)
+{
+    return [=](Entries& entries) { entries.back() = value; };
+}
+
+std::function<void(Entries&)> SetAll(int value)
+{
+    return [=](Entries& entries) { std::fill(entries.begin(), entries.end(), value); };
+}
+
+// Every row of a state is its own default.
+void DefaultToItself(Entries& entries)
+{
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        entries[i] = static_cast<int>(i);
+}
+
+const SRefusal kScannerRefusals[] = {
+    {"Lexer/accept.dat", "empty", Resize(0)},
+    {"Lexer/accept.dat", "no states", Resize(4)},
+    {"Lexer/accept.dat", "leaves acclist.dat", SetEntry(6, 22)},
+    {"Lexer/accept.dat", "leaves acclist.dat", SetEntry(6, -1)},
+    {"Lexer/accept.dat", "no rule behind byte", SetAll(0)},
+    {"Lexer/accept.dat", "shorter than the states", Resize(300, 1)}, // told of base.dat
+    {"Lexer/base.dat", "empty", Resize(0)},
+    {"Lexer/base.dat", "65534 states", Resize(65535)},
+    {"Lexer/base.dat", "leaves chk.dat", SetEntry(3, -1)},
+    {"Lexer/base.dat", "leaves chk.dat", SetEntry(16, 868 - 255)}, // one byte behind the end
+    {"Lexer/base.dat", "shorter than the states", Resize(14)},
+    {"Lexer/def.dat", "not as long", Shorten(1)},
+    {"Lexer/def.dat", "circle", DefaultToItself},
+    {"Lexer/def.dat", "circle", [](Entries& entries) { entries[15] = 16, entries[16] = 15; }},
+    {"Lexer/def.dat", "default 17", SetEntry(5, 17)},
+    {"Lexer/def.dat", "default -1", SetEntry(5, -1)},
+    {"Lexer/def.dat", "default 0", SetEntry(5, 0)},
+    {"Lexer/chk.dat", "not as long", Shorten(1)},
+    {"Lexer/nxt.dat", "next state 15", SetEntry(33, 15)},
+    {"Lexer/nxt.dat", "next state 0", SetEntry(33, 0)},
+    {"Lexer/nxt.dat", "next state -7", SetEntry(33, -7)},
+    {"Lexer/nxt.dat", "over the end of the text", SetEntry(611, 4)}, // a NUL leads back into the text
+    {"Lexer/NUL_trans.dat", "shorter", Shorten(1)},
+    {"Lexer/NUL_trans.dat", "next state 15", SetEntry(1, 15)},
+    {"Lexer/NUL_trans.dat", "next state -1", SetEntry(1, -1)},
+    {"Lexer/acclist.dat", "rule number 10", SetEntry(2, 10)},
+    {"Lexer/acclist.dat", "rule number 0", SetEntry(2, 0)},
+    {"Lexer/acclist.dat", "rule number -3", SetEntry(2, -3)},
+    {"Lexer/rule_can_match_eol.dat", "8191 rules", Resize(8192)},
+    {"Lexer/rule_can_match_eol.dat", "rule number 9", Shorten(1)}, // told of acclist.dat
+};
+
+const SRefusal kParserRefusals[] = {
+    {"Parser/pact.dat", "empty", Resize(0)},
+    {"Parser/pact.dat", "32768 states", Resize(32769)},
+    {"Parser/pact.dat", "not as long", Shorten(1)},
+    {"Parser/pact.dat", "starts at", SetEntry(2, 0x7fffffff)},
+    {"Parser/defact.dat", "not as long", Shorten(1)},
+    {"Parser/defact.dat", "reduces by rule 7", SetEntry(0, 7)},
+    {"Parser/defact.dat", "reduces by rule 4294967295", SetEntry(0, -1)},
+    {"Parser/defact.dat", "no action at all", SetEntry(0, 0)},
+    {"Parser/stos.dat", "not as long", Shorten(1)},
+    {"Parser/pgoto.dat", "starts at", SetEntry(2, -0x7fffffff)},
+    {"Parser/pgoto.dat", "not as long", Shorten(1)},
+    {"Parser/defgoto.dat", "next state 10", SetEntry(1, 10)},
+    {"Parser/defgoto.dat", "next state -2", SetEntry(1, -2)},
+    {"Parser/table.dat", "action 10", SetEntry(3, 10)},
+    {"Parser/table.dat", "action -7", SetEntry(0, -7)},
+    {"Parser/table.dat", "action 0", SetEntry(3, 0)},
+    {"Parser/table.dat", "next state 10", SetEntry(7, 10)},
+    {"Parser/check.dat", "not as long", Shorten(1)},
+    {"Parser/r1.dat", "makes symbol 5", SetEntry(3, 5)}, // a terminal
+    {"Parser/r1.dat", "makes symbol 10", SetEntry(3, 10)},
+    {"Parser/r2.dat", "not as long", Shorten(1)},
+    {"Parser/r2.dat", "32768 symbols", SetEntry(4, 32768)},
+    {"Parser/r2.dat", "joins 3", SetEntry(5, 2)}, // told of actions.dat
+    {"Parser/translate.dat", "token number 6", SetLast(6)},
+    {"Parser/translate.dat", "shorter", Shorten(1)},
+};
+
+void ExpectRefused(const SRefusal& refusal)
+{
+    SCOPED_TRACE(testing::Message() << refusal.file << ": " << refusal.what);
+    const CGrammarCopy copy("Tiny");
+    Entries entries = copy.Table(refusal.file);
+    refusal.damage(entries);
+    copy.SetTable(refusal.file, entries);
+    const std::string message = LoadError(copy.Name());
+    EXPECT_NE(message.find("UVParser ERROR: Bad table file: "), std::string::npos) << message;
+    EXPECT_NE(message.find(copy.Name()), std::string::npos) << message;
+    EXPECT_NE(message.find(refusal.what), std::string::npos) << message;
+}
+
+TEST(EngineTables, OfAScannerThatLeadAstrayAreRefused)
+{
+    for (const SRefusal& refusal : kScannerRefusals)
+        ExpectRefused(refusal);
+}
+
+TEST(EngineTables, OfAParserThatLeadAstrayAreRefused)
+{
+    for (const SRefusal& refusal : kParserRefusals)
+        ExpectRefused(refusal);
+}
+
+// A symbol's row that has no entries of its own still meets the check table: states are looked up for it as for
+// any other.
+TEST(EngineTables, AnEmptyRowMustNotMeetAForeignState)
+{
+    const CGrammarCopy copy("Tiny");
+    Entries check = copy.Table("Parser/check.dat");
+    Entries table = copy.Table("Parser/table.dat");
+    // symbol 9 has no row (base -1); from state 2 it meets slot 1
+    check[1] = 2;
+    table[1] = 20000;
+    copy.SetTable("Parser/check.dat", check);
+    copy.SetTable("Parser/table.dat", table);
+    EXPECT_NE(LoadError(copy.Name()).find("next state 20000"), std::string::npos);
+}
+
+TEST(EngineTables, TextsThatLeadAstrayAreRefused)
+{
+    const struct
+    {
+        const char* file;
+        const char* content;
+        const char* what;
+    } refusals[] = {
+        {"Parser/const.dat", "", "accepting state 0"},
+        {"Parser/const.dat", "YYFINAL 10\n", "accepting state 10"},
+        {"Parser/const.dat", "YYFINAL -3\n", "accepting state -3"},
+        {"Parser/defines.dat", "YYEOF 0\nTA 258\nTB 259\nTX 261\n", "translate.dat: shorter"},
+        {"Parser/defines.dat", "YYEOF 0\nTA 258\nTX 260\n", "token number 5 of 5"}, // a name is lost
+        {"Parser/actions.dat", "4 CREATE_NODE l 3\n", "joins 3"},
+        {"Parser/actions.dat", "4 CREATE_NODE l -1\n", "joins -1"},
+        {"Lexer/actions.dat", "4 BEGIN 2\n", "begins start condition 2"},
+        {"Lexer/defines.dat", "INITIAL -2\n", "start condition INITIAL -2"},
+        {"Lexer/defines.dat", "INITIAL 0\nC 7\n", "start"},
+    };
+    for (const auto& [file, content, what] : refusals) {
+        SCOPED_TRACE(testing::Message() << file << ": " << content);
+        const CGrammarCopy copy("Tiny");
+        copy.Write(file, content);
+        const std::string message = LoadError(copy.Name());
+        EXPECT_NE(message.find(what), std::string::npos) << message;
+    }
+}
+
+TEST(EngineTables, EveryFileIsNeeded)
+{
+    namespace fs = std::filesystem;
+    const CGrammarCopy copy("Tiny");
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(copy.Path("")))
+        if (entry.is_regular_file())
+            files.push_back(fs::relative(entry.path(), copy.Path("")));
+    EXPECT_EQ(files.size(), 23u);
+    for (const std::string& file : files) {
+        const std::string content = copy.Read(file);
+        fs::remove(copy.Path(file));
+        const std::string message = LoadError(copy.Name());
+        EXPECT_NE(message.find("\nUVParser ERROR: File not found: "), std::string::npos) << message;
+        EXPECT_NE(message.find(fs::path(file).filename()), std::string::npos) << message;
+        copy.Write(file, content);
+    }
+    EXPECT_EQ(LoadError(copy.Name()), "");
+}
+
+TEST(EngineTables, NamesDontLeaveTheGrammarFolder)
+{
+    for (const char* const name : {"../Grammar/Tiny", "Tiny/../Tiny", "..", "Tiny/", "/Tiny", "NoSuchGrammar", ""}) {
+        const std::string message = LoadError(name);
+        EXPECT_NE(message.find("\nUVParser ERROR: File not found: "), std::string::npos) << name << message;
+    }
+}
+
+TEST(EngineTables, AConditionThatIsReachedByNumberHasAnEndOfFile)
+{
+    // no name for condition 1, so its end-of-file rule is nobody's
+    const CGrammarCopy copy("Tiny");
+    copy.Write("Lexer/defines.dat", "INITIAL 0\nX 1\n");
+    copy.Write("Lexer/actions.dat", "2 TOKEN_ACTION A\n3 TOKEN_ACTION B\n4 BEGIN 1\n5 BEGIN 0\n7 TOKEN_ACTION X\n");
+    CEngine engine(copy.Name());
+    engine.m_Lexer.m_mapStartConditions.erase("X");
+    const SParseOutcome outcome = engine.Parse("[a");
+    EXPECT_TRUE(outcome.hasThrown);
+    EXPECT_EQ(Sketch(engine.Parse("ab ").tree), "l(e() i(A'a' e() B'b')) ' '");
+}
+
+} // namespace

@@ -1,6 +1,7 @@
 #include "Parser/UVAssessorOption.h"
 #include "Tests/Parser/ParserFixture.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -201,6 +202,24 @@ TEST_F(ParserOptions, AssessorFlagFollowsTheOption)
     EXPECT_TRUE(GetAssessorIsParentOpt());
     SetOption("AssessorIsParent", false); // then the parent's name decides, and it is no wizard
     m_Parser.set_DatabaseInfo(m_Info);
+    EXPECT_FALSE(GetAssessorIsParentOpt());
+}
+
+// The test runs itself once more, as the child of a process that calls itself the wizard.
+TEST(AssessorOption, ParentOfTheWizardsNameSetsTheFlag)
+{
+    constexpr char kIsChild[] = "UV_ASSESSOR_CHILD";
+    if (std::getenv(kIsChild) != nullptr) {
+        SetAssessorIsParentOpt(false);
+        EXPECT_TRUE(GetAssessorIsParentOpt());
+        return;
+    }
+    const std::string self = std::filesystem::read_symlink("/proc/self/exe");
+    const std::string command = std::string(kIsChild) +
+                                "=1 bash -c \"exec -a /opt/orvantaassessmentWZD bash -c '" + self +
+                                " --gtest_filter=AssessorOption.* >&2; exit \\$?'\"";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    SetAssessorIsParentOpt(false);
     EXPECT_FALSE(GetAssessorIsParentOpt());
 }
 

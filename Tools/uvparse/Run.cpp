@@ -127,8 +127,13 @@ void CRun::NameOutputs()
         const std::string target = (std::filesystem::path(m_Line.outputFolder) / name).string();
         const auto [user, isFree] = users.emplace(target, path);
         if (!isFree)
-            throw CToolFailure("'" + user->second + "' and '" + path + "' would both be written to '" +
-                               target + "'");
+            throw CToolFailure(std::string("'")
+                                   .append(user->second)
+                                   .append("' and '")
+                                   .append(path)
+                                   .append("' would both be written to '")
+                                   .append(target)
+                                   .append("'"));
         m_OutputPaths[path] = target;
     }
     std::error_code failed;

@@ -35,10 +35,10 @@ void AppendDecomposed(std::u32string& out, char32_t codePoint, bool compatibilit
 {
     if (IsIn(codePoint, kSyllableBase, kSyllableCount)) {
         const char32_t number = codePoint - kSyllableBase;
-        out += kLeadingBase + number / (kVowelCount * kTrailingCount);
-        out += kVowelBase + number / kTrailingCount % kVowelCount;
+        out.push_back(kLeadingBase + number / (kVowelCount * kTrailingCount));
+        out.push_back(kVowelBase + number / kTrailingCount % kVowelCount);
         if (const char32_t trailing = number % kTrailingCount)
-            out += kTrailingBase + trailing;
+            out.push_back(kTrailingBase + trailing);
         return;
     }
     const std::size_t number = codePoint < 0x110000 ? Tables::DecompositionAt(codePoint) : 0;

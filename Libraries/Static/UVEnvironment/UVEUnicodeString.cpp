@@ -55,9 +55,9 @@ U8CString::U8CString(U8CString&& other) noexcept
     other.ForgetPosition();
 }
 
-U8CString::U8CString(const wchar_t* text) : std::string(text ? WideToUTF8(text) : U8CString()) {}
+U8CString::U8CString(const wchar_t* text) : U8CString(text ? WideToUTF8(text) : U8CString()) {}
 
-U8CString::U8CString(const std::wstring& text) : std::string(WideToUTF8(text)) {}
+U8CString::U8CString(const std::wstring& text) : U8CString(WideToUTF8(text)) {}
 
 U8CString& U8CString::operator=(U8CString&& other) noexcept
 {

@@ -1,0 +1,3 @@
+#include "Tests/Support/EngineFixture.h"
+
+#include <gtest/gtest.h>
