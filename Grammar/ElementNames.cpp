@@ -1,12 +1,18 @@
 #include "Grammar/ElementNames.h"
 
-std::uint32_t CElementNames::Intern(std::string_view name)
+CMarkup::CMarkup(const std::string& text) : m_padded(text), m_size(text.size())
 {
-    if (const auto known = m_numbers.find(name); known != m_numbers.end())
-        return known->second;
-    const std::string text(name);
-    m_names.push_back({text, "<" + text + ">", "</" + text + ">", "<" + text + " type=\"TOKEN\" line=\""});
-    const auto number = static_cast<std::uint32_t>(m_names.size() - 1);
-    m_numbers.emplace(m_names.back().name, number);
-    return number;
+    m_padded.resize((m_size + kBlock - 1) / kBlock * kBlock);
+}
+
+SElementName::SElementName(const std::string& name)
+    : open("<" + name + ">"), close("</" + name + ">"), tokenOpen("<" + name + " type=\"TOKEN\" line=\"")
+{}
+
+std::uint32_t CElementNames::Intern(const std::string& name)
+{
+    const auto [entry, isNew] = m_numbers.emplace(name, static_cast<std::uint32_t>(m_names.size()));
+    if (isNew)
+        m_names.emplace_back(name);
+    return entry->second;
 }

@@ -1,19 +1,38 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
+
+// A piece of markup that is written over and over. It is padded, so that it can be copied in whole blocks
+// without a look at its length.
+class CMarkup
+{
+public:
+    static constexpr std::size_t kBlock = 32;
+
+    explicit CMarkup(const std::string& text);
+
+    std::size_t size() const { return m_size; }
+    const char* Padded() const { return m_padded.data(); }
+    std::size_t PaddedSize() const { return m_padded.size(); } // a multiple of kBlock
+
+private:
+    std::string m_padded;
+    std::size_t m_size;
+};
 
 // The element names that one parse writes, each with the markup that goes around it, formed once when a
 // grammar is linked and never again.
 struct SElementName
 {
-    std::string name;
-    std::string open;      // <name>
-    std::string close;     // </name>
-    std::string tokenOpen; // <name type="TOKEN" line="
+    explicit SElementName(const std::string& name);
+
+    CMarkup open;      // <name>
+    CMarkup close;     // </name>
+    CMarkup tokenOpen; // <name type="TOKEN" line="
 };
 
 class CElementNames
@@ -21,12 +40,12 @@ class CElementNames
 public:
     // Enters `name` if it is new.
     // Returns: its number, the same for the same name.
-    std::uint32_t Intern(std::string_view name);
+    std::uint32_t Intern(const std::string& name);
 
     const SElementName& operator[](std::uint32_t number) const { return m_names[number]; }
     std::size_t size() const { return m_names.size(); }
 
 private:
-    std::deque<SElementName> m_names; // a deque: the keys below point into it
-    std::unordered_map<std::string_view, std::uint32_t> m_numbers;
+    std::vector<SElementName> m_names;
+    std::unordered_map<std::string, std::uint32_t> m_numbers;
 };

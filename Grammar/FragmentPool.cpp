@@ -2,6 +2,12 @@
 
 #include <stdexcept>
 
+namespace {
+
+constexpr std::size_t kMostEscapedBytes = 6; // a quote as its entity
+
+} // namespace
+
 void CFragmentPool::NewChunk()
 {
     if (m_chunks.size() == std::size_t{1} << (32 - kChunkBits))
@@ -19,6 +25,7 @@ FragmentRef CFragmentPool::NewTokenText(std::uint32_t element, std::string_view 
 {
     const auto number = static_cast<std::uint32_t>(m_texts.size());
     m_texts.emplace_back(text);
+    m_markupBytes += text.size() * kMostEscapedBytes;
     const FragmentRef fragment =
         NewToken(element, number, static_cast<std::uint32_t>(text.size()), line, pos);
     (*this)[fragment].info = static_cast<std::uint32_t>(enFragment::TokenText) | element << 3;
@@ -34,4 +41,5 @@ void CFragmentPool::Release()
     m_used = 0;
     m_end = 0;
     m_count = 0;
+    m_markupBytes = 0;
 }

@@ -54,10 +54,20 @@ struct STokenFragment : SFragment
     std::int32_t pos;
 };
 
-// Owns the fragments of one parse. They all go at once, by Release or with the pool.
+// The markup that is the same for every token and every space.
+constexpr std::string_view kSpaceOpen = "<T__SPACE type=\"TOKEN\">";
+constexpr std::string_view kSpaceClose = "</T__SPACE>";
+constexpr std::string_view kTokenPos = "\" pos=\"";
+constexpr std::string_view kTokenTextBegin = "\">";
+constexpr std::size_t kMostDigits = 11; // of a 32-bit number, sign included
+
+// Owns the fragments of one parse. They all go at once, by Release or with the pool; the element names stay.
 class CFragmentPool
 {
 public:
+    CElementNames& Names() { return m_names; }
+    const CElementNames& Names() const { return m_names; }
+
     FragmentRef NewTag(enFragment kind, std::uint32_t element);
     FragmentRef NewSpace(std::uint32_t start, std::uint32_t length);
     FragmentRef NewToken(std::uint32_t element, std::uint32_t start, std::uint32_t length, std::uint32_t line,
@@ -80,6 +90,8 @@ public:
 
     // How many fragments were made since the last Release.
     std::size_t Count() const { return m_count; }
+    // At least the bytes of their markup, and few more: what the source adds to them isn't counted.
+    std::size_t MarkupBytes() const { return m_markupBytes; }
 
     // Forgets all fragments and gives their memory back.
     void Release();
@@ -108,17 +120,21 @@ private:
     // Throws: std::length_error beyond 32 GiB of fragments.
     void NewChunk();
 
+    CElementNames m_names;
     std::vector<std::unique_ptr<std::uint64_t[]>> m_chunks;
     std::vector<std::string> m_texts;
     std::uint32_t m_used = 0; // next free unit
     std::uint32_t m_end = 0;  // end of the last chunk
     std::size_t m_count = 0;
+    std::size_t m_markupBytes = 0;
 };
 
 inline FragmentRef CFragmentPool::NewTag(enFragment kind, std::uint32_t element)
 {
     FragmentRef fragment = kNoFragment;
     Allocate<SFragment>(fragment, kind, element);
+    // every start tag has its end tag, so half of a pair is counted for each
+    m_markupBytes += m_names[element].close.size() << (kind == enFragment::Empty ? 1 : 0);
     return fragment;
 }
 
@@ -128,6 +144,7 @@ inline FragmentRef CFragmentPool::NewSpace(std::uint32_t start, std::uint32_t le
     auto& made = Allocate<SSpaceFragment>(fragment, enFragment::Space, 0);
     made.start = start;
     made.length = length;
+    m_markupBytes += kSpaceOpen.size() + kSpaceClose.size();
     return fragment;
 }
 
@@ -140,6 +157,9 @@ inline FragmentRef CFragmentPool::NewToken(std::uint32_t element, std::uint32_t 
     made.length = length;
     made.line = line;
     made.pos = pos;
+    const SElementName& name = m_names[element];
+    m_markupBytes += name.tokenOpen.size() + kTokenPos.size() + kTokenTextBegin.size() + name.close.size();
+    m_markupBytes += line < 10000 && pos < 100 ? 6 : 2 * kMostDigits;
     return fragment;
 }
 
@@ -159,13 +179,11 @@ inline void SpliceFragments(CFragmentPool& pool, FragmentRef& first, FragmentRef
 // Appends the XML text of the fragments from `first` on, in list order, to `out`. Token text has the five
 // special characters of XML escaped; space passes the rules of UVDBEscapeXML. Throws: std::runtime_error if
 // the list runs in a circle, which only damaged tables can bring about.
-void WriteFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
-                    std::string_view query, std::string& out);
+void WriteFragments(const CFragmentPool& pool, FragmentRef first, std::string_view query, std::string& out);
 
-// At least the bytes that WriteFragments will append, and few more, so that the result is reserved in one
-// step. Throws: as WriteFragments.
-std::size_t MeasureFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
-                             std::string_view query);
+// At least the bytes that the fragments of `pool` take up as text, and few more, so that the result is
+// reserved in one step.
+std::size_t MeasureFragments(const CFragmentPool& pool, std::string_view query);
 
 // Appends `text` to `out` as the space between tokens stands in the tree: one element around it.
 void WriteSpaceElement(std::string_view text, std::string& out);

@@ -7,12 +7,6 @@
 
 namespace {
 
-constexpr std::string_view kSpaceOpen = "<T__SPACE type=\"TOKEN\">";
-constexpr std::string_view kSpaceClose = "</T__SPACE>";
-constexpr std::string_view kPos = "\" pos=\"";
-constexpr std::string_view kEndOfTag = "\">";
-constexpr std::size_t kMostDigits = 11; // of a 32-bit number, sign included
-
 // What a byte of source becomes; length 1 stands for itself.
 struct SEscape
 {
@@ -65,22 +59,40 @@ class CBlockWriter
 public:
     explicit CBlockWriter(std::string& out) : m_out(out) {}
 
-    void Text(std::string_view text)
+    void Markup(const CMarkup& markup)
     {
-        Need(text.size());
-        if (text.size() > kBlock) {
-            m_out.append(text);
+        if (markup.PaddedSize() > kReserve) {
+            Flush();
+            m_out.append(markup.Padded(), markup.size());
             return;
         }
-        std::memcpy(m_at, text.data(), text.size());
-        m_at += text.size();
+        Need(kReserve);
+        for (std::size_t at = 0; at < markup.PaddedSize(); at += CMarkup::kBlock)
+            std::memcpy(m_at + at, markup.Padded() + at, CMarkup::kBlock);
+        m_at += markup.size();
     }
 
-    template <class T>
-    void Number(T number)
+    // The tag of a token up to its text.
+    void TokenTag(const CMarkup& open, std::uint32_t line, std::int32_t pos)
     {
-        Need(kMostDigits);
-        m_at = std::to_chars(m_at, m_block.data() + m_block.size(), number).ptr;
+        Markup(open);
+        Need(kReserve);
+        Number(line);
+        Constant(kTokenPos);
+        Number(pos);
+        Constant(kTokenTextBegin);
+    }
+
+    void SpaceTag()
+    {
+        Need(kReserve);
+        Constant(kSpaceOpen);
+    }
+
+    void SpaceEnd()
+    {
+        Need(kReserve);
+        Constant(kSpaceClose);
     }
 
     void Escaped(std::string_view text, const SEscape& escapes, const std::array<bool, 256>& special)
@@ -112,11 +124,24 @@ public:
 private:
     static constexpr std::size_t kBlock = 16384;
     static constexpr std::size_t kPiece = 4096;
+    static constexpr std::size_t kReserve = 256; // room for one tag, padding included
 
     void Need(std::size_t bytes)
     {
         if (static_cast<std::size_t>(m_block.data() + kBlock - m_at) < bytes)
             Flush();
+    }
+
+    void Constant(std::string_view text)
+    {
+        std::memcpy(m_at, text.data(), text.size());
+        m_at += text.size();
+    }
+
+    template <class T>
+    void Number(T number)
+    {
+        m_at = std::to_chars(m_at, m_at + kMostDigits, number).ptr;
     }
 
     std::string& m_out;
@@ -138,37 +163,33 @@ void ForEachFragment(const CFragmentPool& pool, FragmentRef first, const Visit& 
 
 } // namespace
 
-void WriteFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
-                    std::string_view query, std::string& out)
+void WriteFragments(const CFragmentPool& pool, FragmentRef first, std::string_view query, std::string& out)
 {
+    const CElementNames& names = pool.Names();
     CBlockWriter writer(out);
     const auto writeToken = [&](const STokenFragment& token, std::string_view text) {
         const SElementName& name = names[token.Element()];
-        writer.Text(name.tokenOpen);
-        writer.Number(token.line - 1);
-        writer.Text(kPos);
-        writer.Number(token.pos);
-        writer.Text(kEndOfTag);
+        writer.TokenTag(name.tokenOpen, token.line - 1, token.pos);
         writer.Escaped(text, kTokenEscapes, kTokenSpecial);
-        writer.Text(name.close);
+        writer.Markup(name.close);
     };
     ForEachFragment(pool, first, [&](const SFragment& fragment) {
         switch (fragment.Kind()) {
         case enFragment::Open:
-            writer.Text(names[fragment.Element()].open);
+            writer.Markup(names[fragment.Element()].open);
             break;
         case enFragment::Close:
-            writer.Text(names[fragment.Element()].close);
+            writer.Markup(names[fragment.Element()].close);
             break;
         case enFragment::Empty:
-            writer.Text(names[fragment.Element()].open);
-            writer.Text(names[fragment.Element()].close);
+            writer.Markup(names[fragment.Element()].open);
+            writer.Markup(names[fragment.Element()].close);
             break;
         case enFragment::Space: {
             const auto& space = static_cast<const SSpaceFragment&>(fragment);
-            writer.Text(kSpaceOpen);
+            writer.SpaceTag();
             writer.Escaped(query.substr(space.start, space.length), kSpaceEscapes, kSpaceSpecial);
-            writer.Text(kSpaceClose);
+            writer.SpaceEnd();
             break;
         }
         case enFragment::Token: {
@@ -186,45 +207,20 @@ void WriteFragments(const CFragmentPool& pool, const CElementNames& names, Fragm
     writer.Flush();
 }
 
-std::size_t MeasureFragments(const CFragmentPool& pool, const CElementNames& names, FragmentRef first,
-                             std::string_view query)
+std::size_t MeasureFragments(const CFragmentPool& pool, std::string_view query)
 {
-    std::size_t bytes = query.size(); // every byte of it stands in one fragment at the most
+    std::size_t bytes =
+        pool.MarkupBytes() + query.size(); // every byte of it stands in one fragment at the most
     for (const char c : query)
         bytes += kSpaceEscapes.ExtraBytes(static_cast<unsigned char>(c));
-    ForEachFragment(pool, first, [&](const SFragment& fragment) {
-        const SElementName& name = names[fragment.Element()];
-        switch (fragment.Kind()) {
-        case enFragment::Open:
-            bytes += name.open.size();
-            break;
-        case enFragment::Close:
-            bytes += name.close.size();
-            break;
-        case enFragment::Empty:
-            bytes += name.open.size() + name.close.size();
-            break;
-        case enFragment::Space:
-            bytes += kSpaceOpen.size() + kSpaceClose.size();
-            break;
-        case enFragment::TokenText:
-            for (const char c : pool.Text(static_cast<const STokenFragment&>(fragment).start))
-                bytes += 1 + kTokenEscapes.ExtraBytes(static_cast<unsigned char>(c));
-            [[fallthrough]];
-        case enFragment::Token:
-            bytes += name.tokenOpen.size() + kPos.size() + kEndOfTag.size() + name.close.size();
-            bytes += static_cast<const STokenFragment&>(fragment).line < 100000 ? 8 : 2 * kMostDigits;
-            break;
-        }
-    });
     return bytes;
 }
 
 void WriteSpaceElement(std::string_view text, std::string& out)
 {
     CBlockWriter writer(out);
-    writer.Text(kSpaceOpen);
+    writer.SpaceTag();
     writer.Escaped(text, kSpaceEscapes, kSpaceSpecial);
-    writer.Text(kSpaceClose);
+    writer.SpaceEnd();
     writer.Flush();
 }

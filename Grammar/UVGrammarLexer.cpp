@@ -342,7 +342,7 @@ std::uint32_t CSQLGrammarLexer::CompileToken(const std::string& name)
         SToken token;
         token.name = fullName;
         if (m_pGrammarParser) {
-            token.element = m_pGrammarParser->ElementNames().Intern(fullName);
+            token.element = m_pGrammarParser->Fragments().Names().Intern(fullName);
             if (const auto known = m_pGrammarParser->m_mapDefines.find(fullName);
                 known != m_pGrammarParser->m_mapDefines.end())
                 token.number = known->second;

@@ -3,7 +3,6 @@
 
 #include <charconv>
 #include <cstring>
-#include <limits>
 
 // How a match becomes a token.
 
@@ -58,7 +57,7 @@ int CSQLGrammarLexer::PseudoTokenAction(const std::string& name, ParserNode& nod
 ParserNode CSQLGrammarLexer::CreateToken(const std::string& name, int color, int length, bool isPseudo)
 {
     ParserNode node;
-    const std::uint32_t element = m_pGrammarParser ? m_pGrammarParser->ElementNames().Intern(name) : 0;
+    const std::uint32_t element = m_pGrammarParser ? m_pGrammarParser->Fragments().Names().Intern(name) : 0;
     MakeToken(element, color, length, isPseudo, node);
     return node;
 }
@@ -131,7 +130,6 @@ void CSQLGrammarLexer::AddColoring(int color, int from, int to)
 {
     if (!m_bColoringWanted)
         return;
-    constexpr std::size_t kMostDigits = std::numeric_limits<int>::digits10 + 2;
     std::array<char, 3 * (kMostDigits + 1)> line{};
     char* at = line.data();
     for (const int number : {color, from, to}) {

@@ -103,7 +103,7 @@ void CSQLGrammarParser::CompileActions(const std::string& directory)
     const std::size_t rules = m_spTables->Rules();
     m_lstOperations.clear();
     m_lstRules.assign(rules, SRule());
-    m_ElementNames.Intern(kRootName);
+    m_Fragments.Names().Intern(kRootName);
     for (const auto& [number, operations] : m_mapActions) {
         if (number < 0 || static_cast<std::size_t>(number) >= rules || !operations)
             continue; // no rule of the tables ever asks for it
@@ -130,7 +130,7 @@ void CSQLGrammarParser::CompileActions(const std::string& directory)
                                     " symbols joins " + (*operands)[1]);
                 [[fallthrough]];
             case enGrammarKeyword::Empty:
-                operation.element = m_ElementNames.Intern((*operands)[0]);
+                operation.element = m_Fragments.Names().Intern((*operands)[0]);
                 operation.isRoot = (*operands)[0] == kRootName;
                 break;
             case enGrammarKeyword::YylexerptrYybegin:

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Grammar/ElementNames.h"
 #include "Grammar/ParserNode.h"
 #include "Grammar/Runtime/yyBisonParser.h"
 #include "Grammar/Runtime/yyFlexLexer.h"
@@ -68,7 +67,6 @@ public:
     // null until yycreate.
     ParserNode* LookaheadValue() { return static_cast<ParserNode*>(yylval); }
     CFragmentPool& Fragments() { return m_Fragments; }
-    CElementNames& ElementNames() { return m_ElementNames; }
 
     CSQLGrammarParserImplementation m_Extension;
     yyFlexLexer* yylexerptr = nullptr;       // borrowed
@@ -117,7 +115,6 @@ private:
 
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
-    CElementNames m_ElementNames;
     CFragmentPool m_Fragments;
 };
 

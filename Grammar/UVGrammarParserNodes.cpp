@@ -112,10 +112,10 @@ void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
 
     std::string& xml = m_Extension.m_strParsedXml;
     xml.clear();
-    xml.reserve(MeasureFragments(m_Fragments, m_ElementNames, root.m_pFirst, query) + kRootRoom);
+    xml.reserve(MeasureFragments(m_Fragments, query) + kRootRoom);
     xml += kRootOpen;
     WriteSpaceElement(lead, xml);
-    WriteFragments(m_Fragments, m_ElementNames, root.m_pFirst, query, xml);
+    WriteFragments(m_Fragments, root.m_pFirst, query, xml);
     WriteSpaceElement(tail, xml);
     xml += kRootClose;
     // a rule above the root sees a node without text

@@ -1,5 +1,6 @@
 // In front of the generated scanner.
 #include "Benchmarks/Native/NativeSupport.h"
+
 #include <NativeParser.h> // generated
 
 static struct

@@ -1,8 +1,8 @@
 #include "Benchmarks/Native/NativeParse.h"
 
 #include "Benchmarks/Native/NativeSupport.h"
-#include <NativeParser.h> // generated
 
+#include <NativeParser.h> // generated
 #include <utility>
 
 SNativeState g_native;
@@ -30,10 +30,10 @@ void WriteRoot(const NativeValue& root)
     const auto tail = static_cast<std::size_t>(end > 0 ? end : 0);
     std::string& xml = g_native.xml;
     xml.clear();
-    xml.reserve(MeasureFragments(g_native.pool, g_native.names, root.m_pFirst, text) + 128);
+    xml.reserve(MeasureFragments(g_native.pool, text) + 128);
     xml += "<SQL>";
     WriteSpaceElement(text.substr(0, lead), xml);
-    WriteFragments(g_native.pool, g_native.names, root.m_pFirst, text, xml);
+    WriteFragments(g_native.pool, root.m_pFirst, text, xml);
     WriteSpaceElement(text.substr(tail), xml);
     xml += "</SQL>";
 }

@@ -13,7 +13,6 @@ struct SNativeState
 {
     const std::string* text = nullptr;
     CFragmentPool pool;
-    CElementNames names;
     std::string xml;
     std::map<std::string, std::string> conditions;
     std::size_t tokens = 0;
@@ -33,8 +32,8 @@ void NativeStartScan();
 void NativeEndScan();
 
 // The element of a name that is known when the code is compiled.
-#define NATIVE_ELEMENT(name)                                              \
-    ([] {                                                                 \
-        static const std::uint32_t element = g_native.names.Intern(name); \
-        return element;                                                   \
+#define NATIVE_ELEMENT(name)                                                     \
+    ([] {                                                                        \
+        static const std::uint32_t element = g_native.pool.Names().Intern(name); \
+        return element;                                                          \
     }())

@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t kMostStates = 32768; // the state stack holds 16-bit entries
 constexpr int kMostBase = 1 << 24;
+constexpr int kNoMark = kMostBase + 1; // no base of a row
 
 // The places where rows of one kind begin in table and check.
 class CRowStarts
@@ -115,7 +116,8 @@ void CParserTables::Validate(const std::string& directory) const
 
     // A slot belongs to the rows whose base lies as far before it as check says.
     const CRowStarts actionRows(pact, base_ninf, table.count);
-    const CRowStarts gotoRows(pgoto, base_ninf, table.count);
+    // A goto doesn't ask for the mark of an empty row: it tries that place like any other.
+    const CRowStarts gotoRows(pgoto, kNoMark, table.count);
     for (std::size_t slot = 0; slot < table.count; ++slot) {
         const int value = table[slot];
         const long base = static_cast<long>(slot) - check[slot];

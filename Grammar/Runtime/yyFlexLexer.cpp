@@ -24,6 +24,8 @@ enum enEndOfBuffer
 int yyFlexLexer::yylex()
 {
     yy_match_length = 0;
+    if (!yy_init)
+        m_pStuckAt = nullptr;
     yyinitialize();
     for (;;) {
         yy_cp = yy_c_buf_p;
@@ -32,6 +34,7 @@ int yyFlexLexer::yylex()
         yy_current_state = yy_start + yyat_bol();
         yy_state_ptr = yy_state_buf;
         *yy_state_ptr++ = yy_current_state;
+        m_pPassedNul = nullptr;
         yymatch();
         for (bool isNextMatch = false; !isNextMatch;) {
             yy_current_state = *--yy_state_ptr;
@@ -52,6 +55,8 @@ int yyFlexLexer::yylex()
                     }
                     return 0;
                 }
+                if (act > yy_end_of_buffer_action)
+                    throw std::runtime_error("the text ends in a start condition without a name");
                 if (act != yy_end_of_buffer_action) {
                     yyrule_setup();
                     const int result = yyaction(act);
@@ -77,6 +82,10 @@ int yyFlexLexer::yylex()
 // The match ran into the NULs behind the text, or into a NUL inside it.
 int yyFlexLexer::yyend_of_buffer(int& act)
 {
+    // the rule belongs to a NUL, and a match passes each of them once
+    if (yyleng == 0 || yy_cp[-1] != 0 || yy_cp <= m_pPassedNul)
+        throw std::runtime_error("the scanner's tables take the text for its end");
+    m_pPassedNul = yy_cp;
     const std::ptrdiff_t amount = yy_cp - yytext_ptr - 1;
     *yy_cp = yy_hold_char;
     yybuffer_state* const buffer = yycurrent_buffer();

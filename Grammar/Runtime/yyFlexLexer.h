@@ -18,6 +18,7 @@ private:
     int yyend_of_buffer(int& act);
     void yycheck_progress();
 
-    const char* m_pStuckAt = nullptr; // where the last match of length 0 was
+    const char* m_pPassedNul = nullptr; // behind the last NUL that this match met
+    const char* m_pStuckAt = nullptr;   // where the last match of length 0 was
     int m_nStuckCount = 0;
 };

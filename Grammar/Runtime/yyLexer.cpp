@@ -98,6 +98,7 @@ void yyLexer::yycleanup()
     yy_state_ptr = yy_state_buf;
     yy_text_size = yy_text_initial_size;
     yy_looking_for_trail_begin = 0;
+    yy_full_state = nullptr;
     yyleng = 0;
     yyoldleng = 0;
     yy_init = 0;

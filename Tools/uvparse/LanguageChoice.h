@@ -26,8 +26,8 @@ public:
 // Chooses among the grammars that are there. The rules, first to last:
 //   a parser name is taken as it is given, and the database kind is the one whose texts it reads;
 //   a database names its parser;
-//   a file's extension is looked up in the catalogue, and must lead to exactly one grammar that is there; "Common"
-//   gives way to another one.
+//   a file's extension is looked up in the catalogue, and must lead to exactly one grammar that is there;
+//   "Common" gives way to another one.
 class CLanguageChoice
 {
 public:
