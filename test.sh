@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the project and runs its tests. The last line is "N passed, N failed"; the exit code is 1 if anything failed.
 #   test.sh [CTEST ARGUMENT...]   debug build with the default compiler, every test (or those that the arguments choose)
-#   test.sh --all                 what CI runs: beside that the second compiler, header verification, the sanitizers
-#                                 over every test, the fuzz targets, format and tidy
+#   test.sh --all                 what CI runs: beside that the release build, each header on its own, format and tidy,
+#                                 and with the second compiler every test under the sanitizers, and the fuzz targets
 set -uo pipefail
 
 top=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -92,6 +92,11 @@ run_tests() {
     printf '%-24s %d of %d %4d s\n' "test $preset" "$good" "$tests" $((SECONDS - begin))
 }
 
+# build_and_test <preset> [target...]
+build_and_test() {
+    if run_logged "build $1" build "$@"; then run_tests "$1"; else tally 0 1; fi
+}
+
 # list_code <name pattern...>: the project's own files of these names, build folders aside.
 list_code() {
     local names=(-name "$1")
@@ -126,19 +131,9 @@ fi
 $everything || finish
 
 check "format" check_format
-check "build ci (clang)" build ci
-check "headers" build ci all_verify_interface_header_sets
+check "build release" build release
+check "headers (clang)" build ci all_verify_interface_header_sets
 check "tidy" check_tidy
-
-if run_logged "build asan" build asan; then
-    run_tests asan
-else
-    tally 0 1
-fi
-
-if run_logged "build fuzz" build fuzz Tests/Fuzz/all; then
-    run_tests fuzz
-else
-    tally 0 1
-fi
+# Clang's build: every test under the sanitizers, and the fuzz targets, which are tests of this preset too.
+build_and_test asan
 finish
