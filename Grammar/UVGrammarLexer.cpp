@@ -2,6 +2,7 @@
 
 #include "Catalogue/UVDBParserNames.h"
 #include "Grammar/UVGrammarParser.h"
+#include "Grammar/UVGrammarTables.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <boost/program_options/variables_map.hpp>
@@ -24,14 +25,6 @@ constexpr int kPascalFormNumber = 83;
 constexpr int kDelphiNumber = 116;
 constexpr int kDelphiFormNumber = 117;
 constexpr int kUnknownNumber = 60;
-
-STable<int> ReadTable(const std::string& directory, const char* name)
-{
-    STable<int> table;
-    const std::string path = GetDatFilePath(directory, directory, name);
-    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), table.count));
-    return table;
-}
 
 CActionsMap CopyActions(const CActionsMap& actions)
 {
@@ -94,14 +87,7 @@ void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
     UVDBGrammarKeeper::CreateActionsMap(readText("actions.dat"), m_mapActions);
     UVDBGrammarKeeper::CreateDefinesMap(readText("defines.dat"), m_mapStartConditions);
     auto tables = std::make_shared<CScannerTables>();
-    tables->accept = ReadTable(directory, "accept.dat");
-    tables->base = ReadTable(directory, "base.dat");
-    tables->chk = ReadTable(directory, "chk.dat");
-    tables->def = ReadTable(directory, "def.dat");
-    tables->NUL_trans = ReadTable(directory, "NUL_trans.dat");
-    tables->nxt = ReadTable(directory, "nxt.dat");
-    tables->rule_can_match_eol = ReadTable(directory, "rule_can_match_eol.dat");
-    tables->acclist = ReadTable(directory, "acclist.dat");
+    ReadScannerTables(directory, *tables);
     int startConditions = 1; // every scanner has the initial one
     for (const auto& condition : m_mapStartConditions)
         startConditions =

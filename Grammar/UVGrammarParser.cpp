@@ -1,10 +1,10 @@
 #include "Grammar/UVGrammarParser.h"
 
+#include "Grammar/UVGrammarTables.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <boost/program_options/variables_map.hpp>
 
-#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 
@@ -12,15 +12,6 @@ namespace {
 
 constexpr const char* kRootName = "SQL";
 constexpr std::size_t kInitialDepth = 200;
-
-template <class T>
-STable<T> ReadTable(const std::string& directory, const char* name)
-{
-    STable<T> table;
-    const std::string path = GetDatFilePath(directory, directory, name);
-    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count));
-    return table;
-}
 
 int ToNumber(const std::string& text)
 {
@@ -75,20 +66,7 @@ void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
     auto tables = std::make_shared<CParserTables>();
     tables->maxutok = yymaxutok;
     tables->ntokens = yyntokens;
-    tables->final_ = UVDBGrammarKeeper::GetFinalStateNum(readText("const.dat"));
-    tables->pact = ReadTable<int>(directory, "pact.dat");
-    tables->defact = ReadTable<unsigned>(directory, "defact.dat");
-    tables->pgoto = ReadTable<int>(directory, "pgoto.dat");
-    tables->base_ninf =
-        std::min(UVDBGrammarKeeper::TableNinfRemap(tables->pact.values.get(), tables->pact.count),
-                 UVDBGrammarKeeper::TableNinfRemap(tables->pgoto.values.get(), tables->pgoto.count));
-    tables->defgoto = ReadTable<int>(directory, "defgoto.dat");
-    tables->table = ReadTable<int>(directory, "table.dat");
-    tables->check = ReadTable<int>(directory, "check.dat");
-    tables->stos = ReadTable<unsigned>(directory, "stos.dat");
-    tables->r1 = ReadTable<unsigned>(directory, "r1.dat");
-    tables->r2 = ReadTable<unsigned>(directory, "r2.dat");
-    tables->translate = ReadTable<unsigned>(directory, "translate.dat");
+    ReadParserTables(directory, *tables);
     tables->Validate(directory);
     yyset_tables(std::move(tables));
     CompileActions(directory);

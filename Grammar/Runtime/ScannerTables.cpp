@@ -161,17 +161,40 @@ void CScannerTables::CheckFirstStep(const std::string& directory,
         }
 }
 
-// Two NUL bytes end every buffer; the walk has to end on them whatever state it arrives in.
+// Two NUL bytes end every buffer. From every state the first leads to the one that accepts the end, and
+// nothing else leads there or accepts it; on the second the walk stops. So the end is never missed, and text
+// never taken for it.
 void CScannerTables::CheckEndOfBuffer(const std::string& directory,
                                       const std::vector<std::uint16_t>& rows) const
 {
-    const int jamBase = base[static_cast<std::size_t>(LastState()) + 1];
-    for (std::size_t state = 1; state <= static_cast<std::size_t>(LastState()) + 1; ++state) {
-        const std::size_t first = rows[state * kBytes];
-        const std::size_t second = rows[first * kBytes];
-        if (base[first] != jamBase && base[second] != jamBase)
-            RefuseTable(directory, "nxt.dat",
-                        "state " + std::to_string(state) + " runs over the end of the text");
+    const auto endOfBuffer = static_cast<int>(rule_can_match_eol.count);
+    const auto jamState = static_cast<std::size_t>(LastState()) + 1;
+    const std::size_t endState = rows[kBytes];
+    for (std::size_t state = 1; state <= jamState; ++state) {
+        for (std::size_t byte = 0; byte < kBytes; ++byte) {
+            const std::size_t next = rows[state * kBytes + byte];
+            const bool isRight =
+                state == endState && byte == 0 ? next == jamState : (next == endState) == (byte == 0);
+            if (!isRight)
+                RefuseTable(directory, "nxt.dat",
+                            "byte " + std::to_string(byte) + " of state " + std::to_string(state) +
+                                " misses the end of the text");
+        }
+        if (state < jamState && static_cast<std::size_t>(NUL_trans[state]) == endState)
+            RefuseTable(directory, "NUL_trans.dat",
+                        "state " + std::to_string(state) + " misses the end of the text");
+        bool isFirst = true;
+        for (int entry = accept[state]; entry > 0 && entry < accept[state + 1]; ++entry, isFirst = false) {
+            const int rule = acclist[static_cast<std::size_t>(entry)];
+            if ((rule == endOfBuffer) != (state == endState && isFirst))
+                RefuseTable(directory, "acclist.dat",
+                            "rule " + std::to_string(rule) + " of state " + std::to_string(state) +
+                                " misses the end of the text");
+        }
+        if (state == endState && isFirst)
+            RefuseTable(directory, "accept.dat", "no rule for the end of the text");
+        if (state == jamState && !isFirst)
+            RefuseTable(directory, "accept.dat", "a rule where nothing leads on");
     }
 }
 

@@ -34,7 +34,6 @@ int yyFlexLexer::yylex()
         yy_current_state = yy_start + yyat_bol();
         yy_state_ptr = yy_state_buf;
         *yy_state_ptr++ = yy_current_state;
-        m_pPassedNul = nullptr;
         yymatch();
         for (bool isNextMatch = false; !isNextMatch;) {
             yy_current_state = *--yy_state_ptr;
@@ -82,10 +81,6 @@ int yyFlexLexer::yylex()
 // The match ran into the NULs behind the text, or into a NUL inside it.
 int yyFlexLexer::yyend_of_buffer(int& act)
 {
-    // the rule belongs to a NUL, and a match passes each of them once
-    if (yyleng == 0 || yy_cp[-1] != 0 || yy_cp <= m_pPassedNul)
-        throw std::runtime_error("the scanner's tables take the text for its end");
-    m_pPassedNul = yy_cp;
     const std::ptrdiff_t amount = yy_cp - yytext_ptr - 1;
     *yy_cp = yy_hold_char;
     yybuffer_state* const buffer = yycurrent_buffer();

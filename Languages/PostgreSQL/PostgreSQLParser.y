@@ -1781,10 +1781,10 @@ table_definition
     | new_name T__LPAREN table_elements T__RPAREN                               { CREATE_NODE(table_definition, 4); }
     | new_name T__LPAREN T__RPAREN table_options                                { CREATE_NODE(table_definition, 4); }
     | new_name T__LPAREN table_elements T__RPAREN table_options                 { CREATE_NODE(table_definition, 5); }
-    | new_name T__OF qualified_type_name                                        { CREATE_NODE(table_definition, 3); }
-    | new_name T__OF qualified_type_name typed_elements                         { CREATE_NODE(table_definition, 4); }
-    | new_name T__OF qualified_type_name table_options                          { CREATE_NODE(table_definition, 4); }
-    | new_name T__OF qualified_type_name typed_elements table_options           { CREATE_NODE(table_definition, 5); }
+    | new_name T__OF qualified_name                                             { CREATE_NODE(table_definition, 3); }
+    | new_name T__OF qualified_name typed_elements                              { CREATE_NODE(table_definition, 4); }
+    | new_name T__OF qualified_name table_options                               { CREATE_NODE(table_definition, 4); }
+    | new_name T__OF qualified_name typed_elements table_options                { CREATE_NODE(table_definition, 5); }
     | new_name T__PARTITION T__OF qualified_name partition_bound                { CREATE_NODE(table_definition, 5); }
     | new_name T__PARTITION T__OF qualified_name partition_bound table_options  { CREATE_NODE(table_definition, 6); }
     | new_name T__PARTITION T__OF qualified_name typed_elements partition_bound  { CREATE_NODE(table_definition, 6); }
@@ -1796,10 +1796,6 @@ table_definition
 new_name
     : qualified_name
     | T__IF T__NOT T__EXISTS qualified_name                                     { CREATE_NODE(new_name, 4); }
-    ;
-qualified_type_name
-    : type_function_name
-    | dotted_type_name
     ;
 
 table_as
@@ -2591,6 +2587,7 @@ rule_actions
 rule_action
     : T__NOTHING
     | rule_statement
+    | T__LPAREN T__RPAREN                                                       { CREATE_NODE(rule_action, 2); }
     | T__LPAREN rule_statements T__RPAREN                                       { CREATE_NODE(rule_action, 3); }
     ;
 rule_statements
@@ -3119,7 +3116,7 @@ alter_action
     | T__NO T__FORCE T__ROW T__LEVEL T__SECURITY                                { CREATE_NODE(alter_action, 5); }
     | T__INHERIT qualified_name                                                 { CREATE_NODE(alter_action, 2); }
     | T__NO T__INHERIT qualified_name                                           { CREATE_NODE(alter_action, 3); }
-    | T__OF qualified_type_name                                                 { CREATE_NODE(alter_action, 2); }
+    | T__OF qualified_name                                                      { CREATE_NODE(alter_action, 2); }
     | T__NOT T__OF                                                              { CREATE_NODE(alter_action, 2); }
     | T__REPLICA T__IDENTITY T__NOTHING                                         { CREATE_NODE(alter_action, 3); }
     | T__REPLICA T__IDENTITY T__FULL                                            { CREATE_NODE(alter_action, 3); }
@@ -3389,9 +3386,16 @@ alter_tablespace
 alter_extension
     : T__ALTER T__EXTENSION column_name T__UPDATE                               { CREATE_NODE(alter_extension, 4); }
     | T__ALTER T__EXTENSION column_name T__UPDATE T__TO word_or_string          { CREATE_NODE(alter_extension, 6); }
+    | T__ALTER T__EXTENSION column_name T__UPDATE T__TO word_or_string extension_versions
+      { CREATE_NODE(alter_extension, 7); }
     | T__ALTER T__EXTENSION column_name T__ADD named_object                     { CREATE_NODE(alter_extension, 5); }
     | T__ALTER T__EXTENSION column_name T__DROP named_object                    { CREATE_NODE(alter_extension, 5); }
     | T__ALTER T__EXTENSION column_name T__SET T__SCHEMA column_name            { CREATE_NODE(alter_extension, 6); }
+    ;
+/* A repeated version is a mistake that the server finds only later. */
+extension_versions
+    : T__TO word_or_string                                                      { CREATE_NODE(extension_versions, 2); }
+    | extension_versions T__TO word_or_string                                   { CREATE_NODE(extension_versions, 3); }
     ;
 
 alter_publication

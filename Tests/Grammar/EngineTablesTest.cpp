@@ -1,6 +1,5 @@
 // Table files that would lead the engine astray are refused when they are loaded, by the file's name.
 #include "Tests/Support/EngineFixture.h"
-
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <gtest/gtest.h>
@@ -85,10 +84,18 @@ const SRefusal kScannerRefusals[] = {
     {"Lexer/nxt.dat", "next state 15", SetEntry(33, 15)},
     {"Lexer/nxt.dat", "next state 0", SetEntry(33, 0)},
     {"Lexer/nxt.dat", "next state -7", SetEntry(33, -7)},
-    {"Lexer/nxt.dat", "over the end of the text", SetEntry(611, 4)}, // a NUL leads back into the text
+    {"Lexer/nxt.dat", "misses the end", SetEntry(611, 10)},   // a NUL leads on
+    {"Lexer/nxt.dat", "byte 97 of state 1", SetEntry(97, 5)}, // a letter leads to the end
+    {"Lexer/nxt.dat", "byte 0 of state 5", SetEntry(35, 1)},  // the end leads on
+    {"Lexer/nxt.dat", "byte 0 of state 5", SetEntry(35, 6)},  // and stops where a rule is
+    {"Lexer/accept.dat", "a rule where nothing leads on", SetEntry(14, 20)},
     {"Lexer/NUL_trans.dat", "shorter", Shorten(1)},
     {"Lexer/NUL_trans.dat", "next state 15", SetEntry(1, 15)},
     {"Lexer/NUL_trans.dat", "next state -1", SetEntry(1, -1)},
+    {"Lexer/NUL_trans.dat", "misses the end", SetEntry(3, 5)},
+    {"Lexer/acclist.dat", "misses the end", SetEntry(2, 9)},
+    {"Lexer/acclist.dat", "misses the end", SetEntry(1, 8)},
+    {"Lexer/accept.dat", "no rule behind byte 0", SetEntry(6, 1)},
     {"Lexer/acclist.dat", "rule number 10", SetEntry(2, 10)},
     {"Lexer/acclist.dat", "rule number 0", SetEntry(2, 0)},
     {"Lexer/acclist.dat", "rule number -3", SetEntry(2, -3)},
@@ -113,7 +120,7 @@ const SRefusal kParserRefusals[] = {
     {"Parser/table.dat", "action 10", SetEntry(3, 10)},
     {"Parser/table.dat", "action -7", SetEntry(0, -7)},
     {"Parser/table.dat", "action 0", SetEntry(3, 0)},
-    {"Parser/table.dat", "next state 10", SetEntry(7, 10)},
+    {"Parser/table.dat", "next state 10", SetEntry(8, 10)},
     {"Parser/check.dat", "not as long", Shorten(1)},
     {"Parser/r1.dat", "makes symbol 5", SetEntry(3, 5)}, // a terminal
     {"Parser/r1.dat", "makes symbol 10", SetEntry(3, 10)},
@@ -149,8 +156,8 @@ TEST(EngineTables, OfAParserThatLeadAstrayAreRefused)
         ExpectRefused(refusal);
 }
 
-// A symbol's row that has no entries of its own still meets the check table: states are looked up for it as for
-// any other.
+// A symbol's row that has no entries of its own still meets the check table: states are looked up for it as
+// for any other.
 TEST(EngineTables, AnEmptyRowMustNotMeetAForeignState)
 {
     const CGrammarCopy copy("Tiny");
@@ -214,23 +221,38 @@ TEST(EngineTables, EveryFileIsNeeded)
 
 TEST(EngineTables, NamesDontLeaveTheGrammarFolder)
 {
-    for (const char* const name : {"../Grammar/Tiny", "Tiny/../Tiny", "..", "Tiny/", "/Tiny", "NoSuchGrammar", ""}) {
+    for (const char* const name :
+         {"../Grammar/Tiny", "Tiny/../Tiny", "..", "Tiny/", "/Tiny", "NoSuchGrammar", ""}) {
         const std::string message = LoadError(name);
         EXPECT_NE(message.find("\nUVParser ERROR: File not found: "), std::string::npos) << name << message;
     }
 }
 
-TEST(EngineTables, AConditionThatIsReachedByNumberHasAnEndOfFile)
+TEST(EngineTables, AnActionThatFailsIsASyntaxError)
 {
-    // no name for condition 1, so its end-of-file rule is nobody's
-    const CGrammarCopy copy("Tiny");
-    copy.Write("Lexer/defines.dat", "INITIAL 0\nX 1\n");
-    copy.Write("Lexer/actions.dat", "2 TOKEN_ACTION A\n3 TOKEN_ACTION B\n4 BEGIN 1\n5 BEGIN 0\n7 TOKEN_ACTION X\n");
+    // the parser's action begins a condition that the scanner doesn't have
+    const CGrammarCopy copy("Switch");
+    std::string tokens = copy.Read("Parser/defines.dat");
+    tokens.replace(tokens.find("SS_RAW 1"), 8, "SS_RAW 5");
+    copy.Write("Parser/defines.dat", tokens);
     CEngine engine(copy.Name());
-    engine.m_Lexer.m_mapStartConditions.erase("X");
-    const SParseOutcome outcome = engine.Parse("[a");
-    EXPECT_TRUE(outcome.hasThrown);
-    EXPECT_EQ(Sketch(engine.Parse("ab ").tree), "l(e() i(A'a' e() B'b')) ' '");
+    const SParseOutcome outcome = engine.Parse("a; raw: x; b;");
+    EXPECT_FALSE(outcome.hasThrown);
+    EXPECT_EQ(outcome.result, 1);
+    EXPECT_EQ(outcome.lastError, "Syntax error");
+    EXPECT_EQ(Sketch(engine.Parse("a;").tree), "statements(none() word(WORD'a' SEMI';'))");
+}
+
+TEST(EngineTables, ATextThatEndsInAConditionWithoutANameIsStopped)
+{
+    // its end-of-file rule is nobody's
+    const CGrammarCopy copy("States");
+    std::string names = copy.Read("Lexer/defines.dat");
+    names.erase(names.find("LINE 2\n"), 7);
+    copy.Write("Lexer/defines.dat", names);
+    CEngine engine(copy.Name());
+    EXPECT_TRUE(engine.Parse("a -- b").hasThrown);
+    EXPECT_EQ(Sketch(engine.Parse("a -- b\nc").tree), "words(none() WORD'a' ' -- b\\n' WORD'c')");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "Grammar/ParserNode.h"
+
 #include "Tests/Support/EngineFixture.h"
 
 #include <gtest/gtest.h>

@@ -2,13 +2,13 @@
 
 #include "UVEnvironment/FileHelper.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <iterator>
 #include <ostream>
 #include <sstream>
 #include <stdexcept>
-
 #include <unistd.h>
 
 namespace {
@@ -80,38 +80,38 @@ void Set(SEngineSettings& settings, const std::string& key, const std::string& v
         settings.options[key] = value;
 }
 
-// The element names and texts of a tree, in order. The trees hold no other markup.
-struct STag
-{
-    std::string name; // "/name" for an end tag
-    std::string text; // behind it, entities undone
-};
-
-std::vector<STag> SplitTree(std::string_view tree)
+// Appends `text` with its entities undone.
+void AppendPlain(std::string_view text, std::string& plain)
 {
     constexpr std::pair<std::string_view, char> kEntities[] = {
         {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
-    std::vector<STag> tags;
-    for (std::size_t at = tree.find('<'); at != std::string_view::npos;) {
-        const std::size_t end = tree.find('>', at);
-        const std::string_view tag = tree.substr(at + 1, end - at - 1);
-        tags.push_back({std::string(tag.substr(0, tag.find(' '))), {}});
-        const std::size_t next = tree.find('<', end);
-        std::string_view rest = tree.substr(end + 1, next == std::string_view::npos ? next : next - end - 1);
-        while (!rest.empty()) {
-            std::size_t length = 1;
-            char character = rest.front();
-            for (const auto& [entity, meaning] : kEntities)
-                if (rest.starts_with(entity)) {
-                    length = entity.size();
-                    character = meaning;
-                }
-            tags.back().text += character;
-            rest.remove_prefix(length);
-        }
-        at = next;
+    for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&')) {
+        plain += text.substr(0, at);
+        text.remove_prefix(at);
+        const auto entity =
+            std::find_if(std::begin(kEntities), std::end(kEntities),
+                         [&](const auto& candidate) { return text.starts_with(candidate.first); });
+        if (entity == std::end(kEntities))
+            throw std::runtime_error("the tree holds a bare &");
+        plain += entity->second;
+        text.remove_prefix(entity->first.size());
     }
-    return tags;
+    plain += text;
+}
+
+// Calls visit with the name of each tag ("/name" for an end tag) and the text behind it, as it stands. The
+// trees hold no other markup.
+template <class Visit>
+void ForEachTag(std::string_view tree, const Visit& visit)
+{
+    while (!tree.empty()) {
+        const std::size_t end = tree.find('>');
+        const std::size_t next = std::min(tree.find('<', 1), tree.size());
+        if (tree.front() != '<' || end == std::string_view::npos || end > next)
+            throw std::runtime_error("the tree is broken before " + std::string(tree.substr(0, 40)));
+        visit(tree.substr(1, std::min(tree.find(' '), end) - 1), tree.substr(end + 1, next - end - 1));
+        tree.remove_prefix(next);
+    }
 }
 
 // 'text', with line feeds and other bytes that a case file can't show escaped.
@@ -227,8 +227,6 @@ std::shared_ptr<CScannerTables> ReadScannerTables(const std::string& grammar)
 
 std::string Sketch(std::string_view tree)
 {
-    // the two outer nodes are one here: both begin with a start tag and end with an end tag
-    const std::vector<STag> tags = SplitTree(tree);
     std::string sketch;
     std::vector<std::string> open;
     std::vector<bool> isMerged;
@@ -237,38 +235,45 @@ std::string Sketch(std::string_view tree)
             sketch += ' ';
         sketch += piece;
     };
-    for (std::size_t at = 0; at < tags.size(); ++at) {
-        const STag& tag = tags[at];
-        if (tag.name == "SQL" || tag.name == "/SQL")
-            continue;
-        if (tag.name.front() == '/') {
+    ForEachTag(tree, [&](std::string_view tag, std::string_view escaped) {
+        const std::string name(tag);
+        if (name == "SQL" || name == "/SQL" || name.starts_with("/T"))
+            return;
+        if (name.front() == '/') {
+            if (open.empty() || "/" + open.back() != name)
+                throw std::runtime_error("the tree closes " + name);
             if (!isMerged.back())
                 sketch += ')';
             open.pop_back();
             isMerged.pop_back();
-        } else if (tag.name.front() == 'T') {
-            if (tag.name != "T__SPACE")
-                add(tag.name.substr(1) + Quoted(tag.text));
-            else if (!tag.text.empty())
-                add(Quoted(tag.text));
-            ++at; // its end tag
+        } else if (name.front() == 'T') {
+            std::string text;
+            AppendPlain(escaped, text);
+            if (name != "T__SPACE")
+                add(name.substr(1) + Quoted(text));
+            else if (!text.empty())
+                add(Quoted(text));
         } else {
-            const bool merges = !open.empty() && open.back() == tag.name && sketch.back() == '(';
+            const bool merges = !open.empty() && open.back() == name && sketch.back() == '(';
             if (!merges)
-                add(tag.name + "(");
-            open.push_back(tag.name);
+                add(name + "(");
+            open.push_back(name);
             isMerged.push_back(merges);
         }
-    }
+    });
     return sketch;
 }
 
 std::string TextOfTree(std::string_view tree)
 {
     std::string text;
-    for (const STag& tag : SplitTree(tree))
-        text += tag.text;
+    ForEachTag(tree, [&](std::string_view, std::string_view escaped) { AppendPlain(escaped, text); });
     return text;
+}
+
+bool FitsIntoXml(std::string_view text)
+{
+    return text.find_first_of("\x0c\x10") == std::string_view::npos;
 }
 
 std::string WithoutPositions(std::string_view tree)
@@ -315,7 +320,8 @@ std::vector<SGrammarCase> ReadGrammarCases(const std::string& grammar)
     return cases;
 }
 
-CGrammarCopy::CGrammarCopy(const std::string& grammar) : m_strName(grammar + "Copy" + std::to_string(getpid()))
+CGrammarCopy::CGrammarCopy(const std::string& grammar)
+    : m_strName(grammar + "Copy" + std::to_string(getpid()))
 {
     namespace fs = std::filesystem;
     const fs::path folder = fs::path(GrammarFolder(grammar, "Lexer")).parent_path().parent_path();
@@ -342,7 +348,9 @@ std::string CGrammarCopy::Read(const std::string& file) const
 
 void CGrammarCopy::Write(const std::string& file, std::string_view content) const
 {
-    std::ofstream out(Path(file), std::ios::binary | std::ios::trunc);
+    // a new file each time: one that is cut and written again is flushed to the disk
+    std::filesystem::remove(Path(file));
+    std::ofstream out(Path(file), std::ios::binary);
     out.write(content.data(), static_cast<std::streamsize>(content.size()));
     if (!out.flush())
         throw std::runtime_error("can't write " + Path(file));

@@ -1,5 +1,5 @@
-// The grammar engine under test: a scanner and a parser of one fixture grammar, linked as the front door links
-// them, and what a parse brings out.
+// The grammar engine under test: a scanner and a parser of one fixture grammar, linked as the front door
+// links them, and what a parse brings out.
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
@@ -67,16 +67,21 @@ std::string GrammarFolder(const std::string& grammar, const char* part);
 // The tables of a scanner as they are stored, neither proved nor compiled.
 std::shared_ptr<CScannerTables> ReadScannerTables(const std::string& grammar);
 
-// A tree in few characters: name(child child), tokens as NAME'text' without their leading T, space as 'text', the
-// two outer nodes left out. A node whose first child has its own name takes that child's children: lists come flat.
+// A tree in few characters: name(child child), tokens as NAME'text' without their leading T, space as 'text',
+// the two outer nodes left out. A node whose first child has its own name takes that child's children: lists
+// come flat.
 std::string Sketch(std::string_view tree);
 // The text of a tree, entities undone.
 std::string TextOfTree(std::string_view tree);
+// False for a text with one of the two control characters that have no place in XML: a tree holds others for
+// them.
+bool FitsIntoXml(std::string_view text);
 // The tree without its pos attributes, which depend on earlier parses.
 std::string WithoutPositions(std::string_view tree);
 
-// One input of a fixture grammar. Cases.txt holds them line by line: `input:` begins a case; `given:`, `tree:`,
-// `errors:` and `coloring:` belong to the case above. `tree: -` is a failed parse. In all of them \n, \t, \s (blank),
+// One input of a fixture grammar. Cases.txt holds them line by line: `input:` begins a case; `given:`,
+// `tree:`, `errors:` and `coloring:` belong to the case above. `tree: -` is a failed parse. In all of them
+// \n, \t, \s (blank),
 // \\ and \xHH are escapes. `broken:` is an input of which nothing is told.
 struct SGrammarCase
 {
@@ -88,8 +93,8 @@ struct SGrammarCase
 };
 std::vector<SGrammarCase> ReadGrammarCases(const std::string& grammar);
 
-// A copy of a grammar's folder under another name, with its binary tables unpacked, for damaging. It goes with the
-// object.
+// A copy of a grammar's folder under another name, with its binary tables unpacked, for damaging. It goes
+// with the object.
 class CGrammarCopy
 {
 public:

@@ -62,13 +62,14 @@ CModelEngine::CModelEngine(const std::string& grammar, bool isCr) : m_grammar(gr
     m_terminals = static_cast<int>(m_tokens.size()) + (largest >> 32 != 0 ? 2 : 3);
     m_finalState = UVDBGrammarKeeper::GetFinalStateNum(GetDatFile(parser, parser, "const.dat"));
     m_scan = ReadTables(lexer, {"accept", "base", "chk", "def", "nxt", "rule_can_match_eol", "acclist"});
-    m_parse = ReadTables(parser, {"pact", "defact", "pgoto", "defgoto", "table", "check", "r1", "r2", "translate"});
+    m_parse =
+        ReadTables(parser, {"pact", "defact", "pgoto", "defgoto", "table", "check", "r1", "r2", "translate"});
     for (const char* const name : {"pact", "pgoto"})
         for (const int base : m_parse[name])
             m_none = std::min(m_none, base);
     for (const char* const name :
-         {"EAGL", "EAGLSERVER", "EAGLSERVERISAPI", "EAGLSERVERHTTP", "EAGLSERVERAF", "AGL570D", "AGL580", "AGL590",
-          "ERADIO", "GCGC", "FOS5", "SANSCOMPTA", "CHR", "STK", "DEBUG", "MSWINDOWS"})
+         {"EAGL", "EAGLSERVER", "EAGLSERVERISAPI", "EAGLSERVERHTTP", "EAGLSERVERAF", "AGL570D", "AGL580",
+          "AGL590", "ERADIO", "GCGC", "FOS5", "SANSCOMPTA", "CHR", "STK", "DEBUG", "MSWINDOWS"})
         m_defines.emplace_back(name);
     FillHandlers();
 }
@@ -97,7 +98,8 @@ std::map<std::string, std::vector<int>> CModelEngine::ReadTables(const std::stri
     for (const std::string& name : names) {
         std::size_t count = 0;
         const std::string path = GetDatFilePath(directory, directory, name + ".dat");
-        const std::unique_ptr<int[]> entries(UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), count));
+        const std::unique_ptr<int[]> entries(
+            UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), count));
         tables[name].assign(entries.get(), entries.get() + count);
     }
     return tables;
@@ -185,7 +187,8 @@ int CModelEngine::Scan()
         // as far as the tables lead
         std::vector<int> states{m_condition * 2 + 1 + (m_isLineStart ? 1 : 0)};
         do
-            states.push_back(Step(states.back(), static_cast<unsigned char>(m_query[static_cast<std::size_t>(m_at++)])));
+            states.push_back(
+                Step(states.back(), static_cast<unsigned char>(m_query[static_cast<std::size_t>(m_at++)])));
         while (m_at < size && base[static_cast<std::size_t>(states.back())] != jam);
         // back to the longest prefix that a rule accepts, and to the end of a rule's head
         int rule = 0;
@@ -245,7 +248,8 @@ void CModelEngine::FillHandlers()
     const auto add = [&](const char* keyword, Handler handler) { m_handlers[keyword] = std::move(handler); };
     add("BEGIN", [=, this](const Operands& o) { return Begin(o[0]), none; });
     add("ColoringFunc", [=, this](const Operands& o) {
-        Color(std::to_string(Number(o[0])) + ' ' + std::to_string(MatchStart()) + ' ' + std::to_string(m_at - 1) + '\n');
+        Color(std::to_string(Number(o[0])) + ' ' + std::to_string(MatchStart()) + ' ' +
+              std::to_string(m_at - 1) + '\n');
         return none;
     });
     add("TOKEN_ACTION", [this](const Operands& o) { return Token(o[0]); });
@@ -371,12 +375,14 @@ int CModelEngine::Token(const std::string& name, int color, int length, bool isP
     }
     const int pos = m_at - m_length - lineStart - 1;
     m_lookaheadNode = SNode();
-    m_lookaheadNode.text = "<T" + name + " type=\"TOKEN\" line=\"" + std::to_string(m_line - 1) + "\" pos=\"" +
-                           std::to_string(pos) + "\">" + EscapedToken(text) + "</T" + name + ">";
+    m_lookaheadNode.text = "<T" + name + " type=\"TOKEN\" line=\"" + std::to_string(m_line - 1) +
+                           "\" pos=\"" + std::to_string(pos) + "\">" + EscapedToken(text) + "</T" + name +
+                           ">";
     m_lookaheadNode.line = m_line;
     m_lookaheadNode.length = length > 0 ? length : static_cast<int>(text.size());
     m_lookaheadNode.start = m_at - m_length;
-    Color(std::to_string(color) + ' ' + std::to_string(m_at - m_length) + ' ' + std::to_string(m_at - 1) + '\n');
+    Color(std::to_string(color) + ' ' + std::to_string(m_at - m_length) + ' ' + std::to_string(m_at - 1) +
+          '\n');
     return m_tokens["T" + name];
 }
 
@@ -530,7 +536,8 @@ void CModelEngine::StringAction(int number)
 void CModelEngine::SaveCondition(const std::string& condition)
 {
     std::string text = m_match;
-    for (std::size_t quote = text.find_first_of("\"'"); quote != std::string::npos; quote = text.find_first_of("\"'"))
+    for (std::size_t quote = text.find_first_of("\"'"); quote != std::string::npos;
+         quote = text.find_first_of("\"'"))
         text.erase(quote == 0 || text[quote - 1] != '\\' ? quote : quote - 1, 1);
     m_saved.emplace(condition, Replaced(Replaced(text, "\\$", "$"), "\\\\", "\\"));
 }
@@ -554,11 +561,15 @@ int CModelEngine::Work()
     const auto& pact = m_parse.at("pact");
     const auto& table = m_parse.at("table");
     const auto& check = m_parse.at("check");
-    const auto at = [](const std::vector<int>& values, int index) { return values[static_cast<std::size_t>(index)]; };
+    const auto at = [](const std::vector<int>& values, int index) {
+        return values[static_cast<std::size_t>(index)];
+    };
     const auto isEntry = [&](int slot, int symbol) {
         return slot >= 0 && slot < static_cast<int>(table.size()) && at(check, slot) == symbol;
     };
-    const auto translate = [&](int token) { return token > m_largestToken ? 2 : at(m_parse.at("translate"), token); };
+    const auto translate = [&](int token) {
+        return token > m_largestToken ? 2 : at(m_parse.at("translate"), token);
+    };
 
     m_states = {0};
     m_nodes = {SNode()};
@@ -590,9 +601,10 @@ int CModelEngine::Work()
             const int rule = -action;
             const int length = at(m_parse.at("r2"), rule);
             m_result = length > 0 ? m_nodes[m_nodes.size() - static_cast<std::size_t>(length)] : SNode();
-            bool isRaised = m_settings.isDevelopmentMode &&
-                            std::any_of(m_parseActions[rule].begin(), m_parseActions[rule].end(),
-                                        [](const SAction& made) { return made.keyword == "CREATE_NODE_WITH_ERROR"; });
+            bool isRaised =
+                m_settings.isDevelopmentMode &&
+                std::any_of(m_parseActions[rule].begin(), m_parseActions[rule].end(),
+                            [](const SAction& made) { return made.keyword == "CREATE_NODE_WITH_ERROR"; });
             try {
                 Reduce(rule);
             } catch (const std::exception&) {

@@ -1,6 +1,6 @@
-// The grammar engine a second time, to compare with: the same machine in the plainest form that does the work. It
-// walks the tables as they are stored, looks actions up by name, and builds the tree out of whole strings; only the
-// readers of the table files are shared. Its cost grows with the square of the text.
+// The grammar engine a second time, to compare with: the same machine in the plainest form that does the
+// work. It walks the tables as they are stored, looks actions up by name, and builds the tree out of whole
+// strings; only the readers of the table files are shared. Its cost grows with the square of the text.
 #pragma once
 
 #include "Grammar/UVGrammarKeeper.h"
@@ -62,7 +62,8 @@ private:
     void Color(const std::string& text) { m_coloring += text; }
     int MatchStart() const { return m_at - m_length; }
     void Define(const std::string& text, const std::string& mark, bool hasPipe, bool isCut);
-    void Conditional(int from, const std::string& set, bool isUpper, bool skipIfDefined, const std::string& state);
+    void Conditional(int from, const std::string& set, bool isUpper, bool skipIfDefined,
+                     const std::string& state);
     void Else(const std::string& state);
     void StringAction(int number);
     std::optional<int> CodeAction(const Operands& operands);

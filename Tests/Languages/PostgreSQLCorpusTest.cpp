@@ -1,0 +1,181 @@
+// Whole scripts beside a second opinion, and texts of a size that a bad algorithm doesn't survive.
+#include "Tests/Languages/LanguageFixture.h"
+#include "Tests/Languages/PostgreSQLJudge.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+// The script without what the judge doesn't know: the client's own lines and copied data become blanks, and a
+// client command that sends the statement becomes its delimiter.
+std::string ForTheJudge(const std::string& script)
+{
+    std::string text(script.size(), ' ');
+    for (std::size_t at = script.find('\n'); at != script.npos; at = script.find('\n', at + 1))
+        text[at] = '\n';
+    for (const SColoredRange& range : PostgreSQL().Scan(script)) {
+        if (range.color == kCommentColor)
+            continue;
+        if (script[range.from] == '\\')
+            text[range.from] = ';';
+        else
+            text.replace(range.from, range.end - range.from, script, range.from, range.end - range.from);
+    }
+    return text;
+}
+
+struct SCoverage
+{
+    int judged = 0; // statements that the judge accepts
+    int clean = 0;  // those without an unexpected token
+
+    double Percent() const { return judged == 0 ? 0.0 : 100.0 * clean / judged; }
+};
+
+// Parses a script, which must keep every byte, and compares it statement by statement.
+void Cover(const std::string& path, SCoverage& coverage, bool namesBadStatements)
+{
+    SCOPED_TRACE(path);
+    const std::string script = ReadFile(path);
+    const SLanguageParse parse = PostgreSQL().Parse(script);
+    ASSERT_TRUE(parse.isComplete);
+    std::string shown = script;
+    std::erase(shown, '\f');
+    EXPECT_TRUE(SourceOfTree(parse.tree) == shown);
+
+    const std::string text = ForTheJudge(script);
+    auto statements = JudgeSplit(text);
+    if (!statements) {
+        // one that it can't scan hides the others: take them apart by their delimiters
+        statements.emplace();
+        for (std::size_t from = 0; from < text.size();) {
+            const std::size_t end = std::min(text.find(';', from), text.size());
+            statements->push_back({from, end});
+            from = end + 1;
+        }
+    }
+    for (const SByteRange& statement : *statements) {
+        const std::string sql = text.substr(statement.from, statement.end - statement.from);
+        if (sql.find_first_not_of(" \t\r\n\f\v") == sql.npos || !JudgeAccepts(sql))
+            continue;
+        ++coverage.judged;
+        const auto bad = std::ranges::find_if(parse.unexpected, [&](const SUnexpectedToken& token) {
+            return token.offset >= statement.from && token.offset <= statement.end;
+        });
+        coverage.clean += bad == parse.unexpected.end();
+        if (namesBadStatements && bad != parse.unexpected.end())
+            ADD_FAILURE() << "unexpected " << bad->text << " in\n" << sql;
+    }
+}
+
+TEST(PostgreSQLCorpus, SamplesParseAsTheServerParsesThem)
+{
+    SCoverage coverage;
+    for (const std::string& path : SamplePaths("PostgreSQL")) {
+        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage, true));
+        // what the judge doesn't know, such as the client's variables, is no error either
+        EXPECT_TRUE(PostgreSQL().Parse(ReadFile(path)).IsClean()) << path;
+    }
+    EXPECT_GE(coverage.judged, 25);
+}
+
+// Set UV_CORPUS to a folder with postgresql/<project>/<script>.sql to have real scripts covered too.
+TEST(PostgreSQLCorpus, RealScriptsParse)
+{
+    const char* const corpus = std::getenv("UV_CORPUS");
+    if (corpus == nullptr || *corpus == '\0')
+        return;
+    std::vector<std::string> paths;
+    const std::filesystem::path folder = std::filesystem::path(corpus) / "postgresql";
+    ASSERT_TRUE(std::filesystem::is_directory(folder)) << folder;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        if (entry.is_regular_file() && entry.path().extension() == ".sql")
+            paths.push_back(entry.path().string());
+    std::ranges::sort(paths);
+    ASSERT_FALSE(paths.empty());
+    SCoverage coverage;
+    for (const std::string& path : paths)
+        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage, false));
+    std::cout << paths.size() << " scripts, " << coverage.judged
+              << " statements that the server's grammar accepts, " << coverage.clean
+              << " without an unexpected token (" << coverage.Percent() << " %)\n";
+    RecordProperty("judged", coverage.judged);
+    RecordProperty("clean", coverage.clean);
+    EXPECT_GE(coverage.Percent(), 70.0);
+}
+
+SLanguageParse ParseWhole(const std::string& text)
+{
+    SLanguageParse parse = PostgreSQL().Parse(text);
+    EXPECT_TRUE(parse.isComplete);
+    EXPECT_TRUE(SourceOfTree(parse.tree) == text) << "text was lost";
+    return parse;
+}
+
+TEST(PostgreSQLLimits, NestingOfAnyDepth)
+{
+    constexpr std::size_t kDepth = 100000;
+    const std::string open = Repeated("(", kDepth), close = Repeated(")", kDepth);
+    EXPECT_TRUE(ParseWhole("select " + open + "1" + close + "; select 2;").IsClean());
+    EXPECT_TRUE(ParseWhole("select 1 " + Repeated("+ 1 ", kDepth / 4) + ";").IsClean());
+    EXPECT_TRUE(ParseWhole("select " + Repeated("not ", kDepth / 4) + "true;").IsClean());
+    EXPECT_TRUE(ParseWhole("select " + Repeated("a.", kDepth / 4) + "b;").IsClean());
+    EXPECT_TRUE(ParseWhole(Repeated("/*", kDepth) + Repeated("*/", kDepth) + "select 1").IsClean());
+    EXPECT_FALSE(ParseWhole("select " + open + "1; select 2;").IsClean());
+    EXPECT_FALSE(ParseWhole("select 1" + close + "; select 2;").IsClean());
+}
+
+TEST(PostgreSQLLimits, LinesOfMegabytes)
+{
+    constexpr std::size_t kSize = 10 << 20;
+    EXPECT_TRUE(ParseWhole("select '" + Repeated("long & <", kSize / 8) + "', 1;").IsClean());
+    for (const char* const quote : {"\"", "$$", "$tag$"}) {
+        const std::string text =
+            "select " + std::string(quote) + Repeated("long & <", kSize / 256) + quote + ", 1;";
+        EXPECT_TRUE(ParseWhole(text).IsClean()) << quote;
+    }
+    EXPECT_TRUE(ParseWhole("select 1 /* " + Repeated("* ", kSize / 64) + "*/;").IsClean());
+    EXPECT_TRUE(
+        ParseWhole("insert into t values " + Repeated("(1, 'a', null), ", kSize / 256) + "(2, 'b', c);")
+            .IsClean());
+    EXPECT_FALSE(ParseWhole("select 1 " + Repeated("| ", kSize / 128) + ";").IsClean());
+}
+
+TEST(PostgreSQLLimits, ScriptsOfManyStatements)
+{
+    constexpr std::size_t kCount = 200000;
+    const std::string text = Repeated("select 1;\n", kCount);
+    const SLanguageParse parse = ParseWhole(text);
+    EXPECT_TRUE(parse.IsClean());
+    std::size_t count = 0, depth = 0, deepest = 0;
+    for (std::size_t at = parse.tree.find('<'); at != std::string::npos; at = parse.tree.find('<', at + 1)) {
+        count += parse.tree.compare(at, 28, "<delimited_pl_sql_statement>") == 0;
+        depth += parse.tree[at + 1] == '/' ? -1 : 1;
+        deepest = std::max(deepest, depth);
+    }
+    EXPECT_EQ(count, kCount);
+    EXPECT_LT(deepest, kCount / 100);
+    // as many errors, each of which costs its statement alone
+    const std::size_t errors = kCount / 20;
+    const SLanguageParse bad = ParseWhole(Repeated("select from where;\nselect 1;\n", errors));
+    EXPECT_GE(bad.unexpected.size(), errors);
+    EXPECT_EQ(CSyntaxTree(bad.tree).Statements().size(), 2 * errors);
+}
+
+TEST(PostgreSQLLimits, TextThatIsOpenAtTheEnd)
+{
+    constexpr std::size_t kSize = 100000;
+    for (const char* const open :
+         {"'", "\"", "E'", "U&'", "x'", "$$", "$tag$", "/*", "/* /*", "(", "[", "case when ", "$", "\\"}) {
+        SCOPED_TRACE(open);
+        ParseWhole("select 1; select " + std::string(open) + Repeated("a b; ", kSize / 5));
+        ParseWhole("select 1; select " + Repeated(std::string(open) + " ", 10000));
+    }
+}
+
+} // namespace
