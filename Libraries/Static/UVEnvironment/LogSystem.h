@@ -22,7 +22,7 @@
 #define UV_PRINTF_FORMAT(formatIndex, firstArgument)
 #endif
 
-enum enTraceMessageType
+enum enTraceMessageType : int
 {
     tmtIndented = 0,
     tmtPlain = 1,
