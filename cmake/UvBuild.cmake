@@ -78,7 +78,8 @@ macro(uv_finish_subsystems)
     set_target_properties(UVParser PROPERTIES LINKER_LANGUAGE CXX)
     if(UV_SANITIZE)
         # A sanitized library takes the runtime from its host program, which finds some symbols by name.
-        target_link_options(UVParser PRIVATE LINKER:-z,nodefs)
+        # It stays in the process, since a leak report needs its code, and what its statics hold on to is no leak.
+        target_link_options(UVParser PRIVATE LINKER:-z,nodelete)
     else()
         # Templates of the standard library come out visible whatever we ask for; the list keeps them in.
         set(version_script ${CMAKE_BINARY_DIR}/exports.map)
