@@ -42,11 +42,6 @@ private:
     using ActionTable = std::map<int, std::vector<SAction>>;
     using Handler = std::function<std::optional<int>(const Operands&)>;
 
-    static int Number(const std::string& text);
-    static std::string Replaced(std::string text, const std::string& from, const std::string& to);
-    // The five special characters of XML.
-    static std::string Escaped(std::string text);
-
     static ActionTable ReadActions(const std::string& directory);
     std::map<std::string, std::vector<int>> ReadTables(const std::string& directory,
                                                        const std::vector<std::string>& names);
@@ -77,11 +72,11 @@ private:
 
     // ---- parser ----
     int Work();
+    int Release(int result);
     void Reduce(int rule);
     void CreateNode(const std::string& name, int count, int errorIndex);
     void Join(SNode& node, const SNode& child, int& lastEnd);
     void FinishRoot(const SNode& root);
-    static std::string SpaceElement(const std::string& text);
 
     std::string m_grammar;
     bool m_isCr;
