@@ -20,6 +20,19 @@ constexpr SReportCase kReports[] = {
      "a\n>>>>\n*/\n"
      "\n\nWARNING: 1 unexpected token(s) found\n"
      "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a;\n< a\n b > c>>>>\n"},
+    {"an error in the gap's last line counts", "say a; < x >b", true,
+     "\n/*PARSER ERROR: Recovery (1,1) :\n    line 1 - unexpected token x\n    Code lines:\n<<<<\nsay a; < x "
+     ">b\n"
+     ">>>>\n*/\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a; < x >b>>>>\n"},
+    // what the trace alone hears doesn't count as displayed, so the root tells it again
+    {"hidden errors are traced twice", "< x >b", false,
+     "\n/*PARSER ERROR: Recovery (1,1) :\n    line 1 - unexpected token x\n    Code lines:\n<<<<\n< x "
+     ">b\n>>>>\n*/\n"
+     "\n/*PARSER ERROR: Recovery ()\n    line 1 - unexpected token x\n    Code lines:\n<<<<\n< x "
+     ">b\n>>>>\n\n*/\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n<<<<\n< x >b>>>>\n"},
     {"a gap in front of a node is reported at the root", "say a;\nsay\n; say b;", true,
      "\n/*PARSER ERROR: Recovery ()\n    line 3 - unexpected token ;\n    Code lines:\n<<<<\n; say "
      "b;\n>>>>\n\n*/\n"

@@ -43,6 +43,7 @@ constexpr SPositionCase kPositions[] = {
     {"Nesting", "a/*\n*/;", "0/-1 1/2"},
     // given back bytes are counted once
     {"Less", "a [SELECT b]", "0/-1 0/1 0/0 0/1 0/0"},
+    {"Less", "[SELECT a\n\n b] c", "0/-1 0/0 0/1 2/1 2/0 2/1"},
     {"Trailing", "ab =>\nab12", "0/-1 0/1 1/0 1/0"},
     // a token over a line's end has the line of that end
     {"Switch", "raw:a\n b;c;", "0/-1 0/0 1/0 1/0 1/0 1/0"},
@@ -144,6 +145,22 @@ TEST(ScannerAlone, SharedTablesOutliveTheirOwner)
     while (lexer.yylex() != 0)
         ++tokens;
     EXPECT_EQ(tokens, 2);
+}
+
+TEST(ScannerAlone, OwedTokensComeLastInFirstOut)
+{
+    CEngine engine("Indent");
+    engine.m_Lexer.set_Query("a", 0);
+    engine.m_Lexer.m_Extension.m_dequePseudoTokens = {"WORD", "__INDENT", "__UNINDENT"};
+    const auto number = [&](const char* name) { return engine.m_Parser.m_mapDefines.at(name); };
+    EXPECT_EQ(engine.m_Lexer.yylex(), number("T__UNINDENT"));
+    EXPECT_EQ(engine.m_Parser.LookaheadValue()->m_nLength, 0);
+    EXPECT_EQ(engine.m_Lexer.yylex(), number("T__INDENT"));
+    EXPECT_EQ(engine.m_Lexer.yylex(), number("TWORD"));
+    EXPECT_EQ(engine.m_Parser.LookaheadValue()->m_nLength, 0);
+    EXPECT_EQ(engine.m_Lexer.yylex(), number("TWORD"));
+    EXPECT_EQ(engine.m_Parser.LookaheadValue()->m_nLength, 1);
+    EXPECT_EQ(engine.m_Lexer.yylex(), 0);
 }
 
 // The out-of-process tool hands its state over as parameters.

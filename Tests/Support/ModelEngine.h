@@ -6,6 +6,7 @@
 #include "Grammar/UVGrammarKeeper.h"
 #include "Tests/Support/EngineFixture.h"
 
+#include <cstdlib>
 #include <functional>
 #include <list>
 #include <map>
@@ -42,6 +43,16 @@ private:
     using ActionTable = std::map<int, std::vector<SAction>>;
     using Handler = std::function<std::optional<int>(const Operands&)>;
 
+    // ---- text ----
+    static int Number(const std::string& text)
+    {
+        return static_cast<int>(std::strtol(text.c_str(), nullptr, 10));
+    }
+    static std::string Replaced(std::string text, const std::string& from, const std::string& to);
+    static std::string EscapedToken(std::string text);
+    static std::string SpaceElement(const std::string& text);
+
+    // ---- loading ----
     static ActionTable ReadActions(const std::string& directory);
     std::map<std::string, std::vector<int>> ReadTables(const std::string& directory,
                                                        const std::vector<std::string>& names);
@@ -72,7 +83,6 @@ private:
 
     // ---- parser ----
     int Work();
-    int Release(int result);
     void Reduce(int rule);
     void CreateNode(const std::string& name, int count, int errorIndex);
     void Join(SNode& node, const SNode& child, int& lastEnd);
