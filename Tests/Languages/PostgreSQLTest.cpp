@@ -144,6 +144,7 @@ constexpr SStatementCase kDefinitions[] = {
     {"create unlogged table a as select 1 with no data",
      "create_table(table_as('a' as_query(select_statement with_data('no'))))"},
     {"create table a of b (c with options not null)", "create_table('of' 'b' 'c' 'not')"},
+    {"create table a of int (b primary key)", "create_table('of' 'int' typed_element('b' 'primary'))"},
     {"alter table if exists only a add column b int, drop c cascade, alter d set not null, alter column e "
      "type int using f, add constraint g check (h), validate constraint i, owner to j",
      "alter_relation(altered_relation(relation('a')) alter_actions(alter_action(column_definition('b')) "
@@ -212,6 +213,7 @@ constexpr SStatementCase kDefinitions[] = {
     {"create extension if not exists a with schema b version 'c' cascade",
      "create_extension('a' 'b' 'version' 'cascade')"},
     {"alter extension a update to 'b'", "alter_extension('a' 'update')"},
+    {"alter extension a update to b to 'c'", "alter_extension('a' 'update' 'b' extension_versions)"},
     {"drop table if exists a, b.c cascade",
      "drop_statement('table' 'exists' 'a' qualified_sql_identifier('b' 'c') 'cascade')"},
     {"drop function a(int, text), b",
@@ -232,6 +234,7 @@ constexpr SStatementCase kDefinitions[] = {
      "alter_default_privileges('a' default_privileges_action('select' 'tables' 'b'))"},
     {"create rule a as on update to b where c do instead (select 1; notify d)",
      "create_rule('a' 'b' where_clause('c') rule_statements(select_statement ';' notify_statement('d')))"},
+    {"create rule a as on update to b do instead ()", "create_rule('a' 'b' rule_actions('instead' rule_action))"},
     {"create policy a on b as restrictive for select to c using (d) with check (e)",
      "create_policy('a' 'b' policy_clauses('restrictive' 'select' 'c' 'd' 'e'))"},
     {"create aggregate a (int) (sfunc = b, stype = c)",
