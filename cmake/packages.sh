@@ -13,7 +13,7 @@ build=(
     libbenchmark-dev
 )
 test=(
-    binutils python3 unicode-data
+    binutils python3 strace unicode-data
     libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
     clang clang-format clang-tidy libclang-rt-14-dev llvm
 )
