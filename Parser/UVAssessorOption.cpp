@@ -1,22 +1,22 @@
 #include "Parser/UVAssessorOption.h"
 
 #include "Metadata/UVProcessName.h"
+#include "Stylesheets/RulesFolder.h"
 
 namespace {
 
 constexpr char kWizardName[] = "OrvantaAssessmentWzd";
 
-bool g_IsAssessorParent = false;
-
 } // namespace
 
 void SetAssessorIsParentOpt(bool isAssessorParent)
 {
-    g_IsAssessorParent = isAssessorParent ||
-                         GetParentProcessName().Right(sizeof kWizardName - 1).CollateNoCase(kWizardName) == 0;
+    SetRulesForAssessment(isAssessorParent ||
+                          GetParentProcessName().Right(sizeof kWizardName - 1).CollateNoCase(kWizardName) ==
+                              0);
 }
 
 bool GetAssessorIsParentOpt()
 {
-    return g_IsAssessorParent;
+    return AreRulesForAssessment();
 }

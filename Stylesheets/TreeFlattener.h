@@ -1,0 +1,15 @@
+// The flattening of parse trees without an XSLT processor: what res/Tree2Serial.xslt does to a tree, in one
+// pass over its text. The stylesheet is the definition; the two give the same bytes.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Flattens `tree` (UTF-8) and puts the result document's text, its declaration line first, in the place of
+// `out`. Time and memory grow with the text alone, however deep the tree is: beside `out`, the records of
+// elements that wait for a decision are held, less than the text itself.
+// Returns: false, with `out` empty, for a text that isn't a tree in the plain form which CTreeEvents reads:
+//          the stylesheet decides about it.
+// Throws:  std::length_error if the rules multiply the tree: delimiters within delimiters are copied again at
+//          each level.
+[[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out);
