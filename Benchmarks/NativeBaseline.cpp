@@ -1,14 +1,19 @@
-// native_baseline [--repeat N] FILE...: the table-driven engine beside the natively compiled grammar, on the
-// same texts in one run. Each measurement runs in a process of its own, so that its peak memory is its own
-// too.
+// native_baseline [--repeat N] FILE...: the table-driven engine beside the natively compiled grammar, and the
+// flattening beside the stylesheet that defines it, on the same texts in one run. Each measurement runs in a
+// process of its own, so that its peak memory is its own too.
 
 #include "Benchmarks/Native/NativeParse.h"
 #include "Grammar/UVGrammarLexer.h"
+#include "Grammar/UVGrammarLexer.h"
+#include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBDatabaseInfo.h"
+#include "Metadata/UVDBOptionWrapper.h"
 #include "Parser/UVParser.h"
+#include "Stylesheets/TreeFlattener.h"
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -47,16 +52,24 @@ double Seconds(std::chrono::steady_clock::time_point since)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - since).count();
 }
 
-std::unique_ptr<CUVDBSQLParser> MakeParser()
+class CMeasuredParser : public CUVDBSQLParser
 {
-    auto parser = std::make_unique<CUVDBSQLParser>();
-    parser->Load(kParserName);
-    DB_VERSION_INFO version;
-    version.db = kPostgreSql;
-    parser->set_DatabaseInfo(std::make_shared<CUVDBDatabaseInfo>(version));
-    parser->Init("");
-    return parser;
-}
+public:
+    explicit CMeasuredParser(bool isStylesheetForced = false)
+    {
+        Load(kParserName);
+        DB_VERSION_INFO version;
+        version.db = kPostgreSql;
+        const auto info = std::make_shared<CUVDBDatabaseInfo>(version);
+        if (isStylesheetForced)
+            CUVDBOptionWrapper::SetParam(info, "TREE2SERIAL_STYLESHEET", Uve::U8CString("1"));
+        set_DatabaseInfo(info);
+        Init("");
+    }
+
+    // Without the copy that a host gets.
+    std::size_t ResultSize() const { return m_Result.size(); }
+};
 
 SMeasure EngineScan(const std::string& text)
 {
@@ -83,11 +96,11 @@ SMeasure CompiledScan(const std::string& text)
 
 SMeasure EngineParse(const std::string& text)
 {
-    static const std::unique_ptr<CUVDBSQLParser> parser = MakeParser();
+    static CMeasuredParser parser;
     SMeasure measure;
-    parser->set_Query(text.c_str());
+    parser.set_Query(text.c_str());
     const auto start = std::chrono::steady_clock::now();
-    const std::string xml = parser->FastParse();
+    const std::string xml = parser.FastParse();
     measure.seconds = Seconds(start);
     measure.output = xml.size();
     return measure;
@@ -101,6 +114,52 @@ SMeasure CompiledParse(const std::string& text)
     measure.seconds = Seconds(start);
     measure.tokens = result.tokens;
     measure.output = result.xml.size();
+    return measure;
+}
+
+SMeasure WholeParse(const std::string& text)
+{
+    static CMeasuredParser parser;
+    SMeasure measure;
+    parser.set_Query(text.c_str());
+    const auto start = std::chrono::steady_clock::now();
+    const int result = parser.Parse(false);
+    measure.seconds = Seconds(start);
+    measure.output = result == UVDB_OK ? parser.ResultSize() : 0;
+    return measure;
+}
+
+SMeasure Flatten(const std::string& text)
+{
+    static const std::string raw = [&] {
+        CMeasuredParser parser;
+        parser.set_Query(text.c_str());
+        return parser.FastParse();
+    }();
+    SMeasure measure;
+    std::string flattened;
+    const auto start = std::chrono::steady_clock::now();
+    const bool isFlattened = FlattenTree(raw, flattened);
+    measure.seconds = Seconds(start);
+    measure.output = isFlattened ? flattened.size() : 0;
+    return measure;
+}
+
+SMeasure FlattenByStylesheet(const std::string& text)
+{
+    static CMeasuredParser parser(true);
+    static const Uve::U8CString raw = [&] {
+        parser.set_Query(text.c_str());
+        return parser.FastParse();
+    }();
+    SMeasure measure;
+    Uve::U8CString xml = raw;
+    std::shared_ptr<IUVDBDatabaseInfo2> info;
+    parser.get_DatabaseInfo(info);
+    const auto start = std::chrono::steady_clock::now();
+    const int result = parser.Tree2Serial(info, xml);
+    measure.seconds = Seconds(start);
+    measure.output = result == UVDB_OK ? xml.size() : 0;
     return measure;
 }
 
@@ -163,15 +222,27 @@ int main(int argc, char** argv)
         return 2;
     }
 
+    enum enRow
+    {
+        kEngineScan,
+        kNativeScan,
+        kEngineParse,
+        kNativeParse,
+        kWholeParse,
+        kFlatten,
+        kStylesheet,
+        kRowCount
+    };
     const struct
     {
         const char* name;
         Work work;
-    } rows[] = {
-        {"engine scan", EngineScan},
-        {"native scan", CompiledScan},
-        {"engine parse", EngineParse},
-        {"native parse", CompiledParse},
+        double mostBytes; // of source: the stylesheet takes gigabytes beyond
+    } rows[kRowCount] = {
+        {"engine scan", EngineScan, HUGE_VAL},    {"native scan", CompiledScan, HUGE_VAL},
+        {"engine parse", EngineParse, HUGE_VAL},  {"native parse", CompiledParse, HUGE_VAL},
+        {"whole Parse", WholeParse, HUGE_VAL},    {"flatten", Flatten, HUGE_VAL},
+        {"stylesheet", FlattenByStylesheet, 2e6},
     };
     const SMeasure load = Measure(LoadTables, nullptr, 20);
     std::printf("loading the tables of %s: %.1f ms\n", kParserName, load.seconds * 1000);
@@ -181,9 +252,13 @@ int main(int argc, char** argv)
         std::printf("\n%s: %.2f MB\n", file, bytes / kMega);
         std::printf("%-14s %9s %9s %10s %12s %11s %16s\n", "", "seconds", "MB/s", "Mtokens/s", "output MB",
                     "peak MB", "beyond output/B");
-        double seconds[std::size(rows)] = {};
+        double seconds[kRowCount] = {};
         std::size_t tokens = 0;
-        for (std::size_t row = 0; row < std::size(rows); ++row) {
+        double rawTree = 0;
+        double wholePeak = 0;
+        for (std::size_t row = 0; row < kRowCount; ++row) {
+            if (bytes > rows[row].mostBytes)
+                continue;
             const SMeasure measure = Measure(rows[row].work, file, repeat);
             isAllDone = isAllDone && measure.isDone;
             seconds[row] = measure.seconds;
@@ -194,9 +269,19 @@ int main(int argc, char** argv)
                         static_cast<double>(tokens) / measure.seconds / kMega,
                         static_cast<double>(measure.output) / kMega, peak / kMega,
                         (peak - static_cast<double>(measure.output)) / bytes);
+            if (row == kEngineParse)
+                rawTree = static_cast<double>(measure.output);
+            if (row == kWholeParse)
+                wholePeak = peak;
         }
-        std::printf("engine to native: scan %.2f, parse %.2f\n", seconds[1] / seconds[0],
-                    seconds[3] / seconds[2]);
+        std::printf("engine to native: scan %.2f, parse %.2f\n", seconds[kNativeScan] / seconds[kEngineScan],
+                    seconds[kNativeParse] / seconds[kEngineParse]);
+        std::printf(
+            "to the raw parse: flatten %.2f, whole Parse %.2f; peak of the whole to the raw tree %.2f\n",
+            seconds[kEngineParse] / seconds[kFlatten], seconds[kEngineParse] / seconds[kWholeParse],
+            wholePeak / rawTree);
+        if (seconds[kStylesheet] > 0)
+            std::printf("flatten to the stylesheet: %.1f\n", seconds[kStylesheet] / seconds[kFlatten]);
     }
     return isAllDone ? 0 : 1;
 }

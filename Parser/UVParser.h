@@ -3,13 +3,14 @@
 // interface.
 //
 // Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo),
-// the way from a text to its result (UVParserPipeline), errors and statistics (UVParserErrors).
+// the way from a text to its result (UVParserPipeline), the flattening of the tree (UVParserFlatten), errors and statistics (UVParserErrors).
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
+#include "Stylesheets/Resources.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <map>
@@ -47,10 +48,10 @@ public:
     int set_ParserDevelopmentMode(bool isOn) override;
     std::string GetParsedXml() override;
 
-    // The result is the parser's own tree. Returns: UVDB_OK.
     int ExecuteTree2Serial() override;
-    // Returns: UVDB_NOT_SUPPORTED, with `text` as it was.
-    int Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& text) override;
+    // With the option TREE2SERIAL_STYLESHEET "1" on `info` the stylesheet does the work by itself, for authors
+    // who want to see it at that; the bytes are the same, time and memory are not.
+    int Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml) override;
 
     // Keeps the outcome of the second parse if it met no unexpected token, and the flipped rule with it.
     // Otherwise everything is put back but the error, which is the second parse's message.
@@ -92,6 +93,7 @@ protected:
     int ExecuteParsingInternal(bool showErrors);
     int ExecuteParsingColoring(bool showErrors);
     int FlattenResult();
+    void DefineStylesheets();
     void replaceXmlHeader();
     // The text itself as the result, for sources that no grammar reads.
     int ExecuteEmbeddedParsing();
@@ -124,8 +126,10 @@ protected:
     int m_ExtParserSize = 102400;
     int m_ExtParserSizeCopy = 10240000;
     bool m_TryOtherOpts = false;
+    bool m_ResourcesDefined = false;
     bool m_PatternProcess = false; // texts come prepared, and the grammar is the one for patterns
     std::shared_ptr<std::map<std::string, std::string>> m_UndefinedTokens;
+    std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
 
 private:
     class CSecondAttempt;

@@ -66,6 +66,7 @@ int CUVDBSQLParser::Init(const char* mode)
                         m_Lexer->yycreate(m_Parser.get()) == kConnected;
         if (m_IsConnected)
             m_ColoringLexer.yycreate();
+        DefineStylesheets();
         return static_cast<int>(UVDB_OK);
     });
 }
@@ -147,16 +148,6 @@ int CUVDBSQLParser::set_ParserDevelopmentMode(bool isOn)
 std::string CUVDBSQLParser::GetParsedXml()
 {
     return static_cast<const std::string&>(m_Result);
-}
-
-int CUVDBSQLParser::ExecuteTree2Serial()
-{
-    return UVDB_OK;
-}
-
-int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2>, Uve::U8CString&)
-{
-    return UVDB_NOT_SUPPORTED;
 }
 
 void CUVDBSQLParser::CreateUVParserCmdParameterList(std::string&, bool, unsigned long) {}

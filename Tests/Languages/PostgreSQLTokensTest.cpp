@@ -214,7 +214,8 @@ std::string ColoringMap(const char* text)
     parser.Parse(false);
     Uve::U8CString map;
     parser.get_ColoringMap(map);
-    return map;
+    // behind the declaration that every result gets
+    return map.substr(map.find("?>") + 2);
 }
 
 struct SColorCase

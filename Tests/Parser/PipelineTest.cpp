@@ -1,8 +1,12 @@
 #include "Tests/Parser/ParserFixture.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 namespace {
+
+const std::string kHeader = "<?xml version=\"1.0\" ?>";
 
 class Pipeline : public ParserTest
 {};
@@ -74,8 +78,10 @@ TEST_F(Pipeline, TraceTellsTheSteps)
     Start();
     m_Log.Clear();
     Parse("print 1;");
-    EXPECT_EQ(m_Log.Text(),
-              "\nParsing...\nFormatted query:\nprint 1;\nOK\n\nExecuteTree2Serial: execution...\nOK\n");
+    EXPECT_THAT(m_Log.Text(),
+                testing::MatchesRegex("\nParsing...\nFormatted query:\nprint 1;\nOK\n\nExecuteTree2Serial: "
+                                      "execution...\nExecuteTree2Serial: used internal execution\n"
+                                      "ExecuteTree2Serial: elapsed [0-9]+ ms\nOK\n"));
     m_Log.Clear();
     Parse("");
     EXPECT_EQ(m_Log.Text(), "\nParsing...\nFormatted query is empty.\n");
@@ -170,6 +176,54 @@ TEST_F(Pipeline, FlatteningThatFailsIsTold)
     EXPECT_TRUE(m_Log.Text().ends_with("\nFAILED: no stylesheet\n"));
     m_Parser.m_Flatten = []() -> int { throw 7; };
     EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
+}
+
+// ---- The flattening ----
+
+TEST_F(Pipeline, TreeIsFlattened)
+{
+    constexpr char kText[] = "print 1; print 2;";
+    constexpr char kChain[] = "<statements><statements>";
+    Start();
+    ASSERT_EQ(Parse(kText), UVDB_OK);
+    const std::string tree = Tree();
+    EXPECT_TRUE(tree.starts_with(kHeader + "\n<SQL>")) << tree;
+    EXPECT_TRUE(tree.ends_with("</SQL>\n")) << tree;
+    EXPECT_EQ(tree.find(kChain), std::string::npos) << tree;
+
+    // the stylesheet itself gives the same
+    SetOption("TREE2SERIAL_STYLESHEET", "1");
+    Start();
+    ASSERT_EQ(Parse(kText), UVDB_OK);
+    EXPECT_EQ(Tree(), tree);
+
+    Start();
+    m_Parser.set_Query(kText);
+    Uve::U8CString xml = m_Parser.FastParse();
+    EXPECT_NE(xml.find(kChain), std::string::npos) << xml;
+    EXPECT_EQ(m_Parser.Tree2Serial(nullptr, xml), UVDB_OK);
+    EXPECT_TRUE(xml.ends_with(tree.substr(kHeader.size()))) << xml;
+}
+
+TEST_F(Pipeline, TextThatIsNoDocumentStaysAsItIs)
+{
+    Start();
+    for (const char* const option : {"0", "1"}) {
+        SetOption("TREE2SERIAL_STYLESHEET", option);
+        for (const char* const text :
+             {"1 2 3\n", "<SQL>", "<a></b>", "<a>\xC3</a>", "<a>&x;</a>", "<a/><b/>"}) {
+            SCOPED_TRACE(text);
+            m_Log.Clear();
+            Uve::U8CString xml = text;
+            EXPECT_EQ(m_Parser.Tree2Serial(m_Info, xml), UVDB_ERROR);
+            EXPECT_EQ(xml, text);
+            EXPECT_TRUE(m_Log.Text().ends_with("UVParser> ERROR: Tree2Serial error.")) << m_Log.Text();
+        }
+    }
+    Uve::U8CString xml = "<SQL/>";
+    CParserProbe withoutInit;
+    EXPECT_EQ(withoutInit.Tree2Serial(m_Info, xml), UVDB_ERROR);
+    EXPECT_TRUE(m_Log.Text().ends_with("FAILED: unable to find resource\n")) << m_Log.Text();
 }
 
 // ---- The second attempt ----
@@ -267,13 +321,17 @@ TEST_F(Pipeline, ColoringMapsTheTokens)
 {
     Start("-cl");
     EXPECT_EQ(Tree(), "<Coloring></Coloring>");
-    ASSERT_EQ(Parse("print 12 --x\n;"), UVDB_OK);
+    // a map is no document: the flattening refuses it, and it is there all the same
+    ASSERT_EQ(Parse("print 12 --x\n;"), UVDB_ERROR);
+    EXPECT_EQ(LastDescription(), "can't transform tree to serial");
     Uve::U8CString map;
     m_Parser.get_ColoringMap(map);
-    EXPECT_EQ(map, "1 0 4\n5 6 7\n6 9 11\n8 13 13\n");
+    EXPECT_EQ(map, kHeader + "1 0 4\n5 6 7\n6 9 11\n8 13 13\n");
     EXPECT_EQ(Tree(), "<Coloring>" + map + "</Coloring>");
-    ASSERT_EQ(Parse("12"), UVDB_OK); // a map of its own
-    EXPECT_EQ(m_Parser.GetParsedXml(), "5 0 1\n");
+    ASSERT_EQ(Parse("12"), UVDB_ERROR); // a map of its own
+    EXPECT_EQ(m_Parser.GetParsedXml(), kHeader + "5 0 1\n");
+    ASSERT_EQ(Parse(" "), UVDB_OK); // an empty one
+    EXPECT_EQ(m_Parser.GetParsedXml(), kHeader);
 
     ASSERT_EQ(m_Parser.Init(""), UVDB_OK);
     ASSERT_EQ(Parse("print 1;"), UVDB_OK);
@@ -283,8 +341,8 @@ TEST_F(Pipeline, ColoringMapsTheTokens)
 TEST_F(Pipeline, CommentModeFindsCommentsAlone)
 {
     Start("-cb");
-    ASSERT_EQ(Parse("a -- b\nc'--d"), UVDB_OK);
-    EXPECT_EQ(Tree(), "6 2 5\n6 9 11\n");
+    ASSERT_EQ(Parse("a -- b\nc'--d"), UVDB_ERROR);
+    EXPECT_EQ(Tree(), kHeader + "6 2 5\n6 9 11\n");
 }
 
 // ---- Large and odd texts ----
@@ -301,6 +359,7 @@ TEST_F(Pipeline, TextOfAnyBytesSurvives)
          {"print 1; " + everyByte + ";", "print " + brackets + "1" + std::string(20000, ')') + ";",
           "-- " + std::string(1 << 20, 'x')}) {
         Start();
+        m_Parser.m_Flatten = [] { return UVDB_OK; };
         EXPECT_EQ(Parse(text.c_str()), UVDB_OK);
         EXPECT_TRUE(TreeText(Tree()) == text) << text.substr(0, 20);
     }

@@ -56,9 +56,9 @@ TEST(PluginEntry, HostWalksTheCallingOrder)
     EXPECT_TRUE(CUVDBOptionWrapper::GetParam(info, "UNEXPECTED_TOKENS", tokens));
     EXPECT_EQ(tokens, "1\t9\t8\t1\t1\n");
 
-    Uve::U8CString text = "<SQL/>";
-    EXPECT_EQ(parser->Tree2Serial(info, text), UVDB_NOT_SUPPORTED);
-    EXPECT_EQ(text, "<SQL/>");
+    Uve::U8CString text = "<a><b><b><c>1</c></b></b></a>";
+    EXPECT_EQ(parser->Tree2Serial(info, text), UVDB_OK);
+    EXPECT_STREQ(text.c_str(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a><b><c>1</c></b></a>\n");
     EXPECT_THROW(parser->Load("NoSuchGrammar"), Uve::U8CString);
 }
 

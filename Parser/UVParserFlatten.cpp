@@ -1,0 +1,92 @@
+// The last step of a parse: the parser's tree, flattened by the stylesheet that is part of the library.
+#include "Interfaces/IUVDBDatabaseInfo.h"
+#include "Interfaces/UVDBResults.h"
+#include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/UVParser.h"
+#include "Parser/UVParserGuard.h"
+#include "Parser/UVParserText.h"
+#include "Stylesheets/TreeFlattener.h"
+#include "Stylesheets/XslTransform.h"
+#include "UVEnvironment/LogSystem.h"
+#include "UVEnvironment/UVEXml.h"
+
+#include <libxml/tree.h>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+using UVParserRc::ResourceManager;
+
+void DefineResources(XsltResourceManager& resources)
+{
+    for (const unsigned int id : {ResourceManager::kCommonMatch, ResourceManager::kTree2Serial})
+        resources.defineResource(std::make_shared<CUVDBSQLParserXslt>(id));
+}
+
+// The stylesheet that FlattenTree does the work of.
+bool IsEmbeddedStylesheet(const std::string& stylesheet)
+{
+    static const std::string embedded = [] {
+        XsltResourceManager resources;
+        DefineResources(resources);
+        return resources.getResource(ResourceManager::kTree2Serial);
+    }();
+    return stylesheet == embedded;
+}
+
+bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info)
+{
+    Uve::U8CString isForced;
+    if (info)
+        CUVDBOptionWrapper::GetParam(info, "TREE2SERIAL_STYLESHEET", isForced);
+    return isForced == "1";
+}
+
+} // namespace
+
+void CUVDBSQLParser::DefineStylesheets()
+{
+    if (m_ResourcesDefined)
+        return;
+    DefineResources(*m_XsltResources);
+    m_ResourcesDefined = true;
+}
+
+int CUVDBSQLParser::ExecuteTree2Serial()
+{
+    const auto start = std::chrono::steady_clock::now();
+    CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
+    const int result =
+        GuardEdge([&] { return m_Result.IsEmpty() ? UVDB_OK : Tree2Serial(m_DatabaseInfo, m_Result); });
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+    CLogWrapper::WriteTraceF(
+        "\nExecuteTree2Serial: elapsed %lld ms",
+        static_cast<long long>(std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()));
+    replaceXmlHeader();
+    return result;
+}
+
+int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
+{
+    return GuardEdge([&] {
+        const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
+        if (!IsStylesheetForced(info) && IsEmbeddedStylesheet(stylesheet)) {
+            std::string flattened;
+            if (FlattenTree(xml, flattened)) {
+                xml = std::move(flattened);
+                return static_cast<int>(UVDB_OK);
+            }
+        }
+        Uve::XslTransform transform(stylesheet.data(), stylesheet.size());
+        xmlDoc* const document = transform.apply(xml.data(), xml.size());
+        if (document == nullptr) {
+            CLogWrapper::WriteTraceF("UVParser> ERROR: Tree2Serial error.");
+            return static_cast<int>(UVDB_ERROR);
+        }
+        xml = Uve::XmlDocument::save(document, false, false).raw();
+        xmlFreeDoc(document);
+        return static_cast<int>(UVDB_OK);
+    });
+}
