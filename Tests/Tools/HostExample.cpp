@@ -26,7 +26,7 @@ try {
         Uve::U8CString tree;
         if (parser->Parse(false) >= UVDB_OK && parser->get_SQLTree(tree) == UVDB_OK &&
             !parser->IsParseHasErrors()) {
-            std::cout << tree << '\n';
+            std::cout << tree;
             continue;
         }
         ++failures;

@@ -16,5 +16,5 @@ int main()
     parser->set_Query("select 'every byte' -- comes back\n from the, tree;");
     Uve::U8CString tree;
     if (parser->Parse(false) == 0 && parser->get_SQLTree(tree) == 0)
-        std::cout << tree << '\n';
+        std::cout << tree;
 }

@@ -1,12 +1,15 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/CommandLine.h"
 #include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/PrettyTree.h"
+#include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourceText.h"
 #include "Tools/uvparse/TreeText.h"
 #include "Tools/uvparse/UnexpectedTokens.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -28,6 +31,7 @@ struct SDecodeCase
     std::string bytes;
     std::string text;    // empty: refused
     std::string refusal; // what the message must hold
+    const char* encoding = "";
 };
 
 const SDecodeCase kDecodeCases[] = {
@@ -38,7 +42,8 @@ const SDecodeCase kDecodeCases[] = {
     {"\xFE\xFF\0s\0\xE9\xD8=\xDE\0"s, "s\xC3\xA9\xF0\x9F\x98\x80", ""},
     {"\xFF\xFE\0\0s\0\0\0\0\xF6\x01\0"s, "s\xF0\x9F\x98\x80", ""},
     {"\0\0\xFE\xFF\0\0\0s\0\x01\xF6\0"s, "s\xF0\x9F\x98\x80", ""},
-    {"select 'caf\xE9", "", "byte 0xE9 at byte offset 11"},
+    {"select 'caf\xE9", "",
+     "byte 0xE9 at byte offset 11; if the text is in another encoding, name it with --enc"},
     {"\xEF\xBB\xBF"s + "ab\x80", "", "byte 0x80 at byte offset 5"}, // counted in the file, mark included
     {"select\0 1"s, "", "NUL byte, which source text can't hold, at byte offset 6"},
     {"s\0e\0l\0"s, "", "NUL byte, which source text can't hold, at byte offset 1"},
@@ -47,21 +52,46 @@ const SDecodeCase kDecodeCases[] = {
     {"\xFF\xFEs\0x"s, "", "cut off at byte offset 4"},
     {"\xFF\xFE\0\0s\0\0\0x\0"s, "", "cut off at byte offset 8"},
     {"\xFF\xFE\0\0\0\0\x11\0"s, "", "not well-formed UTF-32 at byte offset 4"},
+    {"caf\xE9 \x80", "caf\xC3\xA9 \xE2\x82\xAC", "", "CP1252"},
+    {"\xCF\xF0\n", "\xD0\x9F\xD1\x80\n", "", "windows-1251"},
+    {"\x82\xA0\\", "\xE3\x81\x82\\", "", "CP932"},
+    {"\x1B$B$\"\x1B(Bx", "\xE3\x81\x82x", "", "ISO-2022-JP"}, // shift states
+    {"\xC3\xA9", "\xC3\x83\xC2\xA9", "", "latin1"},           // the name is believed
+    {"a\x81", "", "not valid CP1252: byte 0x81 at byte offset 1", "CP1252"},
+    {"ab\x82", "", "the CP932 text is cut off at byte offset 2", "CP932"},
+    {"caf\xE9!", "", "not valid UTF-8: byte 0xE9 at byte offset 3", "UTF-8"},
+    {"a\xC3\xA9", "", "not valid ASCII: byte 0xC3 at byte offset 1", "ASCII"},
+    {"s\0\xE9\0"s, "s\xC3\xA9", "", "UTF-16LE"},
+    // A mark of the same encoding goes, whether iconv leaves it in the text or takes it.
+    {"\xFF\xFEs\0"s, "s", "", "UTF-16LE"},
+    {"\xFE\xFF\0s"s, "s", "", "UTF-16"},
+    {"\xEF\xBB\xBFs", "s", "", "utf8"},
+    {"\xEF\xBB\xBFs", "", "byte order mark of UTF-8, while --encoding names CP1252, at byte offset 0",
+     "CP1252"},
+    {"\xFE\xFF\0s"s, "", "byte order mark of UTF-16, while --encoding names UTF-16LE", "UTF-16LE"},
+    {"a\0"s, "", "NUL character", "CP1252"},
+    {"a", "", "no encoding is called 'nonesuch'", "nonesuch"},
+    // Either would have iconv drop or replace what doesn't convert.
+    {"a\x81", "", "is no encoding's name", "CP1252//IGNORE"},
+    {"a\x81", "", "is no encoding's name", "CP1252//TRANSLIT"},
 };
 
 TEST(UvparseSourceText, MarksDecideAndWhatIsNoTextIsRefusedWithItsOffset)
 {
     for (const auto& c : kDecodeCases) {
-        SCOPED_TRACE(testing::PrintToString(c.bytes));
+        SCOPED_TRACE(testing::PrintToString(c.bytes) + ' ' + c.encoding);
         if (c.refusal.empty()) {
-            EXPECT_EQ(DecodeSourceText(c.bytes, "f"), c.text);
+            EXPECT_EQ(DecodeSourceText(c.bytes, "f", c.encoding), c.text);
             continue;
         }
         try {
-            DecodeSourceText(c.bytes, "f.sql");
+            DecodeSourceText(c.bytes, "f.sql", c.encoding);
             ADD_FAILURE() << "not refused";
         } catch (const CToolFailure& e) {
-            EXPECT_EQ(std::string(e.what()).substr(0, 7), "f.sql: ");
+            // An offset is of a file, a name is not.
+            EXPECT_EQ(std::string(e.what()).find("byte offset") != std::string::npos,
+                      std::string(e.what()).starts_with("f.sql: "))
+                << e.what();
             EXPECT_NE(std::string(e.what()).find(c.refusal), std::string::npos) << e.what();
         }
     }
@@ -77,6 +107,14 @@ TEST(UvparseSourceText, UTF16LongerThanOnePieceKeepsItsPairs)
         text += "\xF0\x9F\x98\x80";
     }
     EXPECT_EQ(DecodeSourceText(bytes, "f"), text);
+    EXPECT_EQ(DecodeSourceText(bytes, "f", "UTF-16"), text);
+    bytes.replace(bytes.size() - 2, 2, "x");
+    try {
+        DecodeSourceText(bytes, "f", "UTF-16");
+        ADD_FAILURE() << "not refused";
+    } catch (const CToolFailure& e) {
+        EXPECT_STREQ(e.what(), "f: the UTF-16 text is cut off at byte offset 2400000");
+    }
 }
 
 struct STreeCase
@@ -93,7 +131,8 @@ const STreeCase kTreeCases[] = {
     {"<?xml version=\"1.0\" ?><SQL><!-- > --><e/>a&lt;b&gt;&amp;&apos;&quot;&#13;&#xe9;</SQL>",
      "a<b>&'\"\r\xC3\xA9", true, 0, 0},
     {"", "", true, 0, 0},
-    {"<a>xy</a>", "x\x0Cy\x0C", true, 0, 0}, // form feeds aren't in the tree
+    {"<?xml version=\"1.0\" ?>\n<SQL>\n</SQL>\n", "\n", true, 0, 0}, // blanks around the root are no text
+    {"<a>xy</a>", "x\x0Cy\x0C", true, 0, 0},                         // form feeds aren't in the tree
     {"<a>xORVANTA_DATA_LINK_ESCAPE_REPLACERy</a>", "x\x10y", true, 0, 0},
     {"<a>ORVANTA_DATA_LINK_</a><b>ESCAPE_REPLACER</b>", "\x10", true, 0, 0},
     {"<a>ORVANTA_DATA_LINK_ESCAPE_REPLACER</a>", "ORVANTA_DATA_LINK_ESCAPE_REPLACER", true, 0, 0},
@@ -133,6 +172,183 @@ TEST(UvparseTreeText, StatementsAreCountedOnceHoweverTheyNest)
         1u);
     EXPECT_EQ(CountStatements("<delimited_pl_sql_statement></delimited_pl_sql_statement>" + inner), 2u);
     EXPECT_EQ(CountStatements("<pl_sql_statement_delimiter></pl_sql_statement_delimiter>"), 0u);
+    // as flattening writes them
+    const std::string full = "<full_pl_sql_statement delimited=\"1\" labeled=\"0\">" + inner +
+                             "<pl_sql_statement_delimiter/></full_pl_sql_statement>";
+    EXPECT_EQ(
+        CountStatements("<?xml version=\"1.0\" ?>\n<SQL><full_pl_sql_statement/>" + full + full + "</SQL>"),
+        3u);
+}
+
+std::string Pretty(std::string_view tree)
+{
+    std::string text;
+    const auto brokenAt = WritePretty(tree, [&](std::string_view piece) { text += piece; });
+    return brokenAt ? "broken at " + std::to_string(*brokenAt) + text : text;
+}
+
+struct SPrettyCase
+{
+    const char* tree;
+    const char* text;
+};
+
+const SPrettyCase kPrettyCases[] = {
+    {"", ""},
+    {"<a/>", "<a/>"},
+    {"<a></a>", "<a></a>"},
+    {"<?xml version=\"1.0\" ?>\n<a><b/></a>\n", "<?xml version=\"1.0\" ?>\n<a>\n  <b/>\n</a>"},
+    {"<a><b><c>x</c><c> </c></b><d/></a>", "<a>\n  <b>\n    <c>x</c>\n    <c> </c>\n  </b>\n  <d/>\n</a>"},
+    // Text of its own, at whichever place, keeps an element and all that is in it as it is.
+    {"<a><b><c/><c/>x</b></a>", "<a>\n  <b><c/><c/>x</b>\n</a>"},
+    {"<a><b> <c><d/></c></b></a>", "<a>\n  <b> <c><d/></c></b>\n</a>"},
+    {"<a><b><c><d/></c>&#13;</b><e/></a>", "<a>\n  <b><c><d/></c>&#13;</b>\n  <e/>\n</a>"},
+    {"<a><b><c/><![CDATA[<]]></b></a>", "<a>\n  <b><c/><![CDATA[<]]></b>\n</a>"},
+    {"<a><!-- <x> --><b/><?p ?></a>", "<a>\n  <!-- <x> -->\n  <b/>\n  <?p ?>\n</a>"},
+    {"<a p=\"/>'\" q='\"'\n><b/></a >", "<a p=\"/>'\" q='\"'\n>\n  <b/>\n</a >"},
+    {"<a/><b/>", "<a/>\n<b/>"},
+    {"x<a><b/></a>", "x<a><b/></a>"},
+    {"<a><b></a></b>", "broken at 6"},
+    {"<a><b>", "broken at 6"},
+    {"<a></a></a>", "broken at 7"},
+    {"<a>x = <y></a>", "broken at 10"},
+    {"<a><b</a>", "broken at 3"},
+    {"<a><b p=\"></b></a>", "broken at 3"},
+    {"<a><></a>", "broken at 3"},
+};
+
+TEST(UvparsePretty, LinesAreBrokenOnlyWhereThereIsNoText)
+{
+    for (const auto& c : kPrettyCases) {
+        SCOPED_TRACE(c.tree);
+        EXPECT_EQ(Pretty(c.tree), c.text);
+    }
+}
+
+std::string Nested(const std::string& open, const std::string& inside, const std::string& close, int depth)
+{
+    std::string text;
+    for (int i = 0; i < depth; ++i)
+        text += open;
+    text += inside;
+    for (int i = 0; i < depth; ++i)
+        text += close;
+    return text;
+}
+
+TEST(UvparsePretty, DepthCostsNeitherStackNorRowsOfBlanks)
+{
+    const std::string pretty = Pretty(Nested("<a>", "<b>x</b>", "</a>", 200000));
+    EXPECT_LT(pretty.size(), 200000u * 2 * 130);
+    std::string words = pretty;
+    words.erase(std::remove_if(words.begin(), words.end(), [](char c) { return c == ' ' || c == '\n'; }),
+                words.end());
+    EXPECT_EQ(words, Nested("<a>", "<b>x</b>", "</a>", 200000));
+}
+
+TEST(UvparsePretty, TextsOfAnyLengthComeThrough)
+{
+    const std::string text(300000, 'x');
+    EXPECT_EQ(Pretty("<a><b>" + text + "</b><b/></a>"), "<a>\n  <b>" + text + "</b>\n  <b/>\n</a>");
+}
+
+struct SSelectionCase
+{
+    const char* expression;
+    const char* output;
+    bool isFound;
+};
+
+const SSelectionCase kSelectionCases[] = {
+    {"//b", "<b p=\"1 &lt; \xC3\xA9\">x &amp; \xC3\xA9</b>\n<b/>\n", true},
+    {"//c | //b[1]", "<b p=\"1 &lt; \xC3\xA9\">x &amp; \xC3\xA9</b>\n<c><d> </d></c>\n",
+     true}, // document order
+    {"//b/@p", "p=\"1 &lt; \xC3\xA9\"\n", true},
+    {"//b/text()", "x &amp; \xC3\xA9\n", true},
+    {"//comment()", "<!-- n -->\n", true},
+    {"/", "<a><b p=\"1 &lt; \xC3\xA9\">x &amp; \xC3\xA9</b><c><d> </d></c><!-- n --><b/></a>\n", true},
+    {"string(//b)", "x & \xC3\xA9\n", true},
+    {"string(//d)", " \n", true},
+    {"count(//b) div 4", "0.5\n", true},
+    {"count(//b) > 1", "true\n", true},
+    {"//e", "", false},
+    {"//b[.='y']/@p", "", false},
+    {"count(//e)", "0\n", false},
+    {"not(//b)", "false\n", false},
+    {"string(//e)", "\n", false},
+};
+
+const char kSelectionTree[] = "<?xml version=\"1.0\" ?>\n<a><b p=\"1 &lt; \xC3\xA9\">x &amp; \xC3\xA9</b>"
+                              "<c><d> </d></c><!-- n --><b></b></a>\n";
+
+std::string Select(const std::string& expression, std::string_view tree, const SSelectionLook& look = {})
+{
+    std::string text;
+    CSelector(expression).Write(tree, "f", look, [&](std::string_view piece) { text += piece; });
+    return text;
+}
+
+TEST(UvparseSelection, NodesAreXmlAndValuesAreThemselves)
+{
+    for (const auto& c : kSelectionCases) {
+        SCOPED_TRACE(c.expression);
+        std::string text;
+        const bool isFound =
+            CSelector(c.expression).Write(kSelectionTree, "f", {}, [&](std::string_view piece) {
+                text += piece;
+            });
+        EXPECT_EQ(text, c.output);
+        EXPECT_EQ(isFound, c.isFound);
+    }
+}
+
+TEST(UvparseSelection, EachResultHasThePrefixAndOnlyElementsAreIndented)
+{
+    EXPECT_EQ(Select("//c | //d/text() | //b/@p", kSelectionTree, {"f.sql:", true}),
+              "f.sql:p=\"1 &lt; \xC3\xA9\"\nf.sql:<c>\n  <d> </d>\n</c>\nf.sql: \n");
+    EXPECT_EQ(Select("count(//b)", kSelectionTree, {"f.sql:", true}), "f.sql:2\n");
+    EXPECT_EQ(Select("count(//b)", "", {"f.sql:", true}), ""); // an empty text has no tree
+}
+
+TEST(UvparseSelection, DeepTreesAreNoDanger)
+{
+    const std::string tree = Nested("<a>", "<b>x</b>", "</a>", 100000);
+    EXPECT_EQ(Select("//b", tree), "<b>x</b>\n");
+    EXPECT_EQ(Select("/", tree), tree + '\n');
+    EXPECT_EQ(Select("count(//b/ancestor::a)", tree), "100000\n");
+}
+
+struct SBadExpression
+{
+    const char* expression;
+    const char* message;
+};
+
+const SBadExpression kBadExpressions[] = {
+    {"//b[", "'//b[': Invalid expression at character 5"},
+    {"'\xC3\xA9'+", "at character 5"}, // counted as the user does
+    {"//b)", "at character 4"},
+    {"'x", "Unfinished literal"},
+    {"nonesuch(1)", "nonesuch"},
+    {"$x", "ndefined variable"},
+    {"x:y", "ndefined namespace prefix"},
+    {"count(1)", "nvalid type"},
+};
+
+TEST(UvparseSelection, BadExpressionsAreRefusedBeforeAnythingIsRead)
+{
+    for (const auto& c : kBadExpressions) {
+        SCOPED_TRACE(c.expression);
+        try {
+            const CSelector selector(c.expression);
+            ADD_FAILURE() << "not refused";
+        } catch (const CToolFailure& e) {
+            EXPECT_NE(std::string(e.what()).find(c.message), std::string::npos) << e.what();
+        }
+    }
+    // What only a tree brings out is a failure there; nothing is taken for an empty result.
+    EXPECT_THROW(Select("//b[nonesuch(.)]", kSelectionTree), CToolFailure);
+    EXPECT_THROW(Select("//b", "<a><b></a>"), CToolFailure);
 }
 
 struct SPlaceCase
@@ -318,7 +534,12 @@ TEST(UvparseCommandLine, WhatMakesNoSenseIsRefused)
                  CUsageError); // no guessing: a later option could change what it means
     EXPECT_THROW(Read({"-o", "novalue", "f"}), CUsageError);
     EXPECT_THROW(Read({"-o", "=x", "f"}), CUsageError);
-    EXPECT_THROW(Read({"--color", "--verify", "f"}), CUsageError);
+    for (const char* option : {"--raw", "--pretty", "--xpath=//a", "--verify", "--stat"})
+        EXPECT_THROW(Read({"--color", option, "f"}), CUsageError) << option;
+    EXPECT_THROW(Read({"--xpath", "", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--encoding=", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--xpath", "//a", "--xpath", "//b", "f"}), CUsageError);
+    EXPECT_NO_THROW(Read({"--raw", "--pretty", "--verify", "--xpath", "//a", "f"}));
     EXPECT_NO_THROW(Read({"--help"}));
 }
 

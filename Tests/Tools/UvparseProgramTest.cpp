@@ -1,61 +1,21 @@
-#include "Tools/Support/ToolFiles.h"
+#include "Tests/Support/ProgramFixture.h"
+#include "Tools/uvparse/PrettyTree.h"
 #include "Tools/uvparse/TreeText.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
-#include <sys/wait.h>
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 namespace {
 
-struct SRunResult
-{
-    int code = -1;
-    std::string out;
-    std::string err;
-};
-
-// The built program in a folder of its own, run by the shell as users run it.
-class UvparseProgram : public testing::Test
+class UvparseProgram : public CProgramFixture
 {
 protected:
-    void Put(const std::string& name, const std::string& content)
-    {
-        fs::create_directories((m_Folder / name).parent_path());
-        std::ofstream(m_Folder / name, std::ios::binary) << content;
-    }
-
-    std::string Get(const std::string& name) const { return ReadWholeFile((m_Folder / name).string()); }
-    bool Has(const std::string& name) const { return fs::exists(m_Folder / name); }
-
-    // `arguments` is shell text; standard input is the file "in" if there is one.
-    SRunResult Run(const std::string& arguments) const
-    {
-        return RunProgram(UV_BIN_DIR "/uvparse", arguments);
-    }
-
-    SRunResult RunProgram(const std::string& program, const std::string& arguments) const
-    {
-        const std::string command = "cd '" + m_Folder.string() + "' && '" + program +
-                                    "' >out.txt 2>err.txt <" + (Has("in") ? "in" : "/dev/null") + ' ' +
-                                    arguments;
-        SRunResult result;
-        const int status = std::system(command.c_str());
-        result.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-        result.out = Get("out.txt");
-        result.err = Get("err.txt");
-        return result;
-    }
-
-    // In the build folder, so that programs can be linked into it.
-    CTemporaryFolder m_Owner{UV_BIN_DIR "/../uvparse-test-"};
-    fs::path m_Folder = m_Owner.Path();
+    UvparseProgram() : CProgramFixture("uvparse") {}
 };
 
 const char kScript[] = "-- two of them\nselect 'a<b' as x;\n\nselect \xC3\xA9, 2 from t where a > 1;\n";
@@ -70,11 +30,143 @@ TEST_F(UvparseProgram, TreeOfEveryByteGoesToStandardOutput)
         ASSERT_FALSE(run.out.empty());
         EXPECT_EQ(run.out.back(), '\n');
         EXPECT_NE(run.out[run.out.size() - 2], '\n');
-        EXPECT_FALSE(uvparse::FindTreeDifference(run.out, kScript + "\n"s));
+        EXPECT_FALSE(uvparse::FindTreeDifference(run.out, kScript));
         EXPECT_EQ(uvparse::CountStatements(run.out), 2u);
         EXPECT_EQ(run.err, "a.sql: verified: the tree holds the " + std::to_string(sizeof(kScript) - 1) +
                                " bytes of the text\n");
     }
+}
+
+TEST_F(UvparseProgram, TreeIsFlattenedUnlessTheRawOneIsWanted)
+{
+    Put("a.sql", "select a, b, c from t;\n");
+    const SRunResult flat = Run("a.sql");
+    EXPECT_EQ(flat.out.find("<?xml version=\"1.0\" ?>\n<SQL>"), 0u) << flat.out;
+    EXPECT_NE(flat.out.find("<full_pl_sql_statement delimited=\"1\" labeled=\"0\">"), std::string::npos)
+        << flat.out;
+    EXPECT_EQ(flat.out.find("<delimited_pl_sql_statement>"), std::string::npos) << flat.out;
+    const SRunResult raw = Run("--raw a.sql");
+    EXPECT_EQ(raw.out.find("<SQL>"), 0u) << raw.out;
+    EXPECT_NE(raw.out.find("<delimited_pl_sql_statement>"), std::string::npos) << raw.out;
+    EXPECT_EQ(Run("-o TREE2SERIAL_STYLESHEET=1 a.sql").out, flat.out);
+}
+
+TEST_F(UvparseProgram, VerifyKnowsWhatFlatteningDoesToLineEnds)
+{
+    Put("a.sql", "select 1;\r\nselect 'x\ry';\r\n");
+    EXPECT_EQ(Run("--verify --raw a.sql").err, "a.sql: verified: the tree holds the 26 bytes of the text\n");
+    const SRunResult flat = Run("--verify a.sql");
+    EXPECT_EQ(flat.code, 0);
+    EXPECT_EQ(flat.err,
+              "a.sql: verified: the tree holds the 26 bytes of the text before it is flattened, which "
+              "changes it from byte 9 on\n");
+    EXPECT_EQ(flat.out.find('\r'), std::string::npos);
+    EXPECT_NE(Run("--raw a.sql").out.find('\r'), std::string::npos);
+}
+
+TEST_F(UvparseProgram, FlatteningFailureIsToldInTheLibrarysWords)
+{
+    // A character that XML has no place for, behind an unexpected token.
+    Put("a.sql", "select from from t;\nselect '\xEF\xBF\xBE';\n");
+    const SRunResult run = Run("a.sql");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err.find("a.sql:1:13: error: unexpected token 'from'\n"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("a.sql: error: can't transform tree to serial\n"), std::string::npos) << run.err;
+    EXPECT_EQ(Run("--raw --verify a.sql").err.find("can't transform"), std::string::npos);
+}
+
+TEST_F(UvparseProgram, PrettyBreaksLinesAndKeepsTokens)
+{
+    Put("a.sql", kScript);
+    for (const char* mode : {"", "--raw "}) {
+        SCOPED_TRACE(mode);
+        const std::string plain = Run(mode + "a.sql"s).out;
+        const SRunResult pretty = Run(mode + "--pretty a.sql"s);
+        EXPECT_EQ(pretty.code, 0) << pretty.err;
+        EXPECT_NE(pretty.out.find(" <pl_sql_statements>\n"), std::string::npos) << pretty.out;
+        EXPECT_NE(pretty.out.find("pos=\"1\">from</T__FROM>\n"), std::string::npos) << pretty.out;
+        EXPECT_EQ(pretty.out.substr(pretty.out.size() - 8), "\n</SQL>\n");
+        std::string expected;
+        uvparse::WritePretty(plain, [&](std::string_view piece) { expected += piece; });
+        EXPECT_EQ(pretty.out, expected + '\n');
+    }
+}
+
+TEST_F(UvparseProgram, XpathPrintsWhatItSelects)
+{
+    Put("a.sql", kScript);
+    Put("b.sql", "select 1;\n");
+    SRunResult run = Run("--xpath '//select_item//T__IDENTIFIER' a.sql");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, "<T__IDENTIFIER type=\"TOKEN\" line=\"1\" pos=\"1\">x</T__IDENTIFIER>\n");
+    run = Run("--xpath 'count(//T__SELECT)' a.sql b.sql");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, "a.sql:2\nb.sql:1\n");
+    // As grep does: a text where nothing is found is no failure while another has something.
+    run = Run("--xpath 'string(//T__WHERE)' b.sql a.sql");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, "b.sql:\na.sql:where\n");
+    run = Run("--xpath //T__WHERE b.sql");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out + run.err, "");
+    EXPECT_EQ(Run("--raw --xpath //delimited_pl_sql_statement b.sql").code, 0);
+
+    run = Run("--xpath '//a[' --output out a.sql");
+    EXPECT_EQ(run.code, 2);
+    EXPECT_NE(run.err.find("'//a[': Invalid expression at character 5\n"), std::string::npos) << run.err;
+    EXPECT_FALSE(Has("out"));
+    run = Run("--xpath //T__WHERE --output out a.sql b.sql");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(Get("out/a.sql.txt"), "<T__WHERE type=\"TOKEN\" line=\"3\" pos=\"1\">where</T__WHERE>\n");
+    EXPECT_EQ(Get("out/b.sql.txt"), "");
+}
+
+TEST_F(UvparseProgram, NamedEncodingIsReadAndNothingIsReplaced)
+{
+    Put("plain.sql", "select '\xC3\xA9\xE2\x82\xAC';\n");
+    Put("a.sql", "select '\xE9\x80';\n");
+    const SRunResult run = Run("--encoding CP1252 --verify a.sql");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, Run("plain.sql").out);
+    // Messages point into the text as it was read.
+    Put("bad.sql", "select '\xE9\xE9' from from;\n");
+    EXPECT_EQ(Run("--encoding latin1 bad.sql")
+                  .err.find("bad.sql:1:18: error: unexpected token 'from'\n"
+                            "    select '\xC3\xA9\xC3\xA9' from from;\n"),
+              0u);
+
+    Put("hole.sql", "select '\x81';\n");
+    const SRunResult hole = Run("--encoding CP1252 hole.sql");
+    EXPECT_EQ(hole.code, 2);
+    EXPECT_EQ(hole.out, "");
+    EXPECT_EQ(hole.err, "uvparse: error: hole.sql: not valid CP1252: byte 0x81 at byte offset 8\n");
+    const SRunResult unknown = Run("--encoding nonesuch a.sql plain.sql");
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(unknown.err, "uvparse: error: no encoding is called 'nonesuch' ('iconv -l' lists the names)\n");
+}
+
+TEST_F(UvparseProgram, CommandsOfTheReadmeWork)
+{
+    Put("my.sql", kScript);
+    const std::string readme = ReadWholeFile(UV_SOURCE_DIR "/README.md");
+    const std::string command = "./run.sh ";
+    int commands = 0;
+    for (std::size_t at = readme.find("\n    "); at != std::string::npos;
+         at = readme.find("\n    ", at + 1)) {
+        std::string line = readme.substr(at + 5, readme.find('\n', at + 1) - at - 5);
+        const std::size_t place = line.find(command);
+        if (place == std::string::npos)
+            continue;
+        SCOPED_TRACE(line);
+        Put("command", line.replace(place, command.size(), UV_BIN_DIR "/uvparse "));
+        const SRunResult run = RunProgram("/bin/sh", "command");
+        EXPECT_EQ(run.code, 0) << run.err;
+        EXPECT_NE(run.out.empty(),
+                  line.find(" > ") == std::string::npos && line.find("--output") == std::string::npos);
+        ++commands;
+    }
+    EXPECT_EQ(commands, 6);
 }
 
 TEST_F(UvparseProgram, StandardInputIsAFileLikeAnyOther)
@@ -133,8 +225,9 @@ TEST_F(UvparseProgram, OneBadInputDoesNotStopTheOthers)
     const SRunResult run = Run("missing.sql latin.sql nul.sql folder.sql none.xyz good.sql");
     EXPECT_EQ(run.code, 2);
     EXPECT_EQ(run.out, good);
-    for (const char* part : {"missing.sql: ", "latin.sql: not valid UTF-8: byte 0xE9 at byte offset 11",
-                             "nul.sql: NUL byte", "offset 9\n", "folder.sql: ", "none.xyz: ", "PostgreSQL"})
+    for (const char* part :
+         {"missing.sql: ", "latin.sql: not valid UTF-8: byte 0xE9 at byte offset 11; ", "--encoding",
+          "nul.sql: NUL byte", "offset 9;", "folder.sql: ", "none.xyz: ", "PostgreSQL"})
         EXPECT_NE(run.err.find(part), std::string::npos) << part << " in\n" << run.err;
 }
 

@@ -29,8 +29,7 @@ public:
             close(m_Descriptor);
     }
     int Get() const { return m_Descriptor; }
-    // Some file systems report a failed write only here.
-    bool Close() { return close(std::exchange(m_Descriptor, -1)) == 0; }
+    int Release() { return std::exchange(m_Descriptor, -1); }
 
 private:
     int m_Descriptor;
@@ -47,12 +46,6 @@ bool WriteAll(int descriptor, std::string_view content)
         content.remove_prefix(static_cast<std::size_t>(written));
     }
     return true;
-}
-
-void WriteAndClose(CDescriptor& file, const std::string& path, std::string_view content)
-{
-    if (!WriteAll(file.Get(), content) || !file.Close())
-        Fail(path, errno);
 }
 
 // The mode that a plain creation would have given; mkstemp and mkdtemp keep others out.
@@ -94,36 +87,82 @@ std::string ReadWholeFile(const std::string& path)
     return content;
 }
 
-void WriteWholeFile(const std::string& path, std::string_view content)
+COutputFile::COutputFile(const std::string& path) : m_Path(path)
 {
+    if (path == "-") {
+        m_Path = "standard output";
+        m_Descriptor = STDOUT_FILENO;
+        m_IsStandardOutput = true;
+        return;
+    }
     struct stat status = {};
     const bool exists = stat(path.c_str(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode)) {
-        CDescriptor file(open(path.c_str(), O_WRONLY | O_CLOEXEC));
-        if (file.Get() < 0)
+        m_Descriptor = open(path.c_str(), O_WRONLY | O_CLOEXEC);
+        if (m_Descriptor < 0)
             Fail(path, errno);
-        WriteAndClose(file, path, content);
         return;
     }
 
     // A link stays a link: what it leads to is replaced.
     std::error_code unresolved;
     const std::filesystem::path resolved = std::filesystem::canonical(path, unresolved);
-    const std::string target = unresolved ? path : resolved.string();
-    std::string temporary = target + ".XXXXXX";
+    m_Target = unresolved ? path : resolved.string();
+    std::string temporary = m_Target + ".XXXXXX";
     CDescriptor file(mkostemp(temporary.data(), O_CLOEXEC));
     if (file.Get() < 0)
         Fail(path, errno);
-    try {
-        if (fchmod(file.Get(), exists ? status.st_mode & 07777 : CreationMode(0666)) != 0)
-            Fail(path, errno);
-        WriteAndClose(file, path, content);
-        if (std::rename(temporary.c_str(), target.c_str()) != 0)
-            Fail(path, errno);
-    } catch (...) {
+    if (fchmod(file.Get(), exists ? status.st_mode & 07777 : CreationMode(0666)) != 0) {
+        const int error = errno;
         unlink(temporary.c_str());
-        throw;
+        Fail(path, error);
     }
+    m_Temporary = temporary;
+    m_Descriptor = file.Release();
+}
+
+COutputFile::~COutputFile()
+{
+    if (m_Descriptor >= 0 && !m_IsStandardOutput)
+        close(m_Descriptor);
+    if (!m_Temporary.empty())
+        unlink(m_Temporary.c_str());
+}
+
+void COutputFile::Write(std::string_view piece)
+{
+    constexpr std::size_t kGathered = std::size_t{1} << 16;
+    if (m_Gathered.size() + piece.size() <= kGathered) {
+        m_Gathered += piece;
+        return;
+    }
+    if (!WriteAll(m_Descriptor, m_Gathered) || !WriteAll(m_Descriptor, piece))
+        Fail(m_Path, errno);
+    m_Gathered.clear();
+}
+
+void COutputFile::Close()
+{
+    if (!WriteAll(m_Descriptor, m_Gathered))
+        Fail(m_Path, errno);
+    m_Gathered.clear();
+    if (m_IsStandardOutput)
+        return;
+    // Some file systems report a failed write only here.
+    if (close(std::exchange(m_Descriptor, -1)) != 0)
+        Fail(m_Path, errno);
+    if (m_Temporary.empty())
+        return;
+    if (std::rename(m_Temporary.c_str(), m_Target.c_str()) != 0)
+        Fail(m_Path, errno);
+    m_Temporary.clear();
+}
+
+void WriteWholeFile(const std::string& path, std::string_view content)
+{
+    COutputFile file(path);
+    file.Write(content);
+    file.Close();
 }
 
 void WriteStandardOutput(std::string_view content)

@@ -1,6 +1,7 @@
 // Files and streams of the tools. Every failure is reported: a tool never answers success after a lost write.
 #pragma once
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -17,8 +18,37 @@ public:
 // Throws: CToolFailure, also for a folder.
 std::string ReadWholeFile(const std::string& path);
 
-// Replaces the file. It is there whole or not at all: the bytes go to a sibling that is then renamed. What
-// can't be renamed over, such as a device, is written directly. Throws: CToolFailure.
+// Where the pieces of a text go, one after the other.
+using TTextSink = std::function<void(std::string_view)>;
+
+// A file that is written piece by piece, small ones being gathered. It is there whole or not at all: the
+// bytes go to a sibling that is renamed in the end. What can't be renamed over, such as a device, is written
+// directly.
+class COutputFile
+{
+public:
+    // "-" is the standard output. Throws: CToolFailure.
+    explicit COutputFile(const std::string& path);
+    COutputFile(const COutputFile&) = delete;
+    COutputFile& operator=(const COutputFile&) = delete;
+    // Without Close an earlier file stays as it was.
+    ~COutputFile();
+
+    // Throws: CToolFailure.
+    void Write(std::string_view piece);
+    // Throws: CToolFailure.
+    void Close();
+
+private:
+    std::string m_Path;
+    std::string m_Target;
+    std::string m_Temporary; // empty: the file itself is written
+    int m_Descriptor = -1;
+    bool m_IsStandardOutput = false;
+    std::string m_Gathered;
+};
+
+// Replaces the file, as COutputFile does. Throws: CToolFailure.
 void WriteWholeFile(const std::string& path, std::string_view content);
 
 // Writes to the standard output and flushes it.

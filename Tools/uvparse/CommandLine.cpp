@@ -21,10 +21,13 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("db", po::value(&line.database)->value_name("KIND[:SUBTYPE[:VERSION]]"), "database by number or by any of its names")
         ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
         ("object-option", po::value(&objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
+        ("encoding", po::value(&line.encoding)->value_name("NAME"), "encoding of the input, by iconv's name; else told by a byte order mark, else UTF-8")
         ("raw", po::bool_switch(&line.isRaw), "the tree of the text as it stands, neither prepared nor flattened")
+        ("pretty", po::bool_switch(&line.isPretty), "an element a line, indented; texts stay as they are")
+        ("xpath", po::value(&line.xpath)->value_name("EXPR"), "what this XPath 1.0 expression selects, instead of the whole tree")
         ("color", po::bool_switch(&line.isColor), "the coloring map instead of the tree")
-        ("verify", po::bool_switch(&line.isVerify), "check that the tree's text equals the source text")
-        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color) instead of standard output")
+        ("verify", po::bool_switch(&line.isVerify), "check that the tree holds every byte of the source text")
+        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath) instead of standard output")
         ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages that are there")
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
@@ -54,8 +57,9 @@ void RefuseContradictions(const SCommandLine& line)
         return;
     if (line.files.empty())
         throw CUsageError("no file given ('-' reads standard input)");
-    if (line.isColor && (line.isRaw || line.isVerify || line.isStat))
-        throw CUsageError("--color makes no tree: it can't go with --raw, --verify or --stat");
+    if (line.isColor && (line.isRaw || line.isPretty || !line.xpath.empty() || line.isVerify || line.isStat))
+        throw CUsageError(
+            "--color makes no tree: it can't go with --raw, --pretty, --xpath, --verify or --stat");
 }
 
 } // namespace
@@ -81,6 +85,9 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
                       .run(),
                   values);
         po::notify(values);
+        for (const char* option : {"encoding", "xpath"})
+            if (values.count(option) > 0 && values[option].as<std::string>().empty())
+                throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
     } catch (const po::error& e) {
         throw CUsageError(e.what());
     }
@@ -97,10 +104,11 @@ std::string HelpText()
     Texts objectOptions;
     std::ostringstream text;
     text << "usage: uvparse [options] FILE... | -\n"
-            "Turns source text into an XML tree that keeps every byte of it.\n\n"
+            "Turns source text into an XML tree with every token, blank and comment in it.\n\n"
          << VisibleOptions(line, options, objectOptions)
          << "\nResults go to standard output, messages to standard error.\n"
-            "Exit code: 0 clean; 1 a text has unexpected tokens, failed to parse or differs from its tree;\n"
+            "Exit code: 0 clean; 1 a text has unexpected tokens, failed to parse or differs from its tree,\n"
+            "or --xpath selected nothing in any text (no node, false, zero or an empty string);\n"
             "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
     return text.str();
 }

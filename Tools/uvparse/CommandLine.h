@@ -17,7 +17,10 @@ struct SCommandLine
     std::vector<std::pair<std::string, std::string>> objectOptions;
     std::string outputFolder; // empty: standard output
     std::string traceFile;    // empty: no trace
+    std::string encoding;     // of the input, by iconv's name; empty: by its byte order mark
+    std::string xpath;        // empty: the whole tree
     bool isRaw = false;
+    bool isPretty = false;
     bool isColor = false;
     bool isVerify = false;
     bool isTime = false;

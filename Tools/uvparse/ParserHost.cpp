@@ -10,6 +10,7 @@
 #include "UVEnvironment/PluginHelpers.h"
 
 #include <chrono>
+#include <map>
 #include <stdexcept>
 
 namespace uvparse {
@@ -42,6 +43,14 @@ std::string Trimmed(const std::string& text)
 {
     const std::size_t begin = text.find_first_not_of(" \n");
     return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(" \n") - begin + 1);
+}
+
+// What is put in front of every result, maps included.
+void CutDeclaration(std::string& text)
+{
+    const std::size_t end = text.starts_with("<?xml") ? text.find("?>") : std::string::npos;
+    if (end != std::string::npos)
+        text.erase(0, end + 2);
 }
 
 std::string Description(IUVDBErrorInfo& error)
@@ -107,7 +116,7 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
 
     // The fast way tells only that something is wrong. What it is comes from the ordinary one, whose own tree
     // isn't wanted here.
-    SParseResult fast = RunFastParse();
+    SParseResult fast = ParseRaw();
     if (fast.isParsed && !m_Parser->IsParseHasErrors())
         return fast;
     SParseResult report = RunParse();
@@ -117,7 +126,7 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
     return fast;
 }
 
-SParseResult CParserHost::RunFastParse()
+SParseResult CParserHost::ParseRaw()
 {
     SParseResult result;
     const CStopwatch watch;
@@ -140,6 +149,7 @@ SParseResult CParserHost::RunParse()
     // A coloring map is no document, which Parse may answer with a failure: it is there all the same.
     if (m_Settings.mode == enMode::Coloring) {
         m_Parser->get_ColoringMap(output);
+        CutDeclaration(output);
         result.isParsed = code >= UVDB_OK || !output.empty();
     } else {
         result.isParsed = code >= UVDB_OK;
@@ -153,16 +163,20 @@ SParseResult CParserHost::RunParse()
     CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kUnexpectedTokens, tokens);
     result.unexpectedTokens = ReadTokenList(tokens);
     if (!result.isParsed)
-        result.failure = ReadFailure();
+        ReadFailure(result);
     return result;
 }
 
-std::string CParserHost::ReadFailure() const
+void CParserHost::ReadFailure(SParseResult& result) const
 {
     std::shared_ptr<IUVDBErrorInfo> error;
     m_Parser->get_LastError(error);
-    const std::string description = error ? Trimmed(Description(*error)) : std::string();
-    return description.empty() ? "the text could not be parsed" : description;
+    result.failure = error ? Trimmed(Description(*error)) : std::string();
+    if (result.failure.empty())
+        result.failure = "the text could not be parsed";
+    void* tokens = nullptr;
+    if (error && error->get_ErrorList(&tokens) == UVDB_OK && tokens != nullptr)
+        result.isRefusedForTokens = !static_cast<const std::map<std::string, int>*>(tokens)->empty();
 }
 
 } // namespace uvparse

@@ -19,7 +19,7 @@ namespace uvparse {
 
 enum class enMode
 {
-    Tree,
+    Tree,    // flattened
     RawTree, // of the text as it stands, not prepared, not flattened
     Coloring
 };
@@ -40,7 +40,8 @@ struct SParseResult
     std::string output;    // tree or coloring map; empty for an empty text
     std::vector<SUnexpectedToken> unexpectedTokens;
     std::string failure;
-    double seconds = 0; // what making the output took
+    bool isRefusedForTokens = false; // the failure tells of nothing but the unexpected tokens
+    double seconds = 0;              // what making the output took
 };
 
 class CParserHost
@@ -58,13 +59,16 @@ public:
     // Throws: std::runtime_error if the tables can't be loaded any more.
     SParseResult Parse(const std::string& text, const std::string& path);
 
+    // Parses the text of the last Parse once more, as that one has prepared it, and gives its raw tree. The
+    // unexpected tokens are left out.
+    SParseResult ParseRaw();
+
     double GetLoadSeconds() const { return m_LoadSeconds; }
 
 private:
     void Load();
-    SParseResult RunFastParse();
     SParseResult RunParse();
-    std::string ReadFailure() const;
+    void ReadFailure(SParseResult& result) const;
 
     std::string m_ParserName;
     SHostSettings m_Settings;

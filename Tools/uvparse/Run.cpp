@@ -2,7 +2,10 @@
 
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/LegacyEncoding.h"
 #include "Tools/uvparse/ParserHost.h"
+#include "Tools/uvparse/PrettyTree.h"
+#include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourceText.h"
 #include "Tools/uvparse/TraceFile.h"
 #include "Tools/uvparse/TreeText.h"
@@ -81,8 +84,10 @@ private:
     void RunFile(const std::string& path);
     CParserHost& HostOf(const SLanguage& language);
     void Report(const std::string& path, const std::string& text, const SParseResult& result);
-    void Verify(const std::string& path, const std::string& text, const SParseResult& result);
-    void WriteOutput(const std::string& path, std::string output);
+    void Verify(const std::string& path, const std::string& text, const std::string& tree, CParserHost& host);
+    void TellVerified(const std::string& path, const std::string& text, const std::string& remark);
+    void WriteResult(const std::string& path, const std::string& result);
+    void WriteTo(const std::string& path, const std::string& result, const TTextSink& sink);
     void Tell(const std::string& path, const std::string& text);
     void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
 
@@ -93,6 +98,8 @@ private:
     // By parser name and database, one parser object each.
     std::map<std::string, std::unique_ptr<CParserHost>> m_Hosts;
     std::map<std::string, std::string> m_OutputPaths; // by file
+    std::unique_ptr<CSelector> m_Selector;            // empty: the whole tree is wanted
+    bool m_HasSelected = false;
     SStatistics m_Sum;
     std::size_t m_Counted = 0;
     CToolProgress m_Progress;
@@ -123,7 +130,7 @@ void CRun::NameOutputs()
     std::map<std::string, std::string> users;
     for (const std::string& path : m_Line.files) {
         std::string name = path == "-" ? "stdin" : std::filesystem::path(path).filename().string();
-        name += m_Line.isColor ? ".color" : ".xml";
+        name += m_Line.isColor ? ".color" : m_Selector ? ".txt" : ".xml";
         const std::string target = (std::filesystem::path(m_Line.outputFolder) / name).string();
         const auto [user, isFree] = users.emplace(target, path);
         if (!isFree)
@@ -164,14 +171,37 @@ void CRun::Tell(const std::string& path, const std::string& text)
     std::cerr << path << ": " << text << '\n';
 }
 
-void CRun::Verify(const std::string& path, const std::string& text, const SParseResult& result)
+void CRun::TellVerified(const std::string& path, const std::string& text, const std::string& remark)
 {
-    const std::optional<STreeDifference> difference = FindTreeDifference(result.output, text);
+    if (!m_Line.isQuiet)
+        Tell(ShownName(path),
+             "verified: the tree holds the " + std::to_string(text.size()) + " bytes of the text" + remark);
+}
+
+// Flattening may change texts, line ends above all. Where it has, the raw tree is asked whether the parse is
+// right.
+void CRun::Verify(const std::string& path, const std::string& text, const std::string& tree,
+                  CParserHost& host)
+{
+    std::optional<STreeDifference> difference = FindTreeDifference(tree, text);
     if (!difference) {
-        if (!m_Line.isQuiet)
-            Tell(ShownName(path),
-                 "verified: the tree holds the " + std::to_string(text.size()) + " bytes of the text");
+        TellVerified(path, text, "");
         return;
+    }
+    const char* what = "tree";
+    if (!m_Line.isRaw) {
+        const std::size_t changedAt = difference->textOffset;
+        const SParseResult raw = host.ParseRaw();
+        if (raw.isParsed) {
+            what = "raw tree";
+            difference = FindTreeDifference(raw.output, text);
+        }
+        if (!difference) {
+            TellVerified(path, text,
+                         " before it is flattened, which changes it from byte " + std::to_string(changedAt) +
+                             " on");
+            return;
+        }
     }
     const STextPlace place = CTextPlaces(text).Find(difference->textOffset);
     m_Progress.Clear();
@@ -179,7 +209,7 @@ void CRun::Verify(const std::string& path, const std::string& text, const SParse
         enSeverity::Error,
         SSourcePlace{ShownName(path), static_cast<int>(place.line), static_cast<int>(place.column), {}},
         "the tree's text differs from the source from byte " + std::to_string(difference->textOffset) +
-            " on (byte " + std::to_string(difference->treeOffset) + " of the tree)");
+            " on (byte " + std::to_string(difference->treeOffset) + " of the " + what + ')');
     Worsen(kToolFindings);
 }
 
@@ -191,33 +221,60 @@ void CRun::Report(const std::string& path, const std::string& text, const SParse
         return;
     m_Progress.Clear();
     WriteUnexpectedTokens(m_Messages, std::cerr, ShownName(path), text, result.unexpectedTokens);
-    if (!result.isParsed && result.unexpectedTokens.empty())
+    if (!result.isParsed && (result.unexpectedTokens.empty() || !result.isRefusedForTokens))
         m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}}, result.failure);
 }
 
-void CRun::WriteOutput(const std::string& path, std::string output)
+void CRun::WriteTo(const std::string& path, const std::string& result, const TTextSink& sink)
 {
-    if (!output.empty() && output.back() != '\n')
-        output += '\n';
-    if (m_Line.outputFolder.empty())
-        WriteStandardOutput(output);
-    else
-        WriteWholeFile(m_OutputPaths.at(path), output);
+    if (m_Selector) {
+        SSelectionLook look;
+        look.isPretty = m_Line.isPretty;
+        if (m_Line.files.size() > 1 && m_Line.outputFolder.empty())
+            look.prefix = ShownName(path) + ':';
+        if (m_Selector->Write(result, ShownName(path), look, sink))
+            m_HasSelected = true;
+        return;
+    }
+    if (result.empty())
+        return;
+    if (m_Line.isPretty) {
+        const std::optional<std::size_t> brokenAt = WritePretty(result, sink);
+        if (!brokenAt) {
+            sink("\n");
+            return;
+        }
+        m_Progress.Clear();
+        m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}},
+                         "not indented: the tree is not well-formed at its byte " +
+                             std::to_string(*brokenAt));
+        Worsen(kToolFindings);
+    }
+    sink(result);
+    if (result.back() != '\n')
+        sink("\n");
+}
+
+void CRun::WriteResult(const std::string& path, const std::string& result)
+{
+    COutputFile file(m_Line.outputFolder.empty() ? "-" : m_OutputPaths.at(path));
+    WriteTo(path, result, [&](std::string_view piece) { file.Write(piece); });
+    file.Close();
 }
 
 void CRun::RunFile(const std::string& path)
 {
     const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
     const Clock::time_point start = Clock::now();
-    const std::string text = ReadSourceText(path);
+    const std::string text = ReadSourceText(path, m_Line.encoding);
     const double readSeconds = SecondsSince(start);
 
     CParserHost& host = HostOf(language);
-    SParseResult result = host.Parse(text, path);
+    const SParseResult result = host.Parse(text, path);
     const std::string prepared = PreparedText(text);
     Report(path, prepared, result);
     if (m_Line.isVerify && result.isParsed)
-        Verify(path, m_Line.isRaw ? text : prepared, result);
+        Verify(path, m_Line.isRaw ? text : prepared, result.output, host);
     if (m_Line.isStat) {
         const SStatistics statistics{CountStatements(result.output), result.unexpectedTokens.size(),
                                      text.size(), result.seconds};
@@ -228,7 +285,7 @@ void CRun::RunFile(const std::string& path)
 
     const Clock::time_point writing = Clock::now();
     if (result.isParsed)
-        WriteOutput(path, std::move(result.output));
+        WriteResult(path, result.output);
     if (m_Line.isTime)
         Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
                                   std::to_string(Milliseconds(readSeconds)) + " ms, parse " +
@@ -250,6 +307,11 @@ int CRun::Run()
         ListLanguages();
         return kToolClean;
     }
+    // What the arguments get wrong is told before any work is done.
+    if (!m_Line.encoding.empty())
+        CLegacyDecoder check(m_Line.encoding);
+    if (!m_Line.xpath.empty())
+        m_Selector = std::make_unique<CSelector>(m_Line.xpath);
     if (!m_Line.outputFolder.empty())
         NameOutputs();
     if (!m_Line.traceFile.empty())
@@ -272,6 +334,8 @@ int CRun::Run()
     m_Progress.Clear();
     if (m_Line.isStat && m_Counted > 1)
         Tell("sum of " + std::to_string(m_Counted) + " texts", m_Sum.Text());
+    if (m_Selector && !m_HasSelected)
+        Worsen(kToolFindings);
     m_Hosts.clear();
     if (m_Trace)
         m_Trace->Close();

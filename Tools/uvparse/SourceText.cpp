@@ -1,6 +1,7 @@
 #include "Tools/uvparse/SourceText.h"
 
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvparse/LegacyEncoding.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/UVEEncoding.h"
 
@@ -15,14 +16,9 @@ namespace uvparse {
 
 namespace {
 
-// Input that is refused, and the byte offset at which it went wrong.
-struct SRefusal
-{
-    std::string reason;
-    std::size_t offset;
-};
-
 constexpr std::string_view kZeroWidthSpace = "\xE2\x80\x8B";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr char kEncodingHint[] = "; if the text is in another encoding, name it with --encoding";
 
 using Converter = int (*)(unsigned char*, int*, const unsigned char*, int*);
 
@@ -72,16 +68,35 @@ std::string FromUTF8(std::string bytes, std::size_t offset)
         char reason[40];
         std::snprintf(reason, sizeof(reason), "not valid UTF-8: byte 0x%02X",
                       static_cast<unsigned int>(static_cast<unsigned char>(bytes[invalid])));
-        throw SRefusal{reason, invalid};
+        throw SRefusal{reason, invalid, kEncodingHint};
     }
     bytes.erase(0, offset);
     return bytes;
 }
 
-std::string Decode(std::string bytes)
+Uve::File::SEncodingMark MarkOf(const std::string& bytes)
 {
     std::istringstream start(bytes.substr(0, 4));
-    const Uve::File::SEncodingMark mark = Uve::File::DetectEncoding(start, Uve::File::ENCODING_AUTO);
+    return Uve::File::DetectEncoding(start, Uve::File::ENCODING_AUTO);
+}
+
+const char* NameOfMark(Uve::File::Encoding encoding)
+{
+    switch (encoding) {
+    case Uve::File::ENCODING_UTF16LE:
+    case Uve::File::ENCODING_UTF16BE:
+        return "UTF-16";
+    case Uve::File::ENCODING_UTF32LE:
+    case Uve::File::ENCODING_UTF32BE:
+        return "UTF-32";
+    default:
+        return "UTF-8";
+    }
+}
+
+std::string DecodeByMark(std::string bytes)
+{
+    const Uve::File::SEncodingMark mark = MarkOf(bytes);
     const auto offset = static_cast<std::size_t>(mark.markLength);
     switch (mark.encoding) {
     case Uve::File::ENCODING_UTF16LE:
@@ -98,29 +113,56 @@ std::string Decode(std::string bytes)
     // A NUL is looked for first: text in another encoding without a mark is full of them.
     const std::size_t nul = bytes.find('\0');
     if (nul != std::string::npos)
-        throw SRefusal{"NUL byte, which source text can't hold,", nul};
+        throw SRefusal{"NUL byte, which source text can't hold,", nul, kEncodingHint};
     return FromUTF8(std::move(bytes), offset);
+}
+
+bool IsMark(std::string_view text)
+{
+    return text.empty() || text == kByteOrderMark;
+}
+
+std::string DecodeByName(const std::string& bytes, const std::string& encoding)
+{
+    CLegacyDecoder decoder(encoding);
+    const Uve::File::SEncodingMark mark = MarkOf(bytes);
+    if (mark.markLength > 0) {
+        bool isOfEncoding = false;
+        try {
+            isOfEncoding = IsMark(
+                decoder.Decode(std::string_view(bytes).substr(0, static_cast<std::size_t>(mark.markLength))));
+        } catch (const SRefusal&) {
+        }
+        if (!isOfEncoding)
+            throw SRefusal{std::string("byte order mark of ") + NameOfMark(mark.encoding) +
+                               ", while --encoding names " + encoding + ",",
+                           0};
+    }
+    std::string text = decoder.Decode(bytes);
+    if (text.starts_with(kByteOrderMark))
+        text.erase(0, kByteOrderMark.size());
+    return text;
 }
 
 } // namespace
 
-std::string DecodeSourceText(std::string bytes, const std::string& name)
+std::string DecodeSourceText(std::string bytes, const std::string& name, const std::string& encoding)
 {
     try {
-        std::string text = Decode(std::move(bytes));
+        std::string text = encoding.empty() ? DecodeByMark(std::move(bytes)) : DecodeByName(bytes, encoding);
         const std::size_t nul = text.find('\0');
         if (nul != std::string::npos)
             throw SRefusal{"NUL character, which source text can't hold, in the text as UTF-8", nul};
         return text;
     } catch (const SRefusal& refusal) {
         throw CToolFailure(name + ": " + refusal.reason + " at byte offset " +
-                           std::to_string(refusal.offset));
+                           std::to_string(refusal.offset) + refusal.advice);
     }
 }
 
-std::string ReadSourceText(const std::string& path)
+std::string ReadSourceText(const std::string& path, const std::string& encoding)
 {
-    return DecodeSourceText(ReadWholeFile(path), path);
+    return DecodeSourceText(ReadWholeFile(path), path, encoding);
 }
 
 std::string PreparedText(const std::string& text)

@@ -1,5 +1,6 @@
 #include "Tools/uvparse/TreeText.h"
 
+#include "Tools/uvparse/MarkupScanner.h"
 #include "UVEnvironment/UVEEncoding.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@ namespace uvparse {
 
 namespace {
 
+constexpr std::string_view kBlanks = " \t\r\n";
 constexpr char kFormFeed = '\x0C';
 constexpr char kDataLinkEscape = '\x10';
 constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLACER";
@@ -18,7 +20,17 @@ constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLA
 class CTreeTextReader
 {
 public:
-    explicit CTreeTextReader(std::string_view tree) : m_Tree(tree) {}
+    explicit CTreeTextReader(std::string_view tree) : m_Tree(tree)
+    {
+        // Behind the declaration and behind the root there may be line feeds, which are no content.
+        const auto skipBlanks = [&] {
+            m_Offset = std::min(m_Tree.find_first_not_of(kBlanks, m_Offset), m_Tree.size());
+        };
+        m_Tree = m_Tree.substr(0, m_Tree.find_last_not_of(kBlanks) + 1);
+        skipBlanks();
+        if (m_Tree.substr(m_Offset).starts_with("<?xml") && SkipMarkup())
+            skipBlanks();
+    }
 
     // The next piece, never empty before the end; valid until the next call.
     // Returns: false at the end, or where the tree isn't well-formed.
@@ -168,7 +180,8 @@ private:
 
 bool IsStatement(std::string_view name)
 {
-    return name == "delimited_pl_sql_statement" || name == "pl_sql_statement";
+    return name == "delimited_pl_sql_statement" || name == "full_pl_sql_statement" ||
+           name == "pl_sql_statement";
 }
 
 } // namespace
@@ -192,19 +205,18 @@ std::size_t CountStatements(std::string_view tree)
 {
     std::size_t count = 0;
     std::size_t depth = 0; // of statement elements alone
-    for (std::size_t at = tree.find('<'); at != std::string_view::npos; at = tree.find('<', at)) {
-        const bool isEnd = tree.substr(++at).starts_with('/');
-        if (isEnd)
-            ++at;
-        // Elements of rules have no attributes, so their names end in the bracket.
-        constexpr std::size_t kLongestTag = 27;
-        const std::string_view tag = tree.substr(at, kLongestTag);
-        if (!IsStatement(tag.substr(0, tag.find('>'))))
+    CMarkupScanner scanner(tree);
+    for (SMarkup markup; scanner.Next(markup);) {
+        if (!IsStatement(markup.name))
             continue;
-        if (isEnd)
+        if (markup.kind == enMarkup::End) {
             depth -= depth > 0 ? 1 : 0;
-        else if (depth++ == 0)
+            continue;
+        }
+        if (depth == 0)
             ++count;
+        if (markup.kind == enMarkup::Start)
+            ++depth;
     }
     return count;
 }

@@ -13,13 +13,14 @@ struct STreeDifference
     std::size_t textOffset = 0; // bytes into the source text
 };
 
-// Compares the text content of `tree`, unescaped, with `text`. Two control characters can't stand in XML and
-// are taken as the tree writes them: a form feed is left out, a data link escape is a word of its own.
-// Returns: where they part; nothing if they are equal.
+// Compares the text content of `tree`, unescaped, with `text`. Blanks around the root are no content. Two
+// control characters can't stand in XML and are taken as the tree writes them: a form feed is left out, a
+// data link escape is a word of its own. Returns: where they part; nothing if they are equal.
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text);
 
-// The number of statements: of elements "delimited_pl_sql_statement" and "pl_sql_statement" that stand in no
-// other of these. A delimiter without a statement in front of it counts as one.
+// The number of statements: of elements "delimited_pl_sql_statement", "full_pl_sql_statement" and
+// "pl_sql_statement" that stand in no other of these. A delimiter without a statement in front of it counts
+// as one.
 std::size_t CountStatements(std::string_view tree);
 
 } // namespace uvparse

@@ -1,0 +1,72 @@
+// Tests of a built program, run by the shell as users run it, in a folder of its own.
+#pragma once
+
+#include "Tools/Support/ToolFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/wait.h>
+#include <utility>
+
+struct SRunResult
+{
+    int code = -1; // 128 plus the signal's number if a signal ended it
+    std::string out;
+    std::string err;
+};
+
+// A sanitized program that makes a stack of its own says so once. The program itself says nothing of it.
+inline std::string WithoutSanitizerNotice(std::string output)
+{
+    const std::size_t notice = output.find("WARNING: ASan doesn't fully support makecontext/swapcontext");
+    if (notice == std::string::npos)
+        return output;
+    const std::size_t lineBegin = output.rfind('\n', notice) + 1; // 0 on the first line
+    return output.erase(lineBegin, output.find('\n', notice) + 1 - lineBegin);
+}
+
+class CProgramFixture : public testing::Test
+{
+protected:
+    // `program` stands in the folder of built programs.
+    explicit CProgramFixture(std::string program) : m_Program(std::move(program)) {}
+
+    void Put(const std::string& name, const std::string& content)
+    {
+        std::filesystem::create_directories((m_Folder / name).parent_path());
+        std::ofstream(m_Folder / name, std::ios::binary) << content;
+    }
+
+    std::string Get(const std::string& name) const { return ReadWholeFile((m_Folder / name).string()); }
+    bool Has(const std::string& name) const { return std::filesystem::exists(m_Folder / name); }
+
+    // `arguments` is shell text; standard input is the file "in" if there is one.
+    SRunResult Run(const std::string& arguments) const
+    {
+        return RunProgram(UV_BIN_DIR "/" + m_Program, arguments);
+    }
+
+    SRunResult RunProgram(const std::string& program, const std::string& arguments) const
+    {
+        const std::string command = "cd '" + m_Folder.string() + "' && '" + program +
+                                    "' >out.txt 2>err.txt <" + (Has("in") ? "in" : "/dev/null") + ' ' +
+                                    arguments;
+        SRunResult result;
+        const int status = std::system(command.c_str());
+        result.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        result.out = Get("out.txt");
+        result.err = WithoutSanitizerNotice(Get("err.txt"));
+        return result;
+    }
+
+    // In the build folder, so that programs can be linked into it.
+    CTemporaryFolder m_Owner{UV_BIN_DIR "/../program-test-"};
+    std::filesystem::path m_Folder = m_Owner.Path();
+
+private:
+    std::string m_Program;
+};

@@ -1,0 +1,253 @@
+#include "Tools/uvparse/Selection.h"
+
+#include "Tools/uvparse/PrettyTree.h"
+#include "UVEnvironment/UVEXmlRead.h"
+
+#include <libxml/tree.h>
+#include <libxml/xmlerror.h>
+#include <libxml/xpath.h>
+#include <libxml/xpathInternals.h>
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <new>
+#include <utility>
+
+namespace uvparse {
+
+namespace {
+
+struct SFree
+{
+    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+    void operator()(xmlXPathContext* context) const { xmlXPathFreeContext(context); }
+    void operator()(xmlXPathCompExpr* expression) const { xmlXPathFreeCompExpr(expression); }
+    void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
+    void operator()(xmlBuffer* buffer) const { xmlBufferFree(buffer); }
+    void operator()(xmlChar* text) const { xmlFree(text); }
+};
+
+template <class T>
+using TOwner = std::unique_ptr<T, SFree>;
+
+// While it lives, what libxml2 has to say comes here and not to standard error. Some of it says which name is
+// unknown, some that a limit was hit and the result isn't whole.
+class CXPathErrors
+{
+public:
+    CXPathErrors()
+        : m_Structured(xmlStructuredError), m_StructuredContext(xmlStructuredErrorContext),
+          m_Generic(xmlGenericError), m_GenericContext(xmlGenericErrorContext)
+    {
+        xmlSetStructuredErrorFunc(this, &Take);
+        xmlSetGenericErrorFunc(this, &TakeRemark);
+    }
+    CXPathErrors(const CXPathErrors&) = delete;
+    CXPathErrors& operator=(const CXPathErrors&) = delete;
+    ~CXPathErrors()
+    {
+        xmlSetStructuredErrorFunc(m_StructuredContext, m_Structured);
+        xmlSetGenericErrorFunc(m_GenericContext, m_Generic);
+    }
+
+    bool HasFailed() const { return m_HasFailed; }
+    std::string Text() const
+    {
+        return m_Remark.empty() || m_Text.empty() ? m_Text + m_Remark : m_Text + " (" + m_Remark + ')';
+    }
+    // In bytes into the expression.
+    std::size_t Offset() const { return m_Offset; }
+
+private:
+    static void Take(void* self, xmlError* error)
+    {
+        auto& errors = *static_cast<CXPathErrors*>(self);
+        if (error == nullptr || error->level < XML_ERR_ERROR || errors.m_HasFailed)
+            return;
+        errors.m_HasFailed = true;
+        errors.m_Text = Trimmed(error->message == nullptr ? "" : error->message);
+        errors.m_Offset = error->int1 > 0 ? static_cast<std::size_t>(error->int1) : 0;
+    }
+
+    static void TakeRemark(void* self, const char* format, ...)
+    {
+        char text[300];
+        va_list arguments;
+        va_start(arguments, format);
+        std::vsnprintf(text, sizeof(text), format, arguments);
+        va_end(arguments);
+        std::string remark = Trimmed(text);
+        // The name of a function of libxml2's own says nothing to a user.
+        if (remark.starts_with("xmlXPath"))
+            remark.erase(0, std::min(remark.find(": "), remark.size() - 2) + 2);
+        static_cast<CXPathErrors*>(self)->m_Remark = remark;
+    }
+
+    static std::string Trimmed(std::string text)
+    {
+        text.erase(text.find_last_not_of(" \n") + 1);
+        return text;
+    }
+
+    xmlStructuredErrorFunc m_Structured;
+    void* m_StructuredContext;
+    xmlGenericErrorFunc m_Generic;
+    void* m_GenericContext;
+    std::string m_Text;
+    std::string m_Remark;
+    std::size_t m_Offset = 0;
+    bool m_HasFailed = false;
+};
+
+std::size_t CountCodePoints(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+    }));
+}
+
+std::string_view View(const xmlChar* text)
+{
+    return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);
+}
+
+// One node after the other as XML.
+class CNodeWriter
+{
+public:
+    explicit CNodeWriter(xmlDoc* document) : m_Document(document), m_Buffer(xmlBufferCreate())
+    {
+        if (m_Buffer)
+            xmlBufferSetAllocationScheme(m_Buffer.get(), XML_BUFFER_ALLOC_DOUBLEIT);
+    }
+
+    // Valid until the next call.
+    std::string_view Write(xmlNode* node)
+    {
+        if (m_Buffer)
+            xmlBufferEmpty(m_Buffer.get());
+        if (node->type == XML_DOCUMENT_NODE) {
+            for (xmlNode* child = node->children; child != nullptr; child = child->next)
+                Dump(child);
+        } else {
+            Dump(node);
+        }
+        std::string_view text = View(xmlBufferContent(m_Buffer.get()));
+        // An attribute comes with the blank that parts it from the one before.
+        if (node->type == XML_ATTRIBUTE_NODE || node->type == XML_NAMESPACE_DECL)
+            text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+        return text;
+    }
+
+private:
+    void Dump(xmlNode* node)
+    {
+        if (!m_Buffer || xmlNodeDump(m_Buffer.get(), m_Document, node, 0, 0) < 0)
+            throw CToolFailure("a selected node is too large to be printed");
+    }
+
+    xmlDoc* m_Document;
+    TOwner<xmlBuffer> m_Buffer;
+};
+
+void WriteNodes(xmlDoc* document, xmlNodeSet* nodes, const SSelectionLook& look, const TTextSink& sink)
+{
+    CNodeWriter writer(document);
+    for (int i = 0; i < xmlXPathNodeSetGetLength(nodes); ++i) {
+        xmlNode* const node = xmlXPathNodeSetItem(nodes, i);
+        const std::string_view text = writer.Write(node);
+        sink(look.prefix);
+        const bool hasElements = node->type == XML_ELEMENT_NODE || node->type == XML_DOCUMENT_NODE;
+        if (!look.isPretty || !hasElements || WritePretty(text, sink))
+            sink(text);
+        sink("\n");
+    }
+}
+
+} // namespace
+
+class CSelector::CExpression
+{
+public:
+    // Throws: CToolFailure.
+    explicit CExpression(const std::string& text)
+    {
+        CXPathErrors errors;
+        if (!Compile(text))
+            throw CToolFailure("--xpath '" + text + "': " + errors.Text() + " at character " +
+                               std::to_string(CountCodePoints(text.substr(0, errors.Offset())) + 1));
+        // libxml2 walks plain paths in a way of their own that passes over whatever lies deeper than 10000
+        // elements. Brackets keep it off that way.
+        m_Compiled = Compile('(' + text + ')');
+        if (!m_Compiled)
+            throw CToolFailure("--xpath '" + text + "': " + errors.Text());
+    }
+
+    // Throws: CToolFailure.
+    TOwner<xmlXPathObject> Evaluate(xmlDoc* document, const std::string& text) const
+    {
+        CXPathErrors errors;
+        const TOwner<xmlXPathContext> context(xmlXPathNewContext(document));
+        if (!context)
+            throw std::bad_alloc();
+        context->node = reinterpret_cast<xmlNode*>(document);
+        TOwner<xmlXPathObject> result(xmlXPathCompiledEval(m_Compiled.get(), context.get()));
+        if (!result || errors.HasFailed())
+            throw CToolFailure("--xpath '" + text + "': " + errors.Text());
+        return result;
+    }
+
+private:
+    static TOwner<xmlXPathCompExpr> Compile(const std::string& text)
+    {
+        const TOwner<xmlXPathContext> context(xmlXPathNewContext(nullptr));
+        if (!context)
+            throw std::bad_alloc();
+        return TOwner<xmlXPathCompExpr>(
+            xmlXPathCtxtCompile(context.get(), reinterpret_cast<const xmlChar*>(text.c_str())));
+    }
+
+    TOwner<xmlXPathCompExpr> m_Compiled;
+};
+
+CSelector::CSelector(std::string expression)
+    : m_Text(std::move(expression)), m_Expression(std::make_unique<CExpression>(m_Text))
+{
+    // Unknown names and wrong types come out only when the expression is at work: here, before any file is
+    // read.
+    const TOwner<xmlDoc> document(xmlNewDoc(nullptr));
+    if (document)
+        m_Expression->Evaluate(document.get(), m_Text);
+}
+
+CSelector::~CSelector() = default;
+
+bool CSelector::Write(std::string_view tree, const std::string& name, const SSelectionLook& look,
+                      const TTextSink& sink) const
+{
+    if (tree.empty())
+        return false;
+    const TOwner<xmlDoc> document(Uve::ReadXml(tree.data(), tree.size()));
+    if (!document)
+        throw CToolFailure(name + ": --xpath can't read the tree: it is not well-formed, or too large");
+    // Characters beyond ASCII are printed as they are where the document says that it can hold them.
+    if (document->encoding == nullptr)
+        document->encoding = xmlStrdup(reinterpret_cast<const xmlChar*>("UTF-8"));
+    // Numbers on the elements, without which sorting a result compares by walking the tree.
+    xmlXPathOrderDocElems(document.get());
+
+    const TOwner<xmlXPathObject> result = m_Expression->Evaluate(document.get(), m_Text);
+    if (result->type == XPATH_NODESET) {
+        xmlXPathNodeSetSort(result->nodesetval);
+        WriteNodes(document.get(), result->nodesetval, look, sink);
+    } else {
+        const TOwner<xmlChar> text(xmlXPathCastToString(result.get()));
+        sink(look.prefix);
+        sink(View(text.get()));
+        sink("\n");
+    }
+    return xmlXPathCastToBoolean(result.get()) != 0;
+}
+
+} // namespace uvparse

@@ -1,0 +1,42 @@
+// What an XPath expression selects in a tree.
+#pragma once
+
+#include "Tools/Support/ToolFiles.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace uvparse {
+
+struct SSelectionLook
+{
+    std::string prefix; // in front of each result
+    bool isPretty = false;
+};
+
+class CSelector
+{
+public:
+    // Throws: CToolFailure with the place in `expression` at which it makes no sense.
+    explicit CSelector(std::string expression);
+    ~CSelector();
+
+    CSelector(const CSelector&) = delete;
+    CSelector& operator=(const CSelector&) = delete;
+
+    // Writes what is selected in `tree`, a line feed behind each: nodes as XML in document order, a string, a
+    // number or a boolean as it is. An empty tree has nothing to select from.
+    // Returns: whether anything was found: a node, or a value that isn't an empty string, zero or false.
+    // Throws: CToolFailure; `name` is what it calls the tree.
+    bool Write(std::string_view tree, const std::string& name, const SSelectionLook& look,
+               const TTextSink& sink) const;
+
+private:
+    class CExpression;
+
+    std::string m_Text;
+    std::unique_ptr<CExpression> m_Expression;
+};
+
+} // namespace uvparse
