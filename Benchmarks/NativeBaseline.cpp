@@ -4,7 +4,6 @@
 
 #include "Benchmarks/Native/NativeParse.h"
 #include "Grammar/UVGrammarLexer.h"
-#include "Grammar/UVGrammarLexer.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Metadata/UVDBOptionWrapper.h"

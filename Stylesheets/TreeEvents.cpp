@@ -174,9 +174,9 @@ void CTreeEvents::Forget(std::uint64_t index)
 std::uint32_t CTreeEvents::Intern(std::string_view name)
 {
     const std::size_t half = name.size() / 2;
-    const std::size_t sum = name.size() * 67 + static_cast<unsigned char>(name.back()) * 5u +
-                            static_cast<unsigned char>(name[half]) * 131u +
-                            static_cast<unsigned char>(name[half / 2]) * 29u;
+    const auto letter = [&](std::size_t at) { return std::size_t{static_cast<unsigned char>(name[at])}; };
+    const std::size_t sum =
+        name.size() * 67 + letter(name.size() - 1) * 5 + letter(half) * 131 + letter(half / 2) * 29;
     std::uint32_t& recent = m_Recent[sum % kRecentNames];
     if (recent != kNoName && m_Names[recent] == name)
         return recent;

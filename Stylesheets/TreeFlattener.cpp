@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr char kDeclaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-
 // Nothing but delimiters in delimiters makes a tree grow more than this.
 constexpr std::size_t kMostGrowth = 16;
 constexpr std::size_t kAlwaysAllowed = std::size_t{1} << 20;
@@ -66,9 +64,10 @@ public:
         : m_Events(tree), m_Out(out), m_MostOutput(tree.size() * kMostGrowth + kAlwaysAllowed)
     {}
 
-    void Run()
+    void Run(std::string_view declaration)
     {
-        m_Out = kDeclaration;
+        m_Out = declaration;
+        m_Out += '\n';
         const std::size_t declared = m_Out.size();
         Apply(0, kNoName, false, false);
         while (!m_Frames.empty())
@@ -604,12 +603,12 @@ void CTreeFlattener::StartTagAsRead(const STreeEvent& event)
 
 } // namespace
 
-bool FlattenTree(std::string_view tree, std::string& out)
+bool FlattenTree(std::string_view tree, std::string& out, std::string_view declaration)
 {
     out.clear();
     try {
         out.reserve(tree.size() + tree.size() / 8);
-        CTreeFlattener(tree, out).Run();
+        CTreeFlattener(tree, out).Run(declaration);
         return true;
     } catch (const STreeDeclined&) {
         out = std::string();

@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 
-// Flattens `tree` (UTF-8) and puts the result document's text, its declaration line first, in the place of
-// `out`. Time and memory grow with the text alone, however deep the tree is: beside `out`, the records of
-// elements that wait for a decision are held, less than the text itself.
-// Returns: false, with `out` empty, for a text that isn't a tree in the plain form which CTreeEvents reads:
+// What a serialiser puts in front of a document.
+inline constexpr std::string_view kXmlDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
+
+// Flattens `tree` (UTF-8) and puts the result document's text in the place of `out`, behind `declaration` and
+// a line feed. Time and memory grow with the text alone, however deep the tree is: beside `out`, the records
+// of elements that wait for a decision are held, less than the text itself. Returns: false, with `out` empty,
+// for a text that isn't a tree in the plain form which CTreeEvents reads:
 //          the stylesheet decides about it.
 // Throws:  std::length_error if the rules multiply the tree: delimiters within delimiters are copied again at
 //          each level.
-[[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out);
+[[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out,
+                               std::string_view declaration = kXmlDeclaration);

@@ -88,7 +88,7 @@ NamedTexts SplitPairs(const Texts& texts, const std::string& option, const std::
     for (const std::string& text : texts) {
         const std::size_t equals = text.find('=');
         if (equals == std::string::npos || equals == 0)
-            throw CUsageError(option + " takes " + form + ", not '" + text + "'");
+            throw CUsageError(std::string(option).append(" takes ").append(form) + ", not '" + text + "'");
         pairs.emplace_back(text.substr(0, equals), text.substr(equals + 1));
     }
     return pairs;

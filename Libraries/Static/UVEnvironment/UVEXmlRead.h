@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-struct _xmlDoc;
+struct _xmlDoc; // NOLINT(bugprone-reserved-identifier): a name of libxml2
 
 namespace Uve {
 
