@@ -1,0 +1,11 @@
+// IBM CL, whose commands may go on over several lines.
+#pragma once
+
+#include "Preparation/PreparedText.h"
+#include "UVEnvironment/UVEUnicodeString.h"
+
+// Joins the lines of a command: behind a "+" at the end of a line the next one loses its leading white space,
+// behind a "-" it keeps it. A blank behind the sign makes it text. Empty lines vanish, and so does "\r" at
+// the ends of lines; the line feeds at the end stay. Then the last character of the text goes, whatever it
+// is: a text that doesn't end in a line feed loses more than that. A second run takes another one.
+SPreparedText FormatIbmCl(const Uve::U8CString& text);

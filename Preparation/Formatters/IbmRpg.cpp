@@ -1,0 +1,239 @@
+#include "Preparation/Formatters/IbmRpg.h"
+
+#include "Preparation/Formatters/SourceLines.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t kLetterColumn = 5;
+constexpr std::size_t kFirstColumn = 6; // of what a specification holds
+constexpr std::size_t kEndColumn = 80;  // what lies behind it belongs to no piece
+constexpr int kBlockClosed = -1;
+
+struct SRpgPiece
+{
+    std::size_t column = 0; // it goes on up to the next piece; column 0 is none
+    std::string_view label;
+};
+
+struct SRpgSpecification
+{
+    char letter;
+    std::array<SRpgPiece, 3> pieces;
+};
+
+// clang-format off
+constexpr SRpgSpecification kWithDefinitions[] = {
+    {'F', {{{6, "F"}, {35, "FD"},  {43, "FO"} }}},
+    {'D', {{{6, "D"}, {42, "DK"}              }}},
+    {'C', {{{6, "C"}, {80, "COM"}             }}},
+    {'I', {{{6, "I"}, {80, ""}                }}},
+    {'O', {{{6, "O"}, {80, ""}                }}},
+    {'P', {{{6, "P"}, {43, "PK"}              }}},
+};
+constexpr SRpgSpecification kOlder[] = {
+    {'F', {{{6, "F"}, {39, "FD"},  {72, "FO"} }}},
+    {'C', {{{6, "C"}, {59, "COM"}             }}},
+    {'I', {{{6, "I"}, {42, "IF"},  {74, "COM"}}}},
+    {'O', {{{6, "O"}, {37, "OF"},  {74, "COM"}}}},
+};
+// clang-format on
+
+struct SRpgLayout
+{
+    std::span<const SRpgSpecification> specifications;
+    std::string_view copiedLetters; // specifications that go out as they stand
+    std::string_view commentMarks;  // at the first column
+    std::string_view copyingBegins; // at the first column: lines go out as they stand ...
+    std::string_view copyingEnds;   // ... up to this one
+    bool isCopyingByCalculations;   // only C lines begin and end that
+    bool hasCompileTimeData;        // from a line on that begins with "*"
+    std::size_t operationAt;        // in the first piece of a C line
+};
+
+constexpr SRpgLayout kLayouts[] = {
+    {kWithDefinitions, "H", "*/", "/FREE", "/END-FREE", false, true, 20},
+    {kOlder, "HEL", "*", "/EXEC SQL", "/END-EXEC", true, false, 22},
+};
+
+char Upper(char letter)
+{
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+// `word` is in upper case. A word that the text is too short for isn't there.
+bool StartsWithNoCase(std::string_view text, std::string_view word)
+{
+    return text.size() >= word.size() &&
+           std::equal(word.begin(), word.end(), text.begin(), [](char a, char b) { return a == Upper(b); });
+}
+
+const SRpgLayout* FindLayout(int number)
+{
+    switch (number) {
+    case kRpgLayoutWithDefinitions:
+        return &kLayouts[0];
+    case kRpgLayoutOlder:
+        return &kLayouts[1];
+    default:
+        return nullptr;
+    }
+}
+
+class CRpgPass
+{
+public:
+    CRpgPass(const SRpgLayout& layout, int layoutNumber, std::size_t sourceSize)
+        : m_Layout(layout), m_LayoutNumber(layoutNumber)
+    {
+        m_Text.reserve(sourceSize + sourceSize / 4);
+    }
+
+    void Take(const SSourceLine& line);
+
+    SPreparedText Finish()
+    {
+        Flush();
+        m_Prepared.text = std::move(m_Text);
+        return std::move(m_Prepared);
+    }
+
+private:
+    void Write(std::string_view text, std::uint32_t number)
+    {
+        m_Text.append(text);
+        m_Text += '\n';
+        m_Prepared.sourceLines.push_back(number);
+    }
+
+    // The rows of a line wait until the next one is looked at: lines of compile-time data overtake them, and
+    // only then is it said how the line ended.
+    void Flush();
+    bool SwitchCopying(const SSourceLine& line);
+    void Cut(std::string_view line, const SRpgSpecification& specification);
+
+    const SRpgLayout& m_Layout;
+    int m_LayoutNumber;
+    SPreparedText m_Prepared;
+    std::string m_Text;
+    std::vector<std::string> m_Rows;
+    std::uint32_t m_RowsLine = 0;
+    int m_Depth = 0;
+    bool m_IsCompileTimeData = false;
+    bool m_IsCopying = false;
+};
+
+void CRpgPass::Flush()
+{
+    if (!m_Rows.empty()) {
+        for (const std::string& row : m_Rows)
+            Write(row, m_RowsLine);
+        Write(m_Depth == kBlockClosed ? "#" : "$", m_RowsLine);
+        m_Rows.clear();
+    }
+    if (m_Depth == kBlockClosed)
+        m_Depth = 0;
+}
+
+// Returns: true if the line belongs to what is copied.
+bool CRpgPass::SwitchCopying(const SSourceLine& line)
+{
+    const bool canSwitch = !m_Layout.isCopyingByCalculations || Upper(line.text[kLetterColumn]) == 'C';
+    const std::string_view fields = line.text.substr(kFirstColumn);
+    if (m_IsCopying) {
+        m_IsCopying = !(canSwitch && StartsWithNoCase(fields, m_Layout.copyingEnds));
+        return true;
+    }
+    m_IsCopying = canSwitch && StartsWithNoCase(fields, m_Layout.copyingBegins);
+    return m_IsCopying;
+}
+
+void CRpgPass::Cut(std::string_view line, const SRpgSpecification& specification)
+{
+    for (std::size_t i = 0; i < specification.pieces.size(); ++i) {
+        const SRpgPiece& piece = specification.pieces[i];
+        if (piece.column == 0 || piece.column >= line.size())
+            break;
+        const bool isLast = i + 1 == specification.pieces.size() || specification.pieces[i + 1].column == 0;
+        const std::size_t end = isLast ? kEndColumn : specification.pieces[i + 1].column;
+        std::string row(piece.label);
+        row.append(line.substr(piece.column, end - piece.column));
+        m_Rows.push_back(std::move(row));
+    }
+    if (specification.letter == 'C')
+        format_section(m_Rows.front(), m_LayoutNumber, m_Depth);
+}
+
+void CRpgPass::Take(const SSourceLine& line)
+{
+    const std::string_view text = line.text;
+    if (text.size() < kFirstColumn)
+        return;
+    if (m_Layout.hasCompileTimeData) {
+        m_IsCompileTimeData = m_IsCompileTimeData || text.front() == '*';
+        if (m_IsCompileTimeData && text.size() > kFirstColumn) {
+            Write(text, line.number);
+            return;
+        }
+    }
+    Flush();
+
+    const char letter = Upper(text[kLetterColumn]);
+    const auto specification = std::ranges::find(m_Layout.specifications, letter, &SRpgSpecification::letter);
+    const bool isCut = specification != m_Layout.specifications.end();
+    const bool isCopied = m_Layout.copiedLetters.find(letter) != std::string_view::npos;
+    const bool isKnown = isCut || isCopied;
+    if (text.size() == kFirstColumn && isKnown)
+        return;
+    if (SwitchCopying(line)) {
+        Write(text.substr(kLetterColumn), line.number);
+        return;
+    }
+    if (text.size() == kFirstColumn)
+        return;
+    if (isCopied || m_Layout.commentMarks.find(text[kFirstColumn]) != std::string_view::npos) {
+        std::string copy(text.substr(kLetterColumn));
+        copy.front() = isKnown ? letter : ' ';
+        Write(copy, line.number);
+    } else if (isCut) {
+        m_RowsLine = line.number;
+        Cut(text, *specification);
+    }
+}
+
+} // namespace
+
+void format_section(std::string& piece, int layout, int& depth)
+{
+    const SRpgLayout* const columns = FindLayout(layout);
+    if (columns == nullptr || piece.size() <= columns->operationAt)
+        return;
+    const std::string_view operation = std::string_view(piece).substr(columns->operationAt);
+    const auto starts = [&](std::string_view word) { return StartsWithNoCase(operation, word); };
+    if (starts("IF") || starts("DO") || starts("CAS") || starts("SELEC") || starts("BEGSR")) {
+        ++depth;
+        piece.insert(columns->operationAt, "VelmoraBeg");
+    } else if (starts("END")) {
+        depth = depth == 1 ? kBlockClosed : depth - 1;
+        piece.insert(columns->operationAt, "VelmoraEnd");
+    }
+}
+
+SPreparedText FormatIbmRpg(std::string_view source, const SIbmRpgOptions& options)
+{
+    const SRpgLayout* const layout = FindLayout(options.layout);
+    if (layout == nullptr)
+        return {};
+    CRpgPass pass(*layout, options.layout, source.size());
+    CSourceLines lines(source);
+    for (SSourceLine line; lines.Next(line);)
+        pass.Take(line);
+    return pass.Finish();
+}

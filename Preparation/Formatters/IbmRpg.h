@@ -1,0 +1,33 @@
+// RPG in fixed form: the columns of a line become short rows that begin with a label, so that a grammar can
+// tell the fields apart.
+//
+//     C                   IF        A = B            C                   VelmoraBegIF        A = B
+//                                              =>    $
+//     C                   ENDIF                      C                   VelmoraEndENDIF
+//                                                    #
+//
+// A row of "$" ends each line that was cut; "#" stands there instead when the line closed an outermost block.
+// Columns are bytes and count from 0.
+#pragma once
+
+#include "Preparation/PreparedText.h"
+
+#include <string>
+#include <string_view>
+
+// The two column layouts. With any other number the prepared text is empty.
+inline constexpr int kRpgLayoutWithDefinitions = 0; // with D and P lines and free-form sections
+inline constexpr int kRpgLayoutOlder = 1;           // with E and L lines
+
+struct SIbmRpgOptions
+{
+    int layout = 2; // what the option IBMRPG_VERSION holds, and what counts without it
+};
+
+// A carriage return at the end of a line counts as a column.
+SPreparedText FormatIbmRpg(std::string_view source, const SIbmRpgOptions& options);
+
+// Marks the operation that opens or closes a block in `piece`: the letter "C" and a calculation line from
+// column 6 on. `depth`: of the open blocks; -1 as long as the pass hasn't answered the close of an outermost
+// one.
+void format_section(std::string& piece, int layout, int& depth);

@@ -1,0 +1,25 @@
+// Progress 4GL: takes the include files in. A reference reads "{file.i arguments}".
+#pragma once
+
+#include "Preparation/PreparedText.h"
+
+#include <cstddef>
+#include <string_view>
+
+struct SProgressOptions
+{
+    // The source file. A file that isn't found by its own name is looked for in this one's directory, by the
+    // last part of its name.
+    Uve::U8CString filePath;
+    // How many bytes longer than the source the text may become.
+    std::size_t expansionLimit = std::size_t{64} << 20;
+};
+
+// In rounds: each takes the first reference, fills its arguments into the file's text ("&name=value" wherever
+// "{&name}" stands, a plain value into the first "{&...}" that is left), and puts that in the place of every
+// reference to the same file. A file that is missing or can't be read has no text. Values and files are
+// format strings of the regular expression library: "$" and backslash sequences have their meaning there.
+// Ends when no reference is left or a round changes nothing; with a trace line after 1,000 rounds, and before
+// the round that would exceed the limit, leave some million pieces of text, or spend minutes on format
+// strings.
+SPreparedText FormatProgress(std::string_view source, const SProgressOptions& options);

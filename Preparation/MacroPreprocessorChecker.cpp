@@ -1,0 +1,472 @@
+#include "Preparation/MacroPreprocessorChecker.h"
+
+#include "Preparation/MacroHeaders.h"
+#include "Preparation/MacroRun.h"
+
+#include <array>
+#include <exception>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+#include <utility>
+
+namespace MacroPreprocessorChecker {
+
+using namespace internal;
+
+namespace {
+
+// By enErrorType.
+constexpr std::array<std::string_view, 8> kLabels = {
+    "#error: ",       "#warning: ",    "missing header: ",       "include nested too deeply: ",
+    "syntax error: ", "portability: ", "unhandled char error: ", "explicit include not found: ",
+};
+
+// Writes the tokens of an expansion. A line of them is one token of the output: only its text matters, and an
+// expansion may be long.
+class ExpansionWriter
+{
+public:
+    ExpansionWriter(TokenList& output, const Token& call, std::string& lastText)
+        : m_Output(output), m_Call(call), m_LastText(lastText)
+    {}
+
+    void Add(const Token& token)
+    {
+        if (token.IsNextLineToken()) {
+            Flush();
+            Push(new TokenNewString(m_Call.location));
+            m_LastText.clear();
+        } else if (token.SkipWhenNextOrPrev()) {
+            m_Text += token.strToFile();
+            m_LastText.clear();
+        } else {
+            // outside of functions the reader leaves the characters of "++" apart: what stood together stays
+            // so
+            const bool stoodTogether = m_Last != nullptr && m_Last->next == &token;
+            if (!stoodTogether && WouldJoin(m_LastText, token.str))
+                m_Text += ' ';
+            m_Text += token.str;
+            m_LastText = token.str;
+        }
+        m_Last = &token;
+    }
+
+    void Flush()
+    {
+        if (!m_Text.empty())
+            Push(new Token(std::exchange(m_Text, {}), m_Call.location));
+    }
+
+private:
+    void Push(Token* token)
+    {
+        token->sourceLine = m_Call.sourceLine;
+        m_Output.push_back(token);
+    }
+
+    TokenList& m_Output;
+    const Token& m_Call;
+    std::string& m_LastText;
+    std::string m_Text;
+    const Token* m_Last = nullptr; // borrowed from the expansion
+};
+
+bool IsWhite(const Token& token)
+{
+    return token.comment || token.SkipWhenNextOrPrev();
+}
+
+// The first significant token of a line, from the line's first token; null if there is none.
+const Token* FirstInk(const Token* token)
+{
+    const std::uint32_t line = token->sourceLine;
+    while (token != nullptr && token->sourceLine == line && IsWhite(*token))
+        token = token->next;
+    return token != nullptr && token->sourceLine == line ? token : nullptr;
+}
+
+// Tokens that are read, and written, at a time.
+constexpr std::size_t kPiece = 4096;
+
+// The header names of a list's "#include" lines.
+void CollectHeaders(const TokenList& list, std::set<std::string>& names)
+{
+    for (const Token* token = list.first; token != nullptr; token = token->next) {
+        if (token->op != '#' || !StartsDirective(token))
+            continue;
+        const Token* const include = NextSignificant(token);
+        const Token* const name =
+            include != nullptr && include->str == "include" ? NextSignificant(include) : nullptr;
+        if (name == nullptr || name->sourceLine != token->sourceLine || name->str.size() < 2)
+            continue;
+        if (name->str.front() == '<' || name->str.front() == '"')
+            names.insert(name->str);
+    }
+}
+
+} // namespace
+
+bool Checker::PreprocessFile(const std::string& filePath, const std::string& text, Uve::U8CString& result,
+                             Command command, const DefaultPresetValues& presets, Uve::U8CString& errorText,
+                             const std::shared_ptr<UndefinesTokens>& undefinesTokens,
+                             std::vector<std::uint32_t>* sourceLines)
+{
+    result = Uve::U8CString();
+    if (sourceLines != nullptr)
+        sourceLines->clear();
+    try {
+        Checker checker(filePath, text, presets);
+        const bool isDone = checker.LoadSourceFile() && checker.LoadOtherFiles() &&
+                            checker.RunCommand(command, undefinesTokens.get());
+        checker.GetErrors(errorText);
+        if (isDone)
+            checker.SaveResult(result, sourceLines);
+        return isDone;
+    } catch (const std::exception& error) {
+        errorText += Uve::U8CString(std::string("ERROR!!! std::exception : ") + error.what() + ".\n");
+    } catch (...) {
+        errorText += Uve::U8CString("ERROR!!! some exception.\n");
+    }
+    return false;
+}
+
+Checker::Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values)
+    : filePath(path), sourceText(source), presets(values), rawTokens(std::make_shared<TokenList>(files)),
+      output(std::make_shared<TokenList>(files)), m_Reader(*rawTokens, sourceText, filePath, errors, false),
+      m_Writer(&m_SourceLines)
+{}
+
+Checker::~Checker() = default;
+
+bool Checker::LoadSourceFile()
+{
+    do {
+        rawTokens->clear();
+        m_HasMore = m_Reader.Read(kPiece);
+        CollectHeaders(*rawTokens, m_MainHeaders);
+    } while (m_HasMore);
+    rawTokens->clear();
+    m_Reader.Restart();
+    return CheckErrorResult();
+}
+
+// All files are read before anything runs, whether or not a condition lets them be included.
+bool Checker::LoadOtherFiles()
+{
+    std::vector<std::string> loaded;
+    for (const std::string& name : presets.explicitIncludes) {
+        const std::string path = simplifyPath(name);
+        if (fileData.contains(path))
+            continue;
+        if (LoadHeader(path))
+            loaded.push_back(path);
+        else
+            errorText +=
+                "Preprocessor> Can not open include file '" + name + "' that is explicitly included.\n";
+    }
+    LoadHeaders(filePath, m_MainHeaders, loaded);
+    while (!loaded.empty()) {
+        const std::string path = std::move(loaded.back());
+        loaded.pop_back();
+        std::set<std::string> names;
+        CollectHeaders(*fileData.at(path).tokens, names);
+        LoadHeaders(path, names, loaded);
+    }
+    return CheckErrorResult();
+}
+
+void Checker::LoadHeaders(const std::string& sourceFile, const std::set<std::string>& names,
+                          std::vector<std::string>& loaded)
+{
+    for (const std::string& name : names) {
+        const std::size_t known = fileData.size();
+        const std::string path = FindHeader(sourceFile, name.substr(1, name.size() - 2), name.front() == '<');
+        if (fileData.size() != known)
+            loaded.push_back(path);
+        if (!errors.empty())
+            return;
+    }
+}
+
+std::string Checker::FindHeader(const std::string& sourceFile, const std::string& header, bool isSystem)
+{
+    for (const std::string& path : HeaderPlaces(presets.includePaths, sourceFile, header, isSystem))
+        if (fileData.contains(path) || LoadHeader(path))
+            return path;
+    return std::string();
+}
+
+// The limit bounds what a reader can be made to hold: a token takes many times the memory of its text.
+bool Checker::LoadHeader(const std::string& path)
+{
+    std::ifstream stream;
+    if (!OpenHeader(stream, path))
+        return false;
+    SHeader header{std::make_shared<TokenList>(files)};
+    std::string text;
+    std::array<char, 65536> block;
+    do {
+        stream.read(block.data(), block.size());
+        text.append(block.data(), static_cast<std::size_t>(stream.gcount()));
+    } while (stream && m_LoadedBytes + text.size() <= presets.expansionLimit);
+    m_LoadedBytes += text.size();
+    header.size = text.size();
+    if (m_LoadedBytes > presets.expansionLimit)
+        Report(MISSING_HEADER, Location(files, header.tokens->fileIndex(path)),
+               "the include files are larger than " + std::to_string(presets.expansionLimit) + " bytes.");
+    else
+        header.tokens->readtext(text, path, errors, true);
+    fileData.emplace(path, std::move(header));
+    return true;
+}
+
+void Checker::Report(enErrorType type, const Location& location, std::string message)
+{
+    errors.push_back({type, location, std::move(message)});
+}
+
+bool Checker::CheckErrorResult()
+{
+    for (const ErorrOutput& error : errors) {
+        errorText += error.location.file() + " : " + std::to_string(error.location.line) + " : ";
+        errorText += kLabels[error.type];
+        errorText += error.msg + '\n';
+    }
+    return errors.empty();
+}
+
+void Checker::GetErrors(Uve::U8CString& text) const
+{
+    text += Uve::U8CString(errorText);
+}
+
+void Checker::SaveResult(Uve::U8CString& result, std::vector<std::uint32_t>* sourceLines)
+{
+    for (const Token* token = output->first; token != nullptr; token = token->next)
+        m_Writer.Write(*token);
+    result = std::move(m_Writer.Text());
+    if (sourceLines != nullptr)
+        *sourceLines = std::move(m_SourceLines);
+}
+
+// ---- The run ----
+
+bool Checker::RunCommand(Command command, UndefinesTokens* undefinesTokens)
+{
+    SRun run(command, files, presets, undefinesTokens,
+             [this](const Token& token) { return Following(token); });
+    DefinePresets(run);
+    m_HasMore = m_Reader.Read(kPiece);
+    run.conditionals.push_back({SRun::STATE_TRUE, Location(files)});
+    run.positions.push_back({rawTokens->first, filePath});
+    for (const std::string& name : presets.explicitIncludes) {
+        const auto header = fileData.find(simplifyPath(name));
+        if (header != fileData.end())
+            run.positions.push_back({header->second.tokens->first, header->first});
+    }
+    const bool isWhole = RunTokens(run);
+    for (std::size_t i = 1; isWhole && i < run.conditionals.size(); ++i) {
+        const Location& opened = run.conditionals[i].opened;
+        errorText += opened.file() + " : " + std::to_string(opened.line) + " : #endif not found\n";
+    }
+    return CheckErrorResult() && isWhole;
+}
+
+void Checker::DefinePresets(SRun& run)
+{
+    for (const std::string& preset : presets.defines) {
+        if (preset.empty())
+            continue;
+        const std::size_t equals = preset.find('=');
+        if (presets.undefines.contains(preset.substr(0, preset.find_first_of("=("))))
+            continue;
+        auto macro = std::make_unique<Macro>(preset.substr(0, equals),
+                                             equals == preset.npos ? "1" : preset.substr(equals + 1), files);
+        const std::string name = macro->Name();
+        run.macros.Add(name, std::move(macro));
+    }
+    run.macros.Add("__FILE__", std::make_unique<Macro>(Macro::KIND_FILE, files));
+    run.macros.Add("__LINE__", std::make_unique<Macro>(Macro::KIND_LINE, files));
+    run.macros.Add("__COUNTER__", std::make_unique<Macro>(Macro::KIND_COUNTER, files));
+}
+
+bool Checker::RunTokens(SRun& run)
+{
+    for (;;) {
+        if (run.current.token == nullptr) {
+            if (run.positions.empty())
+                return true;
+            run.current = std::move(run.positions.back());
+            run.positions.pop_back();
+            continue;
+        }
+        if (const Token* const ink = FirstInk(run.current.token); ink != nullptr && ink->op == '#') {
+            if (!RunDirective(run, ink))
+                return false;
+        } else if (!run.IsLive()) {
+            AddAllTokensCurrLine(run, run.isVerbatim);
+        } else if (!RunLine(run)) {
+            return false;
+        }
+    }
+}
+
+// The tokens of an ordinary line, and those of the lines that a macro's arguments run over.
+bool Checker::RunLine(SRun& run)
+{
+    std::uint32_t line = run.current.token->sourceLine;
+    while (run.current.token != nullptr && run.current.token->sourceLine == line) {
+        const Token& token = *run.current.token;
+        const Macro* const macro = token.name ? run.macros.Find(token.str) : nullptr;
+        if (macro != nullptr && run.isExpanding) {
+            if (!preprocessToken(run, line))
+                return false;
+            continue;
+        }
+        Take(run);
+        if (token.hidden || run.isExpanding)
+            continue;
+        if (!run.statementCalls.empty())
+            FollowStatementCall(run, token);
+        if (macro != nullptr && macro->EndsStatement())
+            KeepStatement(run, *macro, token);
+    }
+    return true;
+}
+
+// Expands the macro at the current token. `line` becomes the line where its call ends.
+bool Checker::preprocessToken(SRun& run, std::uint32_t& line)
+{
+    const Token& name = *run.current.token;
+    const Token* const before = output->last;
+    if (!run.isBehindExpansion) {
+        const bool isAdjacent = before != nullptr && before->sourceLine == line && !IsWhite(*before);
+        run.lastText = isAdjacent ? before->str : std::string();
+    } else if (run.expansionLine != line) {
+        run.lastText.clear();
+    }
+    ExpansionWriter writer(*output, name, run.lastText);
+    Token* last = nullptr;
+    try {
+        run.current.token = run.expander.ExpandCall(
+            run.current.token,
+            [&](const Token& token) {
+                if (!name.hidden)
+                    writer.Add(token);
+            },
+            &last);
+    } catch (const Macro::Error& error) {
+        Report(SYNTAX_ERROR, error.location, "failed to expand '" + name.str + "', " + error.what());
+        return false;
+    }
+    writer.Flush();
+    line = last->sourceLine;
+    run.expansionLine = line;
+    run.isBehindExpansion = !name.hidden;
+    while (run.isBehindExpansion && rawTokens->first != run.current.token)
+        rawTokens->deleteToken(rawTokens->first);
+    return true;
+}
+
+// The token behind one of the source's, for which another piece of the main source may have to be read.
+Token* Checker::Following(const Token& token)
+{
+    while (token.next == nullptr && !token.hidden && m_HasMore)
+        m_HasMore = m_Reader.Read(kPiece);
+    return token.next;
+}
+
+// Hands the current token on to the output. The main source is run through once, so its tokens aren't copied.
+void Checker::Take(SRun& run)
+{
+    Token* const token = run.current.token;
+    run.current.token = Following(*token);
+    if (token->hidden)
+        return;
+    rawTokens->release(token);
+    if (run.isBehindExpansion && token->sourceLine == run.expansionLine && !IsWhite(*token) &&
+        WouldJoin(run.lastText, token->str)) {
+        Token* const blank = new Token(" ", token->location);
+        blank->sourceLine = token->sourceLine;
+        output->push_back(blank);
+    }
+    run.isBehindExpansion = false;
+    output->push_back(token);
+    if (++run.unwritten >= kPiece)
+        WriteOutput(run);
+}
+
+// All but the last token, which what follows may have to stand apart from.
+void Checker::WriteOutput(SRun& run)
+{
+    while (output->first != output->last) {
+        m_Writer.Write(*output->first);
+        output->deleteToken(output->first);
+    }
+    run.unwritten = 0;
+}
+
+// Goes to the next line, which keeps its indentation.
+void Checker::AddAllTokensCurrLine(SRun& run, bool keep)
+{
+    const std::uint32_t line = run.current.token->sourceLine;
+    while (run.current.token != nullptr && run.current.token->sourceLine == line) {
+        if (keep) {
+            Take(run);
+            continue;
+        }
+        Token* const dropped = run.current.token;
+        run.current.token = Following(*dropped);
+        if (!dropped->hidden)
+            rawTokens->deleteToken(dropped);
+    }
+}
+
+// A macro whose replacement ends a statement still ends one where it isn't expanded, behind its arguments if
+// it takes some.
+void Checker::KeepStatement(SRun& run, const Macro& macro, const Token& name)
+{
+    const Token* following = run.current.token;
+    while (following != nullptr && IsWhite(*following))
+        following = Following(*following);
+    const char op = following == nullptr ? '\0' : following->op;
+    if (!macro.IsFunctionLike()) {
+        if (op != ';')
+            AddSemicolon(name);
+    } else if (op == '(') {
+        if (run.statementCalls.empty())
+            run.parentheses = 0;
+        run.statementCalls.push_back(run.parentheses);
+    }
+}
+
+void Checker::FollowStatementCall(SRun& run, const Token& taken)
+{
+    if (taken.op == '(')
+        ++run.parentheses;
+    if (taken.op != ')' || run.parentheses == 0 || --run.parentheses != run.statementCalls.back())
+        return;
+    run.statementCalls.pop_back();
+    const Token* following = run.current.token;
+    while (following != nullptr && IsWhite(*following))
+        following = Following(*following);
+    if (following == nullptr || following->op != ';')
+        AddSemicolon(taken);
+}
+
+void Checker::AddSemicolon(const Token& before)
+{
+    Token* const semicolon = new Token(";", before.location);
+    semicolon->sourceLine = before.sourceLine;
+    output->push_back(semicolon);
+}
+
+bool Checker::FailRun(const Token& where, std::string message)
+{
+    Report(SYNTAX_ERROR, where.location, std::move(message));
+    output->clear();
+    return false;
+}
+
+} // namespace MacroPreprocessorChecker

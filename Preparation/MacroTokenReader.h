@@ -1,0 +1,40 @@
+// Reading a text into a token list, whole or piece by piece: a token takes many times the memory of its text.
+#pragma once
+
+#include "Preparation/MacroTokens.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace MacroPreprocessorChecker::internal {
+
+class TokenReader
+{
+public:
+    // Borrows `list` and `errors`; the text is copied. `isHidden`: the text is an include file.
+    TokenReader(TokenList& list, std::string_view text, std::string fileName, ErrorList& errors,
+                bool isHidden);
+    ~TokenReader();
+
+    // Appends about `count` more tokens, or all for which there is no place to stop before. A piece ends with
+    // a line, or inside one that is no directive; an operator or literal is never cut. Returns: false at the
+    // end of the text, or if it can't be read: then the list is empty, and the reason among the errors.
+    bool Read(std::size_t count);
+
+    // Begins with the text again.
+    void Restart();
+
+private:
+    class Cursor;
+
+    TokenList& m_List;
+    std::string m_Text;
+    std::string m_FileName;
+    ErrorList& m_Errors;
+    bool m_IsHidden;
+    std::unique_ptr<Cursor> m_Cursor;
+};
+
+} // namespace MacroPreprocessorChecker::internal

@@ -1,0 +1,268 @@
+#include "Preparation/Formatters/Asp.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+#include "Tests/Preparation/TemporaryFolder.h"
+
+#include <boost/regex.hpp>
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+const std::string kMarker = "'ORVANTA_VB_CODEBLOCK_";
+
+SAspPage Format(const std::string& source)
+{
+    return FormatAsp(source, {});
+}
+
+struct SBlocksCase
+{
+    const char* source;
+    std::vector<const char*> blocks;
+};
+
+TEST(Asp, BlocksOfScript)
+{
+    for (const SBlocksCase& c : std::initializer_list<SBlocksCase>{
+             {"", {}},
+             {"<% a %>\n\n<%b%><%%>", {" a ", "b", ""}},
+             {"<%@ language=vbscript %><%= v %><% \n\t= v %><%\n@x%>", {}},
+             {"<% option explicit %><%\nOption Explicit\na%><% option  explicit %>", {" option  explicit "}},
+             {"<%= \"<%a%>", {"a"}}, // the search goes on inside
+             {"<% a", {}},
+             {"<% a %> <% b", {" a "}},
+             {"<%>", {}},
+             {"<% a\r\n\r\nb %>", {" a\r\n\r\nb "}},
+             {"<script language=vbscript>a</script>", {"a"}},
+             {"<SCRIPTlanguage\n=\nVBScript runat=server>\r\na\n</Script>\n", {"\r\na\n"}},
+             {"<script language=vbscript\n>a</script>", {}}, // the tag ends on the line of its language
+             {"<script language=\"vbscript\">a</script>", {}},
+             {"<script language=javascript>a</script><script language=vbscript>b</script>", {"b"}},
+             {"<script language=vbscript a<script language=vbscript>b</script>", {"b"}},
+             {"<script language=vbscript>b", {}},
+         }) {
+        SCOPED_TRACE(c.source);
+        const SAspPage page = Format(c.source);
+        ASSERT_EQ(page.blocks.size(), c.blocks.size());
+        for (std::size_t i = 0; i < c.blocks.size(); ++i) {
+            EXPECT_EQ(page.blocks[i].text, c.blocks[i]);
+            EXPECT_EQ(page.blocks[i].marker, kMarker + std::to_string(i));
+        }
+    }
+}
+
+TEST(Asp, MarkersAndLines)
+{
+    const SAspPage page = Format("<p>\n<script language=vbscript>s\n</script>\n<% a\nb %>x<%c%>\n");
+    EXPECT_EQ(page.prepared.text, "<p>\n<script language=vbscript>\n" + kMarker + "2\ns\n" + kMarker +
+                                      "2\n</script>\n<%\n" + kMarker + "0\n a\nb " + kMarker + "0\n%>x<%\n" +
+                                      kMarker + "1\nc" + kMarker + "1\n%>\n");
+    EXPECT_EQ(page.prepared.sourceLines,
+              (std::vector<std::uint32_t>{1, 2, 2, 2, 3, 3, 4, 4, 4, 5, 5, 5, 5, 5}));
+    // the numbers go on from the first kind of block to the second
+    EXPECT_EQ(page.script, kMarker + "0\n a\nb " + kMarker + "0\n" + kMarker + "1\nc" + kMarker + "1\n" +
+                               kMarker + "2\ns\n" + kMarker + "2\n");
+    // a block inside a script element has its markers there
+    const SAspPage nested = Format("<script language=vbscript>a<%b%></script>");
+    ASSERT_EQ(nested.blocks.size(), 2U);
+    EXPECT_EQ(nested.blocks[1].text, "a<%\n" + kMarker + "0\nb" + kMarker + "0\n%>");
+}
+
+TEST(Asp, IncludeFiles)
+{
+    const CTemporaryFolder folder;
+    const SAspOptions options{folder.Write("page.asp", "")};
+    folder.Write("a.inc", "1\r\n2\n<!--#include file=\"b.inc\"-->\n<% x\n%>");
+    folder.Write("inc/b c.inc", "b");
+    folder.Write("q\".inc", "q");
+    folder.Write("empty.inc", "");
+    folder.Write("binary.inc", std::string("a\0\xFF\n", 4));
+    std::filesystem::create_directories(folder.Path("folder.inc"));
+
+    struct SIncludeCase
+    {
+        const char* source;
+        std::string text;
+        std::vector<const char*> messages;
+    };
+    for (const SIncludeCase& c : std::vector<SIncludeCase>{
+             {"<<!--#include file=\"inc/b c.inc\"-->>", "<b>", {}},
+             {"<!--\n#include\t file\n=\r\n\"inc/../inc/b c.inc\" \n-->\nx", "b\nx", {}},
+             {"<!--#include file=\"q\".inc\"-->", "q", {}}, // a quote that ends nothing
+             {"<!--#include file=\"empty.inc\"--><!--#include file=\"empty.inc\"-->", "", {}},
+             {"<!--#include file=\"binary.inc\"-->", std::string("a\0\xFF", 3), {}},
+             {"<!--#include virtual=\"a.inc\"--><!--#Include file=\"a.inc\"--><!--#includefile=\"a.inc\"-->",
+              "<!--#include virtual=\"a.inc\"--><!--#Include file=\"a.inc\"--><!--#includefile=\"a.inc\"-->",
+              {}},
+             {"<!--#include file=\"a\n.inc\"--><!--#include file=\"a.inc\" x-->",
+              "<!--#include file=\"a\n.inc\"--><!--#include file=\"a.inc\" x-->",
+              {}},
+             {"a<!--#include file=\"no.inc\"-->b<!--#include file=\"folder.inc\"-->c",
+              "abc",
+              {"File %/no.inc does not exist.\n", "Can't open file %/folder.inc\n"}},
+             {"<!--#include file=\"\"-->", "", {"Can't open file %\n"}},
+             {"<!--#include file=\"x<!--#include file=\"inc/b c.inc\"-->",
+              "",
+              {"File %/x<!--#include file=\"inc/b c.inc does not exist.\n"}},
+         }) {
+        SCOPED_TRACE(c.source);
+        const SAspPage page = FormatAsp(c.source, options);
+        EXPECT_EQ(page.prepared.text, c.text);
+        ASSERT_EQ(page.messages.size(), c.messages.size());
+        for (std::size_t i = 0; i < c.messages.size(); ++i) {
+            std::string message = c.messages[i];
+            message.replace(message.find('%'), 1, folder.Path("").substr(0, folder.Path("").size() - 1));
+            EXPECT_EQ(page.messages[i], "\nError(parser): " + message + "\n");
+        }
+    }
+    // line feeds go, what the file includes stays, and its blocks count
+    const SAspPage page = FormatAsp("x\n<!--#include\nfile=\"a.inc\"-->\ny", options);
+    EXPECT_EQ(page.prepared.text,
+              "x\n1\r2<!--#include file=\"b.inc\"--><%\n" + kMarker + "0\n x" + kMarker + "0\n%>\ny");
+    EXPECT_EQ(page.prepared.sourceLines, (std::vector<std::uint32_t>{1, 2, 2, 2, 2, 4}));
+}
+
+TEST(Asp, IncludeFilesHaveABound)
+{
+    const CTemporaryFolder folder;
+    folder.Write("a.inc", "0123456789");
+    const std::string source = Repeated("<!--#include file=\"a.inc\"-->", 3);
+    const SAspPage page = FormatAsp(source, {folder.Path("page.asp"), 25});
+    EXPECT_EQ(page.prepared.text, "01234567890123456789");
+    ASSERT_EQ(page.messages.size(), 1U);
+    EXPECT_NE(page.messages[0].find("too long"), std::string::npos);
+    EXPECT_EQ(FormatAsp(source, {folder.Path("page.asp"), 5}).messages.size(), 3U);
+    folder.Write("big.inc", std::string(1 << 20, 'x'));
+    EXPECT_LE(FormatAsp(Repeated("<!--#include file=\"big.inc\"-->", 1000), {folder.Path("page.asp")})
+                  .prepared.text.size(),
+              std::size_t{64} << 20);
+}
+
+// Takes the lines that markers make out again.
+std::string WithoutMarkers(const SAspPage& page)
+{
+    std::string text = page.prepared.text;
+    for (std::size_t i = page.blocks.size(); i-- != 0;) {
+        const std::string first = "\n" + std::string(page.blocks[i].marker) + "\n";
+        const std::size_t begin = text.find(first);
+        if (begin == text.npos)
+            return "marker " + std::to_string(i) + " is missing";
+        text.erase(begin, first.size());
+        const std::string last = std::string(page.blocks[i].marker) + "\n";
+        const std::size_t end = text.find(last, begin);
+        if (end == text.npos)
+            return "marker " + std::to_string(i) + " has no partner";
+        text.erase(end, last.size());
+    }
+    return text;
+}
+
+std::vector<std::string> BlocksByPattern(const std::string& text, const char* pattern)
+{
+    const boost::regex regex(pattern, boost::regex::icase);
+    std::vector<std::string> blocks;
+    for (boost::sregex_iterator match(text.begin(), text.end(), regex), end; match != end; ++match)
+        blocks.push_back(match->str(1));
+    return blocks;
+}
+
+TEST(Asp, EqualsThePatternsOnRandomTexts)
+{
+    const std::vector<std::string> pieces = {"<%",
+                                             "<%",
+                                             "%>",
+                                             "%>",
+                                             "<script language=vbscript",
+                                             "<SCRIPT",
+                                             "</script>",
+                                             ">",
+                                             ">",
+                                             "language",
+                                             "=",
+                                             "vbscript",
+                                             " ",
+                                             "\n",
+                                             "\r",
+                                             "@",
+                                             "option explicit",
+                                             "x",
+                                             "<",
+                                             "<!--#include",
+                                             " file",
+                                             "=\"",
+                                             "\"",
+                                             "-->",
+                                             "<!-- #include file=\"",
+                                             "y"};
+    const boost::regex include("<!--\\s*#include\\s+file\\s*=\\s*\"([^\\n\\r]*?)\"\\s*-->");
+    std::mt19937 random(3);
+    for (int i = 0; i < 20000; ++i) {
+        const std::string source = RandomText(random, pieces, 25);
+        const SAspPage page = FormatAsp(source, {"/nowhere/page.asp"});
+        SCOPED_TRACE(source);
+        ASSERT_EQ(page.messages.size(),
+                  static_cast<std::size_t>(
+                      std::distance(boost::sregex_iterator(source.begin(), source.end(), include), {})));
+        const std::string plain = boost::regex_replace(source, include, "");
+        ASSERT_EQ(WithoutMarkers(page), plain);
+        ASSERT_EQ(page.prepared.sourceLines.size(), LinesOf(page.prepared.text).size());
+        ASSERT_TRUE(std::ranges::is_sorted(page.prepared.sourceLines));
+
+        const auto delimited =
+            BlocksByPattern(plain, "<%(?!\\s*@|\\s*=|\\s*option explicit)([\\s\\S]*?)%>(\\n|\\r)*");
+        ASSERT_LE(delimited.size(), page.blocks.size());
+        for (std::size_t block = 0; block < delimited.size(); ++block)
+            ASSERT_EQ(page.blocks[block].text, delimited[block]);
+        const auto elements = BlocksByPattern(
+            page.prepared.text,
+            "<SCRIPT\\s*language\\s*=\\s*vbscript[^\\n\\r]*?>([\\s\\S]*?)<\\/SCRIPT>(\\n|\\r)*");
+        ASSERT_EQ(delimited.size() + elements.size(), page.blocks.size());
+        for (std::size_t block = 0; block < elements.size(); ++block)
+            ASSERT_NE(elements[block].find(page.blocks[delimited.size() + block].text), std::string::npos);
+    }
+}
+
+TEST(Asp, RealPages)
+{
+    for (const SCorpusFile& file : CorpusFiles("asp")) {
+        SCOPED_TRACE(file.path);
+        const SAspPage page = FormatAsp(file.text, {"/nowhere/page.asp"});
+        const boost::regex include("<!--\\s*#include\\s+file\\s*=\\s*\"([^\\n\\r]*?)\"\\s*-->");
+        EXPECT_EQ(WithoutMarkers(page), boost::regex_replace(file.text, include, ""));
+        // each line stands where it says
+        const std::vector<std::string> lines = LinesOf(page.prepared.text), source = LinesOf(file.text);
+        ASSERT_EQ(page.prepared.sourceLines.size(), lines.size());
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (lines[i].find("ORVANTA") != std::string::npos)
+                continue;
+            const std::string line =
+                boost::regex_replace(source.at(page.prepared.sourceLines[i] - 1), include, "");
+            EXPECT_NE(line.find(lines[i]), std::string::npos) << lines[i];
+        }
+        FormatAsp(file.text, {file.path}); // with the files that are there
+    }
+}
+
+TEST(Asp, AnySize)
+{
+    const std::string piece = "<p>\n<% a = 1 %>\n<%= a %>\n";
+    const std::size_t count = (20 << 20) / piece.size();
+    SAspPage page = Format(Repeated(piece, count));
+    EXPECT_EQ(page.blocks.size(), count);
+    EXPECT_EQ(page.blocks.back().text, " a = 1 ");
+    const std::string block = std::string(20 << 20, 'x') + "\n";
+    EXPECT_TRUE(Format("<%" + block + "%>").blocks.at(0).text == block);
+    for (const char* open : {"<%", "<% ", "<script language=vbscript ", "<script language=vbscript>",
+                             "<!--#include file=\"", "\" ", "<!-- "}) {
+        SCOPED_TRACE(open);
+        const std::string line =
+            "<!--#include file=\"" + Repeated(open, (10 << 20) / std::string(open).size());
+        EXPECT_TRUE(Format(line).prepared.text == line);
+    }
+}
+
+} // namespace

@@ -1,0 +1,355 @@
+#include "Preparation/Formatters/Cobol.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+#include "UVEnvironment/UVEUnicode.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+constexpr SCobolOptions kFixed{.format = enCobolFormat::Fixed};
+constexpr SCobolOptions kCollapsed{.format = enCobolFormat::Fixed, .removesFormatting = true};
+constexpr SCobolOptions kDebug{.format = enCobolFormat::Fixed, .savesDebugInfo = true};
+constexpr SCobolOptions kFree{.format = enCobolFormat::Free};
+
+void ExpectAll(const std::vector<SPassCase>& cases, const SCobolOptions& options)
+{
+    for (const SPassCase& c : cases)
+        ExpectPrepared(c, FormatCobol(c.input, options));
+}
+
+// `text` with blanks behind it up to `width` bytes.
+std::string Padded(std::string text, std::size_t width)
+{
+    text.resize(std::max(width, text.size()), ' ');
+    return text;
+}
+
+TEST(CobolFormatter, OtherFormatsGiveNothing)
+{
+    const SPreparedText prepared = FormatCobol("000100 A.\n", SCobolOptions{});
+    EXPECT_EQ(prepared.text, "");
+    EXPECT_TRUE(prepared.sourceLines.empty());
+}
+
+TEST(CobolFixedForm, ColumnsAndIndicators)
+{
+    const std::string code = Padded("000100 MOVE A TO B", 72), comment = Padded("000100* NOTE", 72);
+    const std::string wide = "000100 '" + Repeated("é", 64);
+    ExpectAll(
+        {{"", "", {}},
+         {"000100 A.\n000200 B.", "       A.\n       B.", {1, 2}},
+         {code + "PROGRAM1\n", "      " + code.substr(6) + "\n", {1}},
+         {wide + "x\n", "       '" + Repeated("é", 64) + "\n", {1}}, // characters, not bytes
+         {"éééééé A\n", "       A\n", {1}},
+         {comment + "PROGRAM1", "      " + comment.substr(6), {1}},
+         {"000100/ PAGE", "      / PAGE", {1}},
+         {Padded("000100$ SET", 72) + "BEHIND", Padded("      $ SET", 72) + "BEHIND", {1}},
+         {"000100D A.\n000100d B.\n000100X C.\n000100\xC3\xA9 D.", // letters go, but for D
+          "      D A.\n      d B.\n       C.\n       D.",
+          {1, 2, 3, 4}},
+         {"0001001A", "      1A", {1}},
+         {"000100 \n000100\n0001\n\n000100X\n", "       \n      \n      \n      \n", {1, 2, 3, 5}},
+         {"0001\t A.\tB", "         A.    B", {1}},
+         {"000100 A.\r\n000200\r\n", "       A.\r\n      \r\n", {1, 2}}, // a "\r" is a column like others
+         {"\n\n000100 A.\n\n\n000200 B.\n\n\n", "       A.\n       B.\n\n\n", {3, 6, 7, 8}},
+         {"\n\n", "\n\n", {1, 2}}},
+        kFixed);
+}
+
+TEST(CobolFixedForm, CommentsStayWholeForDebugging)
+{
+    const std::string comment = Padded("000100* NOTE", 72) + "BEHIND",
+                      code = Padded("000100 CODE", 72) + "BEHIND";
+    ExpectAll({{comment, "      " + comment.substr(6), {1}}, {code, Padded("       CODE", 72), {1}}}, kDebug);
+}
+
+TEST(CobolFixedForm, TabsHaveTheWidthThatIsAskedFor)
+{
+    for (const auto& [width, output] :
+         {std::pair{8, "        A"}, {7, "       A"}, {6, "      "}, {0, "      "}})
+        EXPECT_EQ(
+            FormatCobol(width == 6 ? "\t" : "\tA", {.format = enCobolFormat::Fixed, .tabWidth = width}).text,
+            output)
+            << width;
+    EXPECT_EQ(FormatCobol("000\t100 A\tB", {.format = enCobolFormat::Fixed, .tabWidth = -3}).text,
+              "       AB");
+}
+
+TEST(CobolFixedForm, IncludeLinesAreOnlyCut)
+{
+    const std::string longLine = Padded("-INC MEMBER", 80);
+    ExpectAll({{"-INC A-B\nZMEMBER ,\n-inc A B\n", "-INC A-B\nZMEMBER ,\n       B\n", {1, 2, 3}},
+               {longLine, longLine.substr(0, 72), {1}},
+               {"-INC A*" + std::string(80, 'x'), "-INC A*" + std::string(80, 'x'), {1}},
+               {"-INC\n-INC A", "      \n      ", {1, 2}}}, // too short for that
+              kFixed);
+    ExpectAll({{"-INC  A  B", "-INC  A  B", {1}}}, kCollapsed);
+}
+
+TEST(CobolFixedForm, CommaBehindAConditionGoes)
+{
+    const std::string cut = Padded("000100 IF A = B", 71) + ",";
+    ExpectAll({{"000100 IF A = B,", "       IF A = B", {1}},
+               {"000100     if A,\n000100 IFA,\n000100 ELSE IF A,\n000100 IF A, ",
+                "           if A\n       IFA,\n       ELSE IF A,\n       IF A, ",
+                {1, 2, 3, 4}},
+               {"000100XIF A,", "      IF A", {1}},
+               {"000100DIF A,", "      DIF A,", {1}},
+               {cut + "SEQUENCE", "      " + cut.substr(6, 65), {1}}}, // the columns are cut first
+              kFixed);
+}
+
+TEST(CobolFixedForm, ContinuationsGoOnBehindColumn71)
+{
+    const std::string full = Padded("000100     MOVE 'AB", 71) + "C";
+    const std::string first = Padded("           MOVE 'AB", 72);
+    ExpectAll({{"000200     MOVE 'AB\n000300-    'CD' TO X.\n", first + "CD' TO X.\n", {1}},
+               {"000200     MOVE 'AB\n000300-    \"CD\n000400-  E\n000500 F.\n",
+                first + Padded("CD", 2 + 72 - 14) + "E\n       F.\n",
+                {1, 4}},
+               {full + "SEQUENCE\n000300-    'D'.\n", "      " + full.substr(6) + "D'.\n", {1}},
+               {full.substr(0, 70) + "\t\n000300-X", "      " + full.substr(6, 64) + "   X", {1}},
+               {"000100 '" + Repeated("é", 4) + "\n000200-'x",
+                "       '" + Repeated("é", 4) + std::string(60, ' ') + "x",
+                {1}},
+               {"000100 A\n\n000200-" + Padded("    B", 65) + "SEQUENCE",
+                Padded("       A", 72) + Padded("B", 61),
+                {1}},
+               {"000100 A\n000150* N\n000200-''B,", "       A\n" + Padded("      * N", 72) + "'B,", {1, 2}},
+               {"000100-    'A,\n000200 B.", "A,\n       B.", {1, 2}}, // nothing to go on with
+               {"000100-\n000200 B.", "       B.", {2}}},
+              kFixed);
+}
+
+TEST(CobolFixedForm, SourceFormattingGoes)
+{
+    ExpectAll({{"000100 MOVE   'A  B'   TO  X.\n0001\n000100\n000200*  NOTE  \n000300X*  A  \n000400\t  A",
+                "       MOVE 'A  B' TO X.\n      *  NOTE  \n      *  A  \n       A",
+                {1, 4, 5, 6}},
+               {"0001\n0002\n", "\n", {2}},
+               {"0001\n000200-B  C", std::string(68, ' ') + "B  C", {2}}, // what goes on isn't collapsed
+               {"000100   A\n000200-B", "       A" + std::string(62, ' ') + "B", {1}}},
+              kCollapsed);
+}
+
+TEST(CobolFreeForm, LinesAndContinuations)
+{
+    ExpectAll({{"", "", {}},
+               {"000100 A.\n\n000200 B.", "       A.\n       B.\n", {1, 3}},
+               {"A.\n\n\n", "A.\n", {1}},
+               {"ABCDEF\nABCDE\n", "      \nABCDE\n", {1, 2}},
+               {"éééééé A", "       A\n", {1}},
+               {std::string(80, 'x'), Padded("", 6) + std::string(74, 'x') + "\n", {1}}, // nothing is cut
+               {"\t\tA\tB", "        A    B\n", {1}},
+               {"       A 'x\n      -  'y'\n      -\"z", "       A 'xy'z\n", {1}},
+               {"       A\r\n      -B\r\n", "       A\rB\r\n", {1}},
+               {"       IF A,\n      -B,\n       if C,", "       IF AB,\n       if C\n", {1, 3}},
+               // comments in between stay where they are
+               {"       A\n      * n\n *m\n      - B\n      -C\n       D\n      -E",
+                "       ABC\n      * n\n *m\n       DE\n",
+                {1, 2, 3, 6}},
+               // with nothing to go on with, the line stands for itself
+               {"      * n\n000100-X\n      -Y", "      * n\n000100-XY\n", {1, 2}},
+               // a blank line that becomes a comment is one from there on
+               {"       A\n        \n      -*B\n      -C", "       AC\n        *B\n", {1, 2}}},
+              kFree);
+    ExpectPrepared({"\t\n A", " A\n", {2}},
+                   FormatCobol("\t\n A", {.format = enCobolFormat::Free, .tabWidth = 0}));
+}
+
+// The plain way: the output is searched backwards at every continuation, and the text is put in there.
+std::string FreeFormByInsertion(const std::string& source)
+{
+    std::string output;
+    for (std::string line : LinesOf(source)) {
+        if (line.empty())
+            continue;
+        const bool isContinuation = line.size() > 6 && line[6] == '-';
+        std::size_t end = isContinuation ? output.size() : 0; // behind a line feed
+        while (end != 0) {
+            const std::size_t begin = end < 2 ? 0 : output.rfind('\n', end - 2) + 1;
+            if (output[std::min(output.find_first_not_of(' ', begin), output.size() - 1)] != '*')
+                break;
+            end = begin;
+        }
+        if (end != 0) {
+            std::string text = line.substr(7);
+            text.erase(0, text.find_first_not_of(' '));
+            if (text.starts_with('\'') || text.starts_with('"'))
+                text.erase(0, 1);
+            output.insert(end - 1, text);
+            continue;
+        }
+        if (line.size() >= 6 && !isContinuation)
+            line.replace(0, 6, 6, ' ');
+        output += line + "\n";
+    }
+    return output;
+}
+
+TEST(CobolFreeForm, AgreesWithInsertion)
+{
+    std::mt19937 random(36);
+    const std::vector<std::string> pieces = {"\n",     "\n",  "      -", "      -*", "      *",
+                                             "      ", "  '", "*",       "A"};
+    for (int round = 0; round < 4000; ++round) {
+        const std::string source = RandomText(random, pieces, 24);
+        const SPreparedText prepared = FormatCobol(source, kFree);
+        ASSERT_EQ(static_cast<const std::string&>(prepared.text), FreeFormByInsertion(source)) << source;
+        ASSERT_NO_FATAL_FAILURE(ExpectLinesAreKept(source, prepared));
+    }
+}
+
+// ---- Fixed form over whole sources, looked at column by column ----
+
+std::u32string CodePoints(std::string_view text)
+{
+    return Uve::utf8_to_ucs4_fast(text);
+}
+
+struct SCard
+{
+    std::u32string columns; // tabs expanded
+    std::u32string raw;
+    bool isShort, isInclude, isContinuation, isWhole;
+};
+
+SCard ReadCard(const std::string& line)
+{
+    SCard card{{}, CodePoints(line), false, false, false, false};
+    for (const char32_t c : card.raw)
+        card.columns.append(c == U'\t' ? 4 : 1, c == U'\t' ? U' ' : c);
+    card.isShort = card.columns.size() < 7;
+    const char32_t indicator = card.isShort ? U' ' : card.columns[6];
+    card.isWhole = indicator == U'$';
+    card.isInclude = !card.isShort && (card.columns.compare(0, 4, U"-INC") == 0 ||
+                                       card.columns.compare(0, 7, U"ZMEMBER") == 0);
+    card.isContinuation = indicator == U'-' && !card.isInclude;
+    return card;
+}
+
+// The sources have no include lines with "*" in column 6, and no letters beyond ASCII there.
+void ExpectColumnsHold(const std::string& source)
+{
+    const SPreparedText prepared = FormatCobol(source, kFixed);
+    ASSERT_NO_FATAL_FAILURE(ExpectLinesAreKept(source, prepared));
+    const std::vector<std::string> lines = LinesOf(prepared.text), cards = LinesOf(source);
+    std::size_t next = 0;   // prepared line
+    std::u32string written; // of that line, what no card has accounted for
+    std::u32string before;
+    for (std::size_t at = 0; at != cards.size(); ++at) {
+        if (cards[at].empty())
+            continue;
+        SCOPED_TRACE(testing::Message() << "line " << at + 1 << ": " << cards[at]);
+        const SCard card = ReadCard(cards[at]);
+        if (card.isContinuation) {
+            // the piece that goes on stands where the card before ends, column 72 or later
+            std::u32string piece = card.columns.substr(7, 65);
+            piece.erase(0, std::min(piece.find_first_not_of(U' '), piece.size()));
+            if (!piece.empty() && (piece[0] == U'\'' || piece[0] == U'"'))
+                piece.erase(0, 1);
+            const std::u32string gap(before.size() < 72 ? 72 - before.size() : 0, U' ');
+            ASSERT_EQ(written.substr(0, gap.size()), gap);
+            ASSERT_EQ(written.substr(gap.size(), piece.size()), piece);
+            written.erase(0, gap.size() + piece.size());
+            before = card.raw;
+            continue;
+        }
+        ASSERT_TRUE(written.empty()); // nothing else is in the line before
+        ASSERT_LT(next, lines.size());
+        ASSERT_EQ(prepared.sourceLines[next], at + 1);
+        written = CodePoints(lines[next++]);
+        before = card.raw;
+        if (card.isInclude) {
+            ASSERT_EQ(written, card.columns.substr(0, 72));
+            written.clear();
+            continue;
+        }
+        const bool dropsIndicator = !card.isShort && card.columns[6] < 0x80 &&
+                                    std::isalpha(static_cast<int>(card.columns[6])) &&
+                                    card.columns[6] != U'D' && card.columns[6] != U'd';
+        std::size_t column = card.isShort ? card.columns.size() : dropsIndicator ? 7 : 6;
+        const std::size_t end =
+            card.isWhole ? card.columns.size() : std::min<std::size_t>(card.columns.size(), 72);
+        ASSERT_GE(written.size(), 6u);
+        ASSERT_EQ(written.substr(0, 6), std::u32string(6, U' '));
+        written.erase(0, 6);
+        const std::size_t first = card.columns.find_first_not_of(U' ', column);
+        for (; column < end; ++column) {
+            const bool isCondition = first < end && end - first > 2 && (card.columns[first] | 32) == U'i' &&
+                                     (card.columns[first + 1] | 32) == U'f' &&
+                                     card.columns[first + 2] == U' ';
+            if (column + 1 == end && card.columns[column] == U',' && isCondition)
+                break;
+            ASSERT_FALSE(written.empty());
+            ASSERT_EQ(written[0], card.columns[column]) << "column " << column;
+            written.erase(0, 1);
+        }
+    }
+    EXPECT_TRUE(written.empty());
+    for (; next < lines.size(); ++next)
+        EXPECT_EQ(lines[next], ""); // the line feeds at the end
+    const std::size_t final = source.size() - (source.find_last_not_of('\n') + 1);
+    EXPECT_TRUE(prepared.text.ends_with(std::string(final, '\n')));
+    EXPECT_FALSE(prepared.text.ends_with(std::string(final + 1, '\n')));
+}
+
+TEST(CobolFixedForm, EveryColumnComesFromItsCard)
+{
+    ExpectColumnsHold("      *HEADER" + std::string(70, '=') + "\n000100 ID DIVISION." +
+                      std::string(60, ' ') + "PROG\n\n000200 01 A VALUE \"x" + std::string(40, 'y') +
+                      "\n000300-    \"z\n000400-  '\".\n" +
+                      "000500\tIF A,\n000600D B\n000700E C\n0008\n-INC MEMBER\n000900$ S" +
+                      std::string(70, 's') + "\n001000/ ä\n\n\n");
+}
+
+TEST(CobolFixedForm, RealSources)
+{
+    for (const SCorpusFile& file : CorpusFiles("cobol-fixed")) {
+        SCOPED_TRACE(file.path);
+        ExpectColumnsHold(file.text);
+        const SPreparedText collapsed = FormatCobol(file.text, kCollapsed),
+                            free = FormatCobol(file.text, kFree);
+        ExpectLinesAreKept(file.text, collapsed);
+        ExpectLinesAreKept(file.text, free);
+        EXPECT_EQ(free.text, FreeFormByInsertion(file.text));
+    }
+}
+
+TEST(CobolFormatter, AnySize)
+{
+    const std::size_t count = (20 << 20) / 16;
+    const auto text = [](std::string_view piece, std::size_t times, const SCobolOptions& options) {
+        return std::string(FormatCobol(Repeated(piece, times), options).text);
+    };
+    EXPECT_TRUE(text("000100 MOVE  A.\n", count, kFixed) == Repeated("       MOVE  A.\n", count));
+    EXPECT_TRUE(text("000100 MOVE  A.\n", count, kCollapsed) == Repeated("       MOVE A.\n", count));
+    EXPECT_TRUE(text("000100 MOVE  A.\n", count, kFree) == Repeated("       MOVE  A.\n", count));
+
+    const std::string full(66, 'c');
+    EXPECT_TRUE(
+        FormatCobol("000100 A" + full + "\n" + Repeated("000200- " + full + "\n", 1 << 14), kFixed).text ==
+        "       A" + full.substr(2) + Repeated(full.substr(2), 1 << 14) + "\n");
+
+    // comments as far as the eye reaches, and every continuation goes in front of them
+    const std::string comments = Repeated("      *\n", 1 << 18);
+    EXPECT_TRUE(
+        FormatCobol("       A\n" + comments + Repeated("      -B\n", 1 << 18) + comments + "      -C", kFree)
+            .text == "       A" + std::string(1 << 18, 'B') + "C\n" + comments + comments);
+    const std::string blank = Repeated("       \n", 1 << 18);
+    EXPECT_TRUE(
+        FormatCobol("       A\n" + blank + Repeated("      -*\n", 1 << 18) + "      -B", kFree).text ==
+        "       AB\n" + Repeated("       *\n", 1 << 18));
+
+    const std::string line(10 << 20, 'x');
+    EXPECT_EQ(FormatCobol("000100 " + line + "\nA", kFixed).text,
+              "       " + std::string(65, 'x') + "\n      ");
+    EXPECT_TRUE(FormatCobol("000100 " + line, kFree).text == "       " + line + "\n");
+    EXPECT_TRUE(FormatCobol("000100$" + std::string(10 << 20, '\t'), kCollapsed).text == "      $ ");
+}
+
+} // namespace

@@ -1,0 +1,84 @@
+#include "Preparation/Formatters/IbmCl.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(IbmClFormatter, CommandsAreJoined)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {"PGM\nENDPGM\n", "PGM\nENDPGM", {1, 2}},
+             {"DCL +\n  VAR(&A) +\n\t TYPE(*CHAR)\nRETURN\n", "DCL VAR(&A) TYPE(*CHAR)\nRETURN", {1, 4}},
+             {"SNDMSG 'A-\n  B'\n", "SNDMSG 'A  B'", {1}}, // "-" keeps the blanks
+             {"A +\r\n \t\v\f\r B\r\nC\r\n", "A B\nC", {1, 3}},
+             {"A -\r\n B\r\r\nC\n", "A  B\nC", {1, 3}},
+             {"A +\n+\n-\n  B\n", "A   B", {1}},    // a line of nothing but its sign
+             {"A +\n  \n  B\n", "A \n  B", {1, 3}}, // a blank line ends the command
+             {"A +\n\n  B\n", "A B", {1}},          // an empty one isn't there
+             {"A + \n  B\n", "A + \n  B", {1, 2}},  // a blank behind it: no continuation
+             {"A +\n", "A ", {1}},
+             {"A ++\n", "A +", {1}},
+             {"A\r\n\r\nB\r\n", "A\n\nB", {1, 2, 3}}, // "\r" alone makes a line
+             {"\r\nA\n", "\nA", {1, 2}},
+         })
+        ExpectPrepared(c, FormatIbmCl(c.input));
+}
+
+TEST(IbmClFormatter, TheLastCharacterGoes)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"ABC", "AB", {1}},
+             {"ABC\n\n\n", "ABC\n\n", {1, 2}},
+             {"A", "", {}},
+             {"A\nB", "A\n", {1}},
+             {"\n", "", {}},
+             {"\n\n", "\n", {1}},
+             {"+", "", {}},
+             {"+\n", "", {}},
+             {"AB +", "AB", {1}}, // the sign goes first
+             {"A\xE2\x82\xAC", "A", {1}},
+             {"A\xF0\x9F\x98\x80", "A", {1}},
+             {"A\xE2\x82", "A", {1}},
+             {"A\x82\xAC", "A\x82", {1}}, // no sequence: one byte
+         })
+        ExpectPrepared(c, FormatIbmCl(c.input));
+    EXPECT_EQ(FormatIbmCl(FormatIbmCl("PGM\n").text).text, "PG");
+}
+
+TEST(IbmClFormatter, RealSources)
+{
+    for (const SCorpusFile& file : CorpusFiles("cl")) {
+        SCOPED_TRACE(file.path);
+        const SPreparedText prepared = FormatIbmCl(file.text);
+        ExpectLinesAreKept(file.text, prepared);
+        std::size_t expected = 0;
+        bool goesOn = false;
+        for (std::string line : LinesOf(file.text)) {
+            if (line.empty())
+                continue;
+            while (line.ends_with('\r'))
+                line.pop_back();
+            expected += !goesOn;
+            goesOn = line.ends_with('+') || line.ends_with('-');
+        }
+        const std::size_t final = file.text.size() - (file.text.find_last_not_of('\n') + 1);
+        EXPECT_EQ(prepared.sourceLines.size(), expected + (final > 2 ? final - 2 : 0));
+    }
+}
+
+TEST(IbmClFormatter, AnySize)
+{
+    const std::size_t count = (20 << 20) / 16;
+    EXPECT_TRUE(FormatIbmCl(Repeated("CALL PGM(LIB/P)\n", count)).text + "\n" ==
+                Repeated("CALL PGM(LIB/P)\n", count));
+    const SPreparedText joined = FormatIbmCl(Repeated("       PARM(A) +\n", count));
+    EXPECT_TRUE(joined.text == "       " + Repeated("PARM(A) ", count));
+    EXPECT_EQ(joined.sourceLines, std::vector<std::uint32_t>{1});
+    const std::string line(10 << 20, 'x');
+    EXPECT_TRUE(FormatIbmCl(line + "-\n" + line + "\n").text == line + line);
+}
+
+} // namespace

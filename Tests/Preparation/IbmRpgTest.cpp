@@ -1,0 +1,278 @@
+#include "Preparation/Formatters/IbmRpg.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A line with `letter` at column 5 and `fields` from column 6 on.
+std::string Line(char letter, const std::string& fields)
+{
+    return std::string(5, ' ') + letter + fields + "\n";
+}
+
+// The fields of a C line: the operation stands where the layout has it.
+std::string Operation(int layout, const std::string& operation)
+{
+    return std::string(layout == 0 ? 19 : 21, ' ') + operation;
+}
+
+struct SRpgCase
+{
+    int layout;
+    std::string source;
+    std::string text;
+};
+
+std::string Digits(std::size_t count)
+{
+    std::string digits;
+    while (digits.size() < count)
+        digits += static_cast<char>('0' + digits.size() % 10);
+    return digits;
+}
+
+TEST(IbmRpg, LinesAreCutByColumns)
+{
+    const std::string wide = Digits(94); // columns 6 to 99
+    for (const SRpgCase& c : std::vector<SRpgCase>{
+             {0, Line('F', wide),
+              "F" + wide.substr(0, 29) + "\nFD" + wide.substr(29, 8) + "\nFO" + wide.substr(37, 37) +
+                  "\n$\n"},
+             {0, Line('d', wide), "D" + wide.substr(0, 36) + "\nDK" + wide.substr(36, 38) + "\n$\n"},
+             {0, Line('P', wide), "P" + wide.substr(0, 37) + "\nPK" + wide.substr(37, 37) + "\n$\n"},
+             {0, Line('C', wide),
+              "C" + wide.substr(0, 74) + "\nCOM\n$\n"}, // what lies behind column 79 is cut
+             {0, Line('I', wide), "I" + wide.substr(0, 74) + "\n\n$\n"},
+             {0, Line('O', wide), "O" + wide.substr(0, 74) + "\n\n$\n"},
+             {0, Line('C', wide.substr(0, 74)),
+              "C" + wide.substr(0, 74) + "\n$\n"}, // 80 columns: nothing behind
+             {1, Line('F', wide),
+              "F" + wide.substr(0, 33) + "\nFD" + wide.substr(33, 33) + "\nFO" + wide.substr(66, 8) +
+                  "\n$\n"},
+             {1, Line('c', wide), "C" + wide.substr(0, 53) + "\nCOM" + wide.substr(53, 21) + "\n$\n"},
+             {1, Line('I', wide),
+              "I" + wide.substr(0, 36) + "\nIF" + wide.substr(36, 32) + "\nCOM" + wide.substr(68, 6) +
+                  "\n$\n"},
+             {1, Line('O', wide),
+              "O" + wide.substr(0, 31) + "\nOF" + wide.substr(31, 37) + "\nCOM" + wide.substr(68, 6) +
+                  "\n$\n"},
+             {0, Line('D', wide.substr(0, 36)), "D" + wide.substr(0, 36) + "\n$\n"},
+             {0, Line('D', wide.substr(0, 37)),
+              "D" + wide.substr(0, 36) + "\nDK" + wide.substr(36, 1) + "\n$\n"},
+         }) {
+        SCOPED_TRACE(testing::Message() << c.layout << ' ' << c.source);
+        EXPECT_EQ(FormatIbmRpg(c.source, {c.layout}).text, c.text);
+    }
+}
+
+TEST(IbmRpg, WhatIsCopiedAndWhatIsDropped)
+{
+    for (const SRpgCase& c : std::vector<SRpgCase>{
+             {2, Line('C', "A"), ""},
+             {-1, Line('H', "A"), ""},
+             {0, Line('h', "DEBUG") + Line('E', "A") + Line('L', "A") + Line('X', "A"), "HDEBUG\n"},
+             {1, Line('H', "A") + Line('e', "B") + Line('L', "C") + Line('D', "A") + Line('P', "A"),
+              "HA\nEB\nLC\n"},
+             {0, Line('c', "* x") + Line('C', "/copy y") + Line('m', "*z") + Line(' ', "// a"),
+              "C* x\nC/copy y\n *z\n // a\n"},
+             {1, Line('C', "* x") + Line('C', "/copy y"), "C* x\nC/copy y\n$\n"},
+             {0, "     \n     C\n\n     H\n", ""}, // too short, or nothing behind the letter
+             {0, Line('C', "A") + "    \n" + Line('C', "B"), "CA\n$\nCB\n$\n"},
+             {0, "     CA\r\n", "CA\r\n$\n"}, // a column like any other
+             {0, Line('C', "\xE9\xFF"), "C\xE9\xFF\n$\n"},
+             {0, "     CA", "CA\n$\n"},
+         }) {
+        SCOPED_TRACE(testing::Message() << c.layout << ' ' << c.source);
+        EXPECT_EQ(FormatIbmRpg(c.source, {c.layout}).text, c.text);
+    }
+}
+
+TEST(IbmRpg, FreeFormAndEmbeddedStatementsAreCopied)
+{
+    const std::string free =
+        Line(' ', "/Free") + Line(' ', "  if a;") + "     C\nabc\n" + Line('D', "X") + Line('h', " y");
+    for (const SRpgCase& c : std::vector<SRpgCase>{
+             {0, Line('C', "A") + free + Line(' ', "/END-FREE ") + Line('C', "B"),
+              "CA\n$\n /Free\n   if a;\nDX\nh y\n /END-FREE \nCB\n$\n"},
+             {0, free, " /Free\n   if a;\nDX\nh y\n"},
+             {1,
+              Line('C', "/EXEC sql") + Line('C', "+ select") + Line('D', "x") + Line('I', "/end-exec") +
+                  Line('c', "/End-Exec") + Line('C', "A"),
+              "C/EXEC sql\nC+ select\nDx\nI/end-exec\nc/End-Exec\nCA\n$\n"}, // another letter doesn't end it
+             {1, Line('D', "/exec sql") + Line('C', "A"), "CA\n$\n"},
+             {0, Line('C', "/exec sql") + Line('C', "+ select"), "C/exec sql\nC+ select\n$\n"},
+             {1, Line('C', " /exec sql"), "C /exec sql\n$\n"},
+         }) {
+        SCOPED_TRACE(testing::Message() << c.layout << ' ' << c.source);
+        EXPECT_EQ(FormatIbmRpg(c.source, {c.layout}).text, c.text);
+    }
+}
+
+TEST(IbmRpg, CompileTimeDataIsCopiedWhole)
+{
+    // ahead of the rows that wait
+    EXPECT_EQ(FormatIbmRpg(Line('C', "A") + "**CTDATA X\n     Cdata\n123456\nabc\n1234567\n", {0}).text,
+              "**CTDATA X\n     Cdata\nCA\n$\n1234567\n");
+    EXPECT_EQ(FormatIbmRpg(Line('C', "A") + "**CTDATA X\n     Cdata\n", {0}).sourceLines,
+              (std::vector<std::uint32_t>{2, 3, 1, 1}));
+    EXPECT_EQ(FormatIbmRpg("**\n" + Line('C', "A"), {0}).text, "CA\n$\n"); // too short to begin it
+    EXPECT_EQ(FormatIbmRpg("**FREE\n  x = 1;\n", {0}).text, "  x = 1;\n");
+    EXPECT_EQ(FormatIbmRpg("**CTDATA\n" + Line('C', "A"), {1}).text, "CA\n$\n"); // the older layout has none
+}
+
+TEST(IbmRpg, BlocksAreMarked)
+{
+    for (const int layout : {0, 1}) {
+        SCOPED_TRACE(layout);
+        std::string source, text;
+        const auto add = [&](const char* operation, const char* marker, const char* end) {
+            source += Line('C', Operation(layout, operation));
+            text += "C" + Operation(layout, std::string(marker) + operation) + "\n" + end + "\n";
+        };
+        add("begsr", "VelmoraBeg", "$");
+        add("IFEQ", "VelmoraBeg", "$");
+        add("ELSE", "", "$");
+        add("SELECT", "VelmoraBeg", "$");
+        add("SELE", "", "$"); // four letters of the five
+        add("ENDSL", "VelmoraEnd", "$");
+        add("End", "VelmoraEnd", "$");
+        add("ENDSR", "VelmoraEnd", "#"); // the outermost block
+        add("DOW", "VelmoraBeg", "$");
+        add("CASEQ", "VelmoraBeg", "$");
+        add("ENDCS", "VelmoraEnd", "$");
+        add("ENDDO", "VelmoraEnd", "#");
+        add("END", "VelmoraEnd", "#"); // too many: each closes one
+        add("EVAL", "", "$");
+        EXPECT_EQ(FormatIbmRpg(source, {layout}).text, text);
+    }
+    std::string piece = "C" + std::string(19, ' ');
+    int depth = 0;
+    format_section(piece, 0, depth);
+    EXPECT_EQ(piece.size(), 20U);
+    piece += "IF";
+    format_section(piece, 1, depth); // the other layout looks behind it
+    EXPECT_EQ(depth, 0);
+    format_section(piece, 0, depth);
+    EXPECT_EQ(depth, 1);
+    // comments and lines without an operation close nothing
+    EXPECT_EQ(
+        FormatIbmRpg(Line('C', Operation(0, "IF")) + Line('C', "*" + Operation(0, "END").substr(1)), {0})
+            .text,
+        "C" + Operation(0, "VelmoraBegIF") + "\n$\nC*" + Operation(0, "END").substr(1) + "\n");
+}
+
+// Puts the rows of each source line together again: apart from labels and markers they are the line's
+// columns.
+void ExpectColumnsSurvive(const std::string& source, int layout)
+{
+    const SPreparedText prepared = FormatIbmRpg(source, {layout});
+    const std::vector<std::string> rows = LinesOf(prepared.text), lines = LinesOf(source);
+    ASSERT_EQ(prepared.sourceLines.size(), rows.size());
+    const std::map<char, std::vector<std::string>> labels[] = {{{'F', {"F", "FD", "FO"}},
+                                                                {'D', {"D", "DK"}},
+                                                                {'C', {"C", "COM"}},
+                                                                {'I', {"I", ""}},
+                                                                {'O', {"O", ""}},
+                                                                {'P', {"P", "PK"}}},
+                                                               {{'F', {"F", "FD", "FO"}},
+                                                                {'C', {"C", "COM"}},
+                                                                {'I', {"I", "IF", "COM"}},
+                                                                {'O', {"O", "OF", "COM"}}}};
+    std::vector<bool> hasRows(lines.size() + 1);
+    for (std::size_t i = 0; i < rows.size();) {
+        const std::uint32_t number = prepared.sourceLines[i];
+        std::size_t end = i;
+        while (end < rows.size() && prepared.sourceLines[end] == number)
+            ++end;
+        const std::string& line = lines.at(number - 1);
+        ASSERT_FALSE(hasRows[number]) << "rows of line " << number << " are apart";
+        hasRows[number] = true;
+        if (rows[end - 1] != "$" && rows[end - 1] != "#") {
+            ASSERT_EQ(end - i, 1U);
+            const bool isWhole = rows[i] == line; // compile-time data
+            EXPECT_TRUE(isWhole || rows[i].substr(1) == line.substr(6)) << number;
+        } else {
+            const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(line.at(5))));
+            const auto& names = labels[layout].at(letter);
+            std::string joined;
+            for (std::size_t row = i; row + 1 < end; ++row) {
+                ASSERT_LT(row - i, names.size());
+                ASSERT_TRUE(rows[row].starts_with(names[row - i])) << rows[row];
+                joined += rows[row].substr(names[row - i].size());
+            }
+            for (const char* marker : {"VelmoraBeg", "VelmoraEnd"})
+                if (const auto at = joined.find(marker); at != joined.npos)
+                    joined.erase(at, 10);
+            EXPECT_EQ(joined, line.substr(6, 74)) << number;
+        }
+        i = end;
+    }
+    // what left no row holds nothing that belongs there
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (hasRows[i + 1] || lines[i].size() <= 6)
+            continue;
+        const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(lines[i][5])));
+        EXPECT_FALSE(labels[layout].contains(letter)) << lines[i];
+        EXPECT_NE(lines[i][6], '*');
+    }
+}
+
+TEST(IbmRpg, EveryColumnSurvives)
+{
+    std::mt19937 random(7);
+    const std::vector<std::string> pieces = {"     C",
+                                             "     D",
+                                             "     f",
+                                             "     I",
+                                             "     o",
+                                             "     H",
+                                             "     m",
+                                             "\n",
+                                             "\n",
+                                             "\n",
+                                             "*",
+                                             "**CTDATA",
+                                             "/free",
+                                             "/end-free",
+                                             "/exec sql",
+                                             "/end-exec",
+                                             " ",
+                                             Operation(0, "IF"),
+                                             Operation(1, "END"),
+                                             Operation(0, "ENDIF"),
+                                             Digits(37),
+                                             Digits(75),
+                                             "\r"};
+    for (int i = 0; i < 3000; ++i)
+        ASSERT_NO_FATAL_FAILURE(ExpectColumnsSurvive(RandomText(random, pieces, 60), i % 2));
+    for (const SCorpusFile& file : CorpusFiles("rpg"))
+        for (const int layout : {0, 1}) {
+            SCOPED_TRACE(file.path);
+            ASSERT_NO_FATAL_FAILURE(ExpectColumnsSurvive(file.text, layout));
+        }
+}
+
+TEST(IbmRpg, AnySize)
+{
+    const std::string line = Line('C', Operation(0, "EVAL  A = B"));
+    const std::size_t count = (20 << 20) / line.size();
+    EXPECT_TRUE(FormatIbmRpg(Repeated(line, count), {0}).text == Repeated(line.substr(5) + "$\n", count));
+    const std::string ends = Line('C', Operation(1, "END"));
+    EXPECT_TRUE(FormatIbmRpg(Repeated(ends, count), {1}).text ==
+                Repeated("C" + Operation(1, "VelmoraEndEND") + "\n#\n", count));
+    const std::string longLine(10 << 20, 'x');
+    EXPECT_EQ(FormatIbmRpg(Line('D', longLine), {0}).text,
+              "D" + std::string(36, 'x') + "\nDK" + std::string(38, 'x') + "\n$\n");
+    EXPECT_TRUE(FormatIbmRpg(Line('H', longLine), {0}).text == "H" + longLine + "\n");
+}
+
+} // namespace

@@ -1,0 +1,79 @@
+#include "Preparation/Formatters/Jcl.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+#include "UVEnvironment/UVEUnicode.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(JclFormatter, LinesEndAtColumn71)
+{
+    const std::string seventyTwo = "//" + std::string(70, 'A');
+    const std::string wide = Repeated("é", 72);
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {seventyTwo, seventyTwo, {1}},
+             {seventyTwo + "00010000", seventyTwo, {1}},
+             {seventyTwo + "00010000\r\n//X\r\n",
+              seventyTwo + "\n//X\r\n",
+              {1, 2}},                                                        // only the cut takes a "\r"
+             {wide + "x\n", wide + "\n", {1}},                                // characters, not bytes
+             {"//A\n\n\n//B", "//A\n//B", {1, 4}},                            // empty lines vanish
+             {"\n\n//A\n \n//B\n\n\n", "//A\n \n//B\n\n\n", {3, 4, 5, 6, 7}}, // but for those at the end
+             {"\n\n", "\n\n", {1, 2}},
+         })
+        ExpectPrepared(c, FormatJcl(c.input));
+}
+
+TEST(JclFormatter, EightBitTextKeepsItsColumns)
+{
+    // a byte each: what looks like the first byte of a sequence takes nothing from what follows it
+    const std::string line = "//* \xC9" + std::string(67, 'x');
+    EXPECT_EQ(FormatJcl(line + "\xE9\n//B").text, line + "\n//B");
+    EXPECT_EQ(FormatJcl("//* \xE9\n//B").text, "//* \xE9\n//B");
+}
+
+// The rule again, over code points and whole lines.
+std::string CutByCodePoints(const std::string& source)
+{
+    std::string text;
+    for (const std::string& line : LinesOf(source)) {
+        if (line.empty())
+            continue;
+        text += text.empty() ? "" : "\n";
+        text += *Uve::g_ucs4_to_utf8(Uve::utf8_to_ucs4_fast(line).substr(0, 72));
+    }
+    return text + source.substr(source.find_last_not_of('\n') + 1);
+}
+
+TEST(JclFormatter, RealSources)
+{
+    for (const SCorpusFile& file : CorpusFiles("jcl")) {
+        SCOPED_TRACE(file.path);
+        const SPreparedText prepared = FormatJcl(file.text);
+        ExpectLinesAreKept(file.text, prepared);
+        EXPECT_EQ(prepared.text, CutByCodePoints(file.text));
+        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
+        std::size_t filled = 0;
+        for (const std::string& line : source)
+            filled += !line.empty();
+        const std::size_t final = prepared.text.size() - (prepared.text.find_last_not_of('\n') + 1);
+        EXPECT_EQ(lines.size(), filled + (final > 1 ? final - 1 : 0));
+        ASSERT_EQ(lines.size(), prepared.sourceLines.size());
+        for (std::size_t at = 0; at != lines.size(); ++at) {
+            EXPECT_LE(Uve::utf8_strlen(lines[at]), 72u);
+            EXPECT_TRUE(source[prepared.sourceLines[at] - 1].starts_with(lines[at]));
+        }
+    }
+}
+
+TEST(JclFormatter, AnySize)
+{
+    const std::string line = "//STEP01   EXEC PGM=A" + std::string(51, ' ');
+    const std::size_t count = (20 << 20) / 81;
+    EXPECT_TRUE(FormatJcl(Repeated(line + "00010000\n", count)).text == Repeated(line + "\n", count));
+    EXPECT_EQ(FormatJcl(std::string(10 << 20, 'x') + "\ny").text, std::string(72, 'x') + "\ny");
+}
+
+} // namespace

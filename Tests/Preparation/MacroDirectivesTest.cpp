@@ -1,0 +1,351 @@
+// Directives under the three commands, conditions, include files, presets, messages.
+#include "Tests/Preparation/MacroFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+
+namespace {
+
+using MacroPreprocessorChecker::DefaultPresetValues;
+
+struct SCommandCase
+{
+    const char* source;
+    const char* prepared[3]; // by command
+};
+
+const SCommandCase kCommands[] = {
+    {"#define N 3\nint a[N];\n  #ifdef N\n  b;\n#else\nc;\n#endif\nd;",
+     {"#define N 3\nint a[N];\n  #ifdef N\n  b;\n#else\nc;\n#endif\nd;",
+      "#define N 3\nint a[N];\n\n  b;\n\n\n\nd;", "\nint a[3];\n\n  b;\n\n\n\nd;"}},
+    {"#if 0\n#define A\n#error no\n#include <x>\n#endif\n#ifdef A\nb\n#endif",
+     {"#if 0\n#define A\n#error no\n#include <x>\n#endif\n#ifdef A\nb\n#endif", "", ""}},
+    {"#\n#pragma a\n#undef N\n#unknown x\n#1\n/* c */ #ident \"a\"\nb",
+     {"#\n#pragma a\n#undef N\n#unknown x\n#1\n/* c */ #ident \"a\"\nb", "\n\n\n\n\n\nb", "\n\n\n\n\n\nb"}},
+    {"#define END }; // x\n#define B { a;\n#define I(x) x = 0; }\nB {END END;\nI(f(1)) I(2); I B ;",
+     {"#define END }; // x\n#define B { a;\n#define I(x) x = 0; }\nB; {END; END;\nI(f(1)); I(2); I B ;",
+      "#define END }; // x\n#define B { a;\n#define I(x) x = 0; }\nB; {END; END;\nI(f(1)); I(2); I B ;",
+      "\n\n\n{ a; {}; };;\nf(1) = 0; } 2 = 0; }; I { a; ;"}},
+    {"#define A B \\\n C\n#define B 1\nA",
+     {"#define A B \\\n C\n#define B 1\nA", "#define A B \\\n C\n#define B 1\nA", "\n\n\n1 \n C"}},
+    {"a \\\n# if\nb",
+     {"a \\\n# if\nb", "a \\\n# if\nb", "a \\\n# if\nb"}}, // inside a line it is no directive
+};
+
+TEST(MacroDirectives, CommandsChooseWhatStays)
+{
+    for (const auto& c : kCommands) {
+        for (int command = 0; command < 3; ++command) {
+            SCOPED_TRACE(testing::Message() << c.source << "\ncommand " << command);
+            const SMacroRun run = RunMacros(command, c.source);
+            EXPECT_TRUE(run.isDone || !run.errors.empty()) << run.errors;
+            EXPECT_EQ(run.text, c.prepared[command]);
+        }
+        EXPECT_EQ(RunMacros(-1, c.source).text, c.prepared[1]);
+    }
+}
+
+// The main source is read piece by piece: wherever a piece ends, the result is the same.
+TEST(MacroDirectives, WhatStandsInFrontChangesNothing)
+{
+    const std::string source =
+        "#define f(x, y) <x y>\n#define END }; // x\n#define I(x) x = 0;\n#define E\n"
+        "a++ + f(1 \\\n,\n\n/* c\n */ // d\n f(2, 3)) - E - f /* e */\n\n(4,5) f f\n;\n"
+        "#if 0 && \\\n 1\n#elif 1\nI(f(1,\n2))\n // x\n END\n /* y */ ;END\n# endif\nlast";
+    for (int command = 0; command < 3; ++command) {
+        const SMacroRun expected = RunMacros(command, source);
+        ASSERT_TRUE(expected.isDone) << expected.errors;
+        for (int front = 3950; front < 4100; ++front) {
+            SCOPED_TRACE(testing::Message() << "command " << command << ", " << front << " tokens in front");
+            std::string ahead(front, '!'); // each is a token
+            for (std::size_t at = 999; at < ahead.size(); at += 1000)
+                ahead[at] = '\n';
+            ahead += '\n';
+            const SMacroRun run = RunMacros(command, ahead + source);
+            ASSERT_TRUE(run.text.starts_with(ahead)) << run.errors;
+            EXPECT_EQ(run.text.substr(ahead.size()), expected.text);
+        }
+    }
+}
+
+TEST(MacroDirectives, PreparedLinesKnowTheirSource)
+{
+    const SMacroRun run = RunMacros(2, "a\n#if 0\nb\n#endif\n\nc /* d\ne */ f");
+    EXPECT_EQ(run.text, "a\n\n\n\n\nc /* d\ne */ f");
+    EXPECT_THAT(run.sourceLines, testing::ElementsAre(1, 2, 3, 4, 5, 6, 7));
+}
+
+struct SConditionCase
+{
+    const char* condition;
+    bool holds;
+};
+
+constexpr SConditionCase kConditions[] = {
+    {"1", true},
+    {"FOO", false},
+    {"int", false},
+    {"ONE", true},
+    {"defined ONE && !defined(TWO)", true},
+    {"defined(ONE) /* x */ // y", true},
+    {"HAS", true}, // "defined" out of a macro
+    {"ADD(1, -1)", false},
+    {"ADD (ONE, ONE) == 2", true},
+    {"__LINE__ == 6", true},
+    {"defined __FILE__", true},
+    {"sizeof(int) == 4 && sizeof(unsigned char) == 1 && sizeof(char *) == 8 && sizeof(unsigned) == 4", true},
+    {"sizeof(long double) == 16", true},
+    {"'A' == 65 && '\\n' == 10", true},
+    {"0x10 == 16 && 010 == 8 && 10L == 10", true},
+    {"not FOO and compl 0 == -1", true},
+    {"ONE and FOO", false},
+    {"not", false},
+    {"0 || \\\n 1", true},
+    {"-1 < 0", true},
+};
+
+TEST(MacroDirectives, ConditionsAreEvaluated)
+{
+    for (const auto& c : kConditions) {
+        SCOPED_TRACE(c.condition);
+        const std::string source =
+            "#define ONE 1\n#define HAS defined ONE\n#define ADD(a,b) ((a)+(b))\n\n\n#if " +
+            std::string(c.condition) + "\nyes\n#else\nno\n#endif\n";
+        const SMacroRun run = RunMacros(1, source);
+        EXPECT_TRUE(run.isDone) << run.errors;
+        EXPECT_EQ(run.text.find("yes") != std::string::npos, c.holds);
+        EXPECT_EQ(run.text.find("no") != std::string::npos, !c.holds);
+    }
+}
+
+TEST(MacroDirectives, OneBranchIsTaken)
+{
+    const auto taken = [](const std::string& source) {
+        std::string text = RunMacros(2, source).text;
+        std::erase(text, '\n');
+        return text;
+    };
+    EXPECT_EQ(taken("#if 0\na\n#elif 1\nb\n#elif 1/0\nc\n#else\nd\n#endif\ne"), "be");
+    EXPECT_EQ(taken("#if 1\na\n#elif 1/0\nb\n#else\nc\n#endif"), "a");
+    EXPECT_EQ(taken("#if 0\n#if 1/0\na\n#elif\nb\n#else\nc\n#endif\n#else\nd\n#endif"), "d");
+    EXPECT_EQ(taken("#if 0\na\n#elif 0\nb\n#else\nc\n#endif"), "c");
+    EXPECT_EQ(taken("#define A\n#undef A\n#ifndef A\na\n#endif\n#ifdef A\nb\n#endif"), "a");
+}
+
+struct SMessageCase
+{
+    const char* source;
+    const char* errors;
+};
+
+constexpr SMessageCase kMessages[] = {
+    {"a\n#else\n", "main.c : 2 : syntax error: #else without #if\n"},
+    {"#endif", "main.c : 1 : syntax error: #endif without #if\n"},
+    {"#elif 1", "main.c : 1 : syntax error: #elif without #if\n"},
+    {"#ifdef\n", "main.c : 1 : syntax error: Syntax error in #ifdef\n"},
+    {"#ifndef 3\n", "main.c : 1 : syntax error: Syntax error in #ifndef\n"},
+    {"#if defined\n", "main.c : 1 : syntax error: Syntax error in #if\n"},
+    {"#if defined(A\n", "main.c : 1 : syntax error: Syntax error in #if\n"},
+    {"#if 0\n#elif defined(\n", "main.c : 2 : syntax error: Syntax error in #elif\n"},
+    {"#if\n", "main.c : 1 : syntax error: failed to evaluate #if condition\n"},
+    {"#if 1 2\n", "main.c : 1 : syntax error: failed to evaluate #if condition\n"},
+    {"#if 1.5\n", "main.c : 1 : syntax error: failed to evaluate #if condition\n"},
+    {"#if 1/0\n", "main.c : 1 : syntax error: failed to evaluate #if condition: division/modulo by zero\n"},
+    {"#if 1?2\n", "main.c : 1 : syntax error: failed to evaluate #if condition: invalid expression\n"},
+    {"#if sizeof x\n",
+     "main.c : 1 : syntax error: failed to evaluate #if condition: missing sizeof argument\n"},
+    {"#if sizeof()\n",
+     "main.c : 1 : syntax error: failed to evaluate #if condition: missing sizeof argument\n"},
+    {"#if sizeof(foo)\n",
+     "main.c : 1 : syntax error: failed to evaluate #if condition: invalid sizeof expression\n"},
+    {"#define\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#define 3\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#define f(a\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#define f(a,)\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#define f(a,a)\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#define f(...,a)\n", "main.c : 1 : syntax error: Failed to parse #define\n"},
+    {"#include\n", "main.c : 1 : syntax error: No header in #include\n"},
+    {"#include a b\n", "main.c : 1 : syntax error: No header in #include\n"},
+    {"x\n#error it's 1 a\n", "main.c : 2 : #error: it's 1 a\n"},
+    {"#warning a\\\nb\nx", "main.c : 1 : #warning: a b\n"},
+    {"#line 40 \"y.y\"\n#error a\n", "y.y : 40 : #error: a\n"},
+    {"a\n \xE9\n", "main.c : 2 : unhandled char error: The code contains unhandled character(s) (character "
+                   "code=233). Neither unicode nor extended ascii is supported.\n"},
+    {"a \\ \nb", "main.c : 1 : portability: Combination 'backslash space newline' is not portable.\n"},
+};
+
+TEST(MacroDirectives, MessagesMakeTheRunFail)
+{
+    for (const auto& c : kMessages) {
+        for (int command = 0; command < 3; ++command) {
+            SCOPED_TRACE(testing::Message() << c.source << ", command " << command);
+            const SMacroRun run = RunMacros(command, c.source);
+            EXPECT_FALSE(run.isDone);
+            EXPECT_EQ(run.errors, c.errors);
+            EXPECT_EQ(run.text, "");
+            EXPECT_TRUE(run.sourceLines.empty());
+        }
+    }
+}
+
+TEST(MacroDirectives, AnOpenConditionalIsToldAndTheRunGoesOn)
+{
+    const SMacroRun run = RunMacros(2, "a\n#if 1\nb\n#if 0\nc");
+    EXPECT_TRUE(run.isDone);
+    EXPECT_EQ(run.text, "a\n\nb");
+    EXPECT_EQ(run.errors, "main.c : 2 : #endif not found\nmain.c : 4 : #endif not found\n");
+}
+
+// ---- Presets ----
+
+TEST(MacroDirectives, PresetsDefineMacros)
+{
+    DefaultPresetValues presets;
+    presets.defines = {"A", "", "B=2", "C(x)=<x>", "D=", "B=3", "E=(1)", "X=1"};
+    presets.undefines = {"X"};
+    EXPECT_EQ(RunMacros(2, "A B C(y) [D] E X", presets).text, "1 2 <y> [] (1) X");
+    presets.defines = {"3=4"};
+    const SMacroRun run = RunMacros(2, "a", presets);
+    EXPECT_FALSE(run.isDone);
+    EXPECT_EQ(run.errors, "ERROR!!! std::exception : bad macro syntax. macroname=3 value=4.\n");
+}
+
+TEST(MacroDirectives, NamesKeptFromDefinitionTellTheirText)
+{
+    DefaultPresetValues presets;
+    presets.undefines = {"X", "F"};
+    const SMacroRun run = RunMacros(
+        2, "#define X 1 /* one */ 2\n#define X 3\n#define F(a) # a ## b\nX F(1)\n#ifdef X\nno\n#endif",
+        presets);
+    EXPECT_EQ(run.text, "\n\n\nX F(1)");
+    EXPECT_THAT(run.undefines, testing::ElementsAre(testing::Pair("F", "#a##b"), testing::Pair("X", "12")));
+}
+
+// ---- Include files ----
+
+using MacroIncludes = CMacroFolder;
+
+TEST_F(MacroIncludes, OnlyMacrosComeIn)
+{
+    Write("a.h", "#define A 1\nint hidden;\n#include \"sub/b.h\"\n");
+    Write("sub/b.h", "#define B(x) x \\\n+ 1\n#include \"c.h\"\n");
+    Write("sub/c.h", "#define C 3");
+    const SMacroRun run = RunMacros(2, "#include \"a.h\"\nA B(2) C", {}, Path("m.c"));
+    EXPECT_TRUE(run.isDone);
+    EXPECT_EQ(run.text, "#include \"a.h\"\n1 2 \n+ 1 3");
+    EXPECT_EQ(run.errors, "");
+}
+
+TEST_F(MacroIncludes, AreLookedForInOrder)
+{
+    Write("src/x.h", "#define X src");
+    Write("one/x.h", "#define X one");
+    Write("two/x.h", "#define X two");
+    Write("two/y.h", "#define Y two");
+    DefaultPresetValues presets;
+    presets.includePaths = {Path("none"), Path("one"), Path("src/..//./two/")};
+    const std::string main = Path("src/m.c");
+    EXPECT_EQ(RunMacros(2, "#include <x.h>\n#include <y.h>\nX Y", presets, main).text.substr(30), "one two");
+    EXPECT_EQ(RunMacros(2, "#include \"x.h\"\n#include \"y.h\"\nX Y", presets, main).text.substr(30),
+              "src two");
+    // a file that another place has brought in already isn't taken for this one
+    EXPECT_EQ(RunMacros(2, "#include <x.h>\n#include \"x.h\"\nX", presets, main).text.substr(30), "src");
+    EXPECT_EQ(RunMacros(2, "#include \"" + Path("two/x.h") + "\"\nX", {}, main)
+                  .text.substr(Path("two/x.h").size() + 12),
+              "two");
+    EXPECT_EQ(RunMacros(2, "#define H <y.h>\n#include H\nY", presets, main).text, "\n#include H\ntwo");
+    EXPECT_EQ(RunMacros(2, "#define H(x) #x\n#include H(x.h)\nX", presets, main).text,
+              "\n#include H(x.h)\nsrc");
+}
+
+TEST_F(MacroIncludes, WhatCannotBeReadIsMissing)
+{
+    Write("folder/x", "");
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    const SMacroRun run =
+        RunMacros(1, "#include \"none.h\"\n#include \"folder\"\n#include \"pipe\"\n#include \"/dev/zero\"\na",
+                  {}, Path("m.c"));
+    EXPECT_TRUE(run.isDone);
+    EXPECT_EQ(run.errors,
+              "Preprocessor> Header not found : none.h\nPreprocessor> Header not found : folder\n"
+              "Preprocessor> Header not found : pipe\nPreprocessor> Header not found : /dev/zero\n");
+    // what was missing once stays so
+    Write("none.h", "#define A");
+    EXPECT_EQ(RunMacros(1, "#include \"none.h\"\n", {}, Path("m.c")).errors,
+              "Preprocessor> Header not found : none.h\n");
+}
+
+TEST_F(MacroIncludes, ABinaryFileFailsTheRun)
+{
+    Write("b.h", std::string("\x7F"
+                             "ELF\0\0\n\xFF\xD8",
+                             9));
+    const SMacroRun run = RunMacros(1, "#include \"b.h\"\n", {}, Path("m.c"));
+    EXPECT_FALSE(run.isDone);
+    EXPECT_THAT(run.errors, testing::StartsWith(Path("b.h") + " : 2 : unhandled char error: "));
+}
+
+TEST_F(MacroIncludes, ExplicitOnesComeFirst)
+{
+    Write("e.h", "#define E 1\n#define F 1");
+    Write("f.h", "#define F 2");
+    DefaultPresetValues presets;
+    presets.explicitIncludes = {Path("e.h"), Path("f.h"), Path("g.h")};
+    const SMacroRun run = RunMacros(2, "E F", presets);
+    EXPECT_TRUE(run.isDone);
+    EXPECT_EQ(run.text, "1 1"); // the last one pushed is run first
+    EXPECT_EQ(run.errors,
+              "Preprocessor> Can not open include file '" + Path("g.h") + "' that is explicitly included.\n");
+}
+
+TEST_F(MacroIncludes, OnceMeansOnceByAnyPath)
+{
+    Write("o/once.h", "#pragma once\n#define P Q\n#ifdef Q\n#error again\n#endif\n#define Q");
+    const SMacroRun run =
+        RunMacros(2, "#include \"o/once.h\"\n#include \"./o/../o/once.h\"\nx", {}, Path("m.c"));
+    EXPECT_TRUE(run.isDone) << run.errors;
+}
+
+TEST_F(MacroIncludes, FourHundredMayBeOpen)
+{
+    for (int i = 1; i <= 402; ++i)
+        Write("n" + std::to_string(i) + ".h",
+              "#define N" + std::to_string(i) + "\n#include \"n" + std::to_string(i + 1) + ".h\"\n");
+    Write("n403.h", "");
+    const SMacroRun run =
+        RunMacros(2, "#include \"n1.h\"\n#ifdef N400\nyes\n#endif\n#ifdef N401\nno\n#endif", {}, Path("m.c"));
+    EXPECT_TRUE(run.isDone);
+    EXPECT_EQ(run.text, "#include \"n1.h\"\n\nyes");
+    EXPECT_EQ(run.errors, "#include nested too deeply\n");
+}
+
+TEST_F(MacroIncludes, FilesThatIncludeThemselvesComeToAnEnd)
+{
+    Write("self.h", "#include \"self.h\"\n");
+    const SMacroRun once = RunMacros(2, "#include \"self.h\"\nx", {}, Path("m.c"));
+    EXPECT_TRUE(once.isDone);
+    EXPECT_EQ(once.errors, "#include nested too deeply\n");
+
+    Write("twice.h", "#include \"twice.h\"\n#include \"twice.h\"\n");
+    DefaultPresetValues presets;
+    presets.expansionLimit = 1 << 20;
+    const SMacroRun twice = RunMacros(2, "#include \"twice.h\"\nx", presets, Path("m.c"));
+    EXPECT_FALSE(twice.isDone);
+    EXPECT_THAT(twice.errors,
+                testing::HasSubstr("twice.h : 2 : include nested too deeply: what 'twice.h' and the files "
+                                   "before it bring in goes beyond the limit"));
+}
+
+TEST_F(MacroIncludes, FilesLargerThanTheLimitAreRefused)
+{
+    Write("large.h", std::string(2000, 'x'));
+    DefaultPresetValues presets;
+    presets.expansionLimit = 1000;
+    const SMacroRun run = RunMacros(1, "#include \"large.h\"\n", presets, Path("m.c"));
+    EXPECT_FALSE(run.isDone);
+    EXPECT_EQ(run.errors,
+              Path("large.h") + " : 1 : missing header: the include files are larger than 1000 bytes.\n");
+}
+
+} // namespace

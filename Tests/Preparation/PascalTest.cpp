@@ -1,0 +1,82 @@
+#include "Preparation/Formatters/Pascal.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+TEST(Pascal, ConditionsAreDecided)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {"unit A;\n\n\nend.", "unit A;\nend.\n", {1, 4}},
+             {"a\n{$IFDEF RELEASE}\nb\n{$ELSE}\nc\n{$ENDIF}\nd\n", "a\nb\nd\n", {1, 3, 7}},
+             {"a\n{$IFNDEF RELEASE}\nb\n{$ENDIF}\nd\n",
+              "a\nd\n",
+              {1, 5}}, // nothing left: no blank line either
+             {"{$IFDEF FOO}\r\na\r\n{$ENDIF}\r\nb\r\n",
+              "{$IFDEF FOO}\r\na\r\n{$ENDIF}\r\nb\r\n",
+              {1, 2, 3, 4}},
+             {"{$R *.res}\n{$MODE X}\na\n", "{$R *.res}\n{$MODE X}\na\n", {1, 2, 3}},
+             {"{$IFDEF A}\n{$MODE X}\n{$ENDIF}\n", "{$IFDEF A}\n{$MODE X}\n{$ENDIF}\n", {1, 2, 3}},
+             // whole constructs in a line, outside and inside a block
+             {"x {$IFDEF RELEASE}a{$ELSE}b{$ENDIF} y\nz\n", "x a y\nz\n", {1, 2}},
+             {"{$IFDEF RELEASE}\nx{$ifndef RELEASE}a{$else}b{$endif}y\nz\n{$ENDIF}\n", "xby\nz\n", {2, 3}},
+             {"{$IFNDEF RELEASE}a{$ENDIF}\nz\n", "z\n", {2}},
+             {"{$IFDEF RELEASE}\na\n{$ELSE} b {$ENDIF}\nc\n", "a\nc\n", {2, 4}},
+             {"{$IFNDEF RELEASE}\na\n{$ELSE} b {$ENDIF}\nc\n", " b \nc\n", {3, 4}},
+             {"{$IFDEF RELEASE}\na\n{$ENDIF};\nc\n", "a\nc\n", {2, 4}}, // each construct is decided by itself
+         })
+        ExpectPrepared(c, FormatPascal(c.input));
+}
+
+TEST(Pascal, UnbalancedConditions)
+{
+    EXPECT_EQ(FormatPascal("a\n{$IFDEF X}\nb\n{$IFDEF Y}\n{$ENDIF}\nc").text, "a\n"); // swallows the rest
+    EXPECT_EQ(FormatPascal("a\n{$IFDEF X}{$EndIf}\nb").text, "a\n");                  // not in that spelling
+    // an end too many is a debt, which the next condition pays
+    EXPECT_EQ(FormatPascal("a\n{$ENDIF}\nb\n{$IFDEF RELEASE}\nc\n{$ELSE}\nd\n{$ENDIF}\ne").text,
+              "a\nb\nc\nd\ne\n");
+    EXPECT_EQ(FormatPascal("a\n{$ELSE}\nb").text, "a\nb\n");
+}
+
+TEST(Pascal, RealSources)
+{
+    for (const SCorpusFile& file : CorpusFiles("delphi")) {
+        SCOPED_TRACE(file.path);
+        const SPreparedText prepared = FormatPascal(file.text);
+        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
+        ASSERT_EQ(prepared.sourceLines.size(), lines.size());
+        // whole lines vanish; none is made up, none comes twice
+        std::set<std::uint32_t> seen;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            const std::uint32_t number = prepared.sourceLines[i];
+            if (lines[i] == "," || lines[i] == ";")
+                continue;
+            EXPECT_TRUE(seen.insert(number).second) << number;
+            EXPECT_EQ(lines[i], source.at(number - 1));
+        }
+        for (std::size_t i = 0; i < source.size() && source[i].find("{$") == source[i].npos; ++i)
+            EXPECT_EQ(seen.contains(static_cast<std::uint32_t>(i + 1)), !source[i].empty()) << i;
+    }
+}
+
+TEST(Pascal, AnySize)
+{
+    const std::string piece =
+        "a := b;\n{$IFDEF RELEASE}\nc;\n{$ELSE}\nd;\n{$ENDIF}\n{$IFDEF X}\ne;\n{$ENDIF}\n";
+    const std::size_t count = (20 << 20) / piece.size();
+    EXPECT_TRUE(FormatPascal(Repeated(piece, count)).text ==
+                Repeated("a := b;\nc;\n{$IFDEF X}\ne;\n{$ENDIF}\n", count));
+    const std::string line = Repeated("{$IFDEF RELEASE}a{$ELSE}b{$ENDIF}", (10 << 20) / 33);
+    EXPECT_TRUE(FormatPascal(line).text == std::string((10 << 20) / 33, 'a') + "\n");
+    EXPECT_EQ(FormatPascal(Repeated("{$ENDIF}\n", 1 << 20)).text, "");
+    EXPECT_EQ(FormatPascal(Repeated("{$IFDEF X}\n", 1 << 20)).text, "");
+}
+
+} // namespace

@@ -1,0 +1,291 @@
+#include "Preparation/Formatters/Progress.h"
+
+#include "Tests/Preparation/FormatterFixture.h"
+#include "Tests/Preparation/TemporaryFolder.h"
+#include "Tests/Support/MemoryLog.h"
+
+#include <boost/regex.hpp>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <vector>
+
+namespace {
+
+class ProgressFormatter : public testing::Test
+{
+protected:
+    void File(const std::string& name, const std::string& text) { m_Folder.Write(name, text); }
+
+    SPreparedText Prepare(const std::string& source, std::size_t limit = std::size_t{64} << 20)
+    {
+        return FormatProgress(source, {m_Folder.Path("main.p"), limit});
+    }
+    std::string Text(const std::string& source) { return Prepare(source).text; }
+
+    CTemporaryFolder m_Folder;
+    CLogCapture m_Log;
+};
+
+struct SProgressCase
+{
+    const char* file; // the text of a.i
+    const char* source;
+    const char* text;
+};
+
+TEST_F(ProgressFormatter, ArgumentsFillThePlaceholders)
+{
+    for (const SProgressCase& c : std::initializer_list<SProgressCase>{
+             {"x", "p {a.i} q", "p x q"},
+             {"", "p {a.i} q", "p  q"},
+             {"{&x} {&y} {&z}", "{a.i &x=1 \"two\"}", "1 two {&z}"},
+             {"{&x}{ &x }{&x }{& x}", "{a.i &x = \"a b\"}", "a ba ba b{& x}"},
+             {"{&a}{&b}", "{a.i  first\n\t\"second one\" third}", "firstsecond one"},
+             {"{&a.b}{&c&d}{&e}", "{a.i 1}", "{&a.b}{&c&d}1"}, // names of no such form
+             {"{&a}{&b}", "{a.i &b=\"\" x}", "x"},
+             {"{&a}{&b}", "{a.i &a x}", "{&a}{&b}"},            // "&" without "=" ends the arguments
+             {"{&a}{&b}", "{a.i 1 \"x}", "1{&b}"},              // so does a quote without its partner
+             {"{&a}", "{a.i &a={&b}}", "{a.i &a={&b}}"},        // braces inside: no reference
+             {"{&(}{&a+}{&aa}", "{a.i &(=1 &a+=2}", "12{&aa}"}, // names aren't patterns
+             {"{&A}{&a}", "{a.i &a=1}", "{&A}1"},
+             {"{&a}", "{a.i &a=x&b=y}", "x&b=y"},
+             // format strings, the value twice: an escape sequence, the match, a group that isn't there, a
+             // dollar sign
+             {"[{&a}]", "{a.i &a=x\\ty$&z$1$$$q}", "[x\ty{&a}z$q]"},
+             {"a\\x41$1b$", "{a.i 1}", "aAb$"},
+         }) {
+        SCOPED_TRACE(testing::Message() << c.file << " in " << c.source);
+        File("a.i", c.file);
+        EXPECT_EQ(Text(c.source), c.text);
+    }
+}
+
+TEST_F(ProgressFormatter, TheNameTellsTheFile)
+{
+    File("a.i", "a");
+    File("a.I", "capital");
+    File("a.i.i", "twice");
+    File("src/a.i", "deep");
+    EXPECT_EQ(Text("{ a.i}{\n src/b\\a.i }{a.I x}"), "aacapital"); // the last part, beside the source
+    EXPECT_EQ(Text("{a.i.i}{a.i}"), "twicea");
+    EXPECT_EQ(Text("{a.i}{a.i.i}{a.ii}"), "aaa");                  // every reference that begins so
+    EXPECT_EQ(Text("{a.include x}{&a.i}{b.p}{a.i"), "a{b.p}{a.i"); // up to the last ".i"
+    EXPECT_EQ(Text("{" + m_Folder.Path("src/a.i") + "}"), "a");    // with "\" for "/" there is no such file
+    EXPECT_EQ(FormatProgress("{a.i}", {m_Folder.Path("src\\main.p")}).text, "");
+    EXPECT_EQ(FormatProgress("{x/a.i}", {m_Folder.Path("src/main.p")}).text, "deep");
+}
+
+TEST_F(ProgressFormatter, TheFirstReferenceCountsForAll)
+{
+    File("a.i", "<{&x}>");
+    EXPECT_EQ(Text("{a.i 1} {a.i 2}\n{ a.i}"), "<1> <1>\n<1>");
+    File("b.i", "{a.i 3}{c.i}");
+    EXPECT_EQ(Text("{b.i} {a.i 4}"), "<3> <3>");
+}
+
+TEST_F(ProgressFormatter, ReferencesThatComeTogetherCount)
+{
+    File("a.i", "[{&x}]");
+    File("b.i", "b");
+    File("open.i", "{a.i ");
+    EXPECT_EQ(Text("{a.i &x=\"{b.i}\"}"), "[b]");
+    EXPECT_EQ(Text("1{{b.i}.i}2"), "1b2"); // "{b.i}" gives "b": "{b.i}" again
+    EXPECT_EQ(Text("1{open.i}y}2"), "1[y]2");
+    EXPECT_EQ(Text("{a.i {none.i}{b.i}{none.i} }{b.i}"), "[b]b");
+    EXPECT_EQ(Text("{ {b.i} } {b.i}"), "{ b } b");
+    const SPreparedText prepared = Prepare("x\n{a.i\n{b.i}\n}\ny {b.i}\n");
+    EXPECT_EQ(prepared.text, "x\n[b]\ny b\n");
+    EXPECT_EQ(prepared.sourceLines, (std::vector<std::uint32_t>{1, 2, 5}));
+}
+
+TEST_F(ProgressFormatter, LinesOfTheSourceAreKept)
+{
+    File("a.i", "1\n2\n");
+    File("b.i", "b1\n{a.i}b2");
+    const SPreparedText prepared = Prepare("p\n{b.i\n}\nq {a.i} r\ns");
+    EXPECT_EQ(prepared.text, "p\nb1\n1\n2\nb2\nq 1\n2\n r\ns");
+    EXPECT_EQ(prepared.sourceLines, (std::vector<std::uint32_t>{1, 2, 2, 2, 2, 4, 4, 4, 5}));
+}
+
+TEST_F(ProgressFormatter, FilesThatAreNone)
+{
+    std::filesystem::create_directories(m_Folder.Path("folder.i"));
+    ASSERT_EQ(mkfifo(m_Folder.Path("pipe.i").c_str(), 0600), 0);
+    std::filesystem::create_symlink(m_Folder.Path("loop.i"), m_Folder.Path("loop.i"));
+    File("binary.i", std::string("a\0{missing.i}\xFF\n", 15));
+    File("mark.i", "\xEF\xBB\xBFx");
+    EXPECT_EQ(Text("1{folder.i}2{pipe.i}3{loop.i}4{missing.i}5{/dev/zero.i}6"), "123456");
+    EXPECT_EQ(Text("{binary.i}"), std::string("a\0\xFF\n", 4));
+    EXPECT_EQ(Text("{mark.i}"), "x");
+    EXPECT_EQ(Text("{" + std::string(10 << 20, 'n') + ".i}x"), "x");
+    EXPECT_EQ(m_Log.Text(), "");
+}
+
+TEST_F(ProgressFormatter, Cycles)
+{
+    File("self.i", "{self.i}");
+    EXPECT_EQ(Text("{self.i}{self.i x}"), "{self.i}{self.i}");
+    EXPECT_EQ(m_Log.Text(), "");
+
+    File("grow.i", "x{grow.i}");
+    EXPECT_EQ(Text("{grow.i}"), std::string(1000, 'x') + "{grow.i}");
+    EXPECT_NE(m_Log.Text().find("1000 rounds"), std::string::npos);
+    m_Log.Clear();
+
+    File("ping.i", "{pong.i}");
+    File("pong.i", "{ping.i}");
+    EXPECT_EQ(Text("{ping.i}"), "{ping.i}");
+    EXPECT_NE(m_Log.Text().find("1000 rounds"), std::string::npos);
+    m_Log.Clear();
+
+    File("twice.i", "{twice.i}{twice.i}x");
+    const SPreparedText bomb = Prepare("{twice.i}");
+    EXPECT_LE(bomb.text.size(), (std::size_t{64} << 20) + 9);
+    EXPECT_GE(bomb.text.size(), std::size_t{8} << 20);
+    EXPECT_NE(m_Log.Text().find("too long"), std::string::npos);
+    m_Log.Clear();
+
+    EXPECT_EQ(Prepare("{twice.i}", 20).text, "{twice.i}{twice.i}x");
+    EXPECT_NE(m_Log.Text().find("too long"), std::string::npos);
+}
+
+TEST_F(ProgressFormatter, FormatsThatGrow)
+{
+    File("rest.i", Repeated("$'", 1000));
+    EXPECT_EQ(Text("{rest.i}ab"), Repeated("ab", 1000) + "ab");
+    EXPECT_EQ(Text("{rest.i}" + std::string(1 << 20, 'a')), "{rest.i}" + std::string(1 << 20, 'a'));
+    EXPECT_NE(m_Log.Text().find("too long"), std::string::npos);
+    File("before.i", "<$`>");
+    EXPECT_EQ(Text("a{before.i}b{before.i}c"), "a<a>b<b>c"); // back to the match before
+    File("digits.i", Repeated("$1\\x41", 1 << 14));
+    EXPECT_TRUE(Text("{digits.i}") == std::string(1 << 14, 'A'));
+    m_Log.Clear();
+    File("digits.i", Repeated("$1", 1 << 20)); // the library's time grows with the square
+    EXPECT_EQ(Text("{digits.i}"), "{digits.i}");
+    EXPECT_NE(m_Log.Text().find("takes too long"), std::string::npos);
+    File("x.i", Repeated("{&x}", 1 << 16));
+    EXPECT_EQ(Text("{x.i &x=" + Repeated("$1", 1 << 16) + "}").front(), '{');
+}
+
+// The same by patterns, over the whole text in each round. Nothing if there is no end to it.
+std::optional<std::string> PrepareByPatterns(std::string text,
+                                             const std::map<std::string, std::string>& files)
+{
+    const auto quoted = [](const std::string& plain) { return "\\Q" + plain + "\\E"; };
+    const boost::regex pattern("\\{[\\s]*([^\\s\\{\\}]*\\.i)([^\\{\\}]*)\\}", boost::regex::icase);
+    boost::smatch match;
+    for (int round = 0; boost::regex_search(text, match, pattern); ++round) {
+        if (round == 30 || text.size() > 4000)
+            return std::nullopt;
+        const std::string name = match.str(1);
+        const auto file = files.find(name.substr(name.find_last_of('\\') + 1));
+        std::string included = file == files.end() ? "" : file->second;
+        std::string arguments = match.str(2);
+        boost::smatch parts;
+        const boost::regex argument("\\A\\s*(?:(&[^=]*)=\\s*)?(?:\"([^\"]*)\"|([^\\s\"]\\S*|(?=\\s*\\z)))");
+        while (arguments.find_first_not_of(" \n") != arguments.npos) {
+            const bool isNamed = arguments[arguments.find_first_not_of(" \n")] == '&';
+            if (!boost::regex_search(arguments, parts, argument) || isNamed != parts[1].matched)
+                break;
+            const std::string value = parts[2].matched ? parts.str(2) : parts.str(3);
+            std::string key = parts.str(1);
+            key.erase(key.find_last_not_of(" \n") + 1);
+            included =
+                isNamed
+                    ? boost::regex_replace(included, boost::regex("\\{[ ]*" + quoted(key) + "[ ]*\\}"), value)
+                    : boost::regex_replace(included, boost::regex("\\{[ ]*&[^\\{\\}&\\.]*\\}"), value,
+                                           boost::format_first_only);
+            arguments = parts.suffix().str();
+        }
+        const std::string before = text;
+        text =
+            boost::regex_replace(text, boost::regex("\\{[\\s]*" + quoted(name) + "[^\\{\\}]*\\}"), included);
+        if (text == before)
+            break;
+    }
+    return text;
+}
+
+TEST_F(ProgressFormatter, EqualsThePatternsOnRandomTexts)
+{
+    const std::vector<std::string> pieces = {
+        "{a.i}", "{b.i ", "{c.i", "{ A.I ", "}", "}",  "{", "&x=1 ", "&y = \"2 3\" ",
+        "\"",    "4 ",    "{&x}", "{ &y }", "x", "\n", " ", ".i",    "$&",
+        "\\",    "$'",    "$`",   "a.i",    "&"};
+    std::mt19937 random(5);
+    int compared = 0;
+    for (int i = 0; i < 2000; ++i) {
+        std::map<std::string, std::string> files;
+        for (const char* name : {"a.i", "b.i", "c.i"}) {
+            files[name] = RandomText(random, pieces, 6);
+            File(name, files[name]);
+        }
+        const std::string source = RandomText(random, pieces, 14);
+        const auto expected = PrepareByPatterns(source, files);
+        if (!expected)
+            continue;
+        ++compared;
+        SCOPED_TRACE(testing::Message() << source << "\na.i: " << files["a.i"] << "\nb.i: " << files["b.i"]
+                                        << "\nc.i: " << files["c.i"]);
+        const SPreparedText prepared = Prepare(source);
+        ASSERT_EQ(prepared.text, *expected);
+        const bool isOpen = !prepared.text.empty() && prepared.text.back() != '\n';
+        ASSERT_EQ(prepared.sourceLines.size(),
+                  static_cast<std::size_t>(std::ranges::count(prepared.text, '\n') + isOpen));
+        ASSERT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
+    }
+    EXPECT_GT(compared, 1000);
+}
+
+TEST_F(ProgressFormatter, RealSources)
+{
+    for (const SCorpusFile& file : CorpusFiles("progress-4gl")) {
+        SCOPED_TRACE(file.path);
+        const SPreparedText prepared = FormatProgress(file.text, {file.path});
+        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
+        ASSERT_EQ(prepared.sourceLines.size(), lines.size());
+        EXPECT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
+        // a line without braces comes from the source or from a file; each of the source's is still there
+        std::size_t at = 0;
+        bool isInside = false; // a reference that spans lines
+        for (std::size_t i = 0; i < source.size(); ++i) {
+            const bool isPlain = !isInside && source[i].find_first_of("{}") == source[i].npos;
+            for (const char byte : source[i])
+                isInside = byte == '{' || (isInside && byte != '}');
+            while (isPlain && at < lines.size() &&
+                   (prepared.sourceLines[at] != i + 1 || lines[at] != source[i]))
+                ++at;
+            EXPECT_TRUE(!isPlain || at < lines.size()) << source[i];
+        }
+        if (source.empty() || file.path.ends_with("findtsp.i")) // it names itself in a comment
+            continue;
+        EXPECT_EQ(prepared.text.find(".i}"), std::string::npos);
+    }
+}
+
+TEST_F(ProgressFormatter, AnySize)
+{
+    File("a.i", "x\n");
+    const std::string piece = "DEFINE VARIABLE a AS CHARACTER.\n{a.i}{&b}\n";
+    const std::size_t count = (20 << 20) / piece.size();
+    EXPECT_TRUE(Text(Repeated(piece, count)) ==
+                Repeated("DEFINE VARIABLE a AS CHARACTER.\nx\n{&b}\n", count));
+    EXPECT_TRUE(Text(Repeated("{a.i ", 2 << 20)) == Repeated("{a.i ", 2 << 20));
+    EXPECT_EQ(Text("{a.i " + Repeated("&x=\"y\" ", 1 << 20) + "}"), "x\n");
+    EXPECT_EQ(Text("{a.i " + std::string(10 << 20, ' ') + "}"), "x\n");
+    File("many.i", Repeated("{&x}", 1 << 16));
+    EXPECT_TRUE(Text("{many.i " + Repeated("1 ", 1 << 20) + "}").starts_with("1111"));
+    EXPECT_NE(m_Log.Text().find("too many arguments"), std::string::npos);
+    std::string distinct;
+    for (int i = 0; i < 10000; ++i)
+        distinct += "{none" + std::to_string(i) + ".i}";
+    EXPECT_TRUE(distinct.ends_with(Text(distinct)));
+}
+
+} // namespace
