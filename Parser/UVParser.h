@@ -3,19 +3,23 @@
 // interface.
 //
 // Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo),
-// the way from a text to its result (UVParserPipeline), the flattening of the tree (UVParserFlatten), errors and statistics (UVParserErrors).
+// the way from a text to its result (UVParserPipeline), the flattening of the tree (UVParserFlatten), errors
+// and statistics (UVParserErrors).
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
+#include "Preparation/Preprocessor.h"
 #include "Stylesheets/Resources.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 class CUVDBSQLParser : public IUVDBSQLParser
 {
@@ -32,8 +36,13 @@ public:
     int set_Log(std::shared_ptr<ILog> log) override;
     int set_Query(const char* text) override;
 
-    // With the option REPORT_UNEXPECTED_TOKENS "1" on the database info, a parse that got as far as the
-    // database info leaves the list of FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS.
+    // Options on the database info that a host may set:
+    //     REPORT_UNEXPECTED_TOKENS "1"  a parse that got as far as the database info leaves the list of
+    //                                   FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS
+    //     REPORT_PREPARED_LINES "1"     likewise FormatPreparedLines in the text option PREPARED_LINES, and
+    //     the
+    //                                   name of the preparation pass in PREPARED_BY, empty if there was none
+    //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     int Parse(bool showErrors) override;
 
     // Adds to the unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't ready.
@@ -49,8 +58,8 @@ public:
     std::string GetParsedXml() override;
 
     int ExecuteTree2Serial() override;
-    // With the option TREE2SERIAL_STYLESHEET "1" on `info` the stylesheet does the work by itself, for authors
-    // who want to see it at that; the bytes are the same, time and memory are not.
+    // With the option TREE2SERIAL_STYLESHEET "1" on `info` the stylesheet does the work by itself, for
+    // authors who want to see it at that; the bytes are the same, time and memory are not.
     int Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml) override;
 
     // Keeps the outcome of the second parse if it met no unexpected token, and the flipped rule with it.
@@ -94,13 +103,19 @@ protected:
     int ExecuteParsingColoring(bool showErrors);
     int FlattenResult();
     void DefineStylesheets();
+    // Saves the result a shift by the difference of the declarations. The stylesheet knows its own one alone.
+    int Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
+                std::string_view declaration);
+    bool IsForPreparationOnly() const;
     void replaceXmlHeader();
     // The text itself as the result, for sources that no grammar reads.
     int ExecuteEmbeddedParsing();
     int ExecuteParsingTool(bool showErrors);
     bool IsPropertiesFile() const;
     void GiveQueryToParser();
+    bool IsOptionSet(const char* name) const;
     int ReportUnexpectedTokens();
+    int ReportPreparedLines();
 
     // ---- Errors ----
 
@@ -128,10 +143,13 @@ protected:
     bool m_TryOtherOpts = false;
     bool m_ResourcesDefined = false;
     bool m_PatternProcess = false; // texts come prepared, and the grammar is the one for patterns
-    std::shared_ptr<std::map<std::string, std::string>> m_UndefinedTokens;
+    std::shared_ptr<Preprocessor> m_Preprocessor;
+    std::vector<std::uint32_t> m_SourceLines; // of the prepared query; empty if no pass kept them
+    const char* m_PreparedBy = "";
     std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
 
 private:
+    friend class ScriptFormatter;
     class CSecondAttempt;
 
     bool m_IsConnected = false;     // scanner and parser are linked: texts can be parsed

@@ -51,6 +51,8 @@ int CUVDBSQLParser::TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info)
     if (!m_DatabaseInfo)
         return kNoDatabaseInfo;
     if (!m_Lexer) {
+        if (IsForPreparationOnly())
+            return UVDB_OK;
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "set_DatabaseInfo before Load");
         return UVDB_ERROR;
     }

@@ -58,8 +58,8 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 {
     const auto start = std::chrono::steady_clock::now();
     CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
-    const int result =
-        GuardEdge([&] { return m_Result.IsEmpty() ? UVDB_OK : Tree2Serial(m_DatabaseInfo, m_Result); });
+    const int result = GuardEdge(
+        [&] { return m_Result.IsEmpty() ? UVDB_OK : Flatten(m_DatabaseInfo, m_Result, kXmlHeader); });
     const auto elapsed = std::chrono::steady_clock::now() - start;
     CLogWrapper::WriteTraceF(
         "\nExecuteTree2Serial: elapsed %lld ms",
@@ -70,11 +70,17 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 
 int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
 {
+    return Flatten(info, xml, kXmlDeclaration);
+}
+
+int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
+                            std::string_view declaration)
+{
     return GuardEdge([&] {
         const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
         if (!IsStylesheetForced(info) && IsEmbeddedStylesheet(stylesheet)) {
             std::string flattened;
-            if (FlattenTree(xml, flattened)) {
+            if (FlattenTree(xml, flattened, declaration)) {
                 xml = std::move(flattened);
                 return static_cast<int>(UVDB_OK);
             }

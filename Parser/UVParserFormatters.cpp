@@ -4,6 +4,7 @@
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/ScriptFormatter.h"
 #include "Parser/UVParserText.h"
 
 namespace {
@@ -20,6 +21,11 @@ U8CString ReadText(const SFormatterOptions& options, const char* name, const cha
 bool Always(const SFormatterOptions&)
 {
     return true;
+}
+
+bool IsPreprocessed(const SFormatterOptions& options)
+{
+    return options.isPreprocessorEnabled;
 }
 
 bool IncludesFiles(const SFormatterOptions& options)
@@ -58,15 +64,17 @@ bool HasJclFormat(const SFormatterOptions& options)
 // clang-format off
 constexpr SFormatterRow kRows[] = {
 //   kind                     name                    wanted           formatter
-    {UVDB_DB_4GL_PROGRESS,    "Format4GL_PROGRESS",   IncludesFiles,   nullptr},
-    {UVDB_DB_ASP,             "FormatASP",            IsAspFile,       nullptr},
-    {UVDB_DB_PASCAL,          "FormatPASCAL",         ResolvesDefines, nullptr},
-    {UVDB_DB_COBOL,           "FormatCOBOL",          HasCobolFormat,  nullptr},
-    {UVDB_DB_TELON_COBOL,     "FormatCOBOL",          HasCobolFormat,  nullptr},
-    {UVDB_DB_IBM_RPG,         "FormatIBM_RPG",        Always,          nullptr},
-    {UVDB_DB_JCL,             "FormatJCL",            HasJclFormat,    nullptr},
-    {UVDB_DB_IBM_CL,          "FormatIBM_CL",         Always,          nullptr},
-    {UVDB_DB_FOXPRO_PROGRAMS, "FormatFoxProPrograms", Always,          nullptr},
+    {UVDB_DB_CPP,             "FormatCPP",            IsPreprocessed,  &ScriptFormatter::FormatCPP},
+    {UVDB_DB_C,               "FormatCPP",            IsPreprocessed,  &ScriptFormatter::FormatCPP},
+    {UVDB_DB_4GL_PROGRESS,    "Format4GL_PROGRESS",   IncludesFiles,   &ScriptFormatter::Format4GL_PROGRESS},
+    {UVDB_DB_ASP,             "FormatASP",            IsAspFile,       &ScriptFormatter::FormatASP},
+    {UVDB_DB_PASCAL,          "FormatPASCAL",         ResolvesDefines, &ScriptFormatter::FormatPASCAL},
+    {UVDB_DB_COBOL,           "FormatCOBOL",          HasCobolFormat,  &ScriptFormatter::FormatCOBOL},
+    {UVDB_DB_TELON_COBOL,     "FormatCOBOL",          HasCobolFormat,  &ScriptFormatter::FormatCOBOL},
+    {UVDB_DB_IBM_RPG,         "FormatIBM_RPG",        Always,          &ScriptFormatter::FormatIBM_RPG},
+    {UVDB_DB_JCL,             "FormatJCL",            HasJclFormat,    &ScriptFormatter::FormatJCL},
+    {UVDB_DB_IBM_CL,          "FormatIBM_CL",         Always,          &ScriptFormatter::FormatIBM_CL},
+    {UVDB_DB_FOXPRO_PROGRAMS, "FormatFoxProPrograms", Always,          &ScriptFormatter::FormatFoxProPrograms},
 };
 // clang-format on
 

@@ -1,4 +1,5 @@
 #include "Interfaces/ILog.h"
+#include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
@@ -31,14 +32,14 @@ int CUVDBSQLParser::Load(const char* parserName)
     CLogWrapper::WriteTraceF("\nUVParser%s : Creation...", parserName);
     auto lexer = std::make_shared<CSQLGrammarLexer>(parserName, m_PatternProcess);
     auto parser = std::make_shared<CSQLGrammarParser>(parserName, m_PatternProcess);
-    auto undefinedTokens = std::make_shared<std::map<std::string, std::string>>();
+    auto preprocessor = std::make_shared<Preprocessor>();
 
     // Only the coloring scanner's map is ever read.
     lexer->set_ColoringWanted(false);
     m_IsConnected = false;
     m_Lexer = std::move(lexer);
     m_Parser = std::move(parser);
-    m_UndefinedTokens = std::move(undefinedTokens);
+    m_Preprocessor = std::move(preprocessor);
     // It starts with the same flags as the new scanner, whatever was written to it for an earlier grammar.
     m_ColoringLexer.m_Extension = CSQLGrammarLexerImplementation();
     m_ColoringLexer.ShareTables(*m_Lexer);
@@ -56,19 +57,27 @@ int CUVDBSQLParser::Init(const char* mode)
         m_ColoringMode = false;
         m_CommentMode = false;
     }
-    return GuardEdge([&] {
-        if (!m_Lexer || !m_Parser) {
-            CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Init before Load");
-            return static_cast<int>(UVDB_ERROR);
-        }
+    const bool isForPreparationOnly = IsForPreparationOnly();
+    if (!isForPreparationOnly && (!m_Lexer || !m_Parser)) {
+        CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Init before Load");
+        return UVDB_ERROR;
+    }
+    const int connected = GuardEdge([&] {
         // A connection that can't be made is no failure of Init: the parse that needs it fails.
-        m_IsConnected = m_Parser->yycreate(m_Lexer.get()) == kConnected &&
+        m_IsConnected = m_Lexer && m_Parser && m_Parser->yycreate(m_Lexer.get()) == kConnected &&
                         m_Lexer->yycreate(m_Parser.get()) == kConnected;
         if (m_IsConnected)
             m_ColoringLexer.yycreate();
-        DefineStylesheets();
-        return static_cast<int>(UVDB_OK);
+        return UVDB_OK;
     });
+    const int prepared = GuardEdge([&] {
+        if (!m_Preprocessor)
+            m_Preprocessor = std::make_shared<Preprocessor>();
+        m_Preprocessor->Init(m_DatabaseInfo);
+        DefineStylesheets();
+        return UVDB_OK;
+    });
+    return connected != UVDB_OK ? connected : prepared;
 }
 
 int CUVDBSQLParser::get_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2>& out)
@@ -128,7 +137,7 @@ int CUVDBSQLParser::get_ConvertingObject(std::shared_ptr<IUVDBObjectInfo>& out)
 
 std::shared_ptr<std::map<std::string, std::string>> CUVDBSQLParser::GetUndefinesTokens()
 {
-    return m_UndefinedTokens;
+    return m_Preprocessor ? m_Preprocessor->GetUndefinesTokens() : nullptr;
 }
 
 int CUVDBSQLParser::get_LastError(std::shared_ptr<IUVDBErrorInfo>& out)

@@ -5,6 +5,7 @@
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBOptionWrapper.h"
+#include "Parser/ScriptFormatter.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserFormatters.h"
@@ -84,7 +85,11 @@ int CUVDBSQLParser::Parse(bool showErrors)
 {
     const int result = GuardEdge([&] { return ParseQuery(showErrors); });
     // A host that asked for the list takes a missing one for a clean parse.
-    const int reported = GuardEdge([&] { return ReportUnexpectedTokens(); });
+    const int reported = GuardEdge([&] {
+        const int lines = ReportPreparedLines();
+        const int tokens = ReportUnexpectedTokens();
+        return lines < UVDB_OK ? lines : tokens;
+    });
     return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
 }
 
@@ -100,6 +105,12 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
     if (!m_DatabaseInfo) {
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "DatabaseInfo or query is empty");
         return UVDB_ERROR;
+    }
+    if (IsForPreparationOnly()) {
+        const int prepared = PrepareToParse();
+        if (prepared == UVDB_OK)
+            m_Result = m_Query;
+        return prepared;
     }
     if (!m_IsConnected) {
         constexpr char kNotReady[] = "Parse before Load and Init";
@@ -158,13 +169,20 @@ int CUVDBSQLParser::PrepareToParse()
 {
     bool parsesDirectives = true;
     CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "PARSE_DIRECTIVES", parsesDirectives);
-    WriteLexers([&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_bCppDirectiveParse = parsesDirectives; });
+    if (m_Lexer)
+        WriteLexers(
+            [&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_bCppDirectiveParse = parsesDirectives; });
 
     ReplaceZeroWidthSpaces(m_Query);
-    const SFormatterRow* const formatter =
-        FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject});
-    if (formatter != nullptr && formatter->format != nullptr)
-        formatter->format(*this);
+    m_SourceLines.clear();
+    m_PreparedBy = "";
+    const bool isPreprocessorEnabled = m_Preprocessor && m_Preprocessor->IsEnabled();
+    if (const SFormatterRow* const row =
+            FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject, isPreprocessorEnabled})) {
+        m_PreparedBy = row->name;
+        ScriptFormatter formatter(*this);
+        (formatter.*row->format)();
+    }
 
     if (!m_Query.IsEmpty()) {
         CLogWrapper::WriteTraceF("\nFormatted query:\n%s\n", m_Query.c_str());
@@ -274,14 +292,31 @@ void CUVDBSQLParser::replaceXmlHeader()
     ReplaceXmlHeader(m_Result);
 }
 
+bool CUVDBSQLParser::IsOptionSet(const char* name) const
+{
+    U8CString value;
+    if (m_DatabaseInfo)
+        CUVDBOptionWrapper::GetParam(m_DatabaseInfo, name, value);
+    return value == "1";
+}
+
+bool CUVDBSQLParser::IsForPreparationOnly() const
+{
+    return IsOptionSet("PREPARE_ONLY");
+}
+
 int CUVDBSQLParser::ReportUnexpectedTokens()
 {
-    if (!m_DatabaseInfo || !m_Parser)
-        return UVDB_OK;
-    U8CString isWanted;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", isWanted);
-    if (isWanted != "1")
+    if (!m_Parser || !IsOptionSet("REPORT_UNEXPECTED_TOKENS"))
         return UVDB_OK;
     const U8CString list = FormatUnexpectedTokens(m_Query, m_Parser->m_Extension.m_lstUnexpected);
     return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "UNEXPECTED_TOKENS", list);
+}
+
+int CUVDBSQLParser::ReportPreparedLines()
+{
+    if (!IsOptionSet("REPORT_PREPARED_LINES"))
+        return UVDB_OK;
+    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_BY", U8CString(m_PreparedBy));
+    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_LINES", FormatPreparedLines(m_SourceLines));
 }

@@ -6,7 +6,6 @@
 namespace {
 
 constexpr std::string_view kZeroWidthSpace = "\xE2\x80\x8B";
-constexpr std::string_view kXmlHeader = "<?xml version=\"1.0\" ?>";
 
 std::string_view ViewOf(const Uve::U8CString& text)
 {
@@ -85,4 +84,18 @@ std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::strin
     const std::size_t quoteEnd = end == text.size() ? end : LineEnd(text, end + 1);
     return "Code lines:\n<<<<\n" + std::string(text.substr(previousStart, quoteEnd - previousStart)) +
            "\n>>>>\n";
+}
+
+Uve::U8CString FormatPreparedLines(const std::vector<std::uint32_t>& sourceLines)
+{
+    std::string list;
+    for (std::size_t first = 0; first < sourceLines.size();) {
+        std::size_t behind = first + 1;
+        while (behind < sourceLines.size() && sourceLines[behind] == sourceLines[behind - 1] + 1)
+            ++behind;
+        list += std::to_string(first + 1) + '\t' + std::to_string(sourceLines[first]) + '\t' +
+                std::to_string(behind - first) + '\n';
+        first = behind;
+    }
+    return list;
 }

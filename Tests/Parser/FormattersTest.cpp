@@ -40,6 +40,7 @@ constexpr SFormatterCase kCases[] = {
     {UVDB_DB_IBM_CL, nullptr, nullptr, "FormatIBM_CL"},
     {UVDB_DB_FOXPRO_PROGRAMS, nullptr, nullptr, "FormatFoxProPrograms"},
     {UVDB_DB_POSTGRESQL, "COBOLFORMAT", "YES", nullptr},
+    {UVDB_DB_C, nullptr, nullptr, nullptr}, // the preprocessor has to be on
 };
 
 TEST(Formatters, KindAndOptionsChoose)

@@ -1,0 +1,135 @@
+// From the options to the prepared text, through the parser object. What each pass makes of its texts is
+// tested with the pass.
+#include "Tests/Parser/ParserFixture.h"
+
+namespace {
+
+class ScriptFormatters : public ParserTest
+{
+protected:
+    // Without a grammar: none of these languages has one here.
+    void StartPreparation(std::uint64_t kind)
+    {
+        SetDatabase(kind);
+        SetOption("PREPARE_ONLY", "1");
+        SetOption("REPORT_PREPARED_LINES", "1");
+    }
+
+    int Prepare(const char* text)
+    {
+        EXPECT_EQ(m_Parser.set_DatabaseInfo(m_Info), UVDB_OK);
+        EXPECT_EQ(m_Parser.Init(""), UVDB_OK);
+        return Parse(text);
+    }
+};
+
+struct SPassCase
+{
+    std::uint64_t kind;
+    std::map<std::string, std::string> options;
+    const char* source;
+    const char* prepared;
+    const char* pass;
+    const char* lines; // runs: prepared line, source line, count
+};
+
+TEST_F(ScriptFormatters, OptionsReachThePass)
+{
+    const SPassCase cases[] = {
+        {UVDB_DB_COBOL, {}, "000100 A.\n", "000100 A.\n", "", ""},
+        {UVDB_DB_COBOL,
+         {{"COBOLFORMAT", "ansi"}},
+         "000100 A.\n000200 B.\n",
+         "       A.\n       B.\n",
+         "FormatCOBOL",
+         "1\t1\t2\n"},
+        {UVDB_DB_COBOL, {{"COBOLFORMAT", "free"}}, "000100 A.", "       A.\n", "FormatCOBOL", "1\t1\t1\n"},
+        {UVDB_DB_COBOL,
+         {{"COBOLFORMAT", "ANSI"}, {"COBOL_TAB_WIDTH", "2"}, {"REMOVE_SRC_FORMATTING", "1"}},
+         "000100 A\tB.",
+         "       A B.",
+         "FormatCOBOL",
+         "1\t1\t1\n"},
+        {UVDB_DB_IBM_CL, {}, "A +\n  B\nC\n\n", "A B\nC\n", "FormatIBM_CL", "1\t1\t1\n2\t3\t1\n"},
+        {UVDB_DB_JCL, {{"JCLANSIFORMAT", "1"}}, "//A\n\n//B", "//A\n//B", "FormatJCL", "1\t1\t1\n2\t3\t1\n"},
+        {UVDB_DB_FOXPRO_PROGRAMS, {}, "a ;\n b", "a   b", "FormatFoxProPrograms", "1\t1\t1\n"},
+        {UVDB_DB_IBM_RPG, {{"IBMRPG_VERSION", "0"}}, "     FX\n", "FX\n$\n", "FormatIBM_RPG", nullptr},
+        {UVDB_DB_PASCAL,
+         {{"UNIK_DEFINE", "yes"}},
+         "a\n{$IFDEF RELEASE}\nb\n{$ENDIF}\n",
+         "a\nb\n",
+         "FormatPASCAL",
+         nullptr},
+        {UVDB_DB_C,
+         {{"PREPROCESSOR", "0"}, {"PREPROCESSOR_FUNCTION", "2"}},
+         "#define A 1\nA;\n",
+         "\n1;",
+         "FormatCPP",
+         nullptr},
+        {UVDB_DB_C, {}, "#define A 1\nA;\n", "#define A 1\nA;\n", "", ""},
+    };
+    for (const SPassCase& c : cases) {
+        SCOPED_TRACE(c.source);
+        StartPreparation(c.kind);
+        for (const auto& [name, value] : c.options)
+            SetOption(name.c_str(), value.c_str());
+        EXPECT_EQ(Prepare(c.source), UVDB_OK);
+        EXPECT_EQ(Tree(), c.prepared);
+        EXPECT_EQ(Option<Uve::U8CString>("PREPARED_BY"), c.pass);
+        if (c.lines != nullptr) {
+            EXPECT_STREQ(Option<Uve::U8CString>("PREPARED_LINES").c_str(), c.lines);
+        }
+    }
+}
+
+TEST_F(ScriptFormatters, PassThatLeavesNothingGivesNoText)
+{
+    StartPreparation(UVDB_DB_IBM_RPG); // no layout
+    EXPECT_EQ(Prepare("     C                   EVAL      A = 1\n"), UVDB_NO_DATA);
+    EXPECT_EQ(Tree(), "");
+}
+
+TEST_F(ScriptFormatters, CharacterThatCIsNotWrittenInIsAnError)
+{
+    StartPreparation(UVDB_DB_C);
+    SetOption("PREPROCESSOR", "0");
+    SetOption("PREPROCESSOR_FUNCTION", "2");
+    EXPECT_EQ(Prepare("int a;\nint \xC3\xA4;\n"), UVDB_ERROR);
+    EXPECT_TRUE(LastDescription().starts_with("2 ")) << LastDescription();
+    EXPECT_NE(LastDescription().find("character code=195"), std::string::npos) << LastDescription();
+    EXPECT_EQ(Tree(), "");
+
+    // any other failure leaves the source to the parser
+    EXPECT_EQ(Parse("#error no\nint a;\n"), UVDB_OK);
+    EXPECT_EQ(Tree(), "#error no\nint a;\n");
+    EXPECT_EQ(Option<Uve::U8CString>("PREPARED_BY"), "");
+}
+
+TEST_F(ScriptFormatters, UndefinedNamesAreKeptForTheHost)
+{
+    StartPreparation(UVDB_DB_C);
+    SetOption("PREPROCESSOR", "0");
+    SetOption("PREPROCESSOR_FUNCTION", "2");
+    SetOption("PREPROCESSOR_UNDEFINES", "X;Y");
+    EXPECT_EQ(Prepare("#define X 1 2\nX Y\n"), UVDB_OK);
+    const std::map<std::string, std::string> expected = {{"X", "12"}};
+    EXPECT_EQ(*m_Parser.GetUndefinesTokens(), expected);
+}
+
+TEST_F(ScriptFormatters, ScriptBlocksBecomeOptions)
+{
+    StartPreparation(UVDB_DB_ASP);
+    SetFilePath("page.asp");
+    std::shared_ptr<IUVDBObjectInfo> object;
+    m_Parser.get_ConvertingObject(object);
+    Uve::U8CString number;
+    ASSERT_TRUE(CUVDBOptionWrapper::GetParam(object, "ObjectID", number));
+    EXPECT_EQ(Prepare("<html><% x = 1 %></html>"), UVDB_OK);
+    Uve::U8CString block;
+    EXPECT_TRUE(CUVDBOptionWrapper::GetParam(object, "'ORVANTA_VB_CODEBLOCK_0", block));
+    EXPECT_EQ(block, " x = 1 ");
+    EXPECT_EQ(Option<Uve::U8CString>((number + "VBPart").c_str()),
+              "'ORVANTA_VB_CODEBLOCK_0\n x = 1 'ORVANTA_VB_CODEBLOCK_0\n");
+}
+
+} // namespace
