@@ -51,7 +51,7 @@ TEST(Documents, CodeBlocksAreTheFilesThatTheyShow)
 bool IsProjectPath(const std::string& text)
 {
     const std::size_t slash = text.find('/');
-    if (slash == std::string::npos || text.find_first_of(" \n*<>") != std::string::npos)
+    if (slash == std::string::npos || slash == 0 || text.find_first_of(" \n*<>") != std::string::npos)
         return false;
     const std::string folder = text.substr(0, slash);
     return folder != "build" && fs::exists(fs::path(UV_SOURCE_DIR) / folder);

@@ -382,7 +382,9 @@ std::string Messages(const std::string& text, std::vector<SUnexpectedToken> toke
 {
     std::ostringstream stream;
     CToolMessages messages("uvparse", stream);
-    WriteUnexpectedTokens(messages, stream, "f.sql", text, std::move(tokens));
+    const SPreparation preparation{text, text, {}, {}};
+    CSourcePlaces places("f.sql", preparation);
+    WriteUnexpectedTokens(messages, stream, places, text, std::move(tokens));
     return stream.str();
 }
 
@@ -482,6 +484,30 @@ TEST(UvparseLanguage, RulesAreTriedInOrder)
     }
 }
 
+TEST(UvparseLanguage, PreparationNeedsNoGrammar)
+{
+    const CLanguageChoice none({}, enPurpose::Preparation);
+    EXPECT_EQ(none.Choose("JCL", "", "-").version.db, 96u);
+    EXPECT_EQ(none.Choose("", "IBMCL", "-").parserName, "IBMCL");
+    EXPECT_EQ(none.Choose("", "", "x.CL").version.db, none.Choose("IBMCL", "", "-").version.db);
+    EXPECT_EQ(none.Choose("", "", "x.pas").parserName, "Pascal"); // two kinds, one parser name
+    EXPECT_THROW(none.Choose("Jcl", "", "x.jcl"), CLanguageError);
+    EXPECT_THROW(none.Choose("../JCL", "", "x.jcl"), CLanguageError);
+    EXPECT_THROW(none.Choose("", "", "x.nonesuch"), CLanguageError);
+    try {
+        none.Choose("", "", "x.cob");
+        ADD_FAILURE() << "chosen among several";
+    } catch (const CLanguageError& e) {
+        EXPECT_STREQ(
+            e.what(),
+            "files with the extension 'cob' may be of COBOL PACBASE TelonCOBOL; name one with --language");
+    }
+    // A grammar that is there goes first, also one that no database has.
+    const CLanguageChoice here({"TelonCOBOL", "Tiny"}, enPurpose::Preparation);
+    EXPECT_EQ(here.Choose("", "", "x.cob").parserName, "TelonCOBOL");
+    EXPECT_EQ(here.Choose("Tiny", "", "x.cob").parserName, "Tiny");
+}
+
 struct SDatabaseCase
 {
     const char* text;
@@ -541,6 +567,13 @@ TEST(UvparseCommandLine, WhatMakesNoSenseIsRefused)
     EXPECT_THROW(Read({"--xpath", "//a", "--xpath", "//b", "f"}), CUsageError);
     EXPECT_NO_THROW(Read({"--raw", "--pretty", "--verify", "--xpath", "//a", "f"}));
     EXPECT_NO_THROW(Read({"--help"}));
+    for (const char* option : {"--raw", "--pretty", "--xpath=//a", "--verify", "--stat", "--color"})
+        for (const char* preparing : {"--prepare", "--lines"})
+            EXPECT_THROW(Read({preparing, option, "f"}), CUsageError) << option;
+    EXPECT_THROW(Read({"--diff", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--lines", "--diff", "f"}), CUsageError);
+    EXPECT_THROW(Read({"--prepare", "--lines", "--diff", "f"}), CUsageError);
+    EXPECT_NO_THROW(Read({"--prepare", "--lines", "f"}));
 }
 
 } // namespace

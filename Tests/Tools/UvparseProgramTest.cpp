@@ -149,6 +149,8 @@ TEST_F(UvparseProgram, NamedEncodingIsReadAndNothingIsReplaced)
 TEST_F(UvparseProgram, CommandsOfTheReadmeWork)
 {
     Put("my.sql", kScript);
+    Put("my.cl", "PGM\nENDPGM\n");
+    Put("my.cob", "000100     STOP RUN.\n");
     const std::string readme = ReadWholeFile(UV_SOURCE_DIR "/README.md");
     const std::string command = "./run.sh ";
     int commands = 0;
@@ -166,7 +168,7 @@ TEST_F(UvparseProgram, CommandsOfTheReadmeWork)
                   line.find(" > ") == std::string::npos && line.find("--output") == std::string::npos);
         ++commands;
     }
-    EXPECT_EQ(commands, 6);
+    EXPECT_EQ(commands, 9);
 }
 
 TEST_F(UvparseProgram, StandardInputIsAFileLikeAnyOther)

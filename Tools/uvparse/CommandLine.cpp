@@ -22,12 +22,15 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
         ("object-option", po::value(&objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
         ("encoding", po::value(&line.encoding)->value_name("NAME"), "encoding of the input, by iconv's name; else told by a byte order mark, else UTF-8")
+        ("prepare", po::bool_switch(&line.isPrepare), "print the prepared text instead of parsing it; needs no language tables")
+        ("diff", po::bool_switch(&line.isDiff), "with --prepare: source and prepared text side by side, with line numbers")
+        ("lines", po::bool_switch(&line.isLines), "print the number of each prepared line and of the source line that it comes from; with --prepare: the prepared text, the source line's number in front")
         ("raw", po::bool_switch(&line.isRaw), "the tree of the text as it stands, neither prepared nor flattened")
         ("pretty", po::bool_switch(&line.isPretty), "an element a line, indented; texts stay as they are")
         ("xpath", po::value(&line.xpath)->value_name("EXPR"), "what this XPath 1.0 expression selects, instead of the whole tree")
         ("color", po::bool_switch(&line.isColor), "the coloring map instead of the tree")
         ("verify", po::bool_switch(&line.isVerify), "check that the tree holds every byte of the source text")
-        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath) instead of standard output")
+        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath, .prepared, .diff, .lines) instead of standard output")
         ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages that are there")
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
@@ -60,6 +63,13 @@ void RefuseContradictions(const SCommandLine& line)
     if (line.isColor && (line.isRaw || line.isPretty || !line.xpath.empty() || line.isVerify || line.isStat))
         throw CUsageError(
             "--color makes no tree: it can't go with --raw, --pretty, --xpath, --verify or --stat");
+    if (line.IsPreparing() &&
+        (line.isColor || line.isRaw || line.isPretty || !line.xpath.empty() || line.isVerify || line.isStat))
+        throw CUsageError(std::string(line.isPrepare ? "--prepare" : "--lines") +
+                          " doesn't parse: it can't go with --raw, --pretty, --xpath, --color, --verify or "
+                          "--stat");
+    if (line.isDiff && (!line.isPrepare || line.isLines))
+        throw CUsageError("--diff goes with --prepare, and not with --lines, whose numbers it shows anyway");
 }
 
 } // namespace
@@ -104,11 +114,21 @@ std::string HelpText()
     Texts objectOptions;
     std::ostringstream text;
     text << "usage: uvparse [options] FILE... | -\n"
-            "Turns source text into an XML tree with every token, blank and comment in it.\n\n"
+            "Turns source text into an XML tree with every token, blank and comment in it. Languages in "
+            "fixed\n"
+            "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n"
          << VisibleOptions(line, options, objectOptions)
          << "\nResults go to standard output, messages to standard error.\n"
+            "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared "
+            "line\n"
+            "above, < vanished, > starts no source line. It is as wide as the terminal, else as the "
+            "environment's\n"
+            "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
+            "preparation doesn't keep the source line.\n"
             "Exit code: 0 clean; 1 a text has unexpected tokens, failed to parse or differs from its tree,\n"
-            "or --xpath selected nothing in any text (no node, false, zero or an empty string);\n"
+            "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines "
+            "was\n"
+            "asked of a preparation that keeps no source lines;\n"
             "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
     return text.str();
 }

@@ -19,6 +19,9 @@ struct SCommandLine
     std::string traceFile;    // empty: no trace
     std::string encoding;     // of the input, by iconv's name; empty: by its byte order mark
     std::string xpath;        // empty: the whole tree
+    bool isPrepare = false;
+    bool isDiff = false;
+    bool isLines = false;
     bool isRaw = false;
     bool isPretty = false;
     bool isColor = false;
@@ -29,6 +32,9 @@ struct SCommandLine
     bool isListLanguages = false;
     bool isHelp = false;
     bool isVersion = false;
+
+    // The text is prepared and not parsed.
+    bool IsPreparing() const { return isPrepare || isLines; }
 };
 
 // The command line makes no sense; the text says why.

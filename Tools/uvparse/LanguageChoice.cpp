@@ -59,6 +59,21 @@ DB_VERSION_INFO ReadKind(std::string_view kind)
     return version;
 }
 
+// Whether a kind of texts is known that the parser reads.
+bool IsInCatalogue(const std::string& parserName)
+{
+    return VersionOfParser(parserName).db != UVDB_UNKNOWN_DATABASE_KIND;
+}
+
+template <class Names>
+std::string Listed(const Names& names)
+{
+    std::string text;
+    for (const std::string& name : names)
+        text += ' ' + name;
+    return text;
+}
+
 } // namespace
 
 DB_VERSION_INFO ReadDatabase(std::string_view text)
@@ -129,7 +144,9 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
     extension.erase(0, 1);
 
     const UVDB::DbinfoHelper& catalogue = UVDB::DbinfoHelper::getInstance();
+    const std::string common = GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON});
     std::set<std::string> fitting;
+    std::set<std::string> known; // to the catalogue, but without a grammar here
     for (int index = 0; index <= static_cast<int>(catalogue.getRowCount()); ++index) {
         const DB_INFO_ROW& row = catalogue.findDbInfo(index);
         if (catalogue.isUnknownDbInfo(row) ||
@@ -138,10 +155,19 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
         const std::string parserName = GetParserModuleName(row.dbVersion);
         if (std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
             fitting.insert(parserName);
+        else if (IsInCatalogue(parserName))
+            known.insert(parserName);
     }
     // The common grammar stands in for databases that have none: it gives way to any that has its own.
     if (fitting.size() > 1)
-        fitting.erase(GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON}));
+        fitting.erase(common);
+    if (fitting.empty() && m_Purpose == enPurpose::Preparation) {
+        known.erase(common);
+        if (known.size() > 1)
+            throw CLanguageError("files with the extension '" + extension + "' may be of" + Listed(known) +
+                                 "; name one with --language");
+        fitting = known;
+    }
     if (fitting.size() != 1)
         throw CLanguageError((fitting.empty() ? "no language here reads files with the extension '"
                                               : "several languages read files with the extension '") +
@@ -154,18 +180,19 @@ void CLanguageChoice::RequireGrammar(const std::string& parserName) const
     // The name becomes part of a path: it must not lead out of the folder of grammars.
     if (parserName.find('/') != std::string::npos || parserName.find("..") != std::string::npos)
         throw CLanguageError("'" + parserName + "' is no parser name");
-    if (!std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
+    if (std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
+        return;
+    if (m_Purpose == enPurpose::Parsing)
         throw CLanguageError("there is no language '" + parserName + "'. " + ListText());
+    if (!IsInCatalogue(parserName))
+        throw CLanguageError("no language is called '" + parserName + "'");
 }
 
 std::string CLanguageChoice::ListText() const
 {
     if (m_Grammars.empty())
         return "No languages are installed";
-    std::string text = "Languages:";
-    for (const std::string& name : m_Grammars)
-        text += ' ' + name;
-    return text;
+    return "Languages:" + Listed(m_Grammars);
 }
 
 } // namespace uvparse

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace uvparse {
@@ -23,16 +24,27 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// What the chosen language is wanted for.
+enum class enPurpose
+{
+    Parsing,
+    Preparation // goes by the database kind alone and needs no grammar
+};
+
 // Chooses among the grammars that are there. The rules, first to last:
 //   a parser name is taken as it is given, and the database kind is the one whose texts it reads;
 //   a database names its parser;
 //   a file's extension is looked up in the catalogue, and must lead to exactly one grammar that is there;
 //   "Common" gives way to another one.
+// For preparation the parser names of the catalogue count as well, and an extension that leads to no grammar
+// may lead to exactly one of them.
 class CLanguageChoice
 {
 public:
     // `grammars`: names of the grammars that are there, ascending.
-    explicit CLanguageChoice(std::vector<std::string> grammars) : m_Grammars(std::move(grammars)) {}
+    explicit CLanguageChoice(std::vector<std::string> grammars, enPurpose purpose = enPurpose::Parsing)
+        : m_Grammars(std::move(grammars)), m_Purpose(purpose)
+    {}
 
     const std::vector<std::string>& GetGrammars() const { return m_Grammars; }
 
@@ -47,6 +59,7 @@ private:
     std::string ListText() const;
 
     std::vector<std::string> m_Grammars;
+    enPurpose m_Purpose;
 };
 
 // The folders below `grammarFolder`, ascending; none if there is no such folder.

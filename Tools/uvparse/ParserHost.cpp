@@ -18,6 +18,8 @@ namespace uvparse {
 namespace {
 
 constexpr char kUnexpectedTokens[] = "UNEXPECTED_TOKENS";
+constexpr char kPreparedBy[] = "PREPARED_BY";
+constexpr char kPreparedLines[] = "PREPARED_LINES";
 
 class CStopwatch
 {
@@ -74,6 +76,9 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
     for (const auto& [key, value] : settings.options)
         SetTextOption(m_DatabaseInfo, key, value);
     SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "1");
+    SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
+    if (settings.mode == enMode::Preparation)
+        SetTextOption(m_DatabaseInfo, "PREPARE_ONLY", "1");
 
     m_DatabaseInfo->create_new_object(m_ConvertingObject, 0);
     for (const auto& [key, value] : settings.objectOptions)
@@ -89,7 +94,8 @@ void CParserHost::Load()
 {
     const CStopwatch watch;
     try {
-        m_Parser->Load(m_ParserName.c_str());
+        if (m_Settings.mode != enMode::Preparation)
+            m_Parser->Load(m_ParserName.c_str());
     } catch (const Uve::U8CString& message) {
         throw std::runtime_error(Trimmed(message));
     }
@@ -108,7 +114,8 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
     m_IsUsed = true;
 
     SetTextOption(m_ConvertingObject, "FilePath", path);
-    SetTextOption(m_DatabaseInfo, kUnexpectedTokens, "");
+    for (const char* report : {kUnexpectedTokens, kPreparedBy, kPreparedLines})
+        SetTextOption(m_DatabaseInfo, report, "");
     m_Parser->set_ConvertingObject(m_ConvertingObject);
     m_Parser->set_Query(text.c_str());
     if (m_Settings.mode != enMode::RawTree)
@@ -121,6 +128,8 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
         return fast;
     SParseResult report = RunParse();
     fast.unexpectedTokens = std::move(report.unexpectedTokens);
+    fast.pass = std::move(report.pass);
+    fast.preparedLines = std::move(report.preparedLines);
     if (fast.failure.empty())
         fast.failure = std::move(report.failure);
     return fast;
@@ -158,13 +167,25 @@ SParseResult CParserHost::RunParse()
     }
     result.output = std::move(output);
     result.seconds = watch.Seconds();
+    result.isEmpty = code == UVDB_NO_DATA;
 
     Uve::U8CString tokens;
     CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kUnexpectedTokens, tokens);
     result.unexpectedTokens = ReadTokenList(tokens);
+    ReadPreparation(result);
     if (!result.isParsed)
         ReadFailure(result);
     return result;
+}
+
+void CParserHost::ReadPreparation(SParseResult& result) const
+{
+    Uve::U8CString pass;
+    Uve::U8CString lines;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kPreparedBy, pass);
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kPreparedLines, lines);
+    result.preparedLines = CPreparedLines(pass, lines);
+    result.pass = std::move(pass);
 }
 
 void CParserHost::ReadFailure(SParseResult& result) const

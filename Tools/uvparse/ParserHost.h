@@ -4,6 +4,7 @@
 
 #include "Interfaces/ILog.h"
 #include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/PreparedLines.h"
 #include "Tools/uvparse/UnexpectedTokens.h"
 
 #include <memory>
@@ -21,7 +22,8 @@ enum class enMode
 {
     Tree,    // flattened
     RawTree, // of the text as it stands, not prepared, not flattened
-    Coloring
+    Coloring,
+    Preparation // the prepared text; needs no tables
 };
 
 using TOptions = std::vector<std::pair<std::string, std::string>>;
@@ -37,8 +39,11 @@ struct SHostSettings
 struct SParseResult
 {
     bool isParsed = false; // false: the parse failed, `failure` tells why
-    std::string output;    // tree or coloring map; empty for an empty text
+    std::string output;    // tree, coloring map or prepared text; empty for an empty text
     std::vector<SUnexpectedToken> unexpectedTokens;
+    std::string pass;             // what prepared the text; empty: nothing did
+    CPreparedLines preparedLines; // of the text that the pass made
+    bool isEmpty = false;         // nothing was left of the text to be parsed
     std::string failure;
     bool isRefusedForTokens = false; // the failure tells of nothing but the unexpected tokens
     double seconds = 0;              // what making the output took
@@ -47,7 +52,7 @@ struct SParseResult
 class CParserHost
 {
 public:
-    // Creates the parser object and loads its tables.
+    // Creates the parser object and loads its tables, unless they aren't needed.
     // Throws: std::runtime_error.
     CParserHost(const SLanguage& language, const SHostSettings& settings);
     ~CParserHost();
@@ -68,6 +73,7 @@ public:
 private:
     void Load();
     SParseResult RunParse();
+    void ReadPreparation(SParseResult& result) const;
     void ReadFailure(SParseResult& result) const;
 
     std::string m_ParserName;

@@ -1,11 +1,14 @@
 #include "Tools/uvparse/Run.h"
 
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/Support/ToolTerminal.h"
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/LegacyEncoding.h"
 #include "Tools/uvparse/ParserHost.h"
+#include "Tools/uvparse/PreparedDiff.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "Tools/uvparse/Selection.h"
+#include "Tools/uvparse/SourcePlaces.h"
 #include "Tools/uvparse/SourceText.h"
 #include "Tools/uvparse/TraceFile.h"
 #include "Tools/uvparse/TreeText.h"
@@ -13,6 +16,7 @@
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -82,11 +86,23 @@ private:
     void ListLanguages();
     void NameOutputs();
     void RunFile(const std::string& path);
-    CParserHost& HostOf(const SLanguage& language);
-    void Report(const std::string& path, const std::string& text, const SParseResult& result);
-    void Verify(const std::string& path, const std::string& text, const std::string& tree, CParserHost& host);
-    void TellVerified(const std::string& path, const std::string& text, const std::string& remark);
+    void ParseFile(const SLanguage& language, const std::string& path, const std::string& text,
+                   double readSeconds);
+    void PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
+                     double readSeconds);
+    CParserHost& HostOf(const SLanguage& language, enMode mode);
+    std::string PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
+                             const SParseResult& result);
+    void Report(const std::string& path, const SPreparation& preparation, const SParseResult& result);
+    void ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result);
+    void Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
+                CParserHost& host);
+    void TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark);
+    void TellTime(const std::string& path, const CParserHost& host, double readSeconds, const char* work,
+                  double workSeconds, Clock::time_point writing);
+    std::string OutputOf(const std::string& path) const;
     void WriteResult(const std::string& path, const std::string& result);
+    void WritePrepared(const std::string& path, const std::string& text, const SParseResult& result);
     void WriteTo(const std::string& path, const std::string& result, const TTextSink& sink);
     void Tell(const std::string& path, const std::string& text);
     void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
@@ -95,8 +111,8 @@ private:
     CToolMessages& m_Messages;
     CLanguageChoice m_Languages;
     std::shared_ptr<CTraceFile> m_Trace;
-    // By parser name and database, one parser object each.
-    std::map<std::string, std::unique_ptr<CParserHost>> m_Hosts;
+    // One parser object each.
+    std::map<std::pair<std::string, enMode>, std::unique_ptr<CParserHost>> m_Hosts;
     std::map<std::string, std::string> m_OutputPaths; // by file
     std::unique_ptr<CSelector> m_Selector;            // empty: the whole tree is wanted
     bool m_HasSelected = false;
@@ -112,7 +128,8 @@ std::vector<std::string> GrammarsBesideProgram()
 }
 
 CRun::CRun(const SCommandLine& line, CToolMessages& messages)
-    : m_Line(line), m_Messages(messages), m_Languages(GrammarsBesideProgram()),
+    : m_Line(line), m_Messages(messages),
+      m_Languages(GrammarsBesideProgram(), line.IsPreparing() ? enPurpose::Preparation : enPurpose::Parsing),
       m_Progress(line.files.size(), !line.isQuiet)
 {}
 
@@ -130,7 +147,12 @@ void CRun::NameOutputs()
     std::map<std::string, std::string> users;
     for (const std::string& path : m_Line.files) {
         std::string name = path == "-" ? "stdin" : std::filesystem::path(path).filename().string();
-        name += m_Line.isColor ? ".color" : m_Selector ? ".txt" : ".xml";
+        name += m_Line.isDiff      ? ".diff"
+                : m_Line.isPrepare ? ".prepared"
+                : m_Line.isLines   ? ".lines"
+                : m_Line.isColor   ? ".color"
+                : m_Selector       ? ".txt"
+                                   : ".xml";
         const std::string target = (std::filesystem::path(m_Line.outputFolder) / name).string();
         const auto [user, isFree] = users.emplace(target, path);
         if (!isFree)
@@ -149,14 +171,14 @@ void CRun::NameOutputs()
         throw CToolFailure(m_Line.outputFolder + ": " + failed.message());
 }
 
-CParserHost& CRun::HostOf(const SLanguage& language)
+CParserHost& CRun::HostOf(const SLanguage& language, enMode mode)
 {
     // The database is the same for all files of a language, unless --db gives it, and then it is the same for
     // all.
-    std::unique_ptr<CParserHost>& host = m_Hosts[language.parserName];
+    std::unique_ptr<CParserHost>& host = m_Hosts[{language.parserName, mode}];
     if (!host) {
         SHostSettings settings;
-        settings.mode = m_Line.isColor ? enMode::Coloring : m_Line.isRaw ? enMode::RawTree : enMode::Tree;
+        settings.mode = mode;
         settings.options = m_Line.options;
         settings.objectOptions = m_Line.objectOptions;
         settings.log = m_Trace;
@@ -171,21 +193,23 @@ void CRun::Tell(const std::string& path, const std::string& text)
     std::cerr << path << ": " << text << '\n';
 }
 
-void CRun::TellVerified(const std::string& path, const std::string& text, const std::string& remark)
+void CRun::TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark)
 {
     if (!m_Line.isQuiet)
-        Tell(ShownName(path),
-             "verified: the tree holds the " + std::to_string(text.size()) + " bytes of the text" + remark);
+        Tell(ShownName(path), "verified: the tree holds the " + std::to_string(preparation.prepared.size()) +
+                                  " bytes of the " + (preparation.pass.empty() ? "text" : "prepared text") +
+                                  remark);
 }
 
 // Flattening may change texts, line ends above all. Where it has, the raw tree is asked whether the parse is
 // right.
-void CRun::Verify(const std::string& path, const std::string& text, const std::string& tree,
+void CRun::Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
                   CParserHost& host)
 {
+    const std::string_view text = preparation.prepared;
     std::optional<STreeDifference> difference = FindTreeDifference(tree, text);
     if (!difference) {
-        TellVerified(path, text, "");
+        TellVerified(path, preparation, "");
         return;
     }
     const char* what = "tree";
@@ -197,32 +221,70 @@ void CRun::Verify(const std::string& path, const std::string& text, const std::s
             difference = FindTreeDifference(raw.output, text);
         }
         if (!difference) {
-            TellVerified(path, text,
+            TellVerified(path, preparation,
                          " before it is flattened, which changes it from byte " + std::to_string(changedAt) +
                              " on");
             return;
         }
     }
-    const STextPlace place = CTextPlaces(text).Find(difference->textOffset);
+    SMessagePlace found = CSourcePlaces(ShownName(path), preparation).Find(difference->textOffset);
+    found.place.sourceLine.clear();
     m_Progress.Clear();
-    m_Messages.Write(
-        enSeverity::Error,
-        SSourcePlace{ShownName(path), static_cast<int>(place.line), static_cast<int>(place.column), {}},
-        "the tree's text differs from the source from byte " + std::to_string(difference->textOffset) +
-            " on (byte " + std::to_string(difference->treeOffset) + " of the " + what + ')');
+    m_Messages.Write(enSeverity::Error, found.place,
+                     std::string("the tree's text differs from the ") +
+                         (preparation.pass.empty() ? "source" : "prepared text") + " from byte " +
+                         std::to_string(difference->textOffset) + " on (byte " +
+                         std::to_string(difference->treeOffset) + " of the " + what + ')' + found.remark);
     Worsen(kToolFindings);
 }
 
-void CRun::Report(const std::string& path, const std::string& text, const SParseResult& result)
+// Takes "number<separator>" off the front. Returns: the number; 0, with `text` as it was, if there is none.
+std::size_t TakeLineNumber(std::string_view& text, std::string_view separator)
+{
+    std::size_t line = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), line);
+    const auto length = static_cast<std::size_t>(end - text.data());
+    if (error != std::errc() || !text.substr(length).starts_with(separator))
+        return 0;
+    text.remove_prefix(length + separator.size());
+    return line;
+}
+
+// The preprocessor's message names the file and the line in front of what is wrong; where the file is an
+// included one, it is left to speak for itself. A parser's message begins with the number of a prepared line.
+void CRun::ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result)
+{
+    SMessagePlace found{SSourcePlace{ShownName(path), 0, 0, {}}, {}, {}};
+    std::string_view failure = result.failure;
+    if (const std::size_t at = failure.find(path + " : "); at != std::string_view::npos) {
+        std::string_view rest = failure.substr(at + path.size() + 3);
+        if (const std::size_t line = TakeLineNumber(rest, " : ")) {
+            found.place.line = static_cast<int>(line);
+            failure = rest;
+        }
+    } else if (!preparation.pass.empty() && preparation.lines.IsKnown()) {
+        if (const std::size_t line = TakeLineNumber(failure, " "))
+            found = CSourcePlaces(ShownName(path), preparation).FindLine(line);
+    }
+    m_Messages.Write(enSeverity::Error, found.place, std::string(failure) + found.remark);
+}
+
+void CRun::Report(const std::string& path, const SPreparation& preparation, const SParseResult& result)
 {
     if (!result.unexpectedTokens.empty() || !result.isParsed)
         Worsen(kToolFindings);
     if (m_Line.isQuiet)
         return;
     m_Progress.Clear();
-    WriteUnexpectedTokens(m_Messages, std::cerr, ShownName(path), text, result.unexpectedTokens);
+    if (!result.unexpectedTokens.empty()) {
+        CSourcePlaces places(ShownName(path), preparation);
+        WriteUnexpectedTokens(m_Messages, std::cerr, places, preparation.prepared, result.unexpectedTokens);
+    }
     if (!result.isParsed && (result.unexpectedTokens.empty() || !result.isRefusedForTokens))
-        m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}}, result.failure);
+        ReportFailure(path, preparation, result);
+    if (result.isEmpty && !result.pass.empty() && !preparation.source.empty())
+        m_Messages.Write(enSeverity::Warning, SSourcePlace{ShownName(path), 0, 0, {}},
+                         result.pass + " left nothing of the text");
 }
 
 void CRun::WriteTo(const std::string& path, const std::string& result, const TTextSink& sink)
@@ -255,26 +317,75 @@ void CRun::WriteTo(const std::string& path, const std::string& result, const TTe
         sink("\n");
 }
 
+std::string CRun::OutputOf(const std::string& path) const
+{
+    return m_Line.outputFolder.empty() ? "-" : m_OutputPaths.at(path);
+}
+
 void CRun::WriteResult(const std::string& path, const std::string& result)
 {
-    COutputFile file(m_Line.outputFolder.empty() ? "-" : m_OutputPaths.at(path));
+    COutputFile file(OutputOf(path));
     WriteTo(path, result, [&](std::string_view piece) { file.Write(piece); });
     file.Close();
 }
 
-void CRun::RunFile(const std::string& path)
+void CRun::WritePrepared(const std::string& path, const std::string& text, const SParseResult& result)
 {
-    const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
-    const Clock::time_point start = Clock::now();
-    const std::string text = ReadSourceText(path, m_Line.encoding);
-    const double readSeconds = SecondsSince(start);
+    COutputFile file(OutputOf(path));
+    const TTextSink sink = [&](std::string_view piece) { file.Write(piece); };
+    if (m_Line.isDiff) {
+        SDiffLook look;
+        look.width = m_Line.outputFolder.empty() ? StandardOutputWidth() : look.width;
+        look.isColored = m_Line.outputFolder.empty() && StandardOutputTakesColors();
+        look.sourceTitle = ShownName(path);
+        look.preparedTitle = result.pass.empty() ? "unprepared" : "prepared by " + result.pass;
+        WriteDiff(text, result.output, result.preparedLines, look, sink);
+    } else if (m_Line.isLines) {
+        const bool isNamed = m_Line.files.size() > 1 && m_Line.outputFolder.empty();
+        WriteLines(result.output, result.preparedLines, isNamed ? ShownName(path) + ':' : "",
+                   m_Line.isPrepare, sink);
+    } else {
+        sink(result.output);
+    }
+    file.Close();
+}
 
-    CParserHost& host = HostOf(language);
+void CRun::TellTime(const std::string& path, const CParserHost& host, double readSeconds, const char* work,
+                    double workSeconds, Clock::time_point writing)
+{
+    if (!m_Line.isTime)
+        return;
+    Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
+                              std::to_string(Milliseconds(readSeconds)) + " ms, " + work + ' ' +
+                              std::to_string(Milliseconds(workSeconds)) + " ms, write " +
+                              std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
+}
+
+// A parse keeps its prepared text to itself. Messages and comparisons have it made once more.
+std::string CRun::PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
+                               const SParseResult& result)
+{
+    if (result.pass.empty())
+        return PreparedText(text);
+    if (result.unexpectedTokens.empty() && !m_Line.isVerify)
+        return {};
+    return HostOf(language, enMode::Preparation).Parse(text, path).output;
+}
+
+void CRun::ParseFile(const SLanguage& language, const std::string& path, const std::string& text,
+                     double readSeconds)
+{
+    CParserHost& host = HostOf(language, m_Line.isColor ? enMode::Coloring
+                                         : m_Line.isRaw ? enMode::RawTree
+                                                        : enMode::Tree);
     const SParseResult result = host.Parse(text, path);
-    const std::string prepared = PreparedText(text);
-    Report(path, prepared, result);
+    const std::string prepared = PrepareAgain(language, path, text, result);
+    const SPreparation preparation{result.pass.empty() ? prepared : text, prepared, result.preparedLines,
+                                   result.pass};
+    Report(path, preparation, result);
+    // A raw tree is of the text as it stands.
     if (m_Line.isVerify && result.isParsed)
-        Verify(path, m_Line.isRaw ? text : prepared, result.output, host);
+        Verify(path, m_Line.isRaw ? SPreparation{text, text, {}, {}} : preparation, result.output, host);
     if (m_Line.isStat) {
         const SStatistics statistics{CountStatements(result.output), result.unexpectedTokens.size(),
                                      text.size(), result.seconds};
@@ -286,11 +397,34 @@ void CRun::RunFile(const std::string& path)
     const Clock::time_point writing = Clock::now();
     if (result.isParsed)
         WriteResult(path, result.output);
-    if (m_Line.isTime)
-        Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
-                                  std::to_string(Milliseconds(readSeconds)) + " ms, parse " +
-                                  std::to_string(Milliseconds(result.seconds)) + " ms, write " +
-                                  std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
+    TellTime(path, host, readSeconds, "parse", result.seconds, writing);
+}
+
+void CRun::PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
+                       double readSeconds)
+{
+    CParserHost& host = HostOf(language, enMode::Preparation);
+    const SParseResult result = host.Parse(text, path);
+    Report(path, SPreparation{text, result.output, result.preparedLines, result.pass}, result);
+    if (m_Line.isLines && !result.output.empty() && !result.preparedLines.IsKnown())
+        Worsen(kToolFindings);
+
+    const Clock::time_point writing = Clock::now();
+    if (result.isParsed)
+        WritePrepared(path, text, result);
+    TellTime(path, host, readSeconds, "prepare", result.seconds, writing);
+}
+
+void CRun::RunFile(const std::string& path)
+{
+    const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
+    const Clock::time_point start = Clock::now();
+    const std::string text = ReadSourceText(path, m_Line.encoding);
+    const double readSeconds = SecondsSince(start);
+    if (m_Line.IsPreparing())
+        PrepareFile(language, path, text, readSeconds);
+    else
+        ParseFile(language, path, text, readSeconds);
 }
 
 int CRun::Run()
