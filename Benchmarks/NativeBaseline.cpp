@@ -2,6 +2,7 @@
 // flattening beside the stylesheet that defines it, on the same texts in one run. Each measurement runs in a
 // process of its own, so that its peak memory is its own too.
 
+#include "Benchmarks/MeasuredProcess.h"
 #include "Benchmarks/Native/NativeParse.h"
 #include "Grammar/UVGrammarLexer.h"
 #include "Interfaces/UVDBResults.h"
@@ -16,13 +17,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -39,17 +36,6 @@ struct SMeasure
     long peakKiB = 0;
     bool isDone = false;
 };
-
-std::string ReadFile(const char* path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-double Seconds(std::chrono::steady_clock::time_point since)
-{
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - since).count();
-}
 
 class CMeasuredParser : public CUVDBSQLParser
 {
@@ -176,31 +162,20 @@ using Work = SMeasure (*)(const std::string& text);
 
 SMeasure Measure(Work work, const char* path, int repeat)
 {
-    int ends[2];
-    if (pipe(ends) != 0)
-        return {};
-    const pid_t child = fork();
-    if (child == 0) {
+    SMeasure measure;
+    measure.isDone = RunInProcess(measure, [&] {
         const std::string text = path ? ReadFile(path) : std::string();
         SMeasure best;
         for (int run = 0; run < repeat; ++run) {
-            const SMeasure measure = work(text);
-            if (run == 0 || measure.seconds < best.seconds)
-                best = measure;
+            const SMeasure made = work(text);
+            if (run == 0 || made.seconds < best.seconds)
+                best = made;
         }
         rusage usage{};
         getrusage(RUSAGE_SELF, &usage);
         best.peakKiB = usage.ru_maxrss;
-        best.isDone = true;
-        const bool isWritten = write(ends[1], &best, sizeof best) == static_cast<ssize_t>(sizeof best);
-        _exit(isWritten ? 0 : 1);
-    }
-    close(ends[1]);
-    SMeasure measure;
-    if (child < 0 || read(ends[0], &measure, sizeof measure) != static_cast<ssize_t>(sizeof measure))
-        measure = SMeasure();
-    close(ends[0]);
-    waitpid(child, nullptr, 0);
+        return best;
+    });
     return measure;
 }
 
