@@ -183,7 +183,8 @@ SMessagePlace CSourcePlaces::Find(std::size_t offset)
 
     SMessagePlace found;
     found.place.file = m_File;
-    std::optional<std::size_t> shownAt = inLine; // bytes into `line`
+    std::size_t center = inLine; // bytes into `line`
+    bool hasCaret = true;
     if (m_Preparation.pass.empty()) {
         found.place.line = static_cast<int>(at.line);
         found.place.column = static_cast<int>(at.column);
@@ -191,27 +192,26 @@ SMessagePlace CSourcePlaces::Find(std::size_t offset)
         Relate(at.line, line);
         if (const SPiece* const piece = PieceAt(inLine)) {
             found.place.line = static_cast<int>(piece->sourceLine);
-            shownAt = piece->sourceBegin + (inLine - piece->preparedBegin);
+            center = piece->sourceBegin + (inLine - piece->preparedBegin);
             // Where the lines begin alike the column has been counted already; the line may be a long one.
-            found.place.column =
-                static_cast<int>(piece->preparedBegin == 0 && piece->sourceBegin == 0
-                                     ? at.column
-                                     : CountCodePoints(piece->source.substr(0, *shownAt)) + 1);
+            found.place.column = static_cast<int>(piece->preparedBegin == 0 && piece->sourceBegin == 0
+                                                      ? at.column
+                                                      : CountCodePoints(piece->source.substr(0, center)) + 1);
             line = piece->source;
         } else if (m_RelatedSource) {
             found.place.line = static_cast<int>(*m_RelatedSource);
             line = SourceLine(*m_RelatedSource);
-            shownAt.reset();
+            center = 0;
+            hasCaret = false;
         }
         if (found.place.column == 0)
             found.remark = " (" + std::to_string(at.line) + ':' + std::to_string(at.column) + " in " +
                            PreparedName() + ')';
     }
-    const std::size_t center = shownAt.value_or(0);
     const std::size_t begin = StepBack(line, center, kShownBefore, 0);
     const std::size_t end = StepForward(line, center, kShownBehind, line.size());
     found.place.sourceLine = line.substr(begin, end - begin);
-    if (shownAt)
+    if (hasCaret)
         found.caret = CountCodePoints(line.substr(begin, center - begin));
     return found;
 }
