@@ -53,7 +53,7 @@ std::string AsRead(std::string text)
 
 bool IsReadable(std::string_view text)
 {
-    return IsValidUTF8(text) && text.find("\xEF\xBF\xBE") == std::string_view::npos &&
+    return UVDB::IsValidUTF8(text) && text.find("\xEF\xBF\xBE") == std::string_view::npos &&
            text.find("\xEF\xBF\xBF") == std::string_view::npos;
 }
 
