@@ -51,8 +51,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         text = Uve::XmlDocument::save(result, false, false);
         xmlFreeDoc(result);
     });
+    if (!hasRun)
+        std::abort();
+    // A reference to a declared entity may be left over, in a name space's address for one; its declaration
+    // isn't.
+    if (xml.find("<!ENTITY") != std::string::npos)
+        return 0;
     xmlDoc* const again = Uve::ReadXml(text.data(), text.bytes());
-    if (!hasRun || again == nullptr)
+    if (again == nullptr)
         std::abort();
     xmlFreeDoc(again);
     return 0;
