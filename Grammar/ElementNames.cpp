@@ -1,5 +1,7 @@
 #include "Grammar/ElementNames.h"
 
+#include "Stylesheets/TreeEvents.h"
+
 CMarkup::CMarkup(const std::string& text) : m_padded(text), m_size(text.size())
 {
     m_padded.resize((m_size + kBlock - 1) / kBlock * kBlock);
@@ -12,7 +14,9 @@ SElementName::SElementName(const std::string& name)
 std::uint32_t CElementNames::Intern(const std::string& name)
 {
     const auto [entry, isNew] = m_numbers.emplace(name, static_cast<std::uint32_t>(m_names.size()));
-    if (isNew)
+    if (isNew) {
         m_names.emplace_back(name);
+        m_areTreeNames = m_areTreeNames && IsTreeName(name);
+    }
     return entry->second;
 }

@@ -45,7 +45,11 @@ public:
     const SElementName& operator[](std::uint32_t number) const { return m_names[number]; }
     std::size_t size() const { return m_names.size(); }
 
+    // Whether all of them are names that flattening takes.
+    bool AreTreeNames() const { return m_areTreeNames; }
+
 private:
     std::vector<SElementName> m_names;
     std::unordered_map<std::string, std::uint32_t> m_numbers;
+    bool m_areTreeNames = true;
 };

@@ -87,6 +87,7 @@ public:
                                                    (fragment & kChunkMask));
     }
     const std::string& Text(std::uint32_t number) const { return m_texts[number]; }
+    const std::vector<std::string>& Texts() const { return m_texts; }
 
     // How many fragments were made since the last Release.
     std::size_t Count() const { return m_count; }

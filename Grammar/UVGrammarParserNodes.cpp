@@ -1,4 +1,5 @@
 #include "Grammar/UVGrammarParser.h"
+#include "Stylesheets/TreeEvents.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -118,6 +119,9 @@ void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
     WriteFragments(m_Fragments, root.m_pFirst, query, xml);
     WriteSpaceElement(tail, xml);
     xml += kRootClose;
+    const auto& texts = m_Fragments.Texts();
+    m_Extension.m_bPlainTree = m_Fragments.Names().AreTreeNames() && IsTreeText(query) &&
+                               std::all_of(texts.begin(), texts.end(), IsTreeText);
     // a rule above the root sees a node without text
     root.m_pFirst = kNoFragment;
     root.m_pLast = kNoFragment;

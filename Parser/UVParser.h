@@ -103,9 +103,10 @@ protected:
     int ExecuteParsingColoring(bool showErrors);
     int FlattenResult();
     void DefineStylesheets();
-    // Saves the result a shift by the difference of the declarations. The stylesheet knows its own one alone.
+    // `declaration` saves the result a shift by the difference of the declarations; the stylesheet knows its
+    // own one alone. `isPlain`: FlattenTreeInPlace takes `xml` for certain.
     int Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                std::string_view declaration);
+                std::string_view declaration, bool isPlain);
     bool IsForPreparationOnly() const;
     void replaceXmlHeader();
     // The text itself as the result, for sources that no grammar reads.
@@ -135,6 +136,7 @@ protected:
     std::shared_ptr<IUVDBErrorInfo> m_LastError;
     Uve::U8CString m_Query; // rewritten in place by the preparation
     Uve::U8CString m_Result;
+    bool m_IsResultPlain = false; // it is a tree as the parser made it, and flattening takes it
     bool m_ColoringMode = false;
     bool m_CommentMode = false;
     std::shared_ptr<ILog> m_Log;

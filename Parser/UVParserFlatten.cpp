@@ -58,8 +58,10 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 {
     const auto start = std::chrono::steady_clock::now();
     CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
-    const int result = GuardEdge(
-        [&] { return m_Result.IsEmpty() ? UVDB_OK : Flatten(m_DatabaseInfo, m_Result, kXmlHeader); });
+    const bool isPlain = std::exchange(m_IsResultPlain, false);
+    const int result = GuardEdge([&] {
+        return m_Result.IsEmpty() ? UVDB_OK : Flatten(m_DatabaseInfo, m_Result, kXmlHeader, isPlain);
+    });
     const auto elapsed = std::chrono::steady_clock::now() - start;
     CLogWrapper::WriteTraceF(
         "\nExecuteTree2Serial: elapsed %lld ms",
@@ -70,15 +72,17 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 
 int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
 {
-    return Flatten(info, xml, kXmlDeclaration);
+    return Flatten(info, xml, kXmlDeclaration, false);
 }
 
 int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                            std::string_view declaration)
+                            std::string_view declaration, bool isPlain)
 {
     return GuardEdge([&] {
         const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
         if (!IsStylesheetForced(info) && IsEmbeddedStylesheet(stylesheet)) {
+            if (isPlain)
+                return static_cast<int>(FlattenTreeInPlace(xml, declaration) ? UVDB_OK : UVDB_ERROR);
             std::string flattened;
             if (FlattenTree(xml, flattened, declaration)) {
                 xml = std::move(flattened);

@@ -53,6 +53,7 @@ public:
             return;
         FlipQuoteRule();
         m_Owner.m_Result.swap(m_FirstResult);
+        m_Owner.m_IsResultPlain = false;
         Extension().m_mapErrors.swap(m_FirstErrors);
         Extension().m_lstUnexpected.swap(m_FirstUnexpected);
     }
@@ -61,8 +62,10 @@ public:
     void Accept(int result)
     {
         m_IsAccepted = true;
-        if (result == UVDB_NO_DATA)
-            m_Owner.m_Result.swap(m_FirstResult);
+        if (result != UVDB_NO_DATA)
+            return;
+        m_Owner.m_Result.swap(m_FirstResult);
+        m_Owner.m_IsResultPlain = false;
     }
 
 private:
@@ -212,6 +215,7 @@ int CUVDBSQLParser::ExecuteParsingInternal(bool)
     if (parsed != UVDB_OK)
         return parsed;
     m_Result = std::move(m_Parser->m_Extension.m_strParsedXml);
+    m_IsResultPlain = m_Parser->m_Extension.m_bPlainTree;
     UpdateWarningsInfo();
     return UVDB_OK;
 }

@@ -116,7 +116,38 @@ std::size_t DecodeCharacterReference(std::string_view text, unsigned int& codePo
     return at + 1;
 }
 
+// Of the character in front of `text`, which isn't ASCII. Returns: its bytes, 0 if it is none of XML.
+std::size_t MultibyteLength(std::string_view text)
+{
+    const auto decoded =
+        Uve::CodePoints::DecodeUtf8(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    const bool isCharacter = decoded.kind == Uve::CodePoints::enDecoded::Character &&
+                             decoded.codePoint != 0xFFFE && decoded.codePoint != 0xFFFF;
+    return isCharacter ? decoded.length : 0;
+}
+
 } // namespace
+
+bool IsTreeName(std::string_view name)
+{
+    return !name.empty() && name.size() <= kLongestName && Is(name.front(), kNameStart) &&
+           std::all_of(name.begin(), name.end(), [](char c) { return Is(c, kNameByte); });
+}
+
+bool IsTreeText(std::string_view text)
+{
+    const auto isPlain = [](char c) { return c > 0 && static_cast<unsigned char>(c) < 0x80; };
+    for (auto at = text.begin();;) {
+        at = std::find_if_not(at, text.end(), isPlain);
+        if (at == text.end())
+            return true;
+        const std::size_t length =
+            *at == 0 ? 0 : MultibyteLength(text.substr(static_cast<std::size_t>(at - text.begin())));
+        if (length == 0)
+            return false;
+        at += static_cast<std::ptrdiff_t>(length);
+    }
+}
 
 CTreeEvents::CTreeEvents(std::string_view text) : m_Text(text), m_Recent(kRecentNames, kNoName)
 {
@@ -180,10 +211,11 @@ std::uint32_t CTreeEvents::Intern(std::string_view name)
     std::uint32_t& recent = m_Recent[sum % kRecentNames];
     if (recent != kNoName && m_Names[recent] == name)
         return recent;
-    const auto [found, isNew] = m_Numbers.try_emplace(name, static_cast<std::uint32_t>(m_Names.size()));
-    if (isNew)
-        m_Names.push_back(name);
-    recent = found->second;
+    if (const auto found = m_Numbers.find(name); found != m_Numbers.end())
+        return recent = found->second;
+    recent = static_cast<std::uint32_t>(m_Names.size());
+    m_Names.emplace_back(m_NameTexts.emplace_back(name));
+    m_Numbers.emplace(m_Names.back(), recent);
     return recent;
 }
 
@@ -457,11 +489,9 @@ bool CTreeEvents::StepReference()
 
 void CTreeEvents::StepMultibyte()
 {
-    const auto decoded = Uve::CodePoints::DecodeUtf8(
-        reinterpret_cast<const unsigned char*>(m_Text.data()) + m_At, m_Text.size() - m_At);
-    Demand(decoded.kind == Uve::CodePoints::enDecoded::Character && decoded.codePoint != 0xFFFE &&
-           decoded.codePoint != 0xFFFF);
-    m_At += decoded.length;
+    const std::size_t length = MultibyteLength(m_Text.substr(m_At));
+    Demand(length != 0);
+    m_At += length;
 }
 
 // ---- Characters ----

@@ -77,7 +77,8 @@ enum enTreeName : std::uint32_t
 class CTreeEvents
 {
 public:
-    // Borrows `text` for its own lifetime. Throws: STreeDeclined.
+    // Borrows `text` for its own lifetime. What stands before every event that is still asked for may be
+    // overwritten. Throws: STreeDeclined.
     explicit CTreeEvents(std::string_view text);
 
     // The event number `index`, counted from 0. Valid until the next call that reads ahead.
@@ -168,12 +169,16 @@ private:
     std::uint64_t m_End = 0; // events read
     std::vector<SOpen> m_Open;
     std::vector<std::string_view> m_AttributeNames; // of the tag at hand
-    // Names are slices of the text, or of the table of names with a role.
-    std::vector<std::string_view> m_Names;
+    std::deque<std::string> m_NameTexts;
+    std::vector<std::string_view> m_Names; // of m_NameTexts
     std::unordered_map<std::string_view, std::uint32_t> m_Numbers;
     // The name that was last met with each sum of length and outer letters, or kNoName. Saves the hash.
     std::vector<std::uint32_t> m_Recent;
 };
+
+// Whether an element of that name, and text that holds these characters, are of the plain form.
+bool IsTreeName(std::string_view name);
+bool IsTreeText(std::string_view text);
 
 enum class enRun
 {

@@ -3,6 +3,8 @@
 #include "Stylesheets/TreeEvents.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -54,20 +56,93 @@ struct SFrame
     std::uint64_t delimiter = 0;        // Delimiters: the first, then the next to copy; 0 for none
 };
 
+// The output, written over the beginning of the text that is being read. Collects in a block that stays in
+// the cache; what finds no room before the text that is still needed waits.
+class COverwriter
+{
+public:
+    explicit COverwriter(std::string& text) : m_Text(text) {}
+
+    std::size_t size() const { return m_Settled + m_Waiting.size() - m_Drained + m_Used; }
+
+    // Returns: false if the block is full; nothing is taken then.
+    bool Takes(std::string_view text)
+    {
+        if (text.size() > kBlock - m_Used)
+            return false;
+        std::memcpy(m_Block.data() + m_Used, text.data(), text.size());
+        m_Used += text.size();
+        return true;
+    }
+
+    // Empties the block and takes `text`. `needed`: the first byte that is still going to be read; `text`
+    // stands behind it, or elsewhere.
+    void Settle(std::string_view text, std::size_t needed)
+    {
+        Put({m_Block.data(), m_Used}, needed);
+        m_Used = 0;
+        if (!Takes(text))
+            Put(text, needed);
+    }
+
+    // Nothing is read any more: the text becomes what was written.
+    void Finish()
+    {
+        Settle({}, m_Text.size());
+        m_Text.resize(m_Settled);
+        m_Text.append(m_Waiting, m_Drained);
+    }
+
+private:
+    static constexpr std::size_t kBlock = 16384;
+
+    void Put(std::string_view text, std::size_t needed)
+    {
+        if (!m_Waiting.empty()) {
+            const std::string_view waiting = std::string_view(m_Waiting).substr(m_Drained);
+            m_Drained += Place(waiting.substr(0, needed - m_Settled));
+            if (m_Drained == m_Waiting.size() || m_Drained >= kMostDrained) {
+                m_Waiting.erase(0, m_Drained);
+                m_Drained = 0;
+            }
+        }
+        if (m_Waiting.empty())
+            text.remove_prefix(Place(text.substr(0, needed - m_Settled)));
+        m_Waiting += text;
+    }
+
+    std::size_t Place(std::string_view text)
+    {
+        std::memcpy(m_Text.data() + m_Settled, text.data(), text.size());
+        m_Settled += text.size();
+        return text.size();
+    }
+
+    static constexpr std::size_t kMostDrained = std::size_t{1} << 20;
+
+    std::string& m_Text;
+    std::size_t m_Settled = 0; // bytes of output in their place
+    std::string m_Waiting;     // what comes behind them, from m_Drained on
+    std::size_t m_Drained = 0;
+    std::size_t m_Used = 0;
+    std::array<char, kBlock> m_Block;
+};
+
 // Names with their values as plain characters.
 using Attributes = std::vector<std::pair<std::string_view, std::string>>;
 
 class CTreeFlattener
 {
 public:
-    CTreeFlattener(std::string_view tree, std::string& out)
-        : m_Events(tree), m_Out(out), m_MostOutput(tree.size() * kMostGrowth + kAlwaysAllowed)
+    // Writes over `tree`. Borrows it.
+    explicit CTreeFlattener(std::string& tree)
+        : m_Events(tree), m_Out(tree), m_MostOutput(tree.size() * kMostGrowth + kAlwaysAllowed)
     {}
 
     void Run(std::string_view declaration)
     {
-        m_Out = declaration;
-        m_Out += '\n';
+        Write(declaration);
+        Write("\n");
         const std::size_t declared = m_Out.size();
         Apply(0, kNoName, false, false);
         while (!m_Frames.empty())
@@ -75,7 +150,8 @@ public:
         if (m_Events.At(m_At).kind != enTreeEvent::Finish)
             throw STreeDeclined();
         if (m_Out.size() > declared)
-            m_Out += '\n';
+            Write("\n");
+        m_Out.Finish();
     }
 
 private:
@@ -100,27 +176,34 @@ private:
 
     // ---- the output ----
 
+    void Write(std::string_view text)
+    {
+        if (!m_Out.Takes(text))
+            m_Out.Settle(text, m_Events.At(FirstNeeded()).offset);
+    }
+    std::uint64_t FirstNeeded() const { return m_Kept.empty() ? m_At : std::min(m_At, m_Kept.front()); }
+
     void CloseTag()
     {
         if (m_IsTagOpen)
-            m_Out += '>';
+            Write(">");
         m_IsTagOpen = false;
     }
     void StartTag(std::string_view name)
     {
         CloseTag();
-        m_Out += '<';
-        m_Out += name;
+        Write("<");
+        Write(name);
         m_IsTagOpen = true;
     }
     void EndTag(std::string_view name)
     {
         if (m_IsTagOpen)
-            m_Out += "/>";
+            Write("/>");
         else {
-            m_Out += "</";
-            m_Out += name;
-            m_Out += '>';
+            Write("</");
+            Write(name);
+            Write(">");
         }
         m_IsTagOpen = false;
         if (m_Out.size() > m_MostOutput)
@@ -134,17 +217,19 @@ private:
     void StartFullStatement(bool isDelimited, bool isLabeled)
     {
         StartTag(m_Events.Name(kFullStatement));
-        m_Out += isDelimited ? " delimited=\"1\"" : " delimited=\"0\"";
-        m_Out += isLabeled ? " labeled=\"1\"" : " labeled=\"0\"";
+        Write(isDelimited ? " delimited=\"1\"" : " delimited=\"0\"");
+        Write(isLabeled ? " labeled=\"1\"" : " labeled=\"0\"");
     }
     void EndFullStatement() { EndTag(m_Events.Name(kFullStatement)); }
     void WriteText(std::uint64_t offset, std::uint64_t length, bool isVerbatim);
+    void WriteSerialised(std::string_view run, enRun kind);
     void WriteComment(const STreeEvent& event);
     void WriteAttributes(const Attributes& attributes);
     void StartTagAsRead(const STreeEvent& event);
 
     CTreeEvents m_Events;
-    std::string& m_Out;
+    COverwriter m_Out;
+    std::string m_Piece; // of text that is written otherwise than it was read
     std::size_t m_MostOutput;
     std::uint64_t m_At = 0;
     bool m_IsTagOpen = false;
@@ -188,7 +273,7 @@ void CTreeFlattener::Step()
     case enTreeEvent::Finish:
         throw std::logic_error("an element without its end");
     }
-    m_Events.Forget(m_Kept.empty() ? m_At : std::min(m_At, m_Kept.front()));
+    m_Events.Forget(FirstNeeded());
 }
 
 void CTreeFlattener::Child(std::uint64_t index)
@@ -442,6 +527,7 @@ bool CTreeFlattener::GoToBodyDelimiter()
             return true;
         }
     }
+    m_At = frame.end; // what stands behind it is still needed
     m_Kept.pop_back();
     return false;
 }
@@ -532,7 +618,7 @@ void CTreeFlattener::CopyMacro(std::uint64_t index)
     StartTag(m_Events.Name(event.name));
     WriteAttributes(attributes);
     CloseTag();
-    m_Out += "{MACRO}";
+    Write("{MACRO}");
     EndTag(m_Events.Name(event.name));
     m_At = m_Events.Behind(index);
 }
@@ -544,17 +630,24 @@ void CTreeFlattener::WriteText(std::uint64_t offset, std::uint64_t length, bool 
     CloseTag();
     const std::string_view run = m_Events.Slice(offset, length);
     if (isVerbatim)
-        m_Out += run;
+        Write(run);
     else
-        AppendSerialised(run, enRun::Text, m_Out);
+        WriteSerialised(run, enRun::Text);
 }
 
 void CTreeFlattener::WriteComment(const STreeEvent& event)
 {
     CloseTag();
-    m_Out += "<!--";
-    AppendSerialised(m_Events.Slice(event.offset, event.length), enRun::Comment, m_Out);
-    m_Out += "-->";
+    Write("<!--");
+    WriteSerialised(m_Events.Slice(event.offset, event.length), enRun::Comment);
+    Write("-->");
+}
+
+void CTreeFlattener::WriteSerialised(std::string_view run, enRun kind)
+{
+    m_Piece.clear();
+    AppendSerialised(run, kind, m_Piece);
+    Write(m_Piece);
 }
 
 // Splits a tag that the reader has accepted.
@@ -580,11 +673,13 @@ Attributes CTreeFlattener::ReadAttributes(const STreeEvent& event) const
 void CTreeFlattener::WriteAttributes(const Attributes& attributes)
 {
     for (const auto& [name, value] : attributes) {
-        m_Out += ' ';
-        m_Out += name;
-        m_Out += "=\"";
-        AppendEscapedValue(value, m_Out);
-        m_Out += '"';
+        Write(" ");
+        Write(name);
+        Write("=\"");
+        m_Piece.clear();
+        AppendEscapedValue(value, m_Piece);
+        Write(m_Piece);
+        Write("\"");
     }
 }
 
@@ -593,7 +688,7 @@ void CTreeFlattener::StartTagAsRead(const STreeEvent& event)
     if ((event.flags & STreeEvent::kIsVerbatimTag) != 0) {
         CloseTag();
         const std::uint64_t bracket = (event.flags & STreeEvent::kIsEmptyTag) != 0 ? 2 : 1;
-        m_Out += m_Events.Slice(event.offset, event.length - bracket);
+        Write(m_Events.Slice(event.offset, event.length - bracket));
         m_IsTagOpen = true;
         return;
     }
@@ -603,15 +698,22 @@ void CTreeFlattener::StartTagAsRead(const STreeEvent& event)
 
 } // namespace
 
-bool FlattenTree(std::string_view tree, std::string& out, std::string_view declaration)
+bool FlattenTreeInPlace(std::string& tree, std::string_view declaration)
 {
-    out.clear();
     try {
-        out.reserve(tree.size() + tree.size() / 8);
-        CTreeFlattener(tree, out).Run(declaration);
+        CTreeFlattener(tree).Run(declaration);
         return true;
     } catch (const STreeDeclined&) {
-        out = std::string();
+        tree = std::string();
         return false;
+    } catch (...) {
+        tree = std::string();
+        throw;
     }
+}
+
+bool FlattenTree(std::string_view tree, std::string& out, std::string_view declaration)
+{
+    out = tree;
+    return FlattenTreeInPlace(out, declaration);
 }

@@ -17,3 +17,8 @@ inline constexpr std::string_view kXmlDeclaration = "<?xml version=\"1.0\" encod
 //          each level.
 [[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out,
                                std::string_view declaration = kXmlDeclaration);
+
+// The same with the result in the place of the tree, written over what has been read of it: a long tree needs
+// no second text beside it. For trees that are known to be in the plain form, since nothing is left of one
+// that turns out not to be: `tree` is empty then, and as well if something is thrown.
+[[nodiscard]] bool FlattenTreeInPlace(std::string& tree, std::string_view declaration = kXmlDeclaration);

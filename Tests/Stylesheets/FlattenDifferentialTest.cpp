@@ -250,6 +250,33 @@ TEST(FlattenDifferential, DecisionsFromFarAway)
         }
 }
 
+// The result is written over the text that has been read. What the walk goes back to must still be there,
+// wherever among the statements a block of output comes to its end.
+TEST(FlattenDifferential, ManyStatementsWithTheirDelimitersBehindThem)
+{
+    const auto make = [](int statements, std::string& tree, std::string& flat) {
+        tree = "<q><body_pl_sql_statements>";
+        flat = std::string(kFlatHeader) + "<q><pl_sql_statements>";
+        for (int i = 0; i < statements; ++i) {
+            const std::string content =
+                "<a>" + std::string(static_cast<std::size_t>(i % 61 + 1), 'x') + "</a>";
+            const std::string token = "<T__b>" + std::to_string(i) + "</T__b>";
+            const std::string delimiter = "<pl_sql_statement_delimiter>;</pl_sql_statement_delimiter>";
+            tree.append("<delimited_pl_sql_statement>").append(content);
+            tree.append("</delimited_pl_sql_statement>").append(token).append(delimiter);
+            flat.append("<full_pl_sql_statement delimited=\"1\" labeled=\"1\"><pl_sql_statement_label/>");
+            flat.append(content).append(delimiter).append("</full_pl_sql_statement>").append(token);
+        }
+        tree += "</body_pl_sql_statements></q>";
+        flat += "</pl_sql_statements></q>\n";
+    };
+    std::string tree, flat;
+    make(5, tree, flat);
+    EXPECT_EQ(FlattenByStylesheet(tree), flat);
+    make(50000, tree, flat);
+    EXPECT_TRUE(FlattenNatively(tree) == flat);
+}
+
 // A delimiter behind a body is copied into the body's last statement. With bodies inside delimiters the tree
 // doubles at each level, which must end before memory does.
 TEST(FlattenDifferential, DelimitersThatMultiply)
