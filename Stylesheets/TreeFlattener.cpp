@@ -1,10 +1,10 @@
 #include "Stylesheets/TreeFlattener.h"
 
+#include "Stylesheets/TextOverwriter.h"
+#include "Stylesheets/TreeAttributes.h"
 #include "Stylesheets/TreeEvents.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -56,81 +56,6 @@ struct SFrame
     std::uint64_t delimiter = 0;        // Delimiters: the first, then the next to copy; 0 for none
 };
 
-// The output, written over the beginning of the text that is being read. Collects in a block that stays in
-// the cache; what finds no room before the text that is still needed waits.
-class COverwriter
-{
-public:
-    explicit COverwriter(std::string& text) : m_Text(text) {}
-
-    std::size_t size() const { return m_Settled + m_Waiting.size() - m_Drained + m_Used; }
-
-    // Returns: false if the block is full; nothing is taken then.
-    bool Takes(std::string_view text)
-    {
-        if (text.size() > kBlock - m_Used)
-            return false;
-        std::memcpy(m_Block.data() + m_Used, text.data(), text.size());
-        m_Used += text.size();
-        return true;
-    }
-
-    // Empties the block and takes `text`. `needed`: the first byte that is still going to be read; `text`
-    // stands behind it, or elsewhere.
-    void Settle(std::string_view text, std::size_t needed)
-    {
-        Put({m_Block.data(), m_Used}, needed);
-        m_Used = 0;
-        if (!Takes(text))
-            Put(text, needed);
-    }
-
-    // Nothing is read any more: the text becomes what was written.
-    void Finish()
-    {
-        Settle({}, m_Text.size());
-        m_Text.resize(m_Settled);
-        m_Text.append(m_Waiting, m_Drained);
-    }
-
-private:
-    static constexpr std::size_t kBlock = 16384;
-
-    void Put(std::string_view text, std::size_t needed)
-    {
-        if (!m_Waiting.empty()) {
-            const std::string_view waiting = std::string_view(m_Waiting).substr(m_Drained);
-            m_Drained += Place(waiting.substr(0, needed - m_Settled));
-            if (m_Drained == m_Waiting.size() || m_Drained >= kMostDrained) {
-                m_Waiting.erase(0, m_Drained);
-                m_Drained = 0;
-            }
-        }
-        if (m_Waiting.empty())
-            text.remove_prefix(Place(text.substr(0, needed - m_Settled)));
-        m_Waiting += text;
-    }
-
-    std::size_t Place(std::string_view text)
-    {
-        std::memcpy(m_Text.data() + m_Settled, text.data(), text.size());
-        m_Settled += text.size();
-        return text.size();
-    }
-
-    static constexpr std::size_t kMostDrained = std::size_t{1} << 20;
-
-    std::string& m_Text;
-    std::size_t m_Settled = 0; // bytes of output in their place
-    std::string m_Waiting;     // what comes behind them, from m_Drained on
-    std::size_t m_Drained = 0;
-    std::size_t m_Used = 0;
-    std::array<char, kBlock> m_Block;
-};
-
-// Names with their values as plain characters.
-using Attributes = std::vector<std::pair<std::string_view, std::string>>;
-
 class CTreeFlattener
 {
 public:
@@ -172,7 +97,10 @@ private:
     std::uint64_t FindSibling(std::uint64_t from, Matches&& matches);
     std::uint64_t FindDelimiter(std::uint64_t from);
     std::string MacroText(std::uint64_t index);
-    Attributes ReadAttributes(const STreeEvent& event) const;
+    TreeAttributes AttributesOf(const STreeEvent& event) const
+    {
+        return ReadAttributes(m_Events.Slice(event.offset, event.length));
+    }
 
     // ---- the output ----
 
@@ -224,11 +152,11 @@ private:
     void WriteText(std::uint64_t offset, std::uint64_t length, bool isVerbatim);
     void WriteSerialised(std::string_view run, enRun kind);
     void WriteComment(const STreeEvent& event);
-    void WriteAttributes(const Attributes& attributes);
+    void WriteAttributes(const TreeAttributes& attributes);
     void StartTagAsRead(const STreeEvent& event);
 
     CTreeEvents m_Events;
-    COverwriter m_Out;
+    CTextOverwriter m_Out;
     std::string m_Piece; // of text that is written otherwise than it was read
     std::size_t m_MostOutput;
     std::uint64_t m_At = 0;
@@ -576,45 +504,12 @@ std::string CTreeFlattener::MacroText(std::uint64_t index)
     return close == std::string::npos ? std::string() : characters.substr(open + 1, close - open - 1);
 }
 
-std::string Before(const std::string& text, char mark)
-{
-    const std::size_t at = text.find(mark);
-    return at == std::string::npos ? std::string() : text.substr(0, at);
-}
-
-std::string Behind(const std::string& text, char mark)
-{
-    const std::size_t at = text.find(mark);
-    return at == std::string::npos ? std::string() : text.substr(at + 1);
-}
-
-void SetAttribute(Attributes& attributes, std::string_view name, std::string value)
-{
-    const auto found = std::find_if(attributes.begin(), attributes.end(),
-                                    [&](const auto& attribute) { return attribute.first == name; });
-    if (found != attributes.end())
-        found->second = std::move(value);
-    else
-        attributes.emplace_back(name, std::move(value));
-}
-
 void CTreeFlattener::CopyMacro(std::uint64_t index)
 {
     const std::string text = MacroText(index);
     const STreeEvent event = m_Events.At(index);
-    Attributes attributes = ReadAttributes(event);
-    SetAttribute(attributes, "macro", "1");
-    const std::size_t mark = text.find_first_of("=#");
-    if (mark != std::string::npos && text[mark] == '=') {
-        SetAttribute(attributes, "xpath", Behind(text, '='));
-        SetAttribute(attributes, "name", Before(text, '='));
-    } else if (mark != std::string::npos) {
-        const bool hasCondition = text.find('[') != std::string::npos;
-        if (hasCondition)
-            SetAttribute(attributes, "match", '[' + Behind(text, '['));
-        SetAttribute(attributes, "uid", hasCondition ? Before(Behind(text, '#'), '[') : Behind(text, '#'));
-        SetAttribute(attributes, "name", Before(text, '#'));
-    }
+    TreeAttributes attributes = AttributesOf(event);
+    AddMacroAttributes(text, attributes);
     StartTag(m_Events.Name(event.name));
     WriteAttributes(attributes);
     CloseTag();
@@ -650,27 +545,7 @@ void CTreeFlattener::WriteSerialised(std::string_view run, enRun kind)
     Write(m_Piece);
 }
 
-// Splits a tag that the reader has accepted.
-Attributes CTreeFlattener::ReadAttributes(const STreeEvent& event) const
-{
-    Attributes attributes;
-    std::string_view rest = m_Events.Slice(event.offset, event.length);
-    rest.remove_prefix(1 + m_Events.Name(event.name).size());
-    for (;;) {
-        const std::size_t from = rest.find_first_not_of(" \t\r\n/>");
-        if (from == std::string_view::npos)
-            return attributes;
-        rest.remove_prefix(from);
-        const std::string_view name = rest.substr(0, rest.find_first_of(" \t\r\n="));
-        rest.remove_prefix(rest.find_first_of("\"'"));
-        const std::size_t end = rest.find(rest.front(), 1);
-        attributes.emplace_back(name, std::string());
-        AppendCharacters(rest.substr(1, end - 1), enRun::Value, attributes.back().second);
-        rest.remove_prefix(end + 1);
-    }
-}
-
-void CTreeFlattener::WriteAttributes(const Attributes& attributes)
+void CTreeFlattener::WriteAttributes(const TreeAttributes& attributes)
 {
     for (const auto& [name, value] : attributes) {
         Write(" ");
@@ -693,7 +568,7 @@ void CTreeFlattener::StartTagAsRead(const STreeEvent& event)
         return;
     }
     StartTag(m_Events.Name(event.name));
-    WriteAttributes(ReadAttributes(event));
+    WriteAttributes(AttributesOf(event));
 }
 
 } // namespace
