@@ -1,5 +1,6 @@
 #include "Metadata/UVDBDataTypeInfo.h"
 
+#include "Catalogue/UVDBDataTypes.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBObjectText.h"
 
@@ -119,19 +120,26 @@ long CDataTypeInfo::GetDataType()
     return m_facts.dataType;
 }
 
-long CDataTypeInfo::GetDataType(DB_VERSION_INFO)
+long CDataTypeInfo::GetDataType(DB_VERSION_INFO version)
 {
+    if (m_facts.dataType == -1) {
+        m_facts.dataType = ODBCToUVDBDataType(version, m_facts.odbcType, m_facts.typeName.c_str(),
+                                              static_cast<unsigned long>(m_facts.columnSize.value_or(0)),
+                                              m_facts.minScale.value_or(0), m_facts.maxScale.value_or(0));
+    }
     return m_facts.dataType;
 }
 
 bool CDataTypeInfo::IsLengthValid() const
 {
-    return m_facts.columnSize && !HasScale() && m_facts.columnSizePurpose == 0;
+    return m_facts.columnSize && !HasScale() &&
+           GetUVDBDataTypeColumnSizePurpose(m_facts.dataType) == UVDB_SIZE_IS_LENGTH;
 }
 
 bool CDataTypeInfo::IsPrecisionValid() const
 {
-    return m_facts.columnSize && (HasScale() || m_facts.columnSizePurpose == 1);
+    return m_facts.columnSize &&
+           (HasScale() || GetUVDBDataTypeColumnSizePurpose(m_facts.dataType) == UVDB_SIZE_IS_PRECISION);
 }
 
 bool CDataTypeInfo::IsUnsignedValid() const

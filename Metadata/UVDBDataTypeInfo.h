@@ -26,7 +26,6 @@ struct SDataTypeFacts
     long odbcType = 0;
     int userType = 0;
     Uve::U8CString arrayType;
-    unsigned long columnSizePurpose = 0; // what the size of such a type counts. 0: a length; 1: a precision
 };
 
 // A data type. Whoever reads it from a database fills its facts.
@@ -57,8 +56,10 @@ public:
     int GetUserType() override { return m_facts.userType; }
     int get_ArrayType(char* dst, unsigned long size, unsigned long* length) override;
 
-    // The internal number as it is known, and as it is in a database of that version. -1 if nobody knows.
+    // The internal number as it is known. -1 if nobody knows.
     virtual long GetDataType();
+    // The same; a number that isn't known yet is found by name, sizes and ODBC number in the types of that
+    // database, and kept.
     virtual long GetDataType(DB_VERSION_INFO version);
 
     // Whether the column size is a length, or a precision. Never both.

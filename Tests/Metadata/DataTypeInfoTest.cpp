@@ -1,3 +1,4 @@
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Metadata/UVDBDataTypeInfo.h"
 #include "Metadata/UVDBOptionWrapper.h"
 
@@ -25,23 +26,20 @@ TEST(DataTypeInfo, SizeIsALengthOrAPrecision)
         std::optional<long> size;
         std::optional<long> minScale;
         std::optional<long> maxScale;
-        unsigned long purpose;
         long length;
         long precision;
     };
     const SCase kCases[] = {
-        // size minScale maxScale purpose length precision
-        {10, {}, {}, 0, 10, kNone},    {10, {}, {}, 1, kNone, 10},  {10, {}, {}, 2, kNone, kNone},
-        {10, 0, {}, 0, kNone, 10},     {10, {}, 2, 0, kNone, 10},   {10, {}, 0, 1, kNone, 10},
-        {{}, {}, {}, 0, kNone, kNone}, {{}, 0, 2, 1, kNone, kNone},
+        // size minScale maxScale length precision
+        {10, {}, {}, 10, kNone},    {10, 0, {}, kNone, 10},   {10, {}, 2, kNone, 10},
+        {{}, {}, {}, kNone, kNone}, {{}, 0, 2, kNone, kNone},
     };
     for (const SCase& c : kCases) {
-        SCOPED_TRACE(testing::Message() << c.size.value_or(kNone) << ' ' << c.purpose);
+        SCOPED_TRACE(testing::Message() << c.size.value_or(kNone) << ' ' << c.minScale.value_or(kNone));
         CDataTypeInfo type;
         type.Facts().columnSize = c.size;
         type.Facts().minScale = c.minScale;
         type.Facts().maxScale = c.maxScale;
-        type.Facts().columnSizePurpose = c.purpose;
         EXPECT_EQ(Get(type, &IUVDBDataTypeInfo::get_Length), c.length);
         EXPECT_EQ(Get(type, &IUVDBDataTypeInfo::get_Precision), c.precision);
         EXPECT_EQ(Get(type, &IUVDBDataTypeInfo::get_MinScale), c.minScale.value_or(kNone));
@@ -77,6 +75,35 @@ TEST(DataTypeInfo, FourTypesHaveNoSignByNature)
         type.IsUnsigned(&isUnsigned);
         EXPECT_TRUE(isUnsigned && type.IsUnsignedValid());
     }
+}
+
+TEST(DataTypeInfo, UnknownNumberIsFoundInTheTypesOfTheDatabaseAndKept)
+{
+    constexpr DB_VERSION_INFO kOracle{.db = UVDB_DB_ORA};
+    constexpr long kSqlVarchar = 12;
+
+    CDataTypeInfo number;
+    number.Facts().typeName = "NUMBER";
+    number.Facts().columnSize = 18;
+    number.Facts().minScale = 0;
+    number.Facts().maxScale = 0;
+    EXPECT_EQ(number.GetDataType(), -1);
+    EXPECT_EQ(number.GetDataType(kOracle), 37);
+    number.Facts().columnSize = 38;
+    EXPECT_EQ(number.GetDataType(kOracle), 37) << "kept, though the size is another one now";
+    EXPECT_EQ(number.GetDataType(), 37);
+
+    CDataTypeInfo fraction;
+    fraction.Facts().typeName = "NUMBER";
+    fraction.Facts().columnSize = 18;
+    fraction.Facts().maxScale = 2;
+    EXPECT_EQ(fraction.GetDataType(kOracle), 25) << "the largest scale counts";
+
+    CDataTypeInfo unknown;
+    unknown.Facts().typeName = "NOSUCH";
+    EXPECT_EQ(unknown.GetDataType(kOracle), -1);
+    unknown.Facts().odbcType = kSqlVarchar;
+    EXPECT_EQ(unknown.GetDataType(kOracle), 1) << "a number that wasn't found is asked for again";
 }
 
 TEST(DataTypeInfo, TypeNameIsItsOwnThroughEveryGetter)
