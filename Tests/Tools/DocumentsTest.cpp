@@ -159,4 +159,9 @@ TEST(Documents, RuleFilesWorkWhenFollowedToTheLetter)
     Follow("RuleFiles.md", {"uvrules"}, 5);
 }
 
+TEST(Documents, TypesWorkWhenFollowedToTheLetter)
+{
+    Follow("Types.md", {"uvtypes"}, 6);
+}
+
 } // namespace

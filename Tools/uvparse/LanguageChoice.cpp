@@ -2,62 +2,18 @@
 
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
-#include "Catalogue/UVDBNamesHelper.h"
 #include "Catalogue/UVDBParserNames.h"
+#include "Tools/Support/ToolDatabase.h"
 #include "UVEnvironment/UVECompat.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
-#include <optional>
 #include <set>
 #include <system_error>
 
 namespace uvparse {
 
 namespace {
-
-std::optional<std::uint64_t> ReadNumber(std::string_view text)
-{
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (text.empty() || error != std::errc() || end != text.data() + text.size())
-        return std::nullopt;
-    return number;
-}
-
-// The next field of a text parted by colons; `text` keeps what is behind it.
-std::string_view TakeField(std::string_view& text, char separator)
-{
-    const std::size_t end = std::min(text.find(separator), text.size());
-    const std::string_view field = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return field;
-}
-
-DB_VERSION_INFO ReadKind(std::string_view kind)
-{
-    DB_VERSION_INFO version;
-    if (const std::optional<std::uint64_t> number = ReadNumber(kind)) {
-        version.db = *number;
-        if (!UVDB::NamesHelper::getInstance().isValid(*number) &&
-            GetDbResourceIdx(*number, UVDB_NO_VERSION_WORD) < 0)
-            throw CLanguageError("there is no database kind " + std::string(kind));
-        return version;
-    }
-    const std::string name(kind);
-    const UVDB::DbinfoHelper& catalogue = UVDB::DbinfoHelper::getInstance();
-    const DB_INFO_ROW& row = catalogue.findDbInfoAnyNameIgnoreCase(name.c_str(), false);
-    if (!catalogue.isUnknownDbInfo(row)) {
-        version.db = row.dbVersion.db;
-        version.subType = row.dbVersion.subType;
-        return version;
-    }
-    version.db = UVDB::NamesHelper::getInstance().GetDBType(name.c_str());
-    if (version.db == UVDB_UNKNOWN_DATABASE_KIND)
-        throw CLanguageError("no database is called '" + name + "'");
-    return version;
-}
 
 // Whether a kind of texts is known that the parser reads.
 bool IsInCatalogue(const std::string& parserName)
@@ -78,24 +34,11 @@ std::string Listed(const Names& names)
 
 DB_VERSION_INFO ReadDatabase(std::string_view text)
 {
-    const std::string whole(text);
-    DB_VERSION_INFO version = ReadKind(TakeField(text, ':'));
-
-    const auto number = [&](std::string_view field) {
-        const std::optional<std::uint64_t> value = ReadNumber(field);
-        if (!value)
-            throw CLanguageError("'" + std::string(field) + "' in '" + whole + "' is no number");
-        return *value;
-    };
-    const std::string_view subType = TakeField(text, ':');
-    if (!subType.empty())
-        version.subType = number(subType);
-    if (!text.empty()) {
-        version.major = number(TakeField(text, '.'));
-        if (!text.empty())
-            version.minor = number(text);
+    try {
+        return ReadDatabaseText(text);
+    } catch (const CDatabaseError& e) {
+        throw CLanguageError(e.what());
     }
-    return version;
 }
 
 DB_VERSION_INFO VersionOfParser(const std::string& parserName)

@@ -68,9 +68,7 @@ std::vector<std::string> ListGrammars(const std::string& grammarFolder);
 // The database kind whose texts the parser reads.
 DB_VERSION_INFO VersionOfParser(const std::string& parserName);
 
-// KIND[:SUBTYPE[:VERSION]]: KIND is a number, any catalogue name or an enumerator's name, SUBTYPE a number,
-// VERSION "major" or "major.minor". An empty SUBTYPE is the one that belongs to the name. Throws:
-// CLanguageError.
+// As ReadDatabaseText reads it. Throws: CLanguageError.
 DB_VERSION_INFO ReadDatabase(std::string_view text);
 
 } // namespace uvparse

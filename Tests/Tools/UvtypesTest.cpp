@@ -1,0 +1,351 @@
+#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/UVDBDatabaseKinds.h"
+#include "Tests/Support/ProgramFixture.h"
+#include "Tools/Support/ToolDatabase.h"
+#include "Tools/uvtypes/Capacity.h"
+#include "Tools/uvtypes/TypeMap.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts Split(const std::string& text, char separator)
+{
+    Texts parts;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);)
+        parts.push_back(part);
+    return parts;
+}
+
+// Of a TSV result: the rows behind the head, as cells.
+std::vector<Texts> Rows(const std::string& tsv)
+{
+    std::vector<Texts> rows;
+    for (const std::string& line : Split(tsv, '\n'))
+        rows.push_back(Split(line, '\t'));
+    if (!rows.empty())
+        rows.erase(rows.begin());
+    return rows;
+}
+
+class Uvtypes : public CProgramFixture
+{
+protected:
+    Uvtypes() : CProgramFixture("uvtypes") {}
+
+    SRunResult Map(const std::string& from, const std::string& to, const std::string& rest) const
+    {
+        return Run("map --from '" + from + "' --to '" + to + "' " + rest);
+    }
+};
+
+TEST_F(Uvtypes, ATableIsForReading)
+{
+    const SRunResult run = Map("Oracle", "PostgreSQL", "'NUMBER(10,2)' CLOB");
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "source        internal  number  target\n"
+                       "------------  --------  ------  -------------\n"
+                       "NUMBER(10,2)  DECIMAL       25  DECIMAL(10,2)\n"
+                       "CLOB          TEXT           7  TEXT\n");
+}
+
+TEST_F(Uvtypes, AllFormatsSayTheSame)
+{
+    const std::string types = "'NUMBER(10,2)' 'VARCHAR2(4000)' 'TIMESTAMP(9)' --check --explain --quiet";
+    const std::vector<Texts> rows = Rows(Map("ora", "mssql", types + " --format tsv").out);
+    const SRunResult run = Map("ora", "mssql", types + " --format json");
+    const nlohmann::json objects = nlohmann::json::parse(run.out);
+    EXPECT_EQ(run.code, 1);
+    ASSERT_EQ(rows.size(), 3u);
+    ASSERT_EQ(objects.size(), 3u);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_EQ(rows[i].size(), 6u);
+        EXPECT_EQ(objects[i]["source"], rows[i][0]);
+        EXPECT_EQ(objects[i]["internal"], rows[i][1]);
+        EXPECT_EQ(objects[i]["number"].dump(), rows[i][2]);
+        EXPECT_EQ(objects[i]["target"], rows[i][3]);
+        std::string losses;
+        for (const nlohmann::json& loss : objects[i]["losses"])
+            losses += (losses.empty() ? "" : "; ") + loss.get<std::string>();
+        EXPECT_EQ(losses, rows[i][4]);
+        EXPECT_EQ(losses.empty(), i != 2) << losses; // a digit of the ninth place has no room
+        std::string explanation;
+        for (const nlohmann::json& step : objects[i]["explain"])
+            explanation += (explanation.empty() ? "" : "; ") + step["about"].get<std::string>() + ": " +
+                           step["text"].get<std::string>();
+        EXPECT_EQ(explanation, rows[i][5]);
+    }
+}
+
+TEST_F(Uvtypes, StandardInputIsReadToItsEnd)
+{
+    Put("in", "NUMBER(5)\r\n\n  varchar2( 10 )\t\nNOSUCH\nVARCHAR2(\nNUMBR(3)\n\xFF\nDATE");
+    const SRunResult run = Map("Oracle", "MySQL", "--format tsv -");
+    EXPECT_EQ(run.code, 1);
+    const std::vector<Texts> rows = Rows(run.out);
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0][0], "NUMBER(5)");
+    EXPECT_EQ(rows[1][0], "varchar2( 10 )");
+    EXPECT_EQ(rows[1][3], "VARCHAR(10)");
+    EXPECT_EQ(rows[2][0], "DATE");
+    const Texts messages = Split(run.err, '\n');
+    ASSERT_EQ(messages.size(), 4u) << run.err;
+    EXPECT_THAT(messages[0], StartsWith("<stdin>:4: error: Oracle: there is no type 'NOSUCH'"));
+    EXPECT_THAT(messages[1], StartsWith("<stdin>:5: error: "));
+    EXPECT_THAT(messages[2],
+                HasSubstr("<stdin>:6: error: Oracle: there is no type 'NUMBR'; did you mean 'NUMBER'"));
+    EXPECT_THAT(messages[3], StartsWith("<stdin>:7: error: "));
+    EXPECT_EQ(nlohmann::json::parse(Map("Oracle", "MySQL", "--format json -").out).size(), 3u);
+}
+
+// A program that writes a type and waits for what it is called.
+TEST_F(Uvtypes, EachLineIsAnsweredBeforeTheNextIsThere)
+{
+    for (const std::string format : {"table", "tsv", "json"}) {
+        SCOPED_TRACE(format);
+        Put("ask.sh",
+            "rm -f asked answers\nmkfifo asked\n\"$1\" map --from Oracle --to MySQL --format " + format +
+                " - <asked >answers &\nexec 3>asked\n"
+                "for type in DATE CLOB; do\n echo $type >&3\n tries=0\n"
+                " until grep -q $type answers; do\n"
+                "  tries=$((tries + 1))\n  [ $tries -lt 200 ] || exit 1\n  sleep 0.05\n done\ndone\n"
+                "exec 3>&-\nwait $!\n");
+        EXPECT_EQ(RunProgram("/bin/sh", "ask.sh '" UV_BIN_DIR "/uvtypes'").code, 0);
+    }
+}
+
+struct SRefusal
+{
+    const char* arguments;
+    const char* message;
+};
+
+TEST_F(Uvtypes, WhatCantBeDoneIsSaid)
+{
+    const SRefusal cases[] = {
+        {"", "no command given"},
+        {"mapp", "there is no command 'mapp'"},
+        {"list", "usage: uvtypes list DB"},
+        {"list Oracel", "no database is called 'Oracel'; did you mean 'Oracle'"},
+        {"list postgres", "did you mean 'PostgreSQL'"},
+        {"list Excel", "no types of Excel are known"},
+        {"list Oracle:x", "'x' in 'Oracle:x' is no number"},
+        {"list Oracle --format xml", "--format takes table, tsv or json"},
+        {"map --to MySQL DATE", "map needs --from and --to"},
+        {"map --from Oracle --to MySQL", "no type given"},
+        {"map --from Oracle --to MySQL --all DATE", "name none"},
+        {"map --from Oracle --to MySQL DATE -", "'-' stands alone"},
+        {"map --from Oracle --to Excel DATE", "Excel can't be a target"},
+        {"map --from Oracle --to MySQL --al", "unrecognised option"},
+        {"list Oracle > /dev/full", "standard output"},
+    };
+    for (const SRefusal& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const SRunResult run = Run(c.arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, StartsWith("uvtypes: error: "));
+        EXPECT_THAT(run.err, HasSubstr(c.message));
+    }
+}
+
+TEST_F(Uvtypes, AnyNameAndVersionOfTheCatalogueWillDo)
+{
+    struct SCase
+    {
+        const char* to;
+        const char* type;
+        const char* target;
+    };
+    const SCase cases[] = {
+        {"ora", "TIMESTAMP(6)", "TIMESTAMP(6)"},
+        {"Oracle:8.1", "TIMESTAMP(6)", "DATE"},
+        {"1:8", "TIMESTAMP(6)", "DATE"},
+        {"1:-1", "", nullptr},
+        {"Microsoft SQL Server:8.0", "CLOB", "TEXT"},
+        {"MSSQL", "CLOB", "VARCHAR(MAX)"},
+        {"Microsoft Azure SQL Database", "CLOB", "VARCHAR(MAX)"},
+        {"Amazon Aurora (compatibility with PostgreSQL)", "CLOB", "TEXT"},
+    };
+    for (const SCase& c : cases) {
+        SCOPED_TRACE(c.to);
+        const SRunResult run = Map("Oracle", c.to, std::string("--format tsv '") + c.type + "'");
+        if (c.target == nullptr) {
+            EXPECT_EQ(run.code, 2);
+            continue;
+        }
+        ASSERT_EQ(run.code, 0) << run.err;
+        EXPECT_EQ(Rows(run.out).at(0).at(3), c.target);
+    }
+}
+
+TEST_F(Uvtypes, ExplanationNamesRowsAndExceptions)
+{
+    const std::string number = Map("Oracle", "PostgreSQL:8.1", "--explain NUMBER 'NUMBER(10,2)'").out;
+    EXPECT_THAT(number, HasSubstr("    read          NUMBER, size 10, scale 2\n"));
+    EXPECT_THAT(number, HasSubstr("exception     to PostgreSQL: NUMBER without precision becomes NUMERIC\n"));
+    EXPECT_THAT(number, HasSubstr("    sheaf         PostgreSQL 8.4, one of 2 for this kind of database\n"));
+    const std::string unlimited =
+        Map("MSSQL", "PostgreSQL", "--explain 'nvarchar ( max )' 'nvarchar(30)'").out;
+    const std::size_t exception = unlimited.find("exception     SQL Server to PostgreSQL: NVARCHAR(MAX)");
+    EXPECT_LT(exception, unlimited.find("nvarchar(30)")) << unlimited;
+    EXPECT_EQ(unlimited.rfind("exception"), exception);
+}
+
+TEST_F(Uvtypes, CheckTellsScripts)
+{
+    const SRunResult clean = Map("Oracle", "PostgreSQL", "--check 'VARCHAR2(10)'");
+    EXPECT_EQ(clean.code, 0);
+    EXPECT_EQ(clean.err, "");
+    const SRunResult lossy = Map("MSSQL", "MySQL", "--check 'DATETIMEOFFSET(7)'");
+    EXPECT_EQ(lossy.code, 1);
+    EXPECT_THAT(lossy.err, StartsWith("uvtypes: warning: DATETIMEOFFSET(7) as "));
+    EXPECT_THAT(lossy.err, HasSubstr("time zone: none here\n"));
+    EXPECT_THAT(lossy.out, HasSubstr("time zone: none here"));
+    const SRunResult quiet = Map("MSSQL", "MySQL", "--check --quiet 'DATETIMEOFFSET(7)'");
+    EXPECT_EQ(quiet.code, 1);
+    EXPECT_EQ(quiet.err, "");
+    EXPECT_EQ(quiet.out, lossy.out);
+    EXPECT_EQ(Map("MSSQL", "MySQL", "'DATETIMEOFFSET(7)'").code, 0);
+}
+
+TEST_F(Uvtypes, AllTakesEveryNameOfTheTable)
+{
+    for (const std::string from : {"Oracle", "SYBASE_ASE", "Informix", "PostgreSQL"}) {
+        SCOPED_TRACE(from);
+        const SRunResult run = Map(from, "MSSQL", "--all --format tsv");
+        EXPECT_EQ(run.code, 0) << run.err;
+        std::set<std::string> sources;
+        const DB_VERSION_INFO version = ReadDatabaseText(from);
+        for (const Texts& row : Rows(run.out)) {
+            EXPECT_TRUE(sources.insert(row.at(0)).second) << row.at(0) << " twice";
+            EXPECT_THAT(row.at(3), Not(testing::AnyOf("", "UNKNOWN"))) << row.at(0);
+        }
+        // By their keys: one of each name at least.
+        std::set<std::string> names;
+        for (const std::string& source : sources)
+            names.insert(ReadTypeText(version, source).name.c_str());
+        for (const SDataTypeParams& row : GetDBMSDataTypeParamsList(version))
+            EXPECT_EQ(names.count(row.name), 1u) << row.name;
+    }
+}
+
+TEST_F(Uvtypes, ListShowsTheTable)
+{
+    const SRunResult run = Run("list Oracle --format tsv");
+    EXPECT_EQ(run.code, 0);
+    const std::vector<Texts> rows = Rows(run.out);
+    EXPECT_EQ(rows.size(), 79u);
+    EXPECT_THAT(run.out, HasSubstr("NUMBER\tDECIMAL\t25\t38\tprecision\t-84\t127\t\tPRECISION,SCALE\tno\n"));
+    EXPECT_THAT(Run("databases --format tsv").out, HasSubstr("\nOracle\t1\t\t79\t8.3; 9.2; 10.2\n"));
+    EXPECT_THAT(Run("list --help").out, HasSubstr("e.g. uvtypes list Informix\n"));
+    EXPECT_THAT(Run("list --help").out, Not(HasSubstr("--explain")));
+}
+
+struct SLossCase
+{
+    std::uint64_t from;
+    const char* source;
+    std::uint64_t to;
+    const char* target;
+    const char* loss; // where it begins; empty: none
+};
+
+// Not every case is one that the mapping makes: the check is there for those that it shouldn't make.
+TEST(UvtypesLosses, WhatDoesntFitIsFound)
+{
+    const SLossCase cases[] = {
+        {UVDB_DB_ORA, "VARCHAR2(100)", UVDB_DB_MySQL, "VARCHAR(100)", ""},
+        {UVDB_DB_ORA, "VARCHAR2(100)", UVDB_DB_MySQL, "VARCHAR(99)", "length: 100 there, 99 here"},
+        {UVDB_DB_ORA, "RAW(16)", UVDB_DB_PostgreSQL_AMAZON_AURORA, "BYTEA",
+         ""}, // a kind without types of its own
+        {UVDB_DB_ORA, "RAW(16)", UVDB_DB_MySQL, "VARCHAR(16)", "family: bytes there, text here"},
+        {UVDB_DB_ORA, "NVARCHAR2(5)", UVDB_DB_MSSQL, "VARCHAR(5)", "family: national text"},
+        {UVDB_DB_ORA, "NVARCHAR2(5)", UVDB_DB_MSSQL, "NVARCHAR(5)", ""},
+        {UVDB_DB_ORA, "NUMBER(10,2)", UVDB_DB_MSSQL, "DECIMAL(10,2)", ""},
+        {UVDB_DB_ORA, "NUMBER(10,2)", UVDB_DB_MSSQL, "DECIMAL(10,1)", "scale: 2 there, 1 here"},
+        {UVDB_DB_ORA, "NUMBER(10,2)", UVDB_DB_MSSQL, "DECIMAL(10,3)", "range: "}, // a digit less in front
+        {UVDB_DB_ORA, "NUMBER(10,2)", UVDB_DB_MSSQL, "FLOAT", "precision: "},
+        {UVDB_DB_ORA, "NUMBER(9)", UVDB_DB_MSSQL, "INT", ""},
+        {UVDB_DB_ORA, "NUMBER(10)", UVDB_DB_MSSQL, "INT", "range: "},
+        {UVDB_DB_ORA, "NUMBER(10)", UVDB_DB_MSSQL, "FLOAT", ""}, // exact up to 53 binary digits
+        {UVDB_DB_MSSQL, "INT", UVDB_DB_ORA, "NUMBER(10)", ""},
+        {UVDB_DB_MSSQL, "INT", UVDB_DB_ORA, "NUMBER(9)", "range: "},
+        {UVDB_DB_MySQL, "SMALLINT UNSIGNED", UVDB_DB_MSSQL, "SMALLINT", "range: up to 65535"},
+        {UVDB_DB_MySQL, "SMALLINT", UVDB_DB_MySQL, "SMALLINT UNSIGNED", "range: from -32768"},
+        {UVDB_DB_MySQL, "MEDIUMINT", UVDB_DB_MSSQL, "INT", ""},
+        {UVDB_DB_MySQL, "INT", UVDB_DB_MySQL, "MEDIUMINT", "range: "},
+        {UVDB_DB_MSSQL, "FLOAT", UVDB_DB_MSSQL, "REAL",
+         "precision: 53 binary digits there, 24 binary digits here"},
+        {UVDB_DB_MSSQL, "DATETIMEOFFSET(3)", UVDB_DB_MSSQL, "DATETIME2(3)", "time zone: "},
+        {UVDB_DB_MSSQL, "DATETIME2(7)", UVDB_DB_MSSQL, "DATETIME2(3)",
+         "scale: 7 digits of a second there, 3 here"},
+        {UVDB_DB_MSSQL, "DATETIME2(3)", UVDB_DB_MSSQL, "DATETIME", "range: years 1 to 9999"},
+        {UVDB_DB_MSSQL, "DATETIME2(3)", UVDB_DB_MSSQL, "DATE", "range: no hour, minute, second here"},
+        {UVDB_DB_MSSQL, "DATE", UVDB_DB_MSSQL, "DATETIME2(3)", ""},
+        {UVDB_DB_ORA, "INTERVAL YEAR(4) TO MONTH", UVDB_DB_ORA, "INTERVAL DAY(4) TO SECOND(0)",
+         "range: the interval"},
+        {UVDB_DB_MSSQL, "UNIQUEIDENTIFIER", UVDB_DB_ORA, "RAW(16)", ""},
+        {UVDB_DB_MSSQL, "UNIQUEIDENTIFIER", UVDB_DB_ORA, "RAW(15)", "family: "},
+        {UVDB_DB_MSSQL, "XML", UVDB_DB_ORA, "CLOB", "family: XML there, text here"},
+        {UVDB_DB_MSSQL, "BIT", UVDB_DB_POSTGRESQL, "BOOLEAN", ""},
+        {UVDB_DB_MySQL, "BIT(8)", UVDB_DB_POSTGRESQL, "BOOLEAN", "family: bits"},
+        {UVDB_DB_ORA, "NUMBER(5)", UVDB_DB_MySQL, "NOSUCH", ""}, // of which nothing is known
+    };
+    for (const SLossCase& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.source << " as " << c.target);
+        STypeText source = ReadTypeText({.db = c.from}, c.source);
+        ASSERT_TRUE(source.isKnown);
+        CompleteTypeNumbers({.db = c.from}, source);
+        const Texts losses =
+            uvtypes::Losses(uvtypes::CapacityOf({.db = c.from}, source), {.db = c.to}, c.target);
+        if (*c.loss == '\0')
+            EXPECT_THAT(losses, testing::IsEmpty());
+        else
+            EXPECT_THAT(losses, testing::ElementsAre(StartsWith(c.loss)));
+    }
+}
+
+TEST(UvtypesLosses, NoTypeHoldsLessThanItself)
+{
+    for (const std::uint64_t db : {UVDB_DB_ORA, UVDB_DB_MSSQL, UVDB_DB_MySQL, UVDB_DB_POSTGRESQL, UVDB_DB_DB2,
+                                   UVDB_DB_SYBASE, UVDB_DB_INFORMIX, UVDB_DB_TERADATA}) {
+        const DB_VERSION_INFO version{.db = db};
+        for (const std::string& text : uvtypes::TypesOfTable(version)) {
+            STypeText type = ReadTypeText(version, text);
+            CompleteTypeNumbers(version, type);
+            EXPECT_THAT(uvtypes::Losses(uvtypes::CapacityOf(version, type), version, text),
+                        testing::IsEmpty())
+                << db << ": " << text;
+        }
+    }
+}
+
+TEST(ToolDatabase, ALoneNumberIsWhatTheToolSays)
+{
+    EXPECT_EQ(ReadDatabaseText("Oracle:11").subType, 11u);
+    EXPECT_EQ(ReadDatabaseText("Oracle:11", enLoneNumber::Version).major, 11u);
+    EXPECT_EQ(ReadDatabaseText("Oracle:11.2").minor, 2u); // a dot tells it anyway
+    EXPECT_EQ(ReadDatabaseText("MySQL:1:", enLoneNumber::Version).subType, 1u);
+    EXPECT_EQ(ReadDatabaseText("SYBASE_ASE:15", enLoneNumber::Version).subType, 1u);
+    EXPECT_THROW(ReadDatabaseText("Oracle:11.2.0", enLoneNumber::Version), CDatabaseError);
+}
+
+} // namespace

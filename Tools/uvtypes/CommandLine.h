@@ -1,0 +1,54 @@
+// What the user asked for on uvtypes' command line.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace uvtypes {
+
+enum class enCommand
+{
+    Help,
+    Version,
+    Databases,
+    List,
+    Map
+};
+
+enum class enFormat
+{
+    Table,
+    Tsv,
+    Json
+};
+
+struct SCommandLine
+{
+    enCommand command = enCommand::Help;
+    std::string topic;                 // Help: of one command; empty: of all
+    std::vector<std::string> operands; // as many as the command takes
+    enFormat format = enFormat::Table;
+    std::string from; // map
+    std::string to;
+    bool isAll = false;
+    bool isExplain = false;
+    bool isCheck = false;
+    bool isIdentity = false;
+    bool isQuiet = false;
+};
+
+// The command line makes no sense; the text says why.
+class CUsageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws: CUsageError.
+SCommandLine ReadCommandLine(int argc, const char* const* argv);
+
+// `topic`: a command's name, or empty for all of them.
+std::string HelpText(const std::string& topic);
+
+} // namespace uvtypes

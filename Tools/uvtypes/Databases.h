@@ -1,0 +1,45 @@
+// The databases whose types are known.
+#pragma once
+
+#include "Interfaces/DB_VERSION_INFO.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct SMappingSheafKey;
+
+namespace uvtypes {
+
+struct SDatabase
+{
+    DB_VERSION_INFO version;
+    std::string name; // for people: "Oracle 11.2"
+};
+
+// DB[:VERSION] or DB:SUBTYPE:VERSION. A database that is offered as a service, or that shares the types of
+// another one, stands for that one's kind and subtype. Throws: CDatabaseError for names that mean nothing,
+// and for databases without a table of types.
+SDatabase ReadSource(std::string_view text);
+
+// The same for databases without a sheaf of their own.
+SDatabase ReadTarget(std::string_view text);
+
+// The sheaf that serves a target.
+const SMappingSheafKey& SheafOf(const SDatabase& target);
+
+// "PostgreSQL 8.4", or without a version where the sheaf has none.
+std::string SheafName(const SMappingSheafKey& sheaf);
+
+// Kinds and subtypes with a table or a sheaf, ascending.
+struct SKnownDatabase
+{
+    std::string name;
+    DB_VERSION_INFO version;
+    std::size_t rowCount = 0;          // of its table of types; 0: no source
+    std::vector<std::string> versions; // of its sheaves; "any" for one without a version; empty: no target
+};
+
+std::vector<SKnownDatabase> KnownDatabases();
+
+} // namespace uvtypes

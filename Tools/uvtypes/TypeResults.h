@@ -1,0 +1,67 @@
+// Results as rows of named cells, in the form that the user asked for.
+#pragma once
+
+#include "Tools/Support/ToolFiles.h"
+#include "Tools/Support/ToolTerminal.h"
+#include "Tools/uvtypes/CommandLine.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace uvtypes {
+
+// Nothing, a number, a text, or several texts.
+using Cell =
+    std::variant<std::monostate, std::int64_t, std::uint64_t, bool, std::string, std::vector<std::string>>;
+
+// What stands below a row: a word and what there is to say.
+using Details = std::vector<std::pair<std::string, std::string>>;
+
+// A table has its columns aligned under a head, and details on lines of their own. TSV has a head too, cells
+// that are apart by tabs (with \t, \n, \r and \\ for what would break a line), lists parted by "; ", and
+// details in a last column "explain". JSON is an array of one object a line.
+class CTypeResults
+{
+public:
+    // `columns`: the names, in lower case with "_" between words. `hasDetails`: rows may have them.
+    CTypeResults(enFormat format, std::vector<std::string> columns, bool hasDetails = false);
+
+    // As many cells as there are columns.
+    void Add(std::vector<Cell> cells, Details details = {});
+
+    // Writes the rows that were added to the standard output, if there are any. The columns of a table are as
+    // wide as anything written so far. Throws: CToolFailure.
+    void Flush();
+
+    // Writes the rest and the end; the head of TSV is there even without rows. Throws: CToolFailure.
+    void End();
+
+private:
+    struct SRow
+    {
+        std::vector<Cell> cells;
+        Details details;
+    };
+
+    void Write();
+    void LayOut(std::string& out);
+    void AddTableLine(const std::vector<std::string>& texts, const std::vector<bool>& isNumber,
+                      std::string& out) const;
+    void AddTsvRow(const SRow& row, std::string& out) const;
+    void AddJsonRow(const SRow& row, std::string& out) const;
+
+    enFormat m_Format;
+    std::vector<std::string> m_Columns;
+    bool m_HasDetails;
+    std::vector<SRow> m_Rows;
+    std::vector<std::size_t> m_Widths;
+    bool m_HasHead = false;
+    bool m_HasRow = false;
+    CCellText m_CellText;
+    COutputFile m_Output{"-"};
+};
+
+} // namespace uvtypes
