@@ -18,8 +18,7 @@ TEST(Compat, ComparisonIgnoresTheCaseOfAsciiAlone)
 {
     struct SCase
     {
-        const char* a;
-        const char* b;
+        const char *a, *b;
         int sign;
     };
     const SCase cases[] = {
@@ -58,29 +57,6 @@ TEST(Compat, BoundedCopiesFitOrLeaveNothing)
     EXPECT_EQ(Compat::_strupr_s(unterminated, sizeof unterminated), EINVAL);
     EXPECT_EQ(Compat::memcpy_s(unterminated, sizeof unterminated, "abcd", 4), ERANGE);
     EXPECT_EQ(unterminated[2], '\0');
-}
-
-TEST(Compat, NumbersInAnyBase)
-{
-    struct SCase
-    {
-        int value;
-        int base;
-        const char* text;
-    };
-    const SCase cases[] = {
-        {0, 10, "0"},
-        {INT_MIN, 10, "-2147483648"},
-        {-1, 16, "ffffffff"},
-        {35, 36, "z"},
-        {INT_MIN, 2, "10000000000000000000000000000000"},
-        {5, 1, ""},
-        {5, 37, ""},
-    };
-    for (const SCase& c : cases) {
-        char text[34];
-        EXPECT_STREQ(Compat::itoa(c.value, text, c.base), c.text) << c.value << ' ' << c.base;
-    }
 }
 
 TEST(Compat, PathsAreSplitAtTheLastDotOfTheName)
@@ -137,10 +113,7 @@ TEST(IniFile, ValuesAreFoundAsPeopleWriteThem)
                                  "key = first ; not a comment\r\n"
                                  "KEY = second\r\n"
                                  "quoted=\" blanks \"\r\n"
-                                 "single='x'\n"
                                  "open=\"x\n"
-                                 "mixed=\"x'\n"
-                                 "quote=\"\n"
                                  "empty=\n"
                                  "no value\n"
                                  "a=b=c\n"
@@ -159,18 +132,13 @@ TEST(IniFile, ValuesAreFoundAsPeopleWriteThem)
 
     struct SCase
     {
-        const char* section;
-        const char* key;
-        const char* text;
+        const char *section, *key, *text;
         int number;
     };
     const SCase cases[] = {
         {"main", "Key", "first ; not a comment", 0},
         {"MAIN", "quoted", " blanks ", 0},
-        {"Main", "single", "x", 0},
         {"Main", "open", "\"x", 0},
-        {"Main", "mixed", "\"x'", 0},
-        {"Main", "quote", "\"", 0},
         {"Main", "empty", "", 0},
         {"Main", "no value", "default", 7},
         {"Main", "a", "b=c", 0},
@@ -180,7 +148,6 @@ TEST(IniFile, ValuesAreFoundAsPeopleWriteThem)
         {"Main", "early", "default", 7},
         {"Main", "late", "default", 7}, // the first section of a name is the one
         {"Other", "KEY", "other", 0},
-        {"None", "key", "default", 7},
     };
     for (const SCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.section << ' ' << c.key);

@@ -1,5 +1,6 @@
 #include "UVEnvironment/FileHelper.h"
 
+#include "Tests/Support/ScratchFolder.h"
 #include "UVEnvironment/UVECompat.h"
 
 #include <gmock/gmock.h>
@@ -18,14 +19,6 @@ using Uve::U8CString;
 // A directory of its own for each test.
 class FileHelper : public testing::Test
 {
-public:
-    FileHelper()
-    {
-        std::string name = (fs::temp_directory_path() / "uvfilesXXXXXX").string();
-        m_Directory = mkdtemp(name.data());
-    }
-    ~FileHelper() override { fs::remove_all(m_Directory); }
-
 protected:
     U8CString PathOf(const std::string& name) const { return U8CString((m_Directory / name).string()); }
 
@@ -42,16 +35,15 @@ protected:
         return bytes.str();
     }
 
-    fs::path m_Directory;
+    const CScratchFolder m_Folder;
+    const fs::path m_Directory = fs::path(m_Folder.Path()).parent_path();
 };
 
 TEST(Path, CombineTakesWhatIsAbsolute)
 {
     struct SCase
     {
-        const char* a;
-        const char* b;
-        const char* combined;
+        const char *a, *b, *combined;
     };
     const SCase cases[] = {
         {"a", "b", "a/b"}, {"a/", "b", "a/b"}, {"a", "/b", "/b"}, {"", "b/../c", "b/../c"},
@@ -66,10 +58,7 @@ TEST(Path, PartsOfAPath)
 {
     struct SCase
     {
-        const char* path;
-        const char* directory;
-        const char* stem;
-        const char* extension;
+        const char *path, *directory, *stem, *extension;
     };
     const SCase cases[] = {
         {"/a/b.tar.gz", "/a", "b.tar", ".gz"},
@@ -179,12 +168,7 @@ TEST_F(FileHelper, DirectoriesListTheirFilesByMask)
     for (const char* name : {"b.xsl", "a.xsl", "a.xs", "\xC3\xA9.xsl", "A.XSL", "a.xsl_"})
         Write(name, "");
     Uve::Directory::Create(PathOf("d.xsl"));
-    struct SCase
-    {
-        const char* mask;
-        std::vector<std::string> names;
-    };
-    const SCase cases[] = {
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"*.xsl", {"a.xsl", "b.xsl", "\xC3\xA9.xsl"}},
         {"?.xsl", {"a.xsl", "b.xsl", "\xC3\xA9.xsl"}},
         {"a*s*", {"a.xs", "a.xsl", "a.xsl_"}},
@@ -192,11 +176,11 @@ TEST_F(FileHelper, DirectoriesListTheirFilesByMask)
         {"*.*.*", {}},
         {"", {}},
     };
-    for (const SCase& c : cases) {
+    for (const auto& [mask, names] : cases) {
         std::vector<U8CString> expected;
-        for (const std::string& name : c.names)
+        for (const std::string& name : names)
             expected.push_back(PathOf(name));
-        EXPECT_EQ(Uve::Directory::GetFiles(m_Directory.string(), c.mask), expected) << c.mask;
+        EXPECT_EQ(Uve::Directory::GetFiles(m_Directory.string(), mask), expected) << mask;
     }
     EXPECT_EQ(Uve::Directory::GetFiles(m_Directory.string()).size(), 6u);
     EXPECT_TRUE(Uve::Directory::GetFiles(PathOf("none")).empty());
@@ -218,20 +202,15 @@ TEST_F(FileHelper, DeletingSparesTheOtherKind)
 
 TEST_F(FileHelper, FullDirectoryMakesWhatIsMissing)
 {
-    struct SCase
-    {
-        const char* name;
-        bool made;
-    };
     Write("file", "");
-    const SCase cases[] = {
+    const std::pair<const char*, bool> cases[] = {
         {"a/b/c", true}, {"a/b/c", true},   {"a/b/d/", true},
         {"e//f", true},  {"file/g", false}, {"file", false},
     };
-    for (const SCase& c : cases) {
-        const U8CString path = PathOf(c.name);
-        EXPECT_EQ(Uve::UVMakeFullDir(path.c_str()), c.made) << c.name;
-        EXPECT_EQ(fs::is_directory(path.c_str()), c.made) << c.name;
+    for (const auto& [name, made] : cases) {
+        const U8CString path = PathOf(name);
+        EXPECT_EQ(Uve::UVMakeFullDir(path.c_str()), made) << name;
+        EXPECT_EQ(fs::is_directory(path.c_str()), made) << name;
     }
     EXPECT_FALSE(Uve::UVMakeFullDir(""));
     EXPECT_FALSE(Uve::UVMakeFullDir(nullptr));
@@ -240,14 +219,10 @@ TEST_F(FileHelper, FullDirectoryMakesWhatIsMissing)
 
 TEST(ScriptLines, BlankLinesDoNotCount)
 {
-    struct SCase
-    {
-        const char* text;
-        int lines;
-    };
-    const SCase cases[] = {{"", 0}, {"a", 1}, {"a\n", 1}, {"a\nb", 2}, {"\n\na\n\n\u20AC\n", 2}, {"\n", 0}};
-    for (const SCase& c : cases)
-        EXPECT_EQ(Uve::GetScriptQuantityLines(c.text), c.lines) << testing::PrintToString(c.text);
+    const std::pair<const char*, int> cases[] = {
+        {"", 0}, {"a", 1}, {"a\n", 1}, {"a\nb", 2}, {"\n\na\n\n\u20AC\n", 2}, {"\n", 0}};
+    for (const auto& [text, lines] : cases)
+        EXPECT_EQ(Uve::GetScriptQuantityLines(text), lines) << testing::PrintToString(text);
 }
 
 } // namespace

@@ -175,23 +175,6 @@ TEST(U8String, ConstructorsCountCharacters)
     EXPECT_THROW(u8string(u8string("x"), 2), std::out_of_range);
 }
 
-TEST(U8String, OtherForms)
-{
-    EXPECT_EQ(u8string("Stra\xC3\x9F"
-                       "e")
-                  .uppercase(),
-              "STRASSE");
-    EXPECT_EQ(u8string("\xC3\x89T").lowercase(), "\xC3\xA9t");
-    EXPECT_EQ(u8string("\xC3\x89").compare_nocase("\xC3\xA9"), 0);
-    EXPECT_LT(u8string("A").compare_nocase("b"), 0);
-    EXPECT_EQ(u8string("e\xCC\x81").normalize(), "\xC3\xA9");
-    u8string text("x");
-    EXPECT_EQ(text.printf("%s-%d", text.c_str(), 7), "x-7");
-    std::map<u8string, int> ordered = {{"b", 1}, {"\xC3\xA9", 2}, {"a", 0}};
-    EXPECT_EQ(ordered.begin()->second, 0);
-    EXPECT_EQ(ordered.rbegin()->second, 2);
-}
-
 TEST(U8StringView, NarrowsAtBothEnds)
 {
     for (const auto& text : kTexts) {

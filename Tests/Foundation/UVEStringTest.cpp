@@ -10,12 +10,7 @@ namespace {
 
 struct SReplaceCase
 {
-    const char* text;
-    const char* from;
-    const char* to;
-    const char* all;
-    const char* first;
-    const char* last;
+    const char *text, *from, *to, *all, *first, *last;
 };
 
 constexpr SReplaceCase kReplaces[] = {

@@ -118,13 +118,8 @@ TEST(U8CStringEdit, ReplaceAgreesWithCodePoints)
 TEST(U8CStringEdit, EveryChangeForgetsThePosition)
 {
     using Change = std::function<void(U8CString&)>;
-    struct SCase
-    {
-        const char* name;
-        Change change;
-    };
     const std::string other = "\xE2\x82\xAC-";
-    const SCase kCases[] = {
+    const std::pair<const char*, Change> kCases[] = {
         {"assign", [&](U8CString& s) { s.assign(other); }},
         {"= string", [&](U8CString& s) { s = other; }},
         {"= C string", [](U8CString& s) { s = "x"; }},
@@ -159,12 +154,12 @@ TEST(U8CStringEdit, EveryChangeForgetsThePosition)
         {"ReleaseBuffer", [](U8CString& s) { s.ReleaseBuffer(2); }},
         {"ReleaseBufferBytes", [](U8CString& s) { s.ReleaseBufferBytes(2); }},
     };
-    for (const auto& c : kCases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [name, change] : kCases) {
+        SCOPED_TRACE(name);
         U8CString subject("\xC3\xA9\xC3\x9F\xE2\x82\xACz");
         subject.GetLength();
         subject.Mid(3, 1);
-        c.change(subject);
+        change(subject);
         const U8CString fresh{std::string(subject)};
         EXPECT_EQ(subject.Mid(1, 2), fresh.Mid(1, 2));
         EXPECT_EQ(subject.Mid(3, 9), fresh.Mid(3, 9));

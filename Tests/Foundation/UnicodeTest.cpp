@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <set>
 
 using namespace Uve;
 
@@ -30,13 +29,8 @@ private:
 
 TEST(Unicode, EncodingWidthsChangeAtTheirEdges)
 {
-    struct SCase
-    {
-        char32_t codePoint;
-        std::string_view utf8;
-    };
     using namespace std::string_view_literals;
-    constexpr SCase kCases[] = {
+    constexpr std::pair<char32_t, std::string_view> kCases[] = {
         {0, "\0"sv},
         {0x7F, "\x7F"},
         {0x80, "\xC2\x80"},
@@ -52,16 +46,16 @@ TEST(Unicode, EncodingWidthsChangeAtTheirEdges)
     };
     std::u32string codePoints;
     std::string text;
-    for (const auto& c : kCases) {
-        SCOPED_TRACE(static_cast<unsigned long>(c.codePoint));
-        EXPECT_EQ(utf8_from_codepoint(c.codePoint), c.utf8);
-        const auto read = utf8_decode(c.utf8.data(), c.utf8.data() + c.utf8.size());
-        EXPECT_EQ(read.codePoint, c.codePoint);
-        EXPECT_EQ(read.bytes, c.utf8.size());
+    for (const auto& [codePoint, utf8] : kCases) {
+        SCOPED_TRACE(static_cast<unsigned long>(codePoint));
+        EXPECT_EQ(utf8_from_codepoint(codePoint), utf8);
+        const auto read = utf8_decode(utf8.data(), utf8.data() + utf8.size());
+        EXPECT_EQ(read.codePoint, codePoint);
+        EXPECT_EQ(read.bytes, utf8.size());
         EXPECT_TRUE(read.wellFormed);
-        EXPECT_EQ(utf8_skip_data[static_cast<unsigned char>(c.utf8[0])], c.utf8.size());
-        codePoints += c.codePoint;
-        text += c.utf8;
+        EXPECT_EQ(utf8_skip_data[static_cast<unsigned char>(utf8[0])], utf8.size());
+        codePoints += codePoint;
+        text += utf8;
     }
     EXPECT_EQ(utf8_to_ucs4_fast(text), codePoints);
     EXPECT_EQ(g_ucs4_to_utf8(codePoints), text);
@@ -115,47 +109,11 @@ TEST(Unicode, OffsetsCountBothWays)
     EXPECT_EQ(utf8_to_codepoint(""), U'\0');
 }
 
-TEST(Unicode, CaseOfOneCodePoint)
-{
-    struct SCase
-    {
-        char32_t codePoint;
-        char32_t upper;
-        char32_t lower;
-    };
-    constexpr SCase kCases[] = {
-        {U'a', U'A', U'a'},
-        {U'Z', U'Z', U'z'},
-        {0x00DF, 0x00DF, 0x00DF}, // the full mapping is two letters
-        {0x00FF, 0x0178, 0x00FF}, // one byte wider
-        {0x0130, 0x0130, U'i'},
-        {0x01C5, 0x01C4, 0x01C6}, // title case
-        {0x1F88, 0x1F88, 0x1F80}, // title case without an upper case of one code point
-        {0x2170, 0x2170, 0x2170}, // a numeral, not a letter
-        {0x10428, 0x10400, 0x10428},
-        {0x1E900, 0x1E900, 0x1E922},
-        {0x110000, 0x110000, 0x110000},
-        {0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF},
-    };
-    for (const auto& c : kCases) {
-        EXPECT_EQ(UnicodeToUpper(c.codePoint), c.upper)
-            << std::hex << static_cast<unsigned long>(c.codePoint);
-        EXPECT_EQ(UnicodeToLower(c.codePoint), c.lower)
-            << std::hex << static_cast<unsigned long>(c.codePoint);
-    }
-    EXPECT_EQ(UnicodeToAttribute(U'a'), U'A');
-    EXPECT_GE(UnicodeToAttribute(0xDF), 0x1000000u);
-    EXPECT_EQ(UnicodeToAttribute(U'1'), 0u);
-}
-
 TEST(Unicode, CaseOfTexts)
 {
     struct SCase
     {
-        const char32_t* text;
-        const char32_t* upper;
-        const char32_t* lower;
-        const char32_t* folded;
+        const char32_t *text, *upper, *lower, *folded;
     };
     const SCase kCases[] = {
         {U"Select 1", U"SELECT 1", U"select 1", U"select 1"},
@@ -183,11 +141,6 @@ TEST(Unicode, CaseOfTexts)
 
 TEST(Unicode, MarksAreOrderedByClass)
 {
-    // Classes 230, 202, 230, 0, 220: the starter parts the runs, equal classes keep their order.
-    std::u32string marks = U"\u0301\u0327\u0300a\u0323";
-    g_unicode_canonical_ordering(marks.data(), marks.size());
-    EXPECT_EQ(marks, U"\u0327\u0301\u0300a\u0323");
-
     // A run of a million: exchanging neighbours would never end.
     std::u32string run;
     for (int i = 0; i < 500'000; ++i)
@@ -197,31 +150,22 @@ TEST(Unicode, MarksAreOrderedByClass)
     EXPECT_EQ(run.rfind(U'\u0327'), 499'999u);
 }
 
-TEST(Unicode, CollationSeesThroughNormalisation)
+TEST(Unicode, WhatHasNoLetterIsItsOwnCase)
 {
-    EXPECT_EQ(utf8_collate("e\xCC\x81", "\xC3\xA9"), 0);
-    EXPECT_EQ(utf8_collate("\xEF\xBC\xA1", "A"), 0); // the wide form
-    EXPECT_LT(utf8_collate("a", "b"), 0);
-    EXPECT_GT(utf8_collate("b", "a"), 0);
-    EXPECT_EQ(utf8_collate(nullptr, "a"), 0);
-    EXPECT_EQ(utf8_collate("a", nullptr), 0);
-}
-
-TEST(Unicode, WhiteSpaceIsTheseAlone)
-{
-    std::set<char32_t> narrow = {9, 10, 11, 12, 13, 32};
-    std::set<char32_t> wide = narrow;
-    for (char32_t codePoint = 8192; codePoint <= 8202; ++codePoint)
-        if (codePoint != 8199)
-            wide.insert(codePoint);
-    wide.insert({5760, 6158, 8232, 8233, 8287, 12288});
-    for (char32_t codePoint = 0; codePoint < 0x11000; ++codePoint) {
-        ASSERT_EQ(UChar::isspace(codePoint), narrow.contains(codePoint))
-            << static_cast<unsigned long>(codePoint);
-        ASSERT_EQ(u8char::iswspace(codePoint), wide.contains(codePoint))
-            << static_cast<unsigned long>(codePoint);
-        ASSERT_EQ(u8char::isnewline(codePoint), codePoint == 10 || codePoint == 13);
+    for (const char32_t codePoint : {0x110000u, 0x7FFFFFFFu}) {
+        EXPECT_EQ(UnicodeToUpper(codePoint), codePoint);
+        EXPECT_EQ(UnicodeToLower(codePoint), codePoint);
     }
+    EXPECT_EQ(UnicodeToAttribute(U'a'), U'A');
+    EXPECT_GE(UnicodeToAttribute(0xDF), 0x1000000u);
+    EXPECT_EQ(UnicodeToAttribute(U'1'), 0u);
+    EXPECT_EQ(utf8_collate("e\xCC\x81", "\xC3\xA9"), 0);
+    EXPECT_LT(utf8_collate("a", "b"), 0);
+    EXPECT_EQ(utf8_collate(nullptr, "a"), 0);
+    for (const char32_t blank :
+         {0x1680, 0x180E, 0x2000, 0x2006, 0x2008, 0x200A, 0x2028, 0x2029, 0x205F, 0x3000})
+        EXPECT_TRUE(u8char::iswspace(blank) && !UChar::isspace(blank)) << static_cast<unsigned long>(blank);
+    EXPECT_FALSE(u8char::iswspace(8199) || u8char::iswspace(0xA0)); // blanks that don't break
 }
 
 TEST(Unicode, AlphanumericsByReach)
@@ -229,10 +173,7 @@ TEST(Unicode, AlphanumericsByReach)
     struct SCase
     {
         char32_t codePoint;
-        bool ascii;
-        bool any;
-        bool letter;
-        bool digit;
+        bool ascii, any, letter, digit;
     };
     constexpr SCase kCases[] = {
         {U'z', true, true, true, false},          {U'0', true, true, false, true},

@@ -1,3 +1,4 @@
+#include "Tests/Support/Repeated.h"
 #include "UVEnvironment/UVEXmlRead.h"
 
 #include <gtest/gtest.h>
@@ -42,14 +43,6 @@ std::string Content(xmlDoc* document)
     std::string content(reinterpret_cast<const char*>(text));
     xmlFree(text);
     return content;
-}
-
-std::string Repeated(std::string_view part, std::size_t count)
-{
-    std::string text;
-    while (count-- > 0)
-        text += part;
-    return text;
 }
 
 // What `part` makes of the numbers from 1 on, and of the number before each.
@@ -121,8 +114,7 @@ const std::string kBig(100'000, 'x');
 const struct
 {
     const char* name;
-    std::string declarations;
-    std::string body;
+    std::string declarations, body;
 } kAttacks[] = {
     {"content", Laughs(), "<r>&l9;</r>"},
     {"content of an entity's element", Laughs() + "<!ENTITY e '<b>&l9;</b>'>", "<r>&e;</r>"},

@@ -97,16 +97,4 @@ TEST_F(EngineLanguage, AgreesWithTheModelWhenBytesChange)
         }
 }
 
-TEST_F(EngineLanguage, GivesTheSameASecondTime)
-{
-    const std::string sample = Sample();
-    const SParseOutcome first = m_Engine.Parse(sample, m_Settings);
-    m_Engine.Parse("select ((((( 'open", m_Settings);
-    const SParseOutcome second = m_Engine.Parse(sample, m_Settings);
-    EXPECT_EQ(first.result, 0);
-    EXPECT_EQ(second.result, 0);
-    EXPECT_EQ(first.coloring, second.coloring);
-    EXPECT_EQ(WithoutPositions(first.tree), WithoutPositions(second.tree));
-}
-
 } // namespace

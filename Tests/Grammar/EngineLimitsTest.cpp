@@ -1,21 +1,13 @@
 // Large and deep texts, and the places where something grows.
 #include "Tests/Support/EngineFixture.h"
 #include "Tests/Support/ModelEngine.h"
+#include "Tests/Support/Repeated.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 namespace {
-
-std::string Repeated(std::string_view piece, std::size_t count)
-{
-    std::string text;
-    text.reserve(piece.size() * count);
-    for (std::size_t i = 0; i < count; ++i)
-        text += piece;
-    return text;
-}
 
 std::size_t CountOf(const std::string& text, std::string_view piece)
 {
@@ -54,13 +46,6 @@ TEST(EngineLimits, MatchesGrowPastTheFirstTextSize)
         CEngine engine("Nesting");
         EXPECT_EQ(engine.Parse(word).lastError, "1 '" + word + "'");
     }
-}
-
-TEST(EngineLimits, ALongTokenAtTheEndIsShownWhole)
-{
-    CEngine engine("Nesting");
-    EXPECT_EQ(engine.Parse("(" + Repeated("a", 5000)).lastError, "1 '" + Repeated("a", 5000) + "'");
-    EXPECT_EQ(engine.Parse("(a").lastError, "1 'a'");
 }
 
 TEST(EngineLimits, StacksGrowWithTheNesting)

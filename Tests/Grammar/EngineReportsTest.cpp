@@ -8,8 +8,7 @@ namespace {
 
 struct SReportCase
 {
-    const char* name;
-    const char* text;
+    const char *name, *text;
     bool showErrors;
     const char* report; // all that is written about errors, in order
 };

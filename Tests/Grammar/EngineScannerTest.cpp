@@ -26,9 +26,7 @@ std::string Positions(const std::string& tree)
 
 struct SPositionCase
 {
-    const char* grammar;
-    const char* text;
-    const char* positions;
+    const char *grammar, *text, *positions;
 };
 
 // A token counts from the line's beginning if it is the first of its line, else from the end of the one
@@ -247,20 +245,15 @@ using Matches = std::vector<std::string>;
 TEST(ScannerBuffers, ANulInsideTheTextIsAByteLikeOthers)
 {
     using namespace std::string_literals;
-    struct SNulCase
-    {
-        std::string text;
-        Matches matches;
-    };
     // rules of Tiny: 1 blank, 2 a, 3 b before a blank, 5 and 6 inside brackets, 7 any other
-    const SNulCase cases[] = {
+    const std::pair<std::string, Matches> cases[] = {
         {"a\0a"s, {"2:a", "7:\0"s, "2:a"}},
         {"\0"s, {"7:\0"s}},
         {"b\0"s, {"7:b", "7:\0"s}},
         {"\0\0b "s, {"7:\0"s, "7:\0"s, "3:b", "1: "}},
     };
-    for (const SNulCase& entry : cases)
-        EXPECT_EQ(CPlainScanner("Tiny", 2, entry.text).Matches(), entry.matches);
+    for (const auto& [text, matches] : cases)
+        EXPECT_EQ(CPlainScanner("Tiny", 2, text).Matches(), matches);
     // in the middle of a longer match, which grows on the way
     const std::string comment = "/*" + std::string(300, '-') + '\0' + std::string(300, '-') + "*/";
     EXPECT_EQ(CPlainScanner("Nesting", 1, comment + "a").Matches(), (Matches{"2:" + comment, "3:a"}));

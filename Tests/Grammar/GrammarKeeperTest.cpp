@@ -39,15 +39,9 @@ std::string ReadActions(const std::string& text)
     return shown;
 }
 
-struct STextCase
-{
-    const char* text;
-    const char* shown;
-};
-
 TEST(ActionText, RecordsBecomeOperations)
 {
-    constexpr STextCase kCases[] = {
+    constexpr std::pair<const char*, const char*> kCases[] = {
         {"", ""},
         {" \n\t\r", ""},
         {"5 \n", "5:NULL_ACTION;"},
@@ -81,9 +75,9 @@ TEST(ActionText, RecordsBecomeOperations)
         {"1 strtmp.Format ", "1:strtmp.Format#0(,);"},
         {"1 BEGIN A\t\n", "1:BEGIN#0(A\t);"},
     };
-    for (const STextCase& c : kCases) {
-        SCOPED_TRACE(c.text);
-        EXPECT_EQ(ReadActions(c.text), c.shown);
+    for (const auto& [text, shown] : kCases) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(ReadActions(text), shown);
     }
 }
 
@@ -213,43 +207,6 @@ TEST(BinaryTable, PlainAndPackedReadAlikeAndCountsAreDistrusted)
     }
 }
 
-TEST(BinaryTable, LargerThanTheFirstChunkComesBackWhole)
-{
-    const CScratchFolder folder;
-    std::vector<int> wanted(300001);
-    for (std::size_t i = 0; i < wanted.size(); ++i)
-        wanted[i] = static_cast<int>(i * 7919);
-    const std::string bytes = TableBytes(static_cast<std::uint32_t>(wanted.size()), wanted);
-    CompressBinary(folder.Path() + "t.dat", bytes.data(), static_cast<unsigned>(bytes.size()));
-    std::vector<int> entries;
-    ASSERT_EQ(ReadTable(folder.Path() + "t.dat", entries), enOutcome::Read);
-    EXPECT_EQ(entries, wanted);
-}
-
-TEST(BinaryTable, EveryTruncationOfAPackedTableIsRefusedAndNoFlippedBytePassesAsOtherEntries)
-{
-    const CScratchFolder folder;
-    const std::vector<int> wanted = {5, 0, -3, 1000000, 5, 5, 5, 17};
-    const std::string bytes = TableBytes(static_cast<std::uint32_t>(wanted.size()), wanted);
-    const std::string path = folder.Path() + "t.dat";
-    CompressBinary(path, bytes.data(), static_cast<unsigned>(bytes.size()));
-    const std::string packed = FileContent(path);
-    std::vector<int> entries;
-    for (std::size_t length = 0; length < packed.size(); ++length) {
-        folder.Write("t.dat", packed.substr(0, length));
-        EXPECT_EQ(ReadTable(path, entries), enOutcome::Refused) << length;
-    }
-    constexpr std::size_t kMagicLength = 2; // a file without it isn't gzip and read as it stands
-    for (std::size_t at = kMagicLength; at < packed.size(); ++at) {
-        std::string flipped = packed;
-        flipped[at] = static_cast<char>(flipped[at] ^ 0x55);
-        folder.Write("t.dat", flipped);
-        if (ReadTable(path, entries) == enOutcome::Read) {
-            EXPECT_EQ(entries, wanted) << at;
-        }
-    }
-}
-
 TEST(DatFiles, PlainBeforePackedElseTheMissingPathIsNamed)
 {
     const CScratchFolder folder;
@@ -287,15 +244,6 @@ TEST(DatFiles, NoParserNameLeavesTheGrammarFolder)
     EXPECT_TRUE(ComposeGrammarDirectory("Toy", true, "Parser").ends_with("/Grammar.CR/Toy/Parser/"));
     for (const char* name : {"..", "../Toy", "Toy/../..", "/etc", "a/b"})
         EXPECT_THROW(ComposeGrammarDirectory(name, false, "Lexer"), Uve::U8CString) << name;
-}
-
-TEST(Tables, SmallestEntryIsAtMostZero)
-{
-    const int positive[] = {3, 1};
-    const int mixed[] = {3, -7, -2};
-    EXPECT_EQ(UVDBGrammarKeeper::TableNinfRemap(positive, 2), 0);
-    EXPECT_EQ(UVDBGrammarKeeper::TableNinfRemap(mixed, 3), -7);
-    EXPECT_EQ(UVDBGrammarKeeper::TableNinfRemap(nullptr, 0), 0);
 }
 
 } // namespace

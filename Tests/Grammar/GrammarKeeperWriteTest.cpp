@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -28,12 +27,7 @@ std::string ScannerActions(const std::string& cases)
 
 TEST(ActionExtraction, BodiesBecomeRecords)
 {
-    struct SCase
-    {
-        const char* cases;
-        const char* records;
-    };
-    constexpr SCase kCases[] = {
+    constexpr std::pair<const char*, const char*> kCases[] = {
         {"case 1:\nYY_RULE_SETUP\n#line 9 \"a.l\"\n{ TOKEN_ACTION(A); }\n\tYY_BREAK\n", "1 TOKEN_ACTION A\n"},
         {"case 1:\n{ TOKEN_ACTIONE(A, 1); }\n\tYY_BREAK\ncase 2:\n{ BEGIN X; }\n\tYY_BREAK\n",
          "1 TOKEN_ACTIONE A 1\n2 BEGIN X \n"},
@@ -59,12 +53,12 @@ TEST(ActionExtraction, BodiesBecomeRecords)
         {"case 1:\n{ foo(); BEGIN X; }\n\tYY_BREAK\n", "1 ERROR: unknown token 'foo();' BEGIN X \n"},
         {"case 1:\n{ TOKEN_ACTION(A", "failed"},
     };
-    for (const SCase& c : kCases) {
-        SCOPED_TRACE(c.cases);
-        if (std::string(c.records) == "failed")
-            EXPECT_EQ(ExtractedFrom("XLexer.c", std::string("do_action: ") + c.cases), "failed");
+    for (const auto& [cases, records] : kCases) {
+        SCOPED_TRACE(cases);
+        if (std::string(records) == "failed")
+            EXPECT_EQ(ExtractedFrom("XLexer.c", std::string("do_action: ") + cases), "failed");
         else
-            EXPECT_EQ(ScannerActions(c.cases), c.records);
+            EXPECT_EQ(ScannerActions(cases), records);
     }
 }
 
@@ -90,36 +84,6 @@ TEST(TableExtraction, InitialisersBecomeEntries)
     EXPECT_EQ(UVDBGrammarKeeper::GetFileTable<unsigned>("{ 010, 0x10 }"), (std::vector<unsigned>{2, 8, 16}));
     for (const char* bad : {"", "{", "{ 1, 2", "{ }", "{ 1 /* one */ }", "{ one }"})
         EXPECT_THROW(UVDBGrammarKeeper::GetFileTable<int>(bad), std::runtime_error) << bad;
-}
-
-std::vector<int> Table(const std::string& path)
-{
-    std::size_t count = 0;
-    const std::unique_ptr<int[]> entries(UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), count));
-    return {entries.get(), entries.get() + count};
-}
-
-TEST(TableExtraction, DeclarationsAreFoundByNameAndUsesAreNot)
-{
-    const CScratchFolder folder;
-    const std::string lexer = folder.Write(
-        "XLexer.c",
-        "struct { flex_int32_t yy_nxt; };\nstatic const flex_int16_t yy_accept[3] =\n    {   0,\n 1, 2 } ;\n"
-        "x = yy_accept[2];\nstatic const yy_state_type yy_NUL_trans[2] = { 0, 9 };\nyy_pact[1] = { 4 };");
-    ASSERT_EQ(UVDBGrammarKeeper::SaveTablesToFile(lexer, folder.Path()), 0);
-    EXPECT_EQ(Table(folder.Path() + "accept.dat"), (std::vector<int>{0, 1, 2}));
-    EXPECT_EQ(Table(folder.Path() + "NUL_trans.dat"), (std::vector<int>{0, 9}));
-    EXPECT_FALSE(std::filesystem::exists(folder.Path() + "nxt.dat"));
-    EXPECT_FALSE(std::filesystem::exists(folder.Path() + "pact.dat"));
-
-    const std::string parser = folder.Write(
-        "XParser.c",
-        "static const yytype_int8 yytable[] =\n{\n -3, 4\n};\n#define yytable_value_is_error(Yyn) 0\n"
-        "static const yytype_int8 yypact[] = { -99 };\nstatic const char *const yytname[] = { \"x\" };");
-    ASSERT_EQ(UVDBGrammarKeeper::SaveTablesToFile(parser, folder.Path()), 0);
-    EXPECT_EQ(Table(folder.Path() + "table.dat"), (std::vector<int>{-3, 4}));
-    EXPECT_EQ(Table(folder.Path() + "pact.dat"), (std::vector<int>{-99}));
-    EXPECT_FALSE(std::filesystem::exists(folder.Path() + "tname.dat"));
 }
 
 TEST(DefinesExtraction, StartConditionsTokensAndTheFinalState)

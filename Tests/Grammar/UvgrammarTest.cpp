@@ -55,8 +55,7 @@ enum class enSource
 struct SRun
 {
     int exitCode = -1;
-    std::string output;
-    std::string messages;
+    std::string output, messages;
 };
 
 class Uvgrammar : public testing::Test
@@ -127,9 +126,7 @@ TEST_F(Uvgrammar, GoodGrammarGivesADirectoryThatTheEngineReads)
 struct SBadGrammar
 {
     enSource source;
-    const char* from;
-    const char* to;
-    const char* message;
+    const char *from, *to, *message;
 };
 
 constexpr auto L = enSource::Lexer;
@@ -141,9 +138,7 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         // options
         {L, "reject ", "", "L.l: error: the option 'reject' is missing"},
         {L, "yylineno noecs nometa-ecs lex-compat", "noecs nometa-ecs", "the option 'yylineno' is missing"},
-        {L, "noecs ", "", "the option 'noecs' is missing"},
         {L, "nometa-ecs ", "ecs nometa-ecs ", "the option 'noecs' is missing"},
-        {L, " lex-compat", "", "the option 'lex-compat' is missing"},
         {L, "lex-compat", "lex-compat 7bit",
          "uvgrammar: error: the tables made of this grammar can't be loaded: "},
         // what flex says itself
@@ -154,11 +149,8 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         {L, "TOKEN_ACTION(ID)", "TOKEN_ACTION(IDENT)",
          "L.l:11: error: the parser knows no token TIDENT\n    [a-z]+"},
         {L, "TOKEN_ACTION(ID)", "TOKEN_ACT(ID)", "L.l:11: error: unknown keyword 'TOKEN_ACT'"},
-        {L, "TOKEN_ACTION(ID)", "TOKEN_ACTIONS(ID)", "L.l:11: error: unknown keyword 'TOKEN_ACTIONS'"},
         {L, "TOKEN_ACTION(ID)", "CREATE_NODE(X, 1)",
          "L.l:11: error: CREATE_NODE is not a keyword of the scanner"},
-        {L, "TOKEN_ACTION(ID)", "TEXT_ACTION(X)",
-         "L.l:11: error: TEXT_ACTION is not a keyword of the scanner"},
         {L, "TOKEN_ACTIONE(END, 1)", "TOKEN_ACTIONE(END)",
          "L.l:10: error: TOKEN_ACTIONE takes 2 argument(s), not 1"},
         {L, "TOKEN_ACTIONE(END, 1)", "TOKEN_ACTIONE(END, one)",
@@ -178,7 +170,6 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         {L, "return yytext[0];", "return;TOKEN_ACTION(ID);", "L.l:13: error: unknown keyword 'return'"},
         {L, "BEGIN COMMENT;", "BEGIN(COMMENT);", "L.l:6: error: BEGIN takes one word"},
         {L, "BEGIN COMMENT;", "BEGIN COMENT;", "L.l:6: error: there is no start condition COMENT"},
-        {L, "BEGIN COMMENT;", "BEGIN 3;", "L.l:6: error: there is no start condition 3"},
         {L, "{ TOKEN_ACTION(ID); }", "TOKEN_ACTION(ID);",
          "L.l:11: error: an action without braces is dropped"},
         {L, "{ TOKEN_ACTIONE(BEGIN, 1); }", "|", "L.l:10: error: rules above take this action by '|'"},
@@ -188,10 +179,8 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         {P, "root: items ;", "root: items | items TPLUS TPLUS | items TPLUS TPLUS ;",
          "P.y: error: 1 reduce/reduce conflict"},
         {P, "%start SQL", "%start SQL\n%expect 3", "P.y: error: shift/reduce conflicts: 0 found, 3 expected"},
-        {P, "%start SQL", "%start SQLL", "P.y:4:8: error: "},
         // forms of the generated file
         {P, "%start SQL", "%start SQL\n%header", "P.y: error: the C file holds no enum yytokentype"},
-        {P, "%start SQL", "%start SQL\n%define api.token.raw", "P.y: error: "},
         {P, "%start SQL", "%start SQL\n%define lr.default-reduction most",
          "P.y:5: error: reductions made on an error"},
         {P, "name: TID |", "name: TID | TEND '=' TEND { CREATE_NODE(N, 3); } |",
@@ -199,8 +188,6 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         // rules
         {P, "{ EMPTY(ITEMS); }", "", "P.y:8: error: an empty rule needs EMPTY\n    items: %empty"},
         {P, "{ CREATE_NODE(ITEMS, 2); }", "", "P.y:9: error: a rule of several symbols without CREATE_NODE"},
-        {P, "{ CREATE_NODE(ITEMS, 2); }", "{ }",
-         "P.y:9: error: a rule of several symbols without CREATE_NODE"},
         {P, "{ CREATE_NODE(ITEM, 2); }", "{ EMPTY(ITEM); }", "P.y:10: error: EMPTY loses the text"},
         {P, "CREATE_NODE(BLOCK, 4)", "CREATE_NODE(BLOCK, 3)",
          "P.y:11: error: CREATE_NODE takes 3 symbols, the rule has 4"},
@@ -208,7 +195,6 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
          "P.y:10: error: a second node"},
         {P, "CREATE_NODE(ITEM, 2)", "CREATE_NODE(2ITEM, 2)",
          "P.y:10: error: '2ITEM' can't be the name of a node"},
-        {P, "CREATE_NODE(ITEM, 2)", "$$ = 1", "P.y:10: error: "},
         {P, "CREATE_NODE(ITEM, 2)", "TOKEN_ACTION(ID)",
          "P.y:10: error: TOKEN_ACTION is not a keyword of the parser"},
         {P, "TBEGIN items", "TBEGIN { yylexerptr->yybegin(SS_GENERAL); } items",
@@ -225,11 +211,9 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
          "P.y:12: error: the parser's SS_GENERAL is 1, the scanner's start condition is 2"},
         {P, "%token SS_GENERAL 2\n", "",
          "P.y:11: error: the parser doesn't know SS_GENERAL: declare %token SS_GENERAL 2"},
-        {P, "yybegin(SS_GENERAL)", "yybegin(TPLUS)", "P.y:12: error: there is no start condition TPLUS"},
         // the root
         {P, "CREATE_NODE(SQL, 1)", "CREATE_NODE(ROOT, 1)",
          "P.y:6: error: the start symbol has to make a node named SQL"},
-        {P, "{ CREATE_NODE(SQL, 1); }", "", "P.y:6: error: the start symbol has to make a node named SQL"},
         {P, "SQL: root {", "SQL: TEND error { CREATE_NODE_WITH_ERROR(SQL, 2, 1); } | root {",
          "P.y:6: error: CREATE_NODE_WITH_ERROR doesn't fill the result"},
         {P, "CREATE_NODE(BLOCK, 4)", "CREATE_NODE(SQL, 4)",
@@ -291,26 +275,6 @@ TEST_F(Uvgrammar, NonassocIsRefusedOnlyWhereItMarksErrors)
     EXPECT_THAT(marked.messages, HasSubstr("P.y: error: %nonassoc marks errors"));
 }
 
-TEST_F(Uvgrammar, AnActionsFormDoesNotChangeWhatItStores)
-{
-    ASSERT_EQ(Build(kLexer, kParser).exitCode, 0);
-    const auto before = Snapshot("out");
-    const std::string lexer = Replaced(kLexer, "{ BRACKETS_ACTION(2); TOKEN_ACTION(SEMI); }",
-                                       "{ /* note */ BRACKETS_ACTION( 2 ) ;\n  TOKEN_ACTION(SEMI)\n }");
-    const std::string parser =
-        Replaced(kParser, "{ CREATE_NODE(BLOCK, 4); }", "{\n  /* case 7: */ CREATE_NODE(BLOCK,4);\n}");
-    const SRun run = Build(lexer, parser);
-    EXPECT_EQ(run.exitCode, 0) << run.messages;
-    CActionsMap actions;
-    UVDBGrammarKeeper::CreateActionsMap(File("out/Lang/Lexer/actions.dat"), actions);
-    EXPECT_EQ(actions[8]->at("BRACKETS_ACTION#0")->front(), "2");
-    EXPECT_EQ(actions[8]->at("TOKEN_ACTION#0")->front(), "SEMI");
-    FreeActionsMap(actions);
-    auto after = Snapshot("out");
-    EXPECT_EQ(after[m_Folder.Path() + "out/Lang/Parser/actions.dat"],
-              before.at(m_Folder.Path() + "out/Lang/Parser/actions.dat"));
-}
-
 TEST_F(Uvgrammar, AFailedRunLeavesTheOldTablesAndNothingElse)
 {
     ASSERT_EQ(Build(kLexer, kParser).exitCode, 0);
@@ -335,9 +299,7 @@ TEST_F(Uvgrammar, CouldNotRun)
     m_Folder.Write("file", "");
     struct SCase
     {
-        const char* arguments;
-        const char* environment;
-        const char* message;
+        const char *arguments, *environment, *message;
     };
     constexpr SCase kCases[] = {
         {"", "", "uvgrammar: error: "},

@@ -18,30 +18,7 @@ CLanguage& IbmCl()
 
 SLanguageParse ParseWhole(const std::string& text)
 {
-    SLanguageParse parse = IbmCl().Parse(text);
-    EXPECT_TRUE(parse.isComplete);
-    const std::string source = SourceOfTree(parse.tree);
-    if (source != text) {
-        const auto at = std::ranges::mismatch(source, text).in2 - text.begin();
-        ADD_FAILURE() << "text was lost at byte " << at << ": "
-                      << text.substr(static_cast<std::size_t>(at), 100);
-    }
-    return parse;
-}
-
-std::size_t CountOf(const CSyntaxTree& tree, std::string_view name)
-{
-    return static_cast<std::size_t>(std::ranges::count(tree.Elements(), name, &SElement::name));
-}
-
-// The texts of all tokens of a name, a bar between them.
-std::string TextsOf(const CSyntaxTree& tree, std::string_view name)
-{
-    std::string texts;
-    for (const SElement& element : tree.Elements())
-        if (element.name == name)
-            texts += (texts.empty() ? "" : "|") + element.text;
-    return texts;
+    return ParseWhole(IbmCl(), text);
 }
 
 // clang-format off
@@ -52,22 +29,13 @@ constexpr std::pair<const char*, const char*> kCommands[] = {
     {"PGM (&A)", "pgm_statement(positional_parameter(parenthesized_values('&a')))"},
     {"DCL &A *DEC (5 2)", "dcl_statement('&a' '*dec' parenthesized_values(value_list('5' '2')))"},
     {"DCLF *LIBL/*ALL", "dclf_statement(qualified_name('*libl' '/' '*all'))"},
-    {"DCLPRCOPT LOG(*YES)", "dclprcopt_statement(keyword_parameter('*yes'))"},
-    {"COPYRIGHT TEXT('(C)')", "copyright_statement(keyword_parameter('text' '(' ')'))"},
-    {"INCLUDE SRCMBR(A)", "include_statement(keyword_parameter(name('a')))"},
     {"CHGVAR &A -1", "chgvar_statement('&a' positional_parameter(expression('-' '1')))"},
     {"CHGVAR &A 'X'||&B", "positional_parameter(expression('||' '&b'))"},
     {"CHGVAR %SST(&A 1 2) &B", "chgvar_statement(positional_parameter(function_call('%sst' '2' ')')) '&b')"},
     {"CALL A/B (1 'C')", "call_statement(qualified_name('a' '/' 'b') parenthesized_values('1'))"},
-    {"CALL &LIB/&PGM", "qualified_name('&lib' '/' '&pgm')"},
     {"CALLPRC PRC('x') PARM((&A *BYVAL))", "callprc_statement('prc' 'parm' parenthesized_values('&a' '*byval'))"},
-    {"TFRCTL A", "tfrctl_statement('a')"},
-    {"CALLSUBR A", "callsubr_statement('a')"},
-    {"SUBR SUBR(A)", "subr_statement('subr' keyword_parameter(parameter_keyword('subr')))"},
     {"RTNSUBR RTNVAL(1)", "rtnsubr_statement('1')"},
     {"ENDSUBR RTNVAL(-1)", "endsubr_statement(keyword_parameter(value_list(expression('-' '1'))))"},
-    {"RETURN", "return_statement('return')"},
-    {"ENDPGM", "endpgm_statement('endpgm')"},
     {"GOTO CMDLBL(A)", "goto_statement(keyword_parameter('a'))"},
     {"GOTO ENDPGM", "goto_statement(positional_parameter(name('endpgm')))"}, // no word is reserved
     {"MONMSG (CPF0001 MCH0000)", "monmsg_statement(parenthesized_values('cpf0001' 'mch0000'))"},
@@ -87,15 +55,8 @@ constexpr std::pair<const char*, const char*> kCommands[] = {
     {"ELSE CMD(IF COND(&A) THEN(DO))", "else_statement(command_parameter('cmd' if_statement(do_statement)))"},
     {"ELSE DO", "else_statement(nested_command(do_statement))"},
     {"DOWHILE COND('1')", "dowhile_statement(condition('cond'))"},
-    {"DOUNTIL (&A)", "dountil_statement(condition('&a'))"},
     {"DOFOR &A 1 10 BY(-1)", "dofor_statement('1' '10' keyword_parameter('by'))"},
-    {"ENDDO", "enddo_statement('enddo')"},
-    {"LEAVE CMDLBL(A)", "leave_statement(keyword_parameter)"},
-    {"ITERATE", "iterate_statement('iterate')"},
-    {"SELECT", "select_statement('select')"},
     {"WHEN (&A) THEN(CALL B)", "when_statement(condition command_parameter(call_statement))"},
-    {"OTHERWISE CMD(RETURN)", "otherwise_statement(return_statement)"},
-    {"ENDSELECT", "endselect_statement('endselect')"},
     // any other command
     {"WRKACTJOB", "command_statement(command_name('wrkactjob'))"},
     {"QSYS/IF COND(&A)", "command_statement(command_name(name('qsys') '/' name('if')) keyword_parameter)"},
@@ -112,7 +73,6 @@ constexpr std::pair<const char*, const char*> kCommands[] = {
     {"QSH CMD('ls' *CAT &A *TCAT 'x')", "command_parameter(expression(expression('*cat' '&a') '*tcat') ')')"},
     {"WRKCMD CMD(*LIBL/STR*)", "nested_command(command_statement(command_name('*libl' '/' 'str*')))"},
     {"RUNLATER WHAT(CALL PGM(A))", "embedded_command(value_list(name('call')) parameter_list(keyword_parameter))"},
-    {"WRKOBJ OBJ(QGPL/ABC*)", "qualified_name('qgpl' '/' 'abc*')"},
     {"WRKOBJ \"a b\"/*ALL", "qualified_name('\"a b\"' '/' '*all')"},
     {"CPYF INCREL((*IF A *EQ 'X') (*AND B *GT 3))",
      "value_list(parenthesized_values(value_list('*if' expression('*eq'))) "
@@ -152,26 +112,14 @@ constexpr std::pair<const char*, const char*> kValues[] = {
 TEST(IbmCl, CommandsOfEveryKind)
 {
     for (const auto& [text, pattern] : kCommands) {
-        SCOPED_TRACE(text);
-        for (const char* const end : {"", "\n", "  /* note */ \r\n"}) {
-            const SLanguageParse parse = ParseWhole(text + std::string(end));
-            EXPECT_TRUE(parse.IsClean());
-            const CSyntaxTree tree(parse.tree);
-            EXPECT_EQ(tree.Statements().size(), 1U);
-            EXPECT_TRUE(tree.Holds(pattern)) << tree.Shape();
-        }
+        ExpectStatement(IbmCl(), text, {"", "\n", "  /* note */ \r\n"}, pattern);
     }
 }
 
 TEST(IbmCl, ValuesGroupByTheirOperators)
 {
-    for (const auto& [text, pattern] : kValues) {
-        SCOPED_TRACE(text);
-        const SLanguageParse parse = ParseWhole("A B(" + std::string(text) + ")\n");
-        EXPECT_TRUE(parse.IsClean());
-        const CSyntaxTree tree(parse.tree);
-        EXPECT_TRUE(tree.Holds(pattern)) << tree.Shape();
-    }
+    for (const auto& [text, pattern] : kValues)
+        ExpectStatement(IbmCl(), "A B(" + std::string(text) + ")\n", {""}, pattern);
 }
 
 struct SLines
@@ -303,7 +251,7 @@ TEST(IbmCl, FlattenedStatementsHaveOneShape)
         ASSERT_TRUE(FlattenTree(ParseWhole(text).tree, flat));
         flat.erase(0, flat.find("<SQL>"));
         flat.erase(flat.rfind('>') + 1); // the end of the document's line
-        EXPECT_TRUE(SourceOfTree(flat) == text) << "text was lost";
+        EXPECT_TRUE(TextOfTree(flat) == text) << "text was lost";
         std::size_t wrapped = 0;
         for (std::size_t at = flat.find("<full_pl"); at != flat.npos; at = flat.find("<full_pl", at + 1))
             ++wrapped;
@@ -315,14 +263,8 @@ TEST(IbmCl, FlattenedStatementsHaveOneShape)
 
 TEST(IbmCl, ColorsFollowTheWords)
 {
-    const std::string text =
-        "L: chgvar var(&A) /* n */ value(*all + B/'x')\nCRTPF A/\"B\" 1.5 X'0'\n\nIF (%LEN(C))";
-    std::string shown;
-    for (const SColoredRange& range : IbmCl().Scan(text)) {
-        const std::string piece = text.substr(range.from, range.end - range.from);
-        shown += piece == "\n" ? "/ " : std::to_string(range.color) + piece + ' ';
-    }
-    EXPECT_EQ(shown,
+    EXPECT_EQ(ShownColors(IbmCl(), "L: chgvar var(&A) /* n */ value(*all + B/'x')\nCRTPF A/\"B\" 1.5 X'0'\n\n"
+                                   "IF (%LEN(C))"),
               "2L 8: 1chgvar 1var 8( 9&A 8) 6/* n */ 1value 8( 1*all 7+ 2B 8/ 4'x' 8) / 1CRTPF 2A 8/ 3\"B\" "
               "51.5 4X'0' / 1IF 8( 1%LEN 8( 2C 8) 8) ");
 }
@@ -335,18 +277,10 @@ std::vector<std::string> Samples()
     return texts;
 }
 
-TEST(IbmCl, APieceOfAProgramLosesNothing)
-{
-    for (const std::string& text : Samples())
-        for (std::size_t size = 0; size <= text.size() && !HasFailure(); ++size) {
-            SCOPED_TRACE(size);
-            ParseWhole(text.substr(0, size));
-        }
-}
-
 // Without the two control characters that a tree holds others for.
-TEST(IbmCl, ASpoiledProgramLosesNothing)
+TEST(IbmCl, PiecesAndSpoiledProgramsLoseNothing)
 {
+    ExpectPiecesLoseNothing(IbmCl(), Samples());
     std::mt19937 random(1);
     const std::string bytes = "&%*/+-'\"()?:|<>=^.,; \r\nA1\xC3\xA4{";
     for (const std::string& original : Samples())
@@ -364,16 +298,6 @@ TEST(IbmCl, ASpoiledProgramLosesNothing)
             SCOPED_TRACE(round);
             ParseWhole(text);
         }
-}
-
-std::size_t DepthOf(const std::string& xml)
-{
-    std::size_t depth = 0, deepest = 0;
-    for (std::size_t at = xml.find('<'); at != std::string::npos; at = xml.find('<', at + 1)) {
-        depth += xml[at + 1] == '/' ? -1 : 1;
-        deepest = std::max(deepest, depth);
-    }
-    return deepest;
 }
 
 TEST(IbmClLimits, ProgramsOfManyLines)
@@ -401,17 +325,6 @@ TEST(IbmClLimits, LinesOfMegabytes)
         ParseWhole("A B(" + Repeated(piece, 30000) + "\nRETURN\n");
         ParseWhole(Repeated(piece, 30000));
     }
-}
-
-TEST(IbmClLimits, NestingOfAnyDepth)
-{
-    constexpr std::size_t kDepth = 50000;
-    const std::string open = Repeated("(", kDepth), close = Repeated(")", kDepth);
-    EXPECT_TRUE(ParseWhole("A B(" + open + "1" + close + ")\n").IsClean());
-    EXPECT_TRUE(ParseWhole("IF " + open + "&A" + close + " DO\n").IsClean());
-    EXPECT_TRUE(ParseWhole("ELSE " + Repeated("CMD(ELSE ", kDepth) + Repeated(")", kDepth) + "\n").IsClean());
-    EXPECT_TRUE(ParseWhole("A B(" + Repeated("*NOT ", kDepth) + "&A)\n").IsClean());
-    EXPECT_EQ(ParseWhole("A B" + open + "\nRETURN\n").unexpected.size(), 1U);
 }
 
 } // namespace

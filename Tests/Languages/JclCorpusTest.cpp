@@ -5,10 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <iostream>
-#include <map>
 #include <sstream>
 
 namespace {
@@ -105,58 +101,30 @@ private:
     bool m_InString = false;
 };
 
-struct SCoverage
+std::optional<bool> IsClean(const CSyntaxTree& tree, const SElement& statement,
+                            const std::vector<SUnexpectedToken>&)
 {
-    std::size_t statements = 0; // that the reader of lines finds
-    std::size_t clean = 0;      // those that the tree has in the same place, without an error
-    std::size_t nodes = 0;      // statements of the trees that begin with two slashes
-    std::size_t unexpected = 0; // tokens
-
-    double Percent() const
-    {
-        return statements == 0 ? 0.0 : 100.0 * static_cast<double>(clean) / static_cast<double>(statements);
-    }
-};
-
-void Cover(const std::string& path, SCoverage& coverage)
-{
-    SCOPED_TRACE(path);
-    const std::string text = ReadFile(path);
-    const SLanguageParse parse = Jcl().Parse(text);
-    ASSERT_TRUE(parse.isComplete);
-    EXPECT_TRUE(SourceOfTree(parse.tree) == text);
-    coverage.unexpected += parse.unexpected.size();
-
-    const CSyntaxTree tree(parse.tree);
-    std::map<std::size_t, bool> isGood; // by the offset of the statement
-    for (const SElement& statement : tree.Statements()) {
-        const std::vector<SElement> tokens = tree.Tokens(statement);
-        if (tokens.empty() || tokens.front().name != "T__SLASHES")
-            continue;
-        ++coverage.nodes;
-        isGood[statement.from] = tree.Markup(statement).find("<error_statement>") == std::string::npos;
-    }
-    for (const std::size_t start : CLineReader().Read(text)) {
-        ++coverage.statements;
-        const auto found = isGood.find(start);
-        coverage.clean += found != isGood.end() && found->second;
-    }
+    const std::vector<SElement> tokens = tree.Tokens(statement);
+    if (tokens.empty() || tokens.front().name != "T__SLASHES")
+        return std::nullopt;
+    return tree.Markup(statement).find("<error_statement>") == std::string::npos;
 }
 
-void Tell(const char* what, std::size_t files, const SCoverage& coverage)
+SLineCoverage CoverAll(const char* what, const std::vector<std::string>& paths)
 {
-    std::cout << what << ": " << files << " files, " << coverage.statements << " statements, "
-              << coverage.nodes << " in the trees, " << coverage.clean << " in the same place and clean ("
-              << coverage.Percent() << " %), " << coverage.unexpected << " unexpected tokens\n";
+    const SLineJudge judge = {[](const std::string& text) { return CLineReader().Read(text); }, IsClean};
+    SLineCoverage coverage;
+    for (const std::string& path : paths) {
+        SCOPED_TRACE(path);
+        CoverLines(Jcl(), ReadFile(path), judge, coverage);
+    }
+    TellCoverage(what, paths.size(), coverage);
+    return coverage;
 }
 
 TEST(JclCorpus, SamplesHoldTheStatementsOfTheirLines)
 {
-    SCoverage coverage;
-    const std::vector<std::string> paths = SamplePaths("JCL");
-    for (const std::string& path : paths)
-        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage));
-    Tell("samples", paths.size(), coverage);
+    const SLineCoverage coverage = CoverAll("samples", SamplePaths("JCL"));
     EXPECT_GE(coverage.statements, 45U);
     EXPECT_EQ(coverage.clean, coverage.statements);
     EXPECT_EQ(coverage.nodes, coverage.statements);
@@ -166,25 +134,8 @@ TEST(JclCorpus, SamplesHoldTheStatementsOfTheirLines)
 // Set UV_CORPUS to a folder with jcl/<project>/<job> to have real jobs covered too.
 TEST(JclCorpus, RealJobsParse)
 {
-    const char* const corpus = std::getenv("UV_CORPUS");
-    if (corpus == nullptr || *corpus == '\0')
-        return;
-    const std::filesystem::path folder = std::filesystem::path(corpus) / "jcl";
-    ASSERT_TRUE(std::filesystem::is_directory(folder)) << folder;
-    std::vector<std::string> paths;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-        if (entry.is_regular_file() && !entry.path().filename().string().starts_with("LICENSE."))
-            paths.push_back(entry.path().string());
-    std::ranges::sort(paths);
-    ASSERT_FALSE(paths.empty());
-    SCoverage coverage;
-    for (const std::string& path : paths)
-        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage));
-    Tell("corpus", paths.size(), coverage);
-    RecordProperty("statements", static_cast<int>(coverage.statements));
-    RecordProperty("clean", static_cast<int>(coverage.clean));
-    RecordProperty("unexpected", static_cast<int>(coverage.unexpected));
-    EXPECT_GE(coverage.Percent(), 90.0);
+    const std::vector<std::string> paths = CorpusPaths("jcl");
+    EXPECT_TRUE(paths.empty() || CoverAll("corpus", paths).Percent() >= 90.0);
 }
 
 } // namespace

@@ -16,25 +16,7 @@ CLanguage& Jcl()
 
 SLanguageParse ParseWhole(const std::string& text)
 {
-    SLanguageParse parse = Jcl().Parse(text);
-    EXPECT_TRUE(parse.isComplete);
-    EXPECT_TRUE(SourceOfTree(parse.tree) == text) << "text was lost";
-    return parse;
-}
-
-std::size_t CountOf(const CSyntaxTree& tree, std::string_view name)
-{
-    return static_cast<std::size_t>(std::ranges::count(tree.Elements(), name, &SElement::name));
-}
-
-// The texts of all tokens of a name, a bar between them.
-std::string TextsOf(const CSyntaxTree& tree, std::string_view name)
-{
-    std::string texts;
-    for (const SElement& element : tree.Elements())
-        if (element.name == name)
-            texts += (texts.empty() ? "" : "|") + element.text;
-    return texts;
+    return ParseWhole(Jcl(), text);
 }
 
 // The names of the elements as they nest, without the texts of the tokens.
@@ -60,7 +42,6 @@ constexpr std::pair<const char*, const char*> kStatements[] = {
      "parameter_value(parameter_list(parameter_list parameter_value('even'))))))"},
     {"//S EXEC PROC=P", "exec_procedure('proc' '=' parameter_value('p'))"},
     {"//S EXEC P,PARM.STEP=X", "parameter(parameter_name('parm' '.' 'step') '=' parameter_value('x'))"},
-    {"//S EXEC PGM=*.A.LOAD", "exec_program(parameter_value('*.a.load'))"},
     {"//S EXEC P,PGM=Q", "operands(parameter(parameter_name('pgm')))"},
     {"//D DD", "dd_statement('dd')"},
     {"//D DD DUMMY,DATA=1", "dd_statement(operands(parameter_value('dummy')))"},
@@ -74,18 +55,12 @@ constexpr std::pair<const char*, const char*> kStatements[] = {
     {"//D DD SYSOUT=*,DCB=*.S.D", "parameter(parameter_name('sysout') parameter_value('*'))"},
     {"//D DD SPACE=(80,(1,2),,,ROUND)", "parameter_list_items(parameter_list_items(parameter_list_items(',') "
                                         "',') ',' parameter_value('round'))"},
-    {"//D DD PATH='/u/a, b'", "parameter_value"},
     {"//P PROC A=,B='X'", "proc_statement(operands(operands(parameter(parameter_name('a') '='))))"},
     {"// PEND remark, here", "pend_statement('pend')"},
     {"// SET A=&B.C,PROC=D",
      "set_statement(operands(parameter(parameter_value('&b.' 'c')) parameter('proc')))"},
-    {"// INCLUDE MEMBER=M", "include_statement(operands(parameter))"},
     {"//L JCLLIB ORDER=(A.B,C.D)", "jcllib_statement(parameter_list)"},
-    {"//O OUTPUT", "output_statement('output')"},
     {"//C CNTL *", "cntl_statement(operands(parameter_value('*')))"},
-    {"// ENDCNTL", "endcntl_statement"},
-    {"//C COMMAND 'D U'", "command_statement(operands)"},
-    {"// EXPORT SYMLIST=*", "export_statement(operands)"},
     {"// IF A.RC = 0 THEN it went well", "if_statement(expression('a.rc' '=' '0') 'then')"},
     {"// IF A | NOT B & C LT 4 THEN", "expression(expression('a') '|' expression(expression('not' "
                                       "expression('b')) '&' expression('c' 'lt')))"},
@@ -104,14 +79,7 @@ constexpr std::pair<const char*, const char*> kStatements[] = {
 TEST(Jcl, StatementsOfEveryKind)
 {
     for (const auto& [text, pattern] : kStatements) {
-        SCOPED_TRACE(text);
-        for (const char* const end : {"", "\n", "  \r\n"}) {
-            const SLanguageParse parse = ParseWhole(text + std::string(end));
-            EXPECT_TRUE(parse.IsClean());
-            const CSyntaxTree tree(parse.tree);
-            EXPECT_EQ(tree.Statements().size(), 1U);
-            EXPECT_TRUE(tree.Holds(pattern)) << tree.Shape();
-        }
+        ExpectStatement(Jcl(), text, {"", "\n", "  \r\n"}, pattern);
     }
 }
 
@@ -290,6 +258,7 @@ TEST(Jcl, SequenceNumbersAndLineEndsMakeNoDifference)
         SCOPED_TRACE(path);
         std::string text = ReadFile(path);
         EXPECT_TRUE(Jcl().Parse(text).IsClean());
+        ExpectPiecesLoseNothing(Jcl(), {text});
         const std::string skeleton = Skeleton(ParseWhole(text).tree);
         EXPECT_EQ(Skeleton(ParseWhole(Changed(text, 0, "\r\n")).tree), skeleton);
         // an empty record of data would be one of a number
@@ -301,39 +270,11 @@ TEST(Jcl, SequenceNumbersAndLineEndsMakeNoDifference)
     }
 }
 
-TEST(Jcl, APieceOfAJobLosesNothing)
-{
-    for (const std::string& path : SamplePaths("JCL")) {
-        const std::string text = ReadFile(path);
-        for (std::size_t size = 0; size <= text.size(); ++size) {
-            SCOPED_TRACE(path + ' ' + std::to_string(size));
-            ParseWhole(text.substr(0, size));
-            if (HasFailure())
-                return;
-        }
-    }
-}
-
 TEST(Jcl, ColorsFollowTheFields)
 {
-    const std::string text = "//A EXEC PGM=B,C=('D',4) E\n//* F\n//G DD *,H=&I\nJ\n/* K\n";
-    std::string shown;
-    for (const SColoredRange& range : Jcl().Scan(text)) {
-        const std::string piece = text.substr(range.from, range.end - range.from);
-        shown += piece == "\n" ? "/ " : std::to_string(range.color) + piece + ' ';
-    }
-    EXPECT_EQ(shown, "8// 2A 1EXEC 1PGM 7= 2B 8, 1C 7= 8( 4'D' 8, 54 8) 6 E / 6//* F 8// 2G 1DD 8* 8, 1H 7= "
-                     "9&I / 4J 8/* 6 K ");
-}
-
-std::size_t DepthOf(const std::string& xml)
-{
-    std::size_t depth = 0, deepest = 0;
-    for (std::size_t at = xml.find('<'); at != std::string::npos; at = xml.find('<', at + 1)) {
-        depth += xml[at + 1] == '/' ? -1 : 1;
-        deepest = std::max(deepest, depth);
-    }
-    return deepest;
+    EXPECT_EQ(ShownColors(Jcl(), "//A EXEC PGM=B,C=('D',4) E\n//* F\n//G DD *,H=&I\nJ\n/* K\n"),
+              "8// 2A 1EXEC 1PGM 7= 2B 8, 1C 7= 8( 4'D' 8, 54 8) 6 E / 6//* F 8// 2G 1DD 8* 8, 1H 7= "
+              "9&I / 4J 8/* 6 K ");
 }
 
 TEST(JclLimits, JobsOfManyLines)
@@ -371,17 +312,6 @@ TEST(JclLimits, LinesOfMegabytes)
         ParseWhole("// IF " + Repeated(piece, 100000) + " THEN\n");
         ParseWhole(Repeated(piece, 100000));
     }
-}
-
-TEST(JclLimits, NestingOfAnyDepth)
-{
-    constexpr std::size_t kDepth = 50000;
-    const std::string open = Repeated("(", kDepth), close = Repeated(")", kDepth);
-    EXPECT_TRUE(ParseWhole("//A DD " + open + "B" + close + "\n").IsClean());
-    EXPECT_TRUE(ParseWhole("//A DD " + Repeated("B=", kDepth) + "C\n").IsClean());
-    EXPECT_TRUE(ParseWhole("// IF " + open + "B" + close + " THEN\n").IsClean());
-    EXPECT_TRUE(ParseWhole("// IF " + Repeated("NOT ", kDepth) + "B THEN\n").IsClean());
-    EXPECT_EQ(ParseWhole("//A DD " + open + "\n//B DD C\n").unexpected.size(), 1U);
 }
 
 } // namespace

@@ -2,33 +2,19 @@
 
 #include "Catalogue/UVDBDatabaseKinds.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
+#include <set>
 #include <stdexcept>
 
 namespace {
-
-constexpr std::pair<std::string_view, char> kEntities[] = {
-    {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
-
-// Whole runs at a time: trees are large.
-void AppendPlain(std::string_view escaped, std::string& text)
-{
-    while (!escaped.empty()) {
-        const std::size_t run = std::min(escaped.find('&'), escaped.size());
-        text += escaped.substr(0, run);
-        escaped.remove_prefix(run);
-        for (const auto& [entity, meaning] : kEntities)
-            if (escaped.starts_with(entity)) {
-                text += meaning;
-                escaped.remove_prefix(entity.size());
-                break;
-            }
-    }
-}
 
 std::string Lower(std::string text)
 {
@@ -151,17 +137,6 @@ std::vector<SColoredRange> ReadColoring(std::string_view coloring)
     return ranges;
 }
 
-std::string SourceOfTree(std::string_view tree)
-{
-    std::string text;
-    for (std::size_t at = 0; at < tree.size();) {
-        const std::size_t open = std::min(tree.find('<', at), tree.size());
-        AppendPlain(tree.substr(at, open - at), text);
-        at = std::min(tree.find('>', open), tree.size() - 1) + 1;
-    }
-    return text;
-}
-
 CSyntaxTree::CSyntaxTree(std::string xml) : m_strXml(std::move(xml))
 {
     std::vector<std::size_t> open;
@@ -271,6 +246,120 @@ std::string CSyntaxTree::Shape() const
     return shape.append(ends.size(), ')');
 }
 
+SLanguageParse ParseWhole(CLanguage& language, const std::string& text)
+{
+    SLanguageParse parse = language.Parse(text);
+    EXPECT_TRUE(parse.isComplete);
+    const std::string source = TextOfTree(parse.tree);
+    if (source != text) {
+        const auto at = std::ranges::mismatch(source, text).in2 - text.begin();
+        ADD_FAILURE() << "text was lost at byte " << at << ": "
+                      << text.substr(static_cast<std::size_t>(at), 100);
+    }
+    return parse;
+}
+
+void ExpectPiecesLoseNothing(CLanguage& language, const std::vector<std::string>& texts)
+{
+    for (const std::string& text : texts)
+        for (std::size_t size = 0; size <= text.size() && !testing::Test::HasFailure(); ++size) {
+            SCOPED_TRACE(text.substr(0, 20) + ' ' + std::to_string(size));
+            ParseWhole(language, text.substr(0, size));
+        }
+}
+
+void ExpectStatement(CLanguage& language, const std::string& text, std::initializer_list<const char*> ends,
+                     const char* pattern)
+{
+    SCOPED_TRACE(text);
+    for (const char* const end : ends) {
+        const SLanguageParse parse = ParseWhole(language, text + end);
+        EXPECT_TRUE(parse.IsClean());
+        const CSyntaxTree tree(parse.tree);
+        EXPECT_EQ(tree.Statements().size(), 1U);
+        EXPECT_TRUE(tree.Holds(pattern)) << tree.Shape();
+    }
+}
+
+std::size_t CountOf(const CSyntaxTree& tree, std::string_view name)
+{
+    return static_cast<std::size_t>(std::ranges::count(tree.Elements(), name, &SElement::name));
+}
+
+std::string TextsOf(const CSyntaxTree& tree, std::string_view name)
+{
+    std::string texts;
+    for (const SElement& element : tree.Elements())
+        if (element.name == name)
+            texts += (texts.empty() ? "" : "|") + element.text;
+    return texts;
+}
+
+std::size_t DepthOf(const std::string& xml)
+{
+    std::size_t depth = 0, deepest = 0;
+    for (std::size_t at = xml.find('<'); at != std::string::npos; at = xml.find('<', at + 1)) {
+        depth += xml[at + 1] == '/' ? -1 : 1;
+        deepest = std::max(deepest, depth);
+    }
+    return deepest;
+}
+
+std::string ShownColors(CLanguage& language, const std::string& text)
+{
+    std::string shown;
+    for (const SColoredRange& range : language.Scan(text)) {
+        const std::string piece = text.substr(range.from, range.end - range.from);
+        shown += piece == "\n" ? "/ " : std::to_string(range.color) + piece + ' ';
+    }
+    return shown;
+}
+
+void CoverLines(CLanguage& language, const std::string& text, const SLineJudge& judge,
+                SLineCoverage& coverage)
+{
+    const SLanguageParse parse = ParseWhole(language, text);
+    ASSERT_TRUE(parse.isComplete);
+    coverage.unexpected += parse.unexpected.size();
+    const CSyntaxTree tree(parse.tree);
+    std::set<std::size_t> starts; // of those without an error
+    for (const SElement& statement : tree.Statements()) {
+        const std::optional<bool> isClean = judge.isClean(tree, statement, parse.unexpected);
+        coverage.nodes += isClean.has_value();
+        if (isClean.value_or(false))
+            starts.insert(statement.from);
+    }
+    for (const std::size_t start : judge.read(text)) {
+        ++coverage.statements;
+        coverage.clean += starts.contains(start);
+    }
+}
+
+void TellCoverage(const char* what, std::size_t files, const SLineCoverage& coverage)
+{
+    std::cout << what << ": " << files << " files, " << coverage.statements << " statements, "
+              << coverage.nodes << " in the trees, " << coverage.clean << " in the same place and clean ("
+              << coverage.Percent() << " %), " << coverage.unexpected << " unexpected tokens\n";
+    testing::Test::RecordProperty("statements", static_cast<int>(coverage.statements));
+    testing::Test::RecordProperty("clean", static_cast<int>(coverage.clean));
+    testing::Test::RecordProperty("unexpected", static_cast<int>(coverage.unexpected));
+}
+
+std::vector<std::string> CorpusPaths(const char* folder)
+{
+    const char* const corpus = std::getenv("UV_CORPUS");
+    if (corpus == nullptr || *corpus == '\0')
+        return {};
+    std::vector<std::string> paths;
+    for (const auto& entry :
+         std::filesystem::recursive_directory_iterator(std::filesystem::path(corpus) / folder))
+        if (entry.is_regular_file() && !entry.path().filename().string().starts_with("LICENSE"))
+            paths.push_back(entry.path().string());
+    EXPECT_FALSE(paths.empty());
+    std::ranges::sort(paths);
+    return paths;
+}
+
 std::string ReadFile(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -287,13 +376,4 @@ std::vector<std::string> SamplePaths(const char* language)
         paths.push_back(entry.path().string());
     std::ranges::sort(paths);
     return paths;
-}
-
-std::string Repeated(std::string_view piece, std::size_t count)
-{
-    std::string text;
-    text.reserve(piece.size() * count);
-    for (std::size_t i = 0; i < count; ++i)
-        text += piece;
-    return text;
 }

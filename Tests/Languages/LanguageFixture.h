@@ -3,8 +3,11 @@
 #pragma once
 
 #include "Tests/Support/EngineFixture.h"
+#include "Tests/Support/Repeated.h"
 
 #include <cstddef>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,9 +55,6 @@ CLanguage& PostgreSQL();
 // Lines of three numbers: color, first byte, last byte.
 std::vector<SColoredRange> ReadColoring(std::string_view coloring);
 
-// The text of a tree of any size, entities undone.
-std::string SourceOfTree(std::string_view tree);
-
 // An element of a tree that isn't space, in the order of the start tags. Offsets count bytes of the text.
 struct SElement
 {
@@ -94,8 +94,53 @@ private:
     std::vector<SElement> m_lstElements;
 };
 
+// Parses to the end; what is lost of the text is a failure.
+SLanguageParse ParseWhole(CLanguage& language, const std::string& text);
+// Each text up to every length, parsed whole.
+void ExpectPiecesLoseNothing(CLanguage& language, const std::vector<std::string>& texts);
+// The statement alone on its line, with each of the line ends: clean, and its tree holds the pattern.
+void ExpectStatement(CLanguage& language, const std::string& text, std::initializer_list<const char*> ends,
+                     const char* pattern);
+std::size_t CountOf(const CSyntaxTree& tree, std::string_view name);
+// The texts of all tokens of a name, a bar between them.
+std::string TextsOf(const CSyntaxTree& tree, std::string_view name);
+std::size_t DepthOf(const std::string& xml);
+// Each colored piece with its color in front, blanks between; "/" for a line end.
+std::string ShownColors(CLanguage& language, const std::string& text);
+
+// How far the statements of trees are those that a reader of lines finds, which knows no grammar.
+struct SLineCoverage
+{
+    std::size_t statements = 0; // that the reader finds
+    std::size_t clean = 0;      // those that the tree has in the same place, without an error
+    std::size_t nodes = 0;      // statements of the trees
+    std::size_t unexpected = 0; // tokens
+
+    double Percent() const
+    {
+        return statements == 0 ? 0.0 : 100.0 * static_cast<double>(clean) / static_cast<double>(statements);
+    }
+};
+
+struct SLineJudge
+{
+    // The offset of the first byte of each statement.
+    std::vector<std::size_t> (*read)(const std::string& text);
+    // Whether a statement of the tree is without an error; nothing for one that isn't for the reader.
+    std::optional<bool> (*isClean)(const CSyntaxTree& tree, const SElement& statement,
+                                   const std::vector<SUnexpectedToken>& unexpected);
+};
+
+// Adds a text, of which nothing may be lost.
+void CoverLines(CLanguage& language, const std::string& text, const SLineJudge& judge,
+                SLineCoverage& coverage);
+// Prints it, and puts it into the report of the test.
+void TellCoverage(const char* what, std::size_t files, const SLineCoverage& coverage);
+
+// The files below a folder of the corpus, sorted; none if UV_CORPUS isn't set. Licenses are left out.
+std::vector<std::string> CorpusPaths(const char* folder);
+
 // The file's bytes. Throws: std::runtime_error if it can't be read.
 std::string ReadFile(const std::string& path);
 // The sample scripts of a language, by path, sorted.
 std::vector<std::string> SamplePaths(const char* language);
-std::string Repeated(std::string_view piece, std::size_t count);

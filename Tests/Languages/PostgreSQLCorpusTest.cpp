@@ -5,8 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -46,7 +44,7 @@ void Cover(const std::string& path, SCoverage& coverage, bool namesBadStatements
     ASSERT_TRUE(parse.isComplete);
     std::string shown = script;
     std::erase(shown, '\f');
-    EXPECT_TRUE(SourceOfTree(parse.tree) == shown);
+    EXPECT_TRUE(TextOfTree(parse.tree) == shown);
 
     const std::string text = ForTheJudge(script);
     auto statements = JudgeSplit(text);
@@ -87,17 +85,10 @@ TEST(PostgreSQLCorpus, SamplesParseAsTheServerParsesThem)
 // Set UV_CORPUS to a folder with postgresql/<project>/<script>.sql to have real scripts covered too.
 TEST(PostgreSQLCorpus, RealScriptsParse)
 {
-    const char* const corpus = std::getenv("UV_CORPUS");
-    if (corpus == nullptr || *corpus == '\0')
+    std::vector<std::string> paths = CorpusPaths("postgresql");
+    std::erase_if(paths, [](const std::string& path) { return !path.ends_with(".sql"); });
+    if (paths.empty())
         return;
-    std::vector<std::string> paths;
-    const std::filesystem::path folder = std::filesystem::path(corpus) / "postgresql";
-    ASSERT_TRUE(std::filesystem::is_directory(folder)) << folder;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-        if (entry.is_regular_file() && entry.path().extension() == ".sql")
-            paths.push_back(entry.path().string());
-    std::ranges::sort(paths);
-    ASSERT_FALSE(paths.empty());
     SCoverage coverage;
     for (const std::string& path : paths)
         ASSERT_NO_FATAL_FAILURE(Cover(path, coverage, false));
@@ -111,10 +102,7 @@ TEST(PostgreSQLCorpus, RealScriptsParse)
 
 SLanguageParse ParseWhole(const std::string& text)
 {
-    SLanguageParse parse = PostgreSQL().Parse(text);
-    EXPECT_TRUE(parse.isComplete);
-    EXPECT_TRUE(SourceOfTree(parse.tree) == text) << "text was lost";
-    return parse;
+    return ParseWhole(PostgreSQL(), text);
 }
 
 TEST(PostgreSQLLimits, NestingOfAnyDepth)
@@ -152,14 +140,8 @@ TEST(PostgreSQLLimits, ScriptsOfManyStatements)
     const std::string text = Repeated("select 1;\n", kCount);
     const SLanguageParse parse = ParseWhole(text);
     EXPECT_TRUE(parse.IsClean());
-    std::size_t count = 0, depth = 0, deepest = 0;
-    for (std::size_t at = parse.tree.find('<'); at != std::string::npos; at = parse.tree.find('<', at + 1)) {
-        count += parse.tree.compare(at, 28, "<delimited_pl_sql_statement>") == 0;
-        depth += parse.tree[at + 1] == '/' ? -1 : 1;
-        deepest = std::max(deepest, depth);
-    }
-    EXPECT_EQ(count, kCount);
-    EXPECT_LT(deepest, kCount / 100);
+    EXPECT_EQ(CSyntaxTree(parse.tree).Statements().size(), kCount);
+    EXPECT_LT(DepthOf(parse.tree), kCount / 100);
     // as many errors, each of which costs its statement alone
     const std::size_t errors = kCount / 20;
     const SLanguageParse bad = ParseWhole(Repeated("select from where;\nselect 1;\n", errors));

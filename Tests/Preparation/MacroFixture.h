@@ -2,15 +2,13 @@
 #pragma once
 
 #include "Preparation/MacroPreprocessorChecker.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 struct SMacroRun
@@ -49,29 +47,5 @@ inline std::vector<std::string> MacroTokens(const MacroPreprocessorChecker::inte
 }
 
 // A folder of its own for each test; nothing in it has been looked for before.
-class CMacroFolder : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        std::string pattern = testing::TempDir() + "macro-" + test->name() + "-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        m_Folder = pattern;
-    }
-    void TearDown() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_Folder, ignored);
-    }
-
-    std::string Path(const std::string& name) const { return m_Folder.string() + '/' + name; }
-    void Write(const std::string& name, std::string_view text) const
-    {
-        const std::filesystem::path path = Path(name);
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path, std::ios::binary) << text;
-    }
-
-    std::filesystem::path m_Folder;
-};
+class CMacroFolder : public testing::Test, protected CScratchFolder
+{};

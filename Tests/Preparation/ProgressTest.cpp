@@ -1,16 +1,12 @@
 #include "Preparation/Formatters/Progress.h"
 
 #include "Tests/Preparation/FormatterFixture.h"
-#include "Tests/Preparation/TemporaryFolder.h"
 #include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/ScratchFolder.h"
 
-#include <boost/regex.hpp>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
-#include <optional>
-#include <random>
 #include <string>
 #include <sys/stat.h>
 #include <vector>
@@ -28,15 +24,14 @@ protected:
     }
     std::string Text(const std::string& source) { return Prepare(source).text; }
 
-    CTemporaryFolder m_Folder;
+    CScratchFolder m_Folder;
     CLogCapture m_Log;
 };
 
 struct SProgressCase
 {
     const char* file; // the text of a.i
-    const char* source;
-    const char* text;
+    const char *source, *text;
 };
 
 TEST_F(ProgressFormatter, ArgumentsFillThePlaceholders)
@@ -173,76 +168,6 @@ TEST_F(ProgressFormatter, FormatsThatGrow)
     EXPECT_EQ(Text("{x.i &x=" + Repeated("$1", 1 << 16) + "}").front(), '{');
 }
 
-// The same by patterns, over the whole text in each round. Nothing if there is no end to it.
-std::optional<std::string> PrepareByPatterns(std::string text,
-                                             const std::map<std::string, std::string>& files)
-{
-    const auto quoted = [](const std::string& plain) { return "\\Q" + plain + "\\E"; };
-    const boost::regex pattern("\\{[\\s]*([^\\s\\{\\}]*\\.i)([^\\{\\}]*)\\}", boost::regex::icase);
-    boost::smatch match;
-    for (int round = 0; boost::regex_search(text, match, pattern); ++round) {
-        if (round == 30 || text.size() > 4000)
-            return std::nullopt;
-        const std::string name = match.str(1);
-        const auto file = files.find(name.substr(name.find_last_of('\\') + 1));
-        std::string included = file == files.end() ? "" : file->second;
-        std::string arguments = match.str(2);
-        boost::smatch parts;
-        const boost::regex argument("\\A\\s*(?:(&[^=]*)=\\s*)?(?:\"([^\"]*)\"|([^\\s\"]\\S*|(?=\\s*\\z)))");
-        while (arguments.find_first_not_of(" \n") != arguments.npos) {
-            const bool isNamed = arguments[arguments.find_first_not_of(" \n")] == '&';
-            if (!boost::regex_search(arguments, parts, argument) || isNamed != parts[1].matched)
-                break;
-            const std::string value = parts[2].matched ? parts.str(2) : parts.str(3);
-            std::string key = parts.str(1);
-            key.erase(key.find_last_not_of(" \n") + 1);
-            included =
-                isNamed
-                    ? boost::regex_replace(included, boost::regex("\\{[ ]*" + quoted(key) + "[ ]*\\}"), value)
-                    : boost::regex_replace(included, boost::regex("\\{[ ]*&[^\\{\\}&\\.]*\\}"), value,
-                                           boost::format_first_only);
-            arguments = parts.suffix().str();
-        }
-        const std::string before = text;
-        text =
-            boost::regex_replace(text, boost::regex("\\{[\\s]*" + quoted(name) + "[^\\{\\}]*\\}"), included);
-        if (text == before)
-            break;
-    }
-    return text;
-}
-
-TEST_F(ProgressFormatter, EqualsThePatternsOnRandomTexts)
-{
-    const std::vector<std::string> pieces = {
-        "{a.i}", "{b.i ", "{c.i", "{ A.I ", "}", "}",  "{", "&x=1 ", "&y = \"2 3\" ",
-        "\"",    "4 ",    "{&x}", "{ &y }", "x", "\n", " ", ".i",    "$&",
-        "\\",    "$'",    "$`",   "a.i",    "&"};
-    std::mt19937 random(5);
-    int compared = 0;
-    for (int i = 0; i < 2000; ++i) {
-        std::map<std::string, std::string> files;
-        for (const char* name : {"a.i", "b.i", "c.i"}) {
-            files[name] = RandomText(random, pieces, 6);
-            File(name, files[name]);
-        }
-        const std::string source = RandomText(random, pieces, 14);
-        const auto expected = PrepareByPatterns(source, files);
-        if (!expected)
-            continue;
-        ++compared;
-        SCOPED_TRACE(testing::Message() << source << "\na.i: " << files["a.i"] << "\nb.i: " << files["b.i"]
-                                        << "\nc.i: " << files["c.i"]);
-        const SPreparedText prepared = Prepare(source);
-        ASSERT_EQ(prepared.text, *expected);
-        const bool isOpen = !prepared.text.empty() && prepared.text.back() != '\n';
-        ASSERT_EQ(prepared.sourceLines.size(),
-                  static_cast<std::size_t>(std::ranges::count(prepared.text, '\n') + isOpen));
-        ASSERT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
-    }
-    EXPECT_GT(compared, 1000);
-}
-
 TEST_F(ProgressFormatter, RealSources)
 {
     for (const SCorpusFile& file : CorpusFiles("progress-4gl")) {
@@ -272,13 +197,8 @@ TEST_F(ProgressFormatter, RealSources)
 TEST_F(ProgressFormatter, AnySize)
 {
     File("a.i", "x\n");
-    const std::string piece = "DEFINE VARIABLE a AS CHARACTER.\n{a.i}{&b}\n";
-    const std::size_t count = (20 << 20) / piece.size();
-    EXPECT_TRUE(Text(Repeated(piece, count)) ==
-                Repeated("DEFINE VARIABLE a AS CHARACTER.\nx\n{&b}\n", count));
     EXPECT_TRUE(Text(Repeated("{a.i ", 2 << 20)) == Repeated("{a.i ", 2 << 20));
     EXPECT_EQ(Text("{a.i " + Repeated("&x=\"y\" ", 1 << 20) + "}"), "x\n");
-    EXPECT_EQ(Text("{a.i " + std::string(10 << 20, ' ') + "}"), "x\n");
     File("many.i", Repeated("{&x}", 1 << 16));
     EXPECT_TRUE(Text("{many.i " + Repeated("1 ", 1 << 20) + "}").starts_with("1111"));
     EXPECT_NE(m_Log.Text().find("too many arguments"), std::string::npos);

@@ -11,9 +11,7 @@ namespace {
 // A tree, what becomes of it, and what becomes of that in a second run.
 struct SRuleCase
 {
-    const char* rule;
-    const char* tree;
-    const char* flat;
+    const char *rule, *tree, *flat;
     const char* again = nullptr; // null: a second run leaves it
 };
 
@@ -80,19 +78,14 @@ void ExpectRule(const SRuleCase& entry)
 }
 
 // clang-format off
-constexpr SRuleCase kLists[] = {
+constexpr SRuleCase kRules[] = {
+    // lists
     {"a list whose rule ends with itself",
      "<q><l><i/><l><j/><l><k/></l></l></l></q>",
-     "<q><l><i/><j/><k/></l></q>"},
-    {"a list whose rule begins with itself",
-     "<q><l><l><l><i/></l><j/></l><k/></l></q>",
      "<q><l><i/><j/><k/></l></q>"},
     {"items on both sides",
      "<q><l><i/><l><j/></l><k/><l/><m/></l></q>",
      "<q><l><i/><j/><k/><m/></l></q>"},
-    {"the outermost element may be the list",
-     "<l><l><i/></l></l>",
-     "<l><i/></l>"},
     {"the elements of the chain lose attributes, text and comments, the items keep theirs",
      "<q><l a='1'>x<!--c--><l b='2'>y<i c='3'>z<!--d--></i></l></l></q>",
      "<q><l><i c=\"3\">z<!--d--></i></l></q>"},
@@ -105,12 +98,6 @@ constexpr SRuleCase kLists[] = {
     {"expressions nest",
      "<expression a=\"1\"><expression>x<expression/></expression></expression>",
      "<expression a=\"1\"><expression>x<expression/></expression></expression>"},
-    {"so do concatenations",
-     "<q><CONCAT_item_list><CONCAT_item_list/><i/></CONCAT_item_list></q>",
-     "<q><CONCAT_item_list><CONCAT_item_list/><i/></CONCAT_item_list></q>"},
-    {"and accumulations",
-     "<q><accumulate_expression><accumulate_expression/><i/></accumulate_expression></q>",
-     "<q><accumulate_expression><accumulate_expression/><i/></accumulate_expression></q>"},
     {"a main section keeps what is in it and loses only the inner sections",
      "<q><MAIN a=\"1\">x<MAIN b=\"2\">y<i/><!--c--><MAIN/></MAIN></MAIN></q>",
      "<q><MAIN a=\"1\">xy<i/><!--c--></MAIN></q>"},
@@ -122,27 +109,16 @@ constexpr SRuleCase kLists[] = {
      "<q><L><L><N/></L><P/></L><D><D><L/></D></D></q>",
      "<q><L><N/><P/></L><D><L/></D></q>",
      "<q><F01><N/><P/><X/></F><F11/></q>"},
-};
-
-constexpr SRuleCase kStatements[] = {
+    // statements
     {"delimiter and label: elements of the labeled statement, then the delimiters",
      "<q><D a='1'>t<X>,</X><L b='2'>u<N>n</N>v<P c=\"3\">p</P><!--c--></L><i/><X>;</X></D></q>",
      "<q><F11><N>n</N><P c=\"3\">p</P><X>,</X><X>;</X></F></q>"},
-    {"two labeled statements in one",
-     "<q><D><L><i/></L><j/><L><k/></L></D></q>",
-     "<q><F11><i/><k/></F></q>"},
-    {"no delimiter, none supplied",
-     "<q><D><L><N/></L></D><PDDC/></q>",
-     "<q><F11><N/></F><PDDC/></q>"},
     {"a data division before it supplies one",
      "<q><PDDC/><i/><D><L><N/></L></D><D><L><N/></L><X>;</X></D></q>",
      "<q><PDDC/><i/><F11><N/><X/></F><F11><N/><X>;</X></F></q>"},
     {"delimiter without a label",
      "<q><D a='1'>t<P b=\"2\">p</P><!--c--><X>;</X></D></q>",
      "<q><F10><N/>t<P b=\"2\">p</P><!--c--><X>;</X></F></q>"},
-    {"the same behind a data division",
-     "<q><PDDC/><D><P/></D><D><X>;</X></D></q>",
-     "<q><PDDC/><F10><N/><P/><X/></F><F10><N/><X>;</X></F></q>"},
     {"label without a delimiter",
      "<q><L a='1'>t<N>n</N><!--c--><P/></L></q>",
      "<q><F01>t<N>n</N><!--c--><P/><X/></F></q>"},
@@ -156,26 +132,14 @@ constexpr SRuleCase kStatements[] = {
      "<S><DS a='1'>t<D><i/></D><!--c--><j/></DS><SP> </SP><L/></S>",
      "<S>t<F10><N/><i/></F><!--c--><j/><SP> </SP><F01><X/></F></S>",
      "<S><F10><N/><i/></F><j/><SP> </SP><F01><X/></F></S>"},
-    {"chains of them too",
-     "<S><DS><DS><D><i/></D></DS><D><j/></D></DS></S>",
-     "<S><F10><N/><i/></F><F10><N/><j/></F></S>"},
-    {"they stay elsewhere",
-     "<q><DS a=\"1\"><D/></DS><DS><DS><D/></DS></DS></q>",
-     "<q><DS a=\"1\"><F10><N/></F></DS><DS><D/></DS></q>",
-     "<q><DS a=\"1\"><F10><N/></F></DS><DS><F10><N/></F></DS></q>"},
     {"a chain of statement lists is a list first: its statements are wrapped in the second run",
      "<q><S><S><P>p</P></S><P>r</P><D/></S></q>",
      "<q><S><P>p</P><P>r</P><D/></S></q>",
      "<q><S><F00><N/><P>p</P><X/></F><F00><N/><P>r</P><X/></F><F10><N/></F></S></q>"},
-};
-
-constexpr SRuleCase kBodies[] = {
+    // bodies
     {"a body becomes a list of statements; its attributes, text and comments go",
      "<q><B a='1'>t<!--c--><D b='2'><P>p</P></D>u</B></q>",
      "<q><S><F11><N/><P>p</P><X/></F></S></q>"},
-    {"the delimiter goes into the statement before it",
-     "<q><B><D><P/></D><X a=\"1\">;</X><D><P/></D><X>,</X></B></q>",
-     "<q><S><F11><N/><P/><X a=\"1\">;</X></F><F11><N/><P/><X>,</X></F></S></q>"},
     {"over terminals, which stay behind the statement",
      "<q><B><D><P/></D><SP> </SP>t<T__/><X>;</X></B></q>",
      "<q><S><F11><N/><P/><X>;</X></F><SP> </SP><T__/></S></q>"},
@@ -185,9 +149,6 @@ constexpr SRuleCase kBodies[] = {
     {"a labeled statement drops its own delimiter",
      "<q><B><D>t<L>u<N>n</N><P/></L><X>,</X></D><X>;</X></B></q>",
      "<q><S><F11><N>n</N><P/><X>;</X></F></S></q>"},
-    {"one without a label keeps it, text and comments beside the one supplied",
-     "<q><B><D>t<P/><!--c--><X>,</X></D></B></q>",
-     "<q><S><F11><N/>t<P/><!--c--><X>,</X><X/></F></S></q>"},
     {"a delimiter behind the body is the last statement's, and stays where it is",
      "<q><B><D><i/></D><D><j/></D></B>t<SP> </SP><X>;</X></q>",
      "<q><S><F11><N/><i/><X/></F><F11><N/><j/><X>;</X></F></S>t<SP> </SP><X>;</X></q>"},
@@ -201,62 +162,14 @@ constexpr SRuleCase kBodies[] = {
     {"bodies in bodies make one list",
      "<q><B><B><B><D><i/></D><X>1</X></B><D><j/></D></B><X>2</X><D><k/></D></B></q>",
      "<q><S><F11><N/><i/><X>1</X></F><F11><N/><j/><X>2</X></F><F11><N/><k/><X/></F></S></q>"},
-    {"an inner body looks behind itself alone",
-     "<q><B><B><D/></B></B><X>;</X></q>",
-     "<q><S><F11><N/><X/></F></S><X>;</X></q>"},
     {"a chain of delimited statements in a body goes like its parent's children",
      "<q><B><D><D><i/></D></D></B></q>",
      "<q><S><F11><N/><i/><X/></F></S></q>"},
-    {"other statements in a body",
-     "<q><B><L><N/></L><P/><DS><D/></DS></B></q>",
-     "<q><S><F01><N/><X/></F><P/><DS><F10><N/></F></DS></S></q>",
-     "<q><S><F01><N/><X/></F><F00><N/><P/><X/></F><F10><N/></F></S></q>"},
     {"a list of statements in a body joins it in the second run",
      "<q><B><D/><S><P/></S></B></q>",
      "<q><S><F11><N/><X/></F><S><F00><N/><P/><X/></F></S></S></q>",
      "<q><S><F11><N/><X/></F><F00><N/><P/><X/></F></S></q>"},
-    {"so does a body in a list of statements",
-     "<S><P/><B><D/></B></S>",
-     "<S><F00><N/><P/><X/></F><S><F11><N/><X/></F></S></S>",
-     "<S><F00><N/><P/><X/></F><F11><N/><X/></F></S>"},
-    {"a body is a body wherever a rule meets it",
-     "<B><i><B/></i></B>",
-     "<S><i><S/></i></S>"},
-};
-
-// The tree is <q><T__q>...</T__q></q>.
-struct SMacroCase
-{
-    const char* text;
-    const char* attributes;
-};
-constexpr SMacroCase kMacros[] = {
-    {"{x=y}",            "xpath=\"y\" name=\"x\""},
-    {"a{x=y}b{z#1}",     "xpath=\"y\" name=\"x\""},
-    {"}{x=y}",           "xpath=\"y\" name=\"x\""},
-    {"{{x=y}}",          "xpath=\"y\" name=\"{x\""},
-    {"{x=y=z}",          "xpath=\"y=z\" name=\"x\""},
-    {"{x=y#1[2]}",       "xpath=\"y#1[2]\" name=\"x\""},
-    {"{=}",              "xpath=\"\" name=\"\""},
-    {"{é=&lt;&quot;€'}", "xpath=\"&lt;&quot;€'\" name=\"é\""},
-    {"{x=\n&#13;y}",     "xpath=\"&#10;&#13;y\" name=\"x\""},
-    {"{x#1}",            "uid=\"1\" name=\"x\""},
-    {"{x#1=2}",          "uid=\"1=2\" name=\"x\""},
-    {"{x#1#2}",          "uid=\"1#2\" name=\"x\""},
-    {"{#}",              "uid=\"\" name=\"\""},
-    {"{x#1[c]}",         "match=\"[c]\" uid=\"1\" name=\"x\""},
-    {"{x#1[a=b][c]d}",   "match=\"[a=b][c]d\" uid=\"1\" name=\"x\""},
-    {"{x#[c]}",          "match=\"[c]\" uid=\"\" name=\"x\""},
-    {"{x}",              ""},
-    {"{}",               ""},
-    {"{x=y",             ""},
-    {"x=y}",             ""},
-    {"x#1",              ""},
-    {"",                 ""},
-    {"{<!--z#1}-->x<i>=</i>y}", "xpath=\"y\" name=\"x\""},   // the string value
-};
-
-constexpr SRuleCase kMacroPlaces[] = {
+    // placeholders of macros
     {"attributes stay, and a second run leaves all",
      "<q><T__q type=\"TOKEN\" line=\"1\">{x=y}</T__q></q>",
      "<q><T__q type=\"TOKEN\" line=\"1\" macro=\"1\" xpath=\"y\" name=\"x\">{MACRO}</T__q></q>"},
@@ -267,31 +180,16 @@ constexpr SRuleCase kMacroPlaces[] = {
      "<q><q/><T__q>{x=y}</T__q></q>",
      "<q><T__q>{x=y}</T__q></q>",
      "<q><T__q macro=\"1\" xpath=\"y\" name=\"x\">{MACRO}</T__q></q>"},
-    {"a chain of its own goes first",
-     "<q><T__q>{x=y}<T__q><i/></T__q></T__q></q>",
-     "<q><T__q><i/></T__q></q>",
-     "<q><T__q macro=\"1\">{MACRO}</T__q></q>"},
-    {"of a body",
-     "<q><B><T__B>{x#1}</T__B></B></q>",
-     "<q><S><T__B macro=\"1\" uid=\"1\" name=\"x\">{MACRO}</T__B></S></q>"},
     {"in a macro's content there are no others",
      "<q><T__q>{a=<T__T__q>{b#1}</T__T__q>}</T__q><T__T__q>{c=d}</T__T__q></q>",
      "<q><T__q macro=\"1\" xpath=\"{b#1\" name=\"a\">{MACRO}</T__q><T__T__q>{c=d}</T__T__q></q>"},
-    {"names count in full",
-     "<q><T__qq>{x=y}</T__qq><T_q>{x=y}</T_q><t__q>{x=y}</t__q><r><T__q>{x=y}</T__q></r></q>",
-     "<q><T__qq>{x=y}</T__qq><T_q>{x=y}</T_q><t__q>{x=y}</t__q><r><T__q>{x=y}</T__q></r></q>"},
     {"space of an element that is named so, but for empty space",
      "<SPACE><SP>{x=y}</SP><SP/></SPACE>",
      "<SPACE><SP macro=\"1\" xpath=\"y\" name=\"x\">{MACRO}</SP></SPACE>"},
-};
-
-constexpr SRuleCase kSpaces[] = {
+    // space
     {"empty space goes, whatever else it bears",
      "<q><SP/><SP type=\"TOKEN\"></SP><SP><!--c--></SP><SP><i a='1'/><SP/></SP>t<SP> </SP><SP>x</SP></q>",
      "<q>t<SP> </SP><SP>x</SP></q>"},
-    {"what remains may be empty",
-     "<q><i><SP/></i></q>",
-     "<q><i/></q>"},
     {"under the root it stays until the second run",
      "<SQL><SP type=\"TOKEN\"></SP><SQL><SP/><i><SP/></i></SQL><SP type=\"TOKEN\">\n</SP></SQL>",
      "<SQL><SP type=\"TOKEN\"/><SP/><i/><SP type=\"TOKEN\">\n</SP></SQL>",
@@ -305,26 +203,40 @@ constexpr SRuleCase kSpaces[] = {
      "<q><S><F11><N/><P/><X>;</X></F></S><F01><X/></F></q>"},
 };
 
+// The tree is <q><T__q>...</T__q></q>.
+constexpr std::pair<const char*, const char*> kMacros[] = {
+    {"{x=y}",            "xpath=\"y\" name=\"x\""},
+    {"}{x=y}",           "xpath=\"y\" name=\"x\""},
+    {"{x=y=z}",          "xpath=\"y=z\" name=\"x\""},
+    {"{x=y#1[2]}",       "xpath=\"y#1[2]\" name=\"x\""},
+    {"{é=&lt;&quot;€'}", "xpath=\"&lt;&quot;€'\" name=\"é\""},
+    {"{x=\n&#13;y}",     "xpath=\"&#10;&#13;y\" name=\"x\""},
+    {"{x#1}",            "uid=\"1\" name=\"x\""},
+    {"{x#1#2}",          "uid=\"1#2\" name=\"x\""},
+    {"{x#1[c]}",         "match=\"[c]\" uid=\"1\" name=\"x\""},
+    {"{x#1[a=b][c]d}",   "match=\"[a=b][c]d\" uid=\"1\" name=\"x\""},
+    {"{x}",              ""},
+    {"{x=y",             ""},
+    {"",                 ""},
+    {"{<!--z#1}-->x<i>=</i>y}", "xpath=\"y\" name=\"x\""},   // the string value
+};
+
 // The tree is <q>...</q>.
 struct STextCase
 {
-    const char* text;
-    const char* flat;
+    const char *text, *flat;
 };
 constexpr STextCase kTexts[] = {
     {"a&amp;&lt;&gt;&apos;&quot;",   "a&amp;&lt;&gt;'\""},
     {">'\"",                         "&gt;'\""},
     {"a\r\nb\rc\n\r\n\r\r\nd\t",     "a\nb\nc\n\n\n\nd\t"},
     {"&#13;&#x0D;\n&#10;&#9;",       "&#13;&#13;\n\n\t"},
-    {"&#65;&#x41;&#233;&#x1F600;",   "AAé😀"},
     {"&#38;lt;&amp;lt;&#60;i/&#62;", "&amp;lt;&amp;lt;&lt;i/&gt;"},
     {"\x01\x02\x08\x0b\x0c\x0e\x1f", "^^^^^^^"},
     {"\x7f\u0085\u2028\uFEFF\uFFFD", "\x7f\u0085\u2028\uFEFF\uFFFD"},
-    {"é€😀",                         "é€😀"},
     {"]]&gt;]] >",                   "]]&gt;]] &gt;"},
     {"<i></i><j />\n<k\n></k\t>",    "<i/><j/>\n<k/>"},
     {"<!----><!-- <&>\r\n\x01'-->",  "<!----><!-- <&>\n^'-->"},
-    {"<i a='\"' b=\"'\"/>",          "<i a=\"&quot;\" b=\"'\"/>"},
     {"<i a = '&quot;&apos;&amp;&lt;&gt;>'\n\tb=''/>", "<i a=\"&quot;'&amp;&lt;&gt;&gt;\" b=\"\"/>"},
     {"<i a='1\n2\t3\r\n4\r5'/>",     "<i a=\"1 2 3 4 5\"/>"},
     {"<i a='&#10;&#9;&#13;&#32;'/>", "<i a=\"&#10;&#9;&#13; \"/>"},
@@ -334,7 +246,6 @@ constexpr STextCase kTexts[] = {
 // Whole texts.
 constexpr STextCase kDocuments[] = {
     {"<?xml version=\"1.0\" ?><q/>",                         "<q/>\n"},
-    {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<q/>\n",   "<q/>\n"},
     {"\n \t<q/>\r\n \n",                                     "<q/>\n"},
 };
 
@@ -361,40 +272,20 @@ constexpr const char* kBroken[] = {
 };
 // clang-format on
 
-TEST(FlattenRules, ListsComeFlat)
+TEST(FlattenRules, TreesTakeTheirShape)
 {
-    for (const SRuleCase& entry : kLists)
-        ExpectRule(entry);
-}
-
-TEST(FlattenRules, StatementsTakeOneShape)
-{
-    for (const SRuleCase& entry : kStatements)
-        ExpectRule(entry);
-}
-
-TEST(FlattenRules, BodiesBecomeListsOfStatements)
-{
-    for (const SRuleCase& entry : kBodies)
+    for (const SRuleCase& entry : kRules)
         ExpectRule(entry);
 }
 
 TEST(FlattenRules, PlaceholdersOfMacrosBecomeAttributes)
 {
-    for (const SMacroCase& entry : kMacros) {
-        SCOPED_TRACE(entry.text);
-        const std::string blank = *entry.attributes == '\0' ? "" : " ";
-        ExpectFlat(std::string("<q><T__q>") + entry.text + "</T__q></q>",
-                   Document("<q><T__q macro=\"1\"" + blank + entry.attributes + ">{MACRO}</T__q></q>"));
+    for (const auto& [text, attributes] : kMacros) {
+        SCOPED_TRACE(text);
+        const std::string blank = *attributes == '\0' ? "" : " ";
+        ExpectFlat(std::string("<q><T__q>") + text + "</T__q></q>",
+                   Document("<q><T__q macro=\"1\"" + blank + attributes + ">{MACRO}</T__q></q>"));
     }
-    for (const SRuleCase& entry : kMacroPlaces)
-        ExpectRule(entry);
-}
-
-TEST(FlattenRules, EmptySpaceGoes)
-{
-    for (const SRuleCase& entry : kSpaces)
-        ExpectRule(entry);
 }
 
 TEST(FlattenRules, TextComesOutInOneSpelling)

@@ -85,13 +85,7 @@ TEST(XslTransform, NoDocumentForWhatIsNoXml)
 
 // ---- Compiling ----
 
-struct SBadStylesheet
-{
-    std::string text;
-    const char* reason;
-};
-
-const SBadStylesheet kBadStylesheets[] = {
+const std::pair<std::string, const char*> kBadStylesheets[] = {
     {"", "empty"},
     {"<a>", "line 1"},
     {"<a/>", "not a stylesheet"},
@@ -104,11 +98,11 @@ const SBadStylesheet kBadStylesheets[] = {
 TEST(XslTransform, AStylesheetThatDoesNotCompileGivesNothingForEver)
 {
     const CLogCapture log;
-    for (const SBadStylesheet& c : kBadStylesheets) {
-        SCOPED_TRACE(c.text);
-        XslTransform transform(c.text.data(), c.text.size());
+    for (const auto& [text, reason] : kBadStylesheets) {
+        SCOPED_TRACE(text);
+        XslTransform transform(text.data(), text.size());
         EXPECT_TRUE(transform.HasError());
-        EXPECT_THAT(std::string(transform.GetErrorText().raw()), HasSubstr(c.reason));
+        EXPECT_THAT(std::string(transform.GetErrorText().raw()), HasSubstr(reason));
         for (int i = 0; i < 2; ++i) {
             EXPECT_EQ(transform.apply("<a/>"), nullptr);
             xmlDoc* const document = xmlNewDoc(nullptr);

@@ -80,25 +80,6 @@ void Set(SEngineSettings& settings, const std::string& key, const std::string& v
         settings.options[key] = value;
 }
 
-// Appends `text` with its entities undone.
-void AppendPlain(std::string_view text, std::string& plain)
-{
-    constexpr std::pair<std::string_view, char> kEntities[] = {
-        {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
-    for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&')) {
-        plain += text.substr(0, at);
-        text.remove_prefix(at);
-        const auto entity =
-            std::find_if(std::begin(kEntities), std::end(kEntities),
-                         [&](const auto& candidate) { return text.starts_with(candidate.first); });
-        if (entity == std::end(kEntities))
-            throw std::runtime_error("the tree holds a bare &");
-        plain += entity->second;
-        text.remove_prefix(entity->first.size());
-    }
-    plain += text;
-}
-
 // Calls visit with the name of each tag ("/name" for an end tag) and the text behind it, as it stands. The
 // trees hold no other markup.
 template <class Visit>
@@ -134,6 +115,24 @@ std::string Quoted(const std::string& text)
 }
 
 } // namespace
+
+void AppendPlain(std::string_view text, std::string& plain)
+{
+    constexpr std::pair<std::string_view, char> kEntities[] = {
+        {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
+    for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&')) {
+        plain += text.substr(0, at);
+        text.remove_prefix(at);
+        const auto entity =
+            std::find_if(std::begin(kEntities), std::end(kEntities),
+                         [&](const auto& candidate) { return text.starts_with(candidate.first); });
+        if (entity == std::end(kEntities))
+            throw std::runtime_error("the tree holds a bare &");
+        plain += entity->second;
+        text.remove_prefix(entity->first.size());
+    }
+    plain += text;
+}
 
 std::ostream& operator<<(std::ostream& out, const SParseOutcome& outcome)
 {

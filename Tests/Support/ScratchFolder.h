@@ -9,24 +9,26 @@
 #include <string>
 #include <system_error>
 
-class CTemporaryFolder
+class CScratchFolder
 {
 public:
-    CTemporaryFolder()
+    CScratchFolder()
     {
-        std::string pattern = testing::TempDir() + "preparation-XXXXXX";
+        std::string pattern = testing::TempDir() + "uvtest-XXXXXX";
         m_Path = mkdtemp(pattern.data()) != nullptr ? pattern : "";
         EXPECT_FALSE(m_Path.empty());
     }
-    ~CTemporaryFolder()
+    ~CScratchFolder()
     {
         std::error_code error;
         std::filesystem::remove_all(m_Path, error);
     }
-    CTemporaryFolder(const CTemporaryFolder&) = delete;
-    CTemporaryFolder& operator=(const CTemporaryFolder&) = delete;
+    CScratchFolder(const CScratchFolder&) = delete;
+    CScratchFolder& operator=(const CScratchFolder&) = delete;
 
-    std::string Path(const std::string& name) const { return m_Path + "/" + name; }
+    // Without a name that of the folder, with a slash at its end.
+    std::string Path(const std::string& name = "") const { return m_Path + "/" + name; }
+    // Folders in `name` are made. Returns: the path.
     std::string Write(const std::string& name, const std::string& text) const
     {
         std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
