@@ -311,17 +311,17 @@ void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypePa
 {
     capacity.fields = meaning.fields;
     capacity.hasZone = meaning.hasZone;
-    if ((meaning.fields & kSecond) == 0)
+    const bool hasSeconds = (meaning.fields & kSecond) != 0;
+    const bool isInterval = meaning.family == enFamily::Interval;
+    if (!hasSeconds || (isInterval && !row.isScaleValid && !numbers.hasScale))
         capacity.fraction = 0;
     else if (row.isScaleValid)
         capacity.fraction = row.minScale == row.maxScale ? row.maxScale : numbers.scale;
     else if (numbers.hasScale)
         capacity.fraction = numbers.scale;
-    else if (meaning.family == enFamily::Interval)
-        capacity.fraction = 0;
     else if (!meaning.hasZone)
         capacity.fraction = FractionOfText(row.columnSize, meaning.fields);
-    if (meaning.family == enFamily::Interval) {
+    if (isInterval) {
         if (row.isLeadingPrecisionValid)
             capacity.leadingDigits = numbers.leadingPrecision;
         // One type for all of them.

@@ -78,8 +78,11 @@ void CMapping::MapOne(const std::string& text, int inputLine)
     std::vector<Cell> cells{text, GetUVDBDataTypeName(type), static_cast<std::int64_t>(type), target};
     if (m_Line.isCheck) {
         const Texts losses = Losses(CapacityOf(m_From.version, mapped.source), m_To.version, target);
-        for (const std::string& loss : losses)
-            Tell(enSeverity::Warning, inputLine, text + " as " + target + ": " + loss);
+        for (const std::string& loss : losses) {
+            std::string message = text;
+            message.append(" as ").append(target).append(": ").append(loss);
+            Tell(enSeverity::Warning, inputLine, message);
+        }
         cells.emplace_back(losses);
     }
     m_Results.Add(std::move(cells), m_Line.isExplain ? Explain(m_From, m_To, mapped, trail) : Details());

@@ -151,7 +151,7 @@ void CTypeResults::AddTsvRow(const SRow& row, std::string& out) const
     if (m_HasDetails) {
         std::vector<std::string> texts;
         for (const auto& [word, text] : row.details)
-            texts.push_back(word + ": " + text);
+            texts.emplace_back(word).append(": ").append(text);
         out += '\t';
         AppendTsv(Joined(texts), out);
     }
