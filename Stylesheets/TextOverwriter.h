@@ -3,12 +3,10 @@
 
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 
-// Collects in a block that stays in
-// the cache; what finds no room before the text that is still needed waits.
+// Collects in a block that stays in the cache; what finds no room before the text that is still needed waits.
 class CTextOverwriter
 {
 public:
@@ -21,7 +19,7 @@ public:
     {
         if (text.size() > kBlock - m_Used)
             return false;
-        std::memcpy(m_Block.data() + m_Used, text.data(), text.size());
+        text.copy(m_Block.data() + m_Used, text.size());
         m_Used += text.size();
         return true;
     }
@@ -64,7 +62,7 @@ private:
 
     std::size_t Place(std::string_view text)
     {
-        std::memcpy(m_Text.data() + m_Settled, text.data(), text.size());
+        text.copy(m_Text.data() + m_Settled, text.size());
         m_Settled += text.size();
         return text.size();
     }
