@@ -143,7 +143,7 @@ U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& objectInfo,
     return text;
 }
 
-U8CString FormatDataTypeInfo(std::shared_ptr<IUVDBObjectInfo> objectInfo, DB_VERSION_INFO version,
+U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& objectInfo, DB_VERSION_INFO version,
                              const char* name, long uvdbType, long length, bool hasPrecision, long precision,
                              bool hasLeadingPrecision, long leadingPrecision, bool hasScale, long scale,
                              bool hasFixed, long fixed, bool isFixed, bool hasLength, bool isUnsignedValid,
@@ -156,7 +156,7 @@ U8CString FormatDataTypeInfo(std::shared_ptr<IUVDBObjectInfo> objectInfo, DB_VER
     return FormatDataTypeInfo(objectInfo, version, type, mode);
 }
 
-U8CString FormatDataTypeInfoStr(std::shared_ptr<IUVDBObjectInfo>, DB_VERSION_INFO version, const char* name,
+U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& /*objectInfo*/, DB_VERSION_INFO version, const char* name,
                                 long uvdbType, long length, bool hasPrecision, long precision,
                                 bool hasLeadingPrecision, long leadingPrecision, bool hasScale, long scale,
                                 bool hasFixed, long fixed, bool isFixed, bool hasLength, bool isUnsignedValid,

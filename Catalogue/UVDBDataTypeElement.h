@@ -34,7 +34,7 @@ Uve::U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& object
                                   const SDataTypeElement& type, long mode);
 
 // (hasScale, scale) is the smallest scale, (hasFixed, fixed) the largest. A `userType` of 0 isn't written.
-Uve::U8CString FormatDataTypeInfo(std::shared_ptr<IUVDBObjectInfo> objectInfo, DB_VERSION_INFO version,
+Uve::U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& objectInfo, DB_VERSION_INFO version,
                                   const char* name, long uvdbType, long length, bool hasPrecision,
                                   long precision, bool hasLeadingPrecision, long leadingPrecision,
                                   bool hasScale, long scale, bool hasFixed, long fixed, bool isFixed,
@@ -42,7 +42,7 @@ Uve::U8CString FormatDataTypeInfo(std::shared_ptr<IUVDBObjectInfo> objectInfo, D
                                   const char* createParams, long userType);
 
 // The same facts as one string. The misspelt markers are those that the stylesheets look for.
-Uve::U8CString FormatDataTypeInfoStr(std::shared_ptr<IUVDBObjectInfo> objectInfo, DB_VERSION_INFO version,
+Uve::U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& objectInfo, DB_VERSION_INFO version,
                                      const char* name, long uvdbType, long length, bool hasPrecision,
                                      long precision, bool hasLeadingPrecision, long leadingPrecision,
                                      bool hasScale, long scale, bool hasFixed, long fixed, bool isFixed,

@@ -5,9 +5,7 @@
 #include <string_view>
 #include <thread>
 
-// NOLINTBEGIN(bugprone-reserved-identifier): names of the two libraries
 struct _xsltTransformContext;
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace Uve {
 

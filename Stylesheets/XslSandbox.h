@@ -7,10 +7,8 @@
 #include <optional>
 #include <string>
 
-// NOLINTBEGIN(bugprone-reserved-identifier): names of the two libraries
 struct _xmlDoc;
 struct _xsltTransformContext;
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace Uve {
 

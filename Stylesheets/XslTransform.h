@@ -21,11 +21,9 @@
 #include <map>
 #include <string_view>
 
-// NOLINTBEGIN(bugprone-reserved-identifier): names of the two libraries
 struct _xmlDoc;
 struct _xsltStylesheet;
 struct _xsltTransformContext;
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace Uve {
 

@@ -29,11 +29,9 @@
 #include <utility>
 #include <vector>
 
-// NOLINTBEGIN(bugprone-reserved-identifier): names of libxml2
 struct _xmlDoc;
 struct _xmlNode;
 struct _xmlNodeSet;
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace Uve {
 

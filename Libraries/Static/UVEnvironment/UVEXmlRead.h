@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-struct _xmlDoc; // NOLINT(bugprone-reserved-identifier): a name of libxml2
+struct _xmlDoc;
 
 namespace Uve {
 
