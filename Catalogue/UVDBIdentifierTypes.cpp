@@ -1,7 +1,9 @@
 #include "Catalogue/UVDBIdentifierTypes.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
+#include <span>
 #include <string_view>
 
 namespace {
@@ -64,7 +66,19 @@ static_assert(std::ranges::adjacent_find(kTypesByText, std::ranges::greater_equa
                   std::end(kTypesByText),
               "texts ascend without repeats");
 
+constexpr std::size_t kWholeObjectTypes = UVDB_DBO_EVENT + 1;
+
+constexpr int kBusinessLogicTypes[] = {UVDB_DBO_VIEW,    UVDB_DBO_STORED_PROCEDURE, UVDB_DBO_FUNCTION,
+                                       UVDB_DBO_TRIGGER, UVDB_DBO_PACKAGE,          UVDB_DBO_SCRIPT};
+
 } // namespace
+
+const char* const DBOTypes[] = {
+#define UVDB_OBJECT_TYPE(name, number, text) \
+    (number) < static_cast<int>(kWholeObjectTypes) ? (text) : nullptr,
+#include "Catalogue/UVDBIdentifierTypes.inc"
+#undef UVDB_OBJECT_TYPE
+};
 
 const char* UVDBIdentifierTypeToString(unsigned long type)
 {
@@ -76,4 +90,33 @@ int UVDBIdentifierStringToType(const Uve::U8CString& text)
     const std::string_view wanted(text);
     const auto found = std::ranges::lower_bound(kTypesByText, wanted, {}, &STypeByText::text);
     return found != std::end(kTypesByText) && found->text == wanted ? found->type : UVDB_DBO_SCRIPT;
+}
+
+const char* UVDB_DBO_TypeToString(unsigned long type)
+{
+    return type < kWholeObjectTypes ? DBOTypes[type] : "";
+}
+
+int StringToUVDB_DBO_Type(const Uve::U8CString& text)
+{
+    const std::span<const char* const> texts(DBOTypes, kWholeObjectTypes);
+    const auto found = std::ranges::find(texts, std::string_view(text));
+    return found != texts.end() ? static_cast<int>(found - texts.begin()) : kUVDBUnknownObjectType;
+}
+
+Uve::U8CString UVDBGetLogObjectName(int type)
+{
+    std::string name;
+    for (const char c : std::string_view(UVDBIdentifierTypeToString(static_cast<unsigned long>(type)))) {
+        const bool isUpper = c >= 'A' && c <= 'Z';
+        if (isUpper && !name.empty())
+            name += ' ';
+        name += isUpper ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return name;
+}
+
+bool IsBusinessLogicObject(int type)
+{
+    return std::ranges::find(kBusinessLogicTypes, type) != std::end(kBusinessLogicTypes);
 }

@@ -52,14 +52,12 @@ bool UChar::iswdigit(char32_t codePoint)
 
 bool UChar::iswalnum_l(char32_t codePoint)
 {
-    locale_t locale = newlocale(LC_CTYPE_MASK, "en_US.UTF8", nullptr);
-    if (!locale)
-        locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    if (!locale)
-        return iswalnum(codePoint);
-    const bool result = ::iswalnum_l(static_cast<wint_t>(codePoint), locale) != 0;
-    freelocale(locale);
-    return result;
+    // Made once: making one reads files.
+    static const locale_t locale = [] {
+        const locale_t english = newlocale(LC_CTYPE_MASK, "en_US.UTF8", nullptr);
+        return english ? english : newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    }();
+    return locale ? ::iswalnum_l(static_cast<wint_t>(codePoint), locale) != 0 : iswalnum(codePoint);
 }
 
 } // namespace Uve
