@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <sstream>
 
 namespace po = boost::program_options;
@@ -70,15 +71,14 @@ constexpr SCommand kCommands[] = {
 };
 // clang-format on
 
-enFormat ReadFormat(const std::string& text)
+enToolFormat ReadFormat(const std::string& text)
 {
-    if (text.empty() || text == "table")
-        return enFormat::Table;
-    if (text == "tsv")
-        return enFormat::Tsv;
-    if (text == "json")
-        return enFormat::Json;
-    throw CUsageError("--format takes table, tsv or json, not '" + text + "'");
+    if (text.empty())
+        return enToolFormat::Table;
+    const std::optional<enToolFormat> format = ReadToolFormat(text);
+    if (!format)
+        throw CUsageError("--format takes table, tsv or json, not '" + text + "'");
+    return *format;
 }
 
 // Reads what stands behind the command's name.

@@ -1,6 +1,8 @@
 // What the user asked for on uvtypes' command line.
 #pragma once
 
+#include "Tools/Support/ToolResults.h"
+
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -16,19 +18,12 @@ enum class enCommand
     Map
 };
 
-enum class enFormat
-{
-    Table,
-    Tsv,
-    Json
-};
-
 struct SCommandLine
 {
     enCommand command = enCommand::Help;
     std::string topic;                 // Help: of one command; empty: of all
     std::vector<std::string> operands; // as many as the command takes
-    enFormat format = enFormat::Table;
+    enToolFormat format = enToolFormat::Table;
     std::string from; // map
     std::string to;
     bool isAll = false;

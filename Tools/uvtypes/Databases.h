@@ -2,7 +2,9 @@
 #pragma once
 
 #include "Interfaces/DB_VERSION_INFO.h"
+#include "Tools/Support/ToolDatabaseNames.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,22 +13,15 @@ struct SMappingSheafKey;
 
 namespace uvtypes {
 
-struct SDatabase
-{
-    DB_VERSION_INFO version;
-    std::string name; // for people: "Oracle 11.2"
-};
-
-// DB[:VERSION] or DB:SUBTYPE:VERSION. A database that is offered as a service, or that shares the types of
-// another one, stands for that one's kind and subtype. Throws: CDatabaseError for names that mean nothing,
-// and for databases without a table of types.
-SDatabase ReadSource(std::string_view text);
+// ReadToolDatabase. Throws: CDatabaseError for names that mean nothing, and for databases without a table of
+// types.
+SToolDatabase ReadSource(std::string_view text);
 
 // The same for databases without a sheaf of their own.
-SDatabase ReadTarget(std::string_view text);
+SToolDatabase ReadTarget(std::string_view text);
 
 // The sheaf that serves a target.
-const SMappingSheafKey& SheafOf(const SDatabase& target);
+const SMappingSheafKey& SheafOf(const SToolDatabase& target);
 
 // "PostgreSQL 8.4", or without a version where the sheaf has none.
 std::string SheafName(const SMappingSheafKey& sheaf);

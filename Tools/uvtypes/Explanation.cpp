@@ -3,6 +3,7 @@
 #include "Catalogue/TypeMapping/MappingRegistry.h"
 #include "Catalogue/UVDBDataTypes.h"
 #include "Catalogue/UVDBTypeMapping.h"
+#include "Tools/uvtypes/Databases.h"
 
 #include <algorithm>
 
@@ -54,7 +55,7 @@ std::string RowNumber(std::span<const Row> rows, const Row* row)
                : "a row";
 }
 
-std::string RungText(const SDatabase& database, const SDataTypeParams& row)
+std::string RungText(const SToolDatabase& database, const SDataTypeParams& row)
 {
     std::string text = RowNumber(GetDBMSDataTypeParamsList(database.version), &row) + " of " + database.name +
                        ": " + row.name + Limits(row) + " is " +
@@ -68,7 +69,7 @@ std::string RungText(const SDatabase& database, const SDataTypeParams& row)
     return text;
 }
 
-std::string SheafText(const SDatabase& to)
+std::string SheafText(const SToolDatabase& to)
 {
     const SMappingSheafKey& sheaf = SheafOf(to);
     const auto count = std::count_if(kMappingSheaves.begin(), kMappingSheaves.end(),
@@ -79,7 +80,7 @@ std::string SheafText(const SDatabase& to)
     return text;
 }
 
-std::string TargetRowText(const SDatabase& to, const STypeTrail& trail)
+std::string TargetRowText(const SToolDatabase& to, const STypeTrail& trail)
 {
     const SUVDBToDBMSDataType& row = *trail.targetRow;
     std::string text = RowNumber(GetUVDBToDBMSDataTypeList(to.version), &row) +
@@ -106,10 +107,10 @@ std::string InternalTypeText(long uvdbType)
     return std::string(GetUVDBDataTypeName(uvdbType)) + " (" + std::to_string(uvdbType) + ')';
 }
 
-Details Explain(const SDatabase& from, const SDatabase& to, const SMappedType& mapped,
-                const STypeTrail& trail)
+ToolDetails Explain(const SToolDatabase& from, const SToolDatabase& to, const SMappedType& mapped,
+                    const STypeTrail& trail)
 {
-    Details details;
+    ToolDetails details;
     details.emplace_back("read",
                          mapped.source.name.c_str() + NumbersText(mapped.written, mapped.source.numbers));
     if (trail.sourceRow != nullptr)

@@ -1,14 +1,14 @@
 #include "Tools/uvtypes/Run.h"
 
 #include "Catalogue/UVDBDataTypes.h"
-#include "Tools/Support/ToolDatabase.h"
+#include "Tools/Support/ToolDatabaseNames.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
+#include "Tools/Support/ToolResults.h"
 #include "Tools/uvtypes/Capacity.h"
 #include "Tools/uvtypes/Databases.h"
 #include "Tools/uvtypes/Explanation.h"
 #include "Tools/uvtypes/TypeMap.h"
-#include "Tools/uvtypes/TypeResults.h"
 
 #include <iostream>
 #include <utility>
@@ -45,9 +45,9 @@ private:
 
     const SCommandLine& m_Line;
     CToolMessages& m_Messages;
-    const SDatabase m_From;
-    const SDatabase m_To;
-    CTypeResults m_Results;
+    const SToolDatabase m_From;
+    const SToolDatabase m_To;
+    CToolResults m_Results;
     int m_ExitCode = kToolClean;
 };
 
@@ -75,7 +75,7 @@ void CMapping::MapOne(const std::string& text, int inputLine)
     }
     const long type = mapped.target.uvdbType;
     const std::string target = mapped.target.text.c_str();
-    std::vector<Cell> cells{text, GetUVDBDataTypeName(type), static_cast<std::int64_t>(type), target};
+    std::vector<ToolCell> cells{text, GetUVDBDataTypeName(type), static_cast<std::int64_t>(type), target};
     if (m_Line.isCheck) {
         const Texts losses = Losses(CapacityOf(m_From.version, mapped.source), m_To.version, target);
         for (const std::string& loss : losses) {
@@ -85,7 +85,7 @@ void CMapping::MapOne(const std::string& text, int inputLine)
         }
         cells.emplace_back(losses);
     }
-    m_Results.Add(std::move(cells), m_Line.isExplain ? Explain(m_From, m_To, mapped, trail) : Details());
+    m_Results.Add(std::move(cells), m_Line.isExplain ? Explain(m_From, m_To, mapped, trail) : ToolDetails());
 }
 
 void CMapping::MapStandardInput()
@@ -126,20 +126,21 @@ int CMapping::Run()
     return m_ExitCode;
 }
 
-Cell OrNothing(std::int64_t number, bool isThere)
+ToolCell OrNothing(std::int64_t number, bool isThere)
 {
-    return isThere ? Cell(number) : Cell();
+    return isThere ? ToolCell(number) : ToolCell();
 }
 
 int List(const SCommandLine& line)
 {
-    const SDatabase database = ReadSource(line.operands.front());
-    CTypeResults results(line.format, {"name", "internal", "number", "size", "counts", "min_scale",
+    const SToolDatabase database = ReadSource(line.operands.front());
+    CToolResults results(line.format, {"name", "internal", "number", "size", "counts", "min_scale",
                                        "max_scale", "leading_precision", "parameters", "synonym"});
     for (const SDataTypeParams& row : GetDBMSDataTypeParamsList(database.version)) {
         const auto type = static_cast<long>(row.uvdbType);
         results.Add({std::string(row.name), std::string(GetUVDBDataTypeName(type)),
-                     static_cast<std::int64_t>(type), row.columnSize == 0 ? Cell() : Cell(row.columnSize),
+                     static_cast<std::int64_t>(type),
+                     row.columnSize == 0 ? ToolCell() : ToolCell(row.columnSize),
                      std::string(row.columnSize == 0                               ? ""
                                  : row.columnSizePurpose == UVDB_SIZE_IS_PRECISION ? "precision"
                                                                                    : "length"),
@@ -153,12 +154,13 @@ int List(const SCommandLine& line)
 
 int ListDatabases(const SCommandLine& line)
 {
-    CTypeResults results(line.format, {"name", "kind", "subtype", "types", "target_versions"});
+    CToolResults results(line.format, {"name", "kind", "subtype", "types", "target_versions"});
     for (SKnownDatabase& database : KnownDatabases())
         results.Add(
             {database.name, database.version.db,
-             database.version.subType == UVDB_NO_VERSION_WORD ? Cell() : Cell(database.version.subType),
-             database.rowCount == 0 ? Cell() : Cell(static_cast<std::uint64_t>(database.rowCount)),
+             database.version.subType == UVDB_NO_VERSION_WORD ? ToolCell()
+                                                              : ToolCell(database.version.subType),
+             database.rowCount == 0 ? ToolCell() : ToolCell(static_cast<std::uint64_t>(database.rowCount)),
              std::move(database.versions)});
     results.End();
     return kToolClean;

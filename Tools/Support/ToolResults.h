@@ -3,34 +3,47 @@
 
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolTerminal.h"
-#include "Tools/uvtypes/CommandLine.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
 
-namespace uvtypes {
+enum class enToolFormat
+{
+    Table,
+    Tsv,
+    Json
+};
+
+// The format by its name on a command line: "table", "tsv" or "json".
+std::optional<enToolFormat> ReadToolFormat(std::string_view name);
+
+// A text as a cell of TSV: \t, \n, \r and \\ for what would break a line; and back again.
+void AppendTsvText(std::string_view text, std::string& out);
+std::string TsvText(std::string_view cell);
 
 // Nothing, a number, a text, or several texts.
-using Cell =
+using ToolCell =
     std::variant<std::monostate, std::int64_t, std::uint64_t, bool, std::string, std::vector<std::string>>;
 
 // What stands below a row: a word and what there is to say.
-using Details = std::vector<std::pair<std::string, std::string>>;
+using ToolDetails = std::vector<std::pair<std::string, std::string>>;
 
 // A table has its columns aligned under a head, and details on lines of their own. TSV has a head too, cells
 // that are apart by tabs (with \t, \n, \r and \\ for what would break a line), lists parted by "; ", and
 // details in a last column "explain". JSON is an array of one object a line.
-class CTypeResults
+class CToolResults
 {
 public:
     // `columns`: the names, in lower case with "_" between words. `hasDetails`: rows may have them.
-    CTypeResults(enFormat format, std::vector<std::string> columns, bool hasDetails = false);
+    CToolResults(enToolFormat format, std::vector<std::string> columns, bool hasDetails = false);
 
     // As many cells as there are columns.
-    void Add(std::vector<Cell> cells, Details details = {});
+    void Add(std::vector<ToolCell> cells, ToolDetails details = {});
 
     // Writes the rows that were added to the standard output, if there are any. The columns of a table are as
     // wide as anything written so far. Throws: CToolFailure.
@@ -42,8 +55,8 @@ public:
 private:
     struct SRow
     {
-        std::vector<Cell> cells;
-        Details details;
+        std::vector<ToolCell> cells;
+        ToolDetails details;
     };
 
     void Write();
@@ -53,7 +66,7 @@ private:
     void AddTsvRow(const SRow& row, std::string& out) const;
     void AddJsonRow(const SRow& row, std::string& out) const;
 
-    enFormat m_Format;
+    enToolFormat m_Format;
     std::vector<std::string> m_Columns;
     bool m_HasDetails;
     std::vector<SRow> m_Rows;
@@ -63,5 +76,3 @@ private:
     CCellText m_CellText;
     COutputFile m_Output{"-"};
 };
-
-} // namespace uvtypes

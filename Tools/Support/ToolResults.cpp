@@ -1,9 +1,7 @@
-#include "Tools/uvtypes/TypeResults.h"
+#include "Tools/Support/ToolResults.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
-
-namespace uvtypes {
 
 namespace {
 
@@ -37,7 +35,7 @@ struct SJsonOf
     }
 };
 
-bool IsNumber(const Cell& cell)
+bool IsNumber(const ToolCell& cell)
 {
     return std::holds_alternative<std::int64_t>(cell) || std::holds_alternative<std::uint64_t>(cell);
 }
@@ -48,7 +46,20 @@ std::string WithBlanks(std::string name)
     return name;
 }
 
-void AppendTsv(const std::string& text, std::string& out)
+} // namespace
+
+std::optional<enToolFormat> ReadToolFormat(std::string_view name)
+{
+    if (name == "table")
+        return enToolFormat::Table;
+    if (name == "tsv")
+        return enToolFormat::Tsv;
+    if (name == "json")
+        return enToolFormat::Json;
+    return std::nullopt;
+}
+
+void AppendTsvText(std::string_view text, std::string& out)
 {
     for (const char c : text) {
         switch (c) {
@@ -70,18 +81,43 @@ void AppendTsv(const std::string& text, std::string& out)
     }
 }
 
-} // namespace
+std::string TsvText(std::string_view cell)
+{
+    std::string text;
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+        const char next = cell[i] == '\\' && i + 1 < cell.size() ? cell[i + 1] : '\0';
+        switch (next) {
+        case 't':
+            text += '\t';
+            break;
+        case 'n':
+            text += '\n';
+            break;
+        case 'r':
+            text += '\r';
+            break;
+        case '\\':
+            text += '\\';
+            break;
+        default:
+            text += cell[i];
+            continue;
+        }
+        ++i;
+    }
+    return text;
+}
 
-CTypeResults::CTypeResults(enFormat format, std::vector<std::string> columns, bool hasDetails)
+CToolResults::CToolResults(enToolFormat format, std::vector<std::string> columns, bool hasDetails)
     : m_Format(format), m_Columns(std::move(columns)), m_HasDetails(hasDetails), m_Widths(m_Columns.size())
 {}
 
-void CTypeResults::Add(std::vector<Cell> cells, Details details)
+void CToolResults::Add(std::vector<ToolCell> cells, ToolDetails details)
 {
     m_Rows.push_back({std::move(cells), std::move(details)});
 }
 
-void CTypeResults::AddTableLine(const std::vector<std::string>& texts, const std::vector<bool>& isNumber,
+void CToolResults::AddTableLine(const std::vector<std::string>& texts, const std::vector<bool>& isNumber,
                                 std::string& out) const
 {
     std::size_t blanks = 0;
@@ -100,7 +136,7 @@ void CTypeResults::AddTableLine(const std::vector<std::string>& texts, const std
     out += '\n';
 }
 
-void CTypeResults::LayOut(std::string& out)
+void CToolResults::LayOut(std::string& out)
 {
     std::vector<std::vector<std::string>> lines;
     for (const SRow& row : m_Rows) {
@@ -141,24 +177,24 @@ void CTypeResults::LayOut(std::string& out)
     }
 }
 
-void CTypeResults::AddTsvRow(const SRow& row, std::string& out) const
+void CToolResults::AddTsvRow(const SRow& row, std::string& out) const
 {
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
         if (i > 0)
             out += '\t';
-        AppendTsv(std::visit(STextOf(), row.cells[i]), out);
+        AppendTsvText(std::visit(STextOf(), row.cells[i]), out);
     }
     if (m_HasDetails) {
         std::vector<std::string> texts;
         for (const auto& [word, text] : row.details)
             texts.emplace_back(word).append(": ").append(text);
         out += '\t';
-        AppendTsv(Joined(texts), out);
+        AppendTsvText(Joined(texts), out);
     }
     out += '\n';
 }
 
-void CTypeResults::AddJsonRow(const SRow& row, std::string& out) const
+void CToolResults::AddJsonRow(const SRow& row, std::string& out) const
 {
     nlohmann::ordered_json object = nlohmann::ordered_json::object();
     for (std::size_t i = 0; i < row.cells.size(); ++i)
@@ -172,21 +208,21 @@ void CTypeResults::AddJsonRow(const SRow& row, std::string& out) const
     out += object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
-void CTypeResults::Flush()
+void CToolResults::Flush()
 {
     if (!m_Rows.empty())
         Write();
 }
 
-void CTypeResults::Write()
+void CToolResults::Write()
 {
     std::string out;
     switch (m_Format) {
-    case enFormat::Table:
+    case enToolFormat::Table:
         if (!m_Rows.empty())
             LayOut(out);
         break;
-    case enFormat::Tsv:
+    case enToolFormat::Tsv:
         if (!std::exchange(m_HasHead, true)) {
             for (const std::string& column : m_Columns)
                 out.append(out.empty() ? "" : "\t").append(column);
@@ -195,7 +231,7 @@ void CTypeResults::Write()
         for (const SRow& row : m_Rows)
             AddTsvRow(row, out);
         break;
-    case enFormat::Json:
+    case enToolFormat::Json:
         if (!std::exchange(m_HasHead, true))
             out += '[';
         for (const SRow& row : m_Rows) {
@@ -209,13 +245,11 @@ void CTypeResults::Write()
     m_Output.Close();
 }
 
-void CTypeResults::End()
+void CToolResults::End()
 {
     Write();
-    if (m_Format == enFormat::Json) {
+    if (m_Format == enToolFormat::Json) {
         m_Output.Write("\n]\n");
         m_Output.Close();
     }
 }
-
-} // namespace uvtypes
