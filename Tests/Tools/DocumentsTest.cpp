@@ -164,4 +164,10 @@ TEST(Documents, TypesWorkWhenFollowedToTheLetter)
     Follow("Types.md", {"uvtypes"}, 6);
 }
 
+TEST(Documents, NamesWorkWhenFollowedToTheLetter)
+{
+    Follow("Names.md", {"uvnames"}, 5);
+    Follow("NamesExample.md", {"uvnames"}, 6);
+}
+
 } // namespace

@@ -1,0 +1,352 @@
+#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/UVDBReservedWords.h"
+#include "Tests/Support/ProgramFixture.h"
+#include "Tools/uvnames/MarkupText.h"
+#include "Tools/uvnames/NameMapping.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+#include <libxml/xpath.h>
+
+#include <algorithm>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts Split(const std::string& text, char separator)
+{
+    Texts parts;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);)
+        parts.push_back(part);
+    return parts;
+}
+
+// Of a TSV result: the rows behind the head, as cells.
+std::vector<Texts> Rows(const std::string& tsv)
+{
+    std::vector<Texts> rows;
+    for (const std::string& line : Split(tsv, '\n'))
+        rows.push_back(Split(line, '\t'));
+    if (!rows.empty())
+        rows.erase(rows.begin());
+    return rows;
+}
+
+class Uvnames : public CProgramFixture
+{
+protected:
+    Uvnames() : CProgramFixture("uvnames") {}
+
+    SRunResult Convert(const std::string& from, const std::string& to, const std::string& rest = "") const
+    {
+        return Run("--from '" + from + "' --to '" + to + "' " + rest);
+    }
+
+    // The targets of the lines in "in".
+    Texts Targets(const std::string& from, const std::string& to, const std::string& rest = "") const
+    {
+        Texts targets;
+        for (const Texts& row : Rows(Convert(from, to, "--format tsv " + rest).out))
+            targets.push_back(row.size() > 2 ? row[2] : "");
+        return targets;
+    }
+};
+
+TEST_F(Uvnames, ATableIsForReading)
+{
+    Put("in", "Table\t\tdbo\tOrder Items\nTable\t\tdbo\tPlain\n");
+    const SRunResult run = Convert("MSSQL", "PostgreSQL");
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "type   source           target           reasons\n"
+                       "-----  ---------------  ---------------  ----------------------\n"
+                       "Table  dbo.Order Items  dbo.Order_Items  Not allowed characters\n"
+                       "Table  dbo.Plain        dbo.Plain\n");
+    EXPECT_EQ(Split(Convert("MSSQL", "PostgreSQL", "--changed").out, '\n').size(), 3u);
+}
+
+TEST_F(Uvnames, AllFormatsSayTheSame)
+{
+    Put("in",
+        "type\tserver\tschema\tobject\tsub\nTable\t\tsales\tOrder Items\nColumn\t\tsales\tOrder Items\t1st\n"
+        "Index\t\tsales\tt\ta_very_long_name_for_an_index_of_oracle\n");
+    const std::vector<Texts> rows = Rows(Convert("MSSQL", "Oracle:11.2", "--format tsv").out);
+    const nlohmann::json objects =
+        nlohmann::json::parse(Convert("MSSQL", "Oracle:11.2", "--format json").out);
+    ASSERT_EQ(rows.size(), 3u);
+    ASSERT_EQ(objects.size(), 3u);
+    const Texts columns{"type", "source", "target", "target_schema", "target_object", "target_sub", "script"};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_EQ(rows[i].size(), columns.size() + 1);
+        for (std::size_t column = 0; column < columns.size(); ++column)
+            EXPECT_EQ(objects[i][columns[column]], rows[i][column]);
+        std::string reasons;
+        for (const nlohmann::json& reason : objects[i]["reasons"])
+            reasons += (reasons.empty() ? "" : "; ") + reason.get<std::string>();
+        EXPECT_EQ(reasons, rows[i].back());
+        EXPECT_NE(reasons, "") << rows[i][1];
+    }
+    EXPECT_EQ(rows[0][3], "sales");
+    EXPECT_EQ(rows[0][4], "Order_Items");
+    EXPECT_EQ(rows[1][5], "x1st");
+    EXPECT_EQ(rows[2][5], "a_very_long_name_for_an_index_");
+}
+
+TEST_F(Uvnames, NamesAreUniqueAndStayTheSame)
+{
+    Put("in", "Table\t\ts\ta b\nTable\t\ts\ta-b\nView\t\ts\ta_b\nTable\t\ts\ta b\nTable\t\tother\ta b\n");
+    EXPECT_THAT(Targets("MSSQL", "PostgreSQL"),
+                ElementsAre("s.a_b", "s.a_b2", "s.a_b3", "s.a_b", "other.a_b"));
+}
+
+TEST_F(Uvnames, ASchemaIsCalledAsInTheNamesInIt)
+{
+    Put("in", "Table\t\tsales 1\tt\nschema\t\tsales-1\nschema\t\tsales 1\nTable\t\tsales-1\tt\n");
+    EXPECT_THAT(Targets("MSSQL", "PostgreSQL"),
+                ElementsAre("sales_1.t", "sales_12", "sales_1", "sales_12.t"));
+    EXPECT_THAT(Targets("MSSQL", "PostgreSQL", "-o EMPTY_SCHEMA=1"), ElementsAre("t", "", "", "t2"));
+    EXPECT_THAT(Targets("MSSQL", "PostgreSQL", "--schema one"), ElementsAre("one.t", "one", "one", "one.t2"));
+}
+
+TEST_F(Uvnames, LinesAreReadAsTheyAreWritten)
+{
+    Put("in", "\xEF\xBB\xBFtable\t\ts\tback\\\\slash\r\n\n \t "
+              "\n0\t\t\tonly\nUserAccount\t\t\tu\nUSERACOUNT\t\t\tu2\n"
+              "Table\t\t\tt1\t\ttemp\nTable\t\t\ttab\\there");
+    const std::vector<Texts> rows = Rows(Convert("Oracle", "MSSQL", "--format tsv").out);
+    ASSERT_EQ(rows.size(), 6u);
+    EXPECT_EQ(rows[0][1], "s.back\\\\slash") << "one backslash, written as two";
+    EXPECT_EQ(rows[0][2], "s.back_slash");
+    EXPECT_EQ(rows[1][0], "Table");
+    EXPECT_EQ(rows[2][0], "UserAcount");
+    EXPECT_EQ(rows[3][0], "UserAcount");
+    EXPECT_EQ(rows[4][2], "#t1");
+    EXPECT_THAT(rows[4].back(), HasSubstr("Temporary table"));
+    EXPECT_EQ(rows[5][1], "tab\\there");
+
+    Put("names.tsv", "Table\t\t\tfrom_file\n");
+    EXPECT_THAT(Targets("Oracle", "MSSQL", "names.tsv"), ElementsAre("from_file"));
+}
+
+TEST_F(Uvnames, LinesThatAreNoNamesAreNamed)
+{
+    Put("in", "Tabel\t\t\tt\nTable\t\t\tt\t\t\tx\nColumn\t\ts\t\tc\n99\t\t\tt\nTable\t\t\tgood\n"
+              "Column\t\ts\tt\n");
+    const SRunResult run = Convert("Oracle", "PostgreSQL", "--format tsv");
+    EXPECT_EQ(run.code, 1);
+    const Texts messages = Split(run.err, '\n');
+    ASSERT_EQ(messages.size(), 5u) << run.err;
+    EXPECT_THAT(messages[0], StartsWith("<stdin>:1: error: there is no type 'Tabel'"));
+    EXPECT_THAT(messages[1], StartsWith("<stdin>:2: error: more than 6 fields"));
+    EXPECT_THAT(messages[2], StartsWith("<stdin>:3: error: a name of type Column needs"));
+    EXPECT_THAT(messages[3], StartsWith("<stdin>:4: error: there is no type '99'"));
+    EXPECT_THAT(messages[4], StartsWith("<stdin>:6: error: a name of this type is a sub-object"));
+    ASSERT_EQ(Rows(run.out).size(), 1u);
+}
+
+TEST_F(Uvnames, OptionsChangeTheRules)
+{
+    Put("in", "Column\t\ts\tt\tUnit Price\n");
+    const auto targets = [&](const std::string& options) { return Targets("MSSQL", "PostgreSQL", options); };
+    EXPECT_THAT(targets(""), ElementsAre("s.t.Unit_Price"));
+    EXPECT_THAT(targets("-o COLUMN_NAME_CASE=2"), ElementsAre("s.t.unit_price"));
+    EXPECT_THAT(targets("-o REPLACE_NOT_ALLOWED_CHARS=__"), ElementsAre("s.t.Unit__Price"));
+    EXPECT_THAT(targets("-o REPLACE_NOT_ALLOWED_CHARS="), ElementsAre("s.t.UnitPrice"));
+    EXPECT_THAT(targets("-o REPLACE_NOT_ALLOWED_CHARS= -o REMOVE_NOT_ALLOWED_CHARS=0"),
+                ElementsAre("s.t.Unit Price"));
+    EXPECT_THAT(targets("--schema public -o EMPTY_SCHEMA=0"), ElementsAre("public.t.Unit_Price"));
+    EXPECT_THAT(targets("-o EMPTY_SCHEMA=1"), ElementsAre("t.Unit_Price"));
+}
+
+TEST_F(Uvnames, ScriptsQuoteWhatOptionsAskFor)
+{
+    Put("in", "Table\t\ts\tOrders\n");
+    const auto scripts = [&](const std::string& to, const std::string& option) {
+        return Rows(Convert("MSSQL", to, "--format tsv -o " + option).out).at(0).at(6);
+    };
+    EXPECT_EQ(scripts("PostgreSQL", "EMPTY_SCHEMA=0"), "s.Orders");
+    EXPECT_EQ(scripts("PostgreSQL", "QUOTE_IDENTIFIERS=1"), "\"s\".\"Orders\"");
+    EXPECT_EQ(scripts("PostgreSQL", "CASE_SENSITIVE_COLLATION=1"), "s.\"Orders\"");
+    EXPECT_EQ(scripts("SAP HANA", "SAPHANA_QUOTED_IDENTIFIERS=1"), "\"s\".\"Orders\"");
+}
+
+struct SXmlFree
+{
+    void operator()(xmlDocPtr document) const { xmlFreeDoc(document); }
+    void operator()(xmlXPathContextPtr context) const { xmlXPathFreeContext(context); }
+    void operator()(xmlXPathObjectPtr object) const { xmlXPathFreeObject(object); }
+};
+
+// The text that an XPath expression gives; nothing if the text is no XML.
+std::string XPathText(const std::string& xml, const std::string& expression)
+{
+    const std::unique_ptr<xmlDoc, SXmlFree> document(xmlReadMemory(
+        xml.data(), static_cast<int>(xml.size()), "", nullptr, XML_PARSE_NONET | XML_PARSE_NOERROR));
+    if (!document)
+        return "no XML";
+    const std::unique_ptr<xmlXPathContext, SXmlFree> context(xmlXPathNewContext(document.get()));
+    const std::string text = "string(" + expression + ")";
+    const std::unique_ptr<xmlXPathObject, SXmlFree> result(
+        xmlXPathEvalExpression(reinterpret_cast<const xmlChar*>(text.c_str()), context.get()));
+    return reinterpret_cast<const char*>(result->stringval);
+}
+
+TEST_F(Uvnames, ReportIsXmlWhateverNamesHold)
+{
+    Put("in", "Table\t\ts\ta<b>&\"c\"\nTable\t\ts\tplain\nTable\t\ts\tbad\x01\xFF\nColumn\t\ts\tplain\td e\n"
+              "Table\t\ts\ta<b>&\"c\"\n");
+    ASSERT_EQ(Convert("MSSQL", "PostgreSQL", "--report names.xml").code, 0);
+    const std::string report = Get("names.xml");
+    EXPECT_EQ(XPathText(report, "count(/IdentifierNames/Identifier)"), "4") << report;
+    const std::string odd = "/IdentifierNames/Identifier[@source='a<b>&\"c\"']";
+    EXPECT_EQ(XPathText(report, odd + "/@target"), "a_b___c_");
+    EXPECT_EQ(XPathText(report, odd + "/@reason"), "Not allowed characters ");
+    EXPECT_EQ(XPathText(report, odd + "/@table"), "s");
+    EXPECT_EQ(XPathText(report, "/IdentifierNames/Identifier[@type='Column']/@table"), "s.plain");
+}
+
+TEST_F(Uvnames, PageShowsEveryNameAndAFilterForEveryReason)
+{
+    Put("in", "Table\t\ts\t<script>alert('x')</script>\nTable\t\ts\tplain\nTable\t\ts\ta b\nTable\t\ts\ta-b\n"
+              "Table\t\ts\torder\n");
+    ASSERT_EQ(Convert("MSSQL", "PostgreSQL", "--html names.html").code, 0);
+    const std::string page = Get("names.html");
+    EXPECT_THAT(page, HasSubstr("<title>Names from Microsoft SQL Server to PostgreSQL</title>"));
+    EXPECT_THAT(page, HasSubstr("&lt;script&gt;alert(&apos;x&apos;)&lt;/script&gt;"));
+    EXPECT_THAT(page, Not(HasSubstr("<script>alert")));
+    EXPECT_THAT(page, HasSubstr("5 names, 3 changed"));
+    EXPECT_THAT(page, HasSubstr("value=\"Not allowed characters\"> Not allowed characters (3)"));
+    EXPECT_THAT(page, HasSubstr("value=\"Made unique\"> Made unique (1)"));
+    EXPECT_THAT(page, HasSubstr("value=\"Unchanged\"> Unchanged (1)"));
+    EXPECT_THAT(page, HasSubstr("value=\"Quoted in scripts\"> Quoted in scripts (1)"));
+    EXPECT_THAT(page, HasSubstr("data-reasons=\"Not allowed characters|Made unique\""));
+}
+
+TEST_F(Uvnames, ExplanationWalksTheSteps)
+{
+    const SRunResult run =
+        Convert("MSSQL", "PostgreSQL", "--explain 'dbo.[Order Items].[1st]' --type column");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("dbo.Order_Items.x1st"));
+    EXPECT_THAT(run.out, HasSubstr("object        characters that the target doesn't allow: "
+                                   "'Order Items' becomes 'Order_Items'"));
+    EXPECT_THAT(run.out, HasSubstr("sub-object    it may not begin so: '1st' becomes 'x1st'"));
+    EXPECT_THAT(run.out, HasSubstr("the limit of PostgreSQL is 63 bytes"));
+
+    const SRunResult cut = Convert("DB2", "Oracle:11.2", "--explain ACCOUNTS_OF_THE_CUSTOMERS_OF_2020");
+    EXPECT_THAT(cut.out, HasSubstr("too long: 'ACCOUNTS_OF_THE_CUSTOMERS_OF_2020' becomes "
+                                   "'ACCOUNTS_OF_THE_CUSTOMERS_OF_2'"));
+    EXPECT_THAT(Convert("Oracle", "MSSQL", "--explain SCOTT.SELECT").out,
+                HasSubstr("'SELECT' is a reserved word of Microsoft SQL Server"));
+}
+
+TEST_F(Uvnames, WordsAndLimitsAreThoseOfTheDatabase)
+{
+    const std::vector<Texts> words = Rows(Run("words PostgreSQL --format tsv").out);
+    EXPECT_EQ(words.size(), GetReservedWords({.db = 8}).size());
+    EXPECT_THAT(words, Contains(ElementsAre("SELECT")));
+    EXPECT_EQ(Rows(Run("words MariaDB --format tsv").out).size(),
+              GetReservedWords({.db = 5, .subType = 1}).size());
+
+    const std::vector<Texts> limits = Rows(Run("limits Oracle:11.2 --format tsv").out);
+    EXPECT_THAT(limits, Contains(ElementsAre("longest Table", "30")));
+    EXPECT_THAT(limits, Contains(ElementsAre("marks inside", "#$_")));
+    EXPECT_THAT(limits, Contains(ElementsAre("digit first", "no")));
+    EXPECT_THAT(limits, Contains(ElementsAre("quotes", "\"\"")));
+    EXPECT_THAT(Rows(Run("limits Oracle:12.2 --format tsv").out),
+                Contains(ElementsAre("longest Table", "128")));
+}
+
+// A program that writes a name and waits for what it is called.
+TEST_F(Uvnames, EachLineIsAnsweredBeforeTheNextIsThere)
+{
+    Put("ask.sh", "rm -f asked answers\nmkfifo asked\n"
+                  "\"$1\" --from Oracle --to MySQL --format tsv - <asked >answers &\nexec 3>asked\n"
+                  "for name in first second; do\n printf 'Table\\t\\t\\t%s\\n' $name >&3\n tries=0\n"
+                  " until grep -q $name answers; do\n  tries=$((tries + 1))\n  [ $tries -lt 200 ] || exit 1\n"
+                  "  sleep 0.05\n done\ndone\nexec 3>&-\nwait $!\n");
+    EXPECT_EQ(RunProgram("/bin/sh", "ask.sh '" UV_BIN_DIR "/uvnames'").code, 0);
+}
+
+struct SRefusal
+{
+    const char* arguments;
+    const char* message;
+};
+
+TEST_F(Uvnames, WhatCantBeDoneIsSaid)
+{
+    const SRefusal refusals[] = {
+        {"", "--from and --to are needed"},
+        {"--from Oracle", "--from and --to are needed"},
+        {"--from Orcle --to MySQL", "no database is called 'Orcle'; did you mean"},
+        {"--from Oracle --to MySQL a b", "one file of names"},
+        {"--from Oracle --to MySQL missing.tsv", "missing.tsv: "},
+        {"--from Oracle --to MySQL .", ".: "},
+        {"--from Oracle --to MySQL --format xml", "--format takes table, tsv or json, not 'xml'"},
+        {"--from Oracle --to MySQL -o EMPTY_SCHEMA", "'EMPTY_SCHEMA' is no NAME=VALUE"},
+        {"--from Oracle --to MySQL -o EMPTY_SHEMA=1", "did you mean 'EMPTY_SCHEMA'"},
+        {"--from Oracle --to MySQL -o both:EMPTY_SCHEMA=1", "there is no option 'both:EMPTY_SCHEMA'"},
+        {"--from Oracle --to MySQL --type Table", "--type belongs to --explain"},
+        {"--from Oracle --to MySQL --explain t --type Tabel", "there is no type 'Tabel'"},
+        {"--from Oracle --to MySQL --explain t --html x.html", "--explain tells of one name"},
+        {"--from Oracle --to MySQL --html x ./x", "'x' can't be two files at once"},
+        {"--from Oracle --to MySQL --html x --report x", "'x' can't be two files at once"},
+        {"--from Oracle --to MySQL --html missing/x.html", "missing/x.html: "},
+        {"--from Oracle --to MySQL --report missing/x.xml", "missing/x.xml: "},
+        {"words", "usage: uvnames words DB"},
+        {"limits Oracle MySQL", "usage: uvnames limits DB"},
+        {"words Oracle --changed", "'words' takes a database and --format"},
+    };
+    for (const SRefusal& refusal : refusals) {
+        SCOPED_TRACE(refusal.arguments);
+        const SRunResult run = Run(refusal.arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_THAT(run.err, StartsWith("uvnames: error: "));
+        EXPECT_THAT(run.err, HasSubstr(refusal.message));
+        EXPECT_EQ(Rows(run.out).size(), 0u);
+    }
+    EXPECT_THAT(Run("--help").out, HasSubstr("REPLACE_NOT_ALLOWED_CHARS=_\n"));
+    EXPECT_THAT(Run("--version").out, StartsWith("uvnames "));
+}
+
+TEST(UvnamesParts, TypesAreNumbersOrTexts)
+{
+    const std::pair<const char*, long> known[] = {
+        {"Table", 0},   {"COLUMN", 17}, {"useraccount", 4}, {"-1", -1},
+        {"schema", 36}, {"17", 17},     {"UserAcount", 4},  {"Physical File Key", 34}};
+    for (const auto& [text, type] : known)
+        EXPECT_EQ(uvnames::ReadNameType(text), type) << text;
+    for (const char* text : {"", "Tables", "43", "-2", "17x", " Table"})
+        EXPECT_EQ(uvnames::ReadNameType(text), std::nullopt) << text;
+}
+
+TEST(UvnamesParts, MarkupHoldsAnyBytes)
+{
+    EXPECT_EQ(uvnames::MarkupText("a<&>\"é"), "a&lt;&amp;&gt;&quot;é");
+    EXPECT_EQ(uvnames::MarkupText("a\tb\x01"), "a&#9;b\xEF\xBF\xBD");
+    EXPECT_EQ(uvnames::MarkupText("\x0c\x10"), "\xEF\xBF\xBD\xEF\xBF\xBD"); // a name keeps its length
+    EXPECT_EQ(uvnames::MarkupText("<\xFF>"), "&lt;\xEF\xBF\xBD&gt;");
+}
+
+TEST(UvnamesParts, ReasonsThatShareATextAreToldOnce)
+{
+    EXPECT_THAT(uvnames::ReasonTexts(1 | 64 | 256), ElementsAre("Omit schema option", "Quoted by Orvanta"));
+    EXPECT_THAT(uvnames::ReasonTexts(0), ElementsAre());
+}
+
+} // namespace

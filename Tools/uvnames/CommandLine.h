@@ -1,0 +1,51 @@
+// What the user asked for on uvnames' command line.
+#pragma once
+
+#include "Tools/Support/ToolResults.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace uvnames {
+
+enum class enCommand
+{
+    Help,
+    Version,
+    Convert,
+    Explain,
+    Words,
+    Limits
+};
+
+struct SCommandLine
+{
+    enCommand command = enCommand::Help;
+    enToolFormat format = enToolFormat::Table;
+    std::string database; // words, limits
+    std::string from;     // convert, explain
+    std::string to;
+    std::vector<std::string> options; // NAME=VALUE
+    std::string schema;
+    std::string input = "-";
+    std::string reportFile; // empty: none is wanted
+    std::string htmlFile;
+    std::string explained; // a name of the source
+    std::string type;      // of that name
+    bool isChangedOnly = false;
+};
+
+// The command line makes no sense; the text says why.
+class CUsageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws: CUsageError.
+SCommandLine ReadCommandLine(int argc, const char* const* argv);
+
+std::string HelpText();
+
+} // namespace uvnames
