@@ -10,19 +10,25 @@
 
 namespace {
 
-// Between the parts of a name in a record. A dot wouldn't do: names may hold some.
+// Between the parts of a name in a record. A dot wouldn't do: names may hold some. They may hold anything, so
+// these two stand for themselves behind the second.
 constexpr char kPartSeparator = '\x1F';
+constexpr char kEscape = '\x1E';
 
 // Kinds of routines that a 4GL program doesn't tell apart.
 constexpr int kRoutineTypes[] = {UVDB_DBO_FUNCTION, UVDB_DBO_TRIGGER, UVDB_DBO_PACKAGE};
 
 Uve::U8CString JoinParts(const std::vector<Uve::U8CString>& parts)
 {
-    Uve::U8CString text;
+    std::string text;
     for (const Uve::U8CString& part : parts) {
         if (&part != &parts.front())
             text += kPartSeparator;
-        text += part;
+        for (const char c : part) {
+            if (c == kPartSeparator || c == kEscape)
+                text += kEscape;
+            text += c;
+        }
     }
     return text;
 }
@@ -30,10 +36,17 @@ Uve::U8CString JoinParts(const std::vector<Uve::U8CString>& parts)
 std::vector<Uve::U8CString> CutParts(const Uve::U8CString& text)
 {
     std::vector<Uve::U8CString> parts;
-    std::size_t at = 0;
-    for (std::size_t end; (end = text.find(kPartSeparator, at)) != std::string::npos; at = end + 1)
-        parts.emplace_back(text.data() + at, end - at);
-    parts.emplace_back(text.data() + at, text.size() - at);
+    std::string part;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == kPartSeparator) {
+            parts.emplace_back(std::exchange(part, {}));
+            continue;
+        }
+        if (text[at] == kEscape && at + 1 < text.size())
+            ++at;
+        part += text[at];
+    }
+    parts.emplace_back(std::move(part));
     return parts;
 }
 
