@@ -156,11 +156,12 @@ U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& objectInfo,
     return FormatDataTypeInfo(objectInfo, version, type, mode);
 }
 
-U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& /*objectInfo*/, DB_VERSION_INFO version, const char* name,
-                                long uvdbType, long length, bool hasPrecision, long precision,
-                                bool hasLeadingPrecision, long leadingPrecision, bool hasScale, long scale,
-                                bool hasFixed, long fixed, bool isFixed, bool hasLength, bool isUnsignedValid,
-                                bool isUnsigned, const char* createParams)
+U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& /*objectInfo*/,
+                                DB_VERSION_INFO version, const char* name, long uvdbType, long length,
+                                bool hasPrecision, long precision, bool hasLeadingPrecision,
+                                long leadingPrecision, bool hasScale, long scale, bool hasFixed, long fixed,
+                                bool isFixed, bool hasLength, bool isUnsignedValid, bool isUnsigned,
+                                const char* createParams)
 {
     const SDataTypeElement type = TypeOf(name, uvdbType, length, hasPrecision, precision, hasLeadingPrecision,
                                          leadingPrecision, hasScale, scale, hasFixed, fixed, isFixed,

@@ -42,12 +42,12 @@ Uve::U8CString FormatDataTypeInfo(const std::shared_ptr<IUVDBObjectInfo>& object
                                   const char* createParams, long userType);
 
 // The same facts as one string. The misspelt markers are those that the stylesheets look for.
-Uve::U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& objectInfo, DB_VERSION_INFO version,
-                                     const char* name, long uvdbType, long length, bool hasPrecision,
-                                     long precision, bool hasLeadingPrecision, long leadingPrecision,
-                                     bool hasScale, long scale, bool hasFixed, long fixed, bool isFixed,
-                                     bool hasLength, bool isUnsignedValid, bool isUnsigned,
-                                     const char* createParams);
+Uve::U8CString FormatDataTypeInfoStr(const std::shared_ptr<IUVDBObjectInfo>& objectInfo,
+                                     DB_VERSION_INFO version, const char* name, long uvdbType, long length,
+                                     bool hasPrecision, long precision, bool hasLeadingPrecision,
+                                     long leadingPrecision, bool hasScale, long scale, bool hasFixed,
+                                     long fixed, bool isFixed, bool hasLength, bool isUnsignedValid,
+                                     bool isUnsigned, const char* createParams);
 
 // Appends to `out` the element of a row of the mapping, with what the type tables of `version` know of its
 // name.
