@@ -105,8 +105,8 @@ private:
 Uve::U8CString CNormalizeName::CFreeNameSearch::KeyPart(const Uve::U8CString& part, int type) const
 {
     Uve::U8CString marks;
-    const Uve::U8CString written = m_Normaliser.WriteName(
-        part, static_cast<unsigned long>(type), m_Normaliser.m_Target.get(), m_Target, 0, false, marks);
+    Uve::U8CString written = m_Normaliser.WriteName(part, static_cast<unsigned long>(type),
+                                                    m_Normaliser.m_Target.get(), m_Target, 0, false, marks);
     // The rule of case takes texts that end at a zero, where all numbers would be cut off.
     if (written.find('\0') != std::string::npos)
         return written;
