@@ -1,5 +1,5 @@
 #include "Grammar/UVGrammarKeeper.h"
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEUnicodeString.h"

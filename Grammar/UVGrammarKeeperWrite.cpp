@@ -1,6 +1,6 @@
 #include "Grammar/UVGrammarKeeper.h"
 #include "Grammar/UVGrammarKeeperText.h"
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 

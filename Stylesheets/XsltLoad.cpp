@@ -1,7 +1,7 @@
 #include "Stylesheets/XsltLoad.h"
 
 #include "Interfaces/UVDBResults.h"
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/LogSystem.h"
 

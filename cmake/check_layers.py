@@ -39,6 +39,7 @@ FLOORS = [
                 "Catalogue/UVDBVersionRange.*",
             ],
         ),
+        ("archive", ["Stylesheets/Archive/*"]),
     ],
     [
         (

@@ -1,5 +1,5 @@
 #include "Grammar/UVGrammarKeeper.h"
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "Tests/Grammar/GrammarKeeperFiles.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 

@@ -1,4 +1,4 @@
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 
 #include "Tests/Support/ScratchFolder.h"
 #include "UVEnvironment/FileHelper.h"

@@ -1,6 +1,6 @@
 #include "Stylesheets/XsltLoad.h"
 
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "Tests/Support/MemoryLog.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "UVEnvironment/FileHelper.h"

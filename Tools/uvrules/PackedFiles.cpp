@@ -1,6 +1,6 @@
 #include "Tools/uvrules/PackedFiles.h"
 
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvrules/BadInput.h"

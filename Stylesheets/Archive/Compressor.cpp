@@ -1,4 +1,4 @@
-#include "Stylesheets/Compressor.h"
+#include "Stylesheets/Archive/Compressor.h"
 
 #include "UVEnvironment/FileHelper.h"
 
