@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <map>
 #include <system_error>
 
 namespace {
@@ -36,6 +37,16 @@ void RefuseForeignFiles(const fs::path& path)
     }
 }
 
+// Every file of a directory by its path from there, with its bytes.
+std::map<std::string, std::string> ReadFiles(const fs::path& directory)
+{
+    std::map<std::string, std::string> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory))
+        if (entry.is_regular_file())
+            files[fs::relative(entry.path(), directory)] = ReadWholeFile(entry.path());
+    return files;
+}
+
 fs::path Resolved(const std::string& path)
 {
     // A link to a directory stays, what it leads to is replaced.
@@ -65,6 +76,9 @@ CTableDirectory::CTableDirectory(const std::string& path)
 
 void CTableDirectory::Commit()
 {
+    // Tables that say the same stay as they are, for whoever goes by their dates.
+    if (fs::is_directory(m_Path) && ReadFiles(m_Path) == ReadFiles(m_New))
+        return;
     // The old tables come to stand in the sibling and go with it.
     if (renameat2(AT_FDCWD, m_New.c_str(), AT_FDCWD, m_Path.c_str(), RENAME_EXCHANGE) == 0)
         return;

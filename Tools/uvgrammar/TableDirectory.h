@@ -17,7 +17,7 @@ public:
     // Where to write, with a slash at its end.
     std::string NewPath() const { return m_New + '/'; }
 
-    // Puts the new directory in the place of the old one.
+    // Puts the new directory in the place of the old one, unless both hold the same files.
     // Throws: CToolFailure; the old one stands then.
     void Commit();
 
