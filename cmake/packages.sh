@@ -7,7 +7,7 @@
 set -euo pipefail
 
 build=(
-    g++ cmake ninja-build flex bison
+    g++ cmake lld ninja-build flex bison
     libboost-dev libboost-filesystem-dev libboost-program-options-dev libboost-regex-dev libboost-system-dev
     libxml2-dev libxslt1-dev zlib1g-dev libpcre3-dev libutfcpp-dev nlohmann-json3-dev
     libbenchmark-dev
