@@ -11,7 +11,7 @@
 #include "Parser/UVParserFormatters.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"
-#include "Parser/UVUnexpectedTokens.h"
+#include "Parser/UVParserReports.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-#include "Parser/UVUnexpectedTokens.h"
+#include "Parser/UVParserReports.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "Parser/UVUnexpectedTokens.h"
+#include "Parser/UVParserReports.h"
 #include "Tests/Parser/ParserFixture.h"
 
 namespace {
