@@ -39,6 +39,13 @@ void ScriptFormatter::Take(SPreparedText prepared)
 {
     m_Parser.set_Query(prepared.text.c_str());
     m_Parser.m_SourceLines = std::move(prepared.sourceLines);
+    TakeNotes(std::move(prepared.notes));
+}
+
+void ScriptFormatter::TakeNotes(std::vector<SPreparationNote> notes)
+{
+    if (!m_Parser.m_IsSecondAttempt)
+        m_Parser.m_PreparationNotes = std::move(notes);
 }
 
 void ScriptFormatter::FormatCPP()

@@ -3,8 +3,11 @@
 // plain functions in Preparation/.
 #pragma once
 
+#include "Preparation/PreparedText.h"
+
+#include <vector>
+
 class CUVDBSQLParser;
-struct SPreparedText;
 
 class ScriptFormatter
 {
@@ -31,6 +34,7 @@ private:
     template <class T>
     T ObjectOption(const char* name, T value) const;
     void Take(SPreparedText prepared);
+    void TakeNotes(std::vector<SPreparationNote> notes);
 
     CUVDBSQLParser& m_Parser;
 };

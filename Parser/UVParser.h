@@ -11,6 +11,7 @@
 #include "Grammar/UVGrammarParser.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
+#include "Preparation/PreparedText.h"
 #include "Preparation/Preprocessor.h"
 #include "Stylesheets/Resources.h"
 #include "UVEnvironment/UVEUnicodeString.h"
@@ -40,8 +41,9 @@ public:
     //     REPORT_UNEXPECTED_TOKENS "1"  a parse that got as far as the database info leaves the list of
     //                                   FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS
     //     REPORT_PREPARED_LINES "1"     likewise FormatPreparedLines in the text option PREPARED_LINES, and
-    //     the
-    //                                   name of the preparation pass in PREPARED_BY, empty if there was none
+    //                                   the name of the preparation pass in PREPARED_BY, empty if there was
+    //                                   none
+    //     REPORT_PREPARATION_NOTES "1"  likewise FormatPreparationNotes in the text option PREPARATION_NOTES
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     int Parse(bool showErrors) override;
 
@@ -117,6 +119,7 @@ protected:
     bool IsOptionSet(const char* name) const;
     int ReportUnexpectedTokens();
     int ReportPreparedLines();
+    int ReportPreparationNotes();
 
     // ---- Errors ----
 
@@ -148,6 +151,8 @@ protected:
     std::shared_ptr<Preprocessor> m_Preprocessor;
     std::vector<std::uint32_t> m_SourceLines; // of the prepared query; empty if no pass kept them
     const char* m_PreparedBy = "";
+    // Of the first attempt: the second one prepares a prepared text.
+    std::vector<SPreparationNote> m_PreparationNotes;
     std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
 
 private:

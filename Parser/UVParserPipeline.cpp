@@ -10,10 +10,11 @@
 #include "Parser/UVParser.h"
 #include "Parser/UVParserFormatters.h"
 #include "Parser/UVParserGuard.h"
-#include "Parser/UVParserText.h"
 #include "Parser/UVParserReports.h"
+#include "Parser/UVParserText.h"
 #include "UVEnvironment/LogSystem.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -89,9 +90,7 @@ int CUVDBSQLParser::Parse(bool showErrors)
     const int result = GuardEdge([&] { return ParseQuery(showErrors); });
     // A host that asked for the list takes a missing one for a clean parse.
     const int reported = GuardEdge([&] {
-        const int lines = ReportPreparedLines();
-        const int tokens = ReportUnexpectedTokens();
-        return lines < UVDB_OK ? lines : tokens;
+        return std::min({ReportPreparedLines(), ReportPreparationNotes(), ReportUnexpectedTokens()});
     });
     return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
 }
@@ -100,6 +99,7 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
 {
     CLogWrapper::WriteTraceF("\nParsing...");
     m_LastError = std::make_shared<CUVDBErrorInfo>();
+    m_PreparationNotes.clear();
     if (m_Parser) {
         m_Parser->m_Extension.m_mapErrors.clear();
         m_Parser->m_Extension.m_lstUnexpected.clear();
@@ -323,4 +323,12 @@ int CUVDBSQLParser::ReportPreparedLines()
         return UVDB_OK;
     CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_BY", U8CString(m_PreparedBy));
     return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_LINES", FormatPreparedLines(m_SourceLines));
+}
+
+int CUVDBSQLParser::ReportPreparationNotes()
+{
+    if (!IsOptionSet("REPORT_PREPARATION_NOTES"))
+        return UVDB_OK;
+    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARATION_NOTES",
+                                        FormatPreparationNotes(m_PreparationNotes));
 }

@@ -51,6 +51,16 @@ std::vector<STextPlace> FindPlaces(std::string_view query, const std::vector<SUn
     return places;
 }
 
+// A field of a list: what would end it is shown as a blank.
+void AppendField(std::string& list, const std::string& text)
+{
+    const std::size_t start = list.size();
+    list += text;
+    std::replace_if(
+        list.begin() + static_cast<std::ptrdiff_t>(start), list.end(),
+        [](char byte) { return byte == '\t' || byte == '\n' || byte == '\r'; }, ' ');
+}
+
 } // namespace
 
 Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens)
@@ -64,11 +74,21 @@ Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<
             list += std::to_string(number);
             list += '\t';
         }
-        const std::size_t textStart = list.size();
-        list += token.text;
-        std::replace_if(
-            list.begin() + static_cast<std::ptrdiff_t>(textStart), list.end(),
-            [](char byte) { return byte == '\t' || byte == '\n' || byte == '\r'; }, ' ');
+        AppendField(list, token.text);
+        list += '\n';
+    }
+    return Uve::U8CString(std::move(list));
+}
+
+Uve::U8CString FormatPreparationNotes(const std::vector<SPreparationNote>& notes)
+{
+    std::string list;
+    for (const SPreparationNote& note : notes) {
+        list += note.isError ? "error\t" : "warning\t";
+        list += std::to_string(note.line) + '\t';
+        AppendField(list, note.file);
+        list += '\t';
+        AppendField(list, note.text);
         list += '\n';
     }
     return Uve::U8CString(std::move(list));

@@ -32,6 +32,13 @@ TEST(UnexpectedTokens, TokenStaysOnItsLineOfTheList)
     EXPECT_EQ(FormatUnexpectedTokens("text", {}), "");
 }
 
+TEST(PreparationNotes, EachIsALineOfFourFields)
+{
+    EXPECT_EQ(FormatPreparationNotes({{true, 3, "", "no\tgood"}, {false, 0, "a\nb.h", "odd"}}),
+              "error\t3\t\tno good\nwarning\t0\ta b.h\todd\n");
+    EXPECT_EQ(FormatPreparationNotes({}), "");
+}
+
 class UnexpectedTokensOption : public ParserTest
 {};
 

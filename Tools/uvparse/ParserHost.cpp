@@ -9,8 +9,10 @@
 #include "Metadata/UVDBOptionWrapper.h"
 #include "UVEnvironment/PluginHelpers.h"
 
+#include <charconv>
 #include <chrono>
 #include <map>
+#include <sstream>
 #include <stdexcept>
 
 namespace uvparse {
@@ -20,6 +22,7 @@ namespace {
 constexpr char kUnexpectedTokens[] = "UNEXPECTED_TOKENS";
 constexpr char kPreparedBy[] = "PREPARED_BY";
 constexpr char kPreparedLines[] = "PREPARED_LINES";
+constexpr char kPreparationNotes[] = "PREPARATION_NOTES";
 
 class CStopwatch
 {
@@ -66,6 +69,27 @@ std::string Description(IUVDBErrorInfo& error)
     return text;
 }
 
+// The library's list, a line each: severity, line, file, text, separated by tabs.
+std::vector<SPreparationNote> ReadNotes(const std::string& list)
+{
+    std::vector<SPreparationNote> notes;
+    std::istringstream lines(list);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        SPreparationNote note;
+        std::string severity;
+        std::string number;
+        if (!std::getline(fields, severity, '\t') || !std::getline(fields, number, '\t') ||
+            !std::getline(fields, note.file, '\t'))
+            continue;
+        std::getline(fields, note.text);
+        note.isError = severity == "error";
+        std::from_chars(number.data(), number.data() + number.size(), note.line);
+        notes.push_back(std::move(note));
+    }
+    return notes;
+}
+
 } // namespace
 
 CParserHost::CParserHost(const SLanguage& language, const SHostSettings& settings)
@@ -77,6 +101,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
         SetTextOption(m_DatabaseInfo, key, value);
     SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
+    SetTextOption(m_DatabaseInfo, "REPORT_PREPARATION_NOTES", "1");
     if (settings.mode == enMode::Preparation)
         SetTextOption(m_DatabaseInfo, "PREPARE_ONLY", "1");
 
@@ -114,7 +139,7 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
     m_IsUsed = true;
 
     SetTextOption(m_ConvertingObject, "FilePath", path);
-    for (const char* report : {kUnexpectedTokens, kPreparedBy, kPreparedLines})
+    for (const char* report : {kUnexpectedTokens, kPreparedBy, kPreparedLines, kPreparationNotes})
         SetTextOption(m_DatabaseInfo, report, "");
     m_Parser->set_ConvertingObject(m_ConvertingObject);
     m_Parser->set_Query(text.c_str());
@@ -130,6 +155,7 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
     fast.unexpectedTokens = std::move(report.unexpectedTokens);
     fast.pass = std::move(report.pass);
     fast.preparedLines = std::move(report.preparedLines);
+    fast.notes = std::move(report.notes);
     if (fast.failure.empty())
         fast.failure = std::move(report.failure);
     return fast;
@@ -186,6 +212,9 @@ void CParserHost::ReadPreparation(SParseResult& result) const
     CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kPreparedLines, lines);
     result.preparedLines = CPreparedLines(pass, lines);
     result.pass = std::move(pass);
+    Uve::U8CString notes;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kPreparationNotes, notes);
+    result.notes = ReadNotes(notes);
 }
 
 void CParserHost::ReadFailure(SParseResult& result) const

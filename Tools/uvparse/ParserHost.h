@@ -36,6 +36,15 @@ struct SHostSettings
     std::shared_ptr<ILog> log; // may be empty
 };
 
+// What the preparation has to say of a source.
+struct SPreparationNote
+{
+    bool isError = false;
+    std::size_t line = 0; // from 1; 0: none
+    std::string file;     // empty: the text itself
+    std::string text;
+};
+
 struct SParseResult
 {
     bool isParsed = false; // false: the parse failed, `failure` tells why
@@ -43,7 +52,8 @@ struct SParseResult
     std::vector<SUnexpectedToken> unexpectedTokens;
     std::string pass;             // what prepared the text; empty: nothing did
     CPreparedLines preparedLines; // of the text that the pass made
-    bool isEmpty = false;         // nothing was left of the text to be parsed
+    std::vector<SPreparationNote> notes;
+    bool isEmpty = false; // nothing was left of the text to be parsed
     std::string failure;
     bool isRefusedForTokens = false; // the failure tells of nothing but the unexpected tokens
     double seconds = 0;              // what making the output took

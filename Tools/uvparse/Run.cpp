@@ -94,6 +94,7 @@ private:
     std::string PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
                              const SParseResult& result);
     void Report(const std::string& path, const SPreparation& preparation, const SParseResult& result);
+    void WriteNotes(const std::string& path, const std::vector<SPreparationNote>& notes);
     void ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result);
     void Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
                 CParserHost& host);
@@ -269,13 +270,25 @@ void CRun::ReportFailure(const std::string& path, const SPreparation& preparatio
     m_Messages.Write(enSeverity::Error, found.place, std::string(failure) + found.remark);
 }
 
+void CRun::WriteNotes(const std::string& path, const std::vector<SPreparationNote>& notes)
+{
+    for (const SPreparationNote& note : notes)
+        m_Messages.Write(
+            note.isError ? enSeverity::Error : enSeverity::Warning,
+            SSourcePlace{note.file.empty() ? ShownName(path) : note.file, static_cast<int>(note.line), 0, {}},
+            note.text);
+}
+
 void CRun::Report(const std::string& path, const SPreparation& preparation, const SParseResult& result)
 {
-    if (!result.unexpectedTokens.empty() || !result.isParsed)
+    const bool isRefused =
+        std::any_of(result.notes.begin(), result.notes.end(), [](const auto& note) { return note.isError; });
+    if (!result.unexpectedTokens.empty() || !result.isParsed || isRefused)
         Worsen(kToolFindings);
     if (m_Line.isQuiet)
         return;
     m_Progress.Clear();
+    WriteNotes(path, result.notes);
     if (!result.unexpectedTokens.empty()) {
         CSourcePlaces places(ShownName(path), preparation);
         WriteUnexpectedTokens(m_Messages, std::cerr, places, preparation.prepared, result.unexpectedTokens);
