@@ -173,10 +173,46 @@ void CSQLGrammarLexer::yydecrementchar(int n)
     m_Extension.m_nChar -= n;
 }
 
+int CSQLGrammarLexer::yybegin(int state)
+{
+    const int coded = yyFlexLexer::yybegin(state);
+    if (state == m_Extension.m_nStartState) {
+        m_lstEntered.clear();
+        return coded;
+    }
+    // back in a condition that led to the current one
+    const auto open = std::ranges::find(m_lstEntered, state, &SEntered::condition);
+    if (open != m_lstEntered.end())
+        m_lstEntered.erase(open + 1, m_lstEntered.end());
+    else
+        m_lstEntered.push_back({state, yycurrent_buffer() ? yymatch_offset() : 0});
+    return coded;
+}
+
 bool CSQLGrammarLexer::yycheck_state_eof(int act)
 {
-    return static_cast<std::size_t>(act) < m_lstEofRules.size() &&
-           m_lstEofRules[static_cast<std::size_t>(act)];
+    const bool isEnd =
+        static_cast<std::size_t>(act) < m_lstEofRules.size() && m_lstEofRules[static_cast<std::size_t>(act)];
+    if (isEnd)
+        NoteEnd();
+    return isEnd;
+}
+
+// Note: where a text may end
+// The rule for the end of the text in start condition c has the number c + 1 after that of the end of the
+// buffer. Its record in the action text, always an empty one, says that a text may end in this condition.
+// Tables in which no condition has such a record don't tell, and then no end is wrong.
+void CSQLGrammarLexer::NoteEnd()
+{
+    const int firstRule = yy_end_of_buffer_action + 1;
+    const int condition = (yy_start - 1) / 2;
+    if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||
+        m_mapActions.lower_bound(firstRule) == m_mapActions.end() ||
+        m_mapActions.contains(firstRule + condition))
+        return;
+    const auto name =
+        std::ranges::find(m_mapStartConditions, condition, &std::pair<const std::string, int>::second);
+    m_Unfinished = {name->first, m_lstEntered.back().offset};
 }
 
 void CSQLGrammarLexer::FindEofRules()
@@ -213,6 +249,7 @@ void CSQLGrammarLexer::set_Query(const std::string& query, int db)
         m_Extension.m_nStartState = state;
     FindEofRules();
     yybegin(m_Extension.m_nStartState);
+    m_Unfinished.reset();
     m_Extension.clean();
     m_Extension.m_strQuery = query;
     m_Extension.m_nQueryLength = static_cast<int>(query.size());

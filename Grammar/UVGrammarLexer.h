@@ -8,11 +8,19 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 class CSQLGrammarParser;
+
+// A text that ended where it mustn't: in a comment, a quote or the like that is never closed.
+struct SUnfinishedText
+{
+    std::string condition;  // the start condition, by its name in the language's source
+    std::size_t offset = 0; // of the match that began it, in bytes of the query
+};
 
 namespace boost::program_options {
 class variables_map;
@@ -49,6 +57,7 @@ public:
     // Without a parser.
     int yycreate() override;
 
+    int yybegin(int state) override;
     int yylex() override;
     void yyinputbuffer() override;
     void yyincrementchar(int n) override;
@@ -67,6 +76,9 @@ public:
     // Returns: the database number of a grammar, 60 for an unknown name.
     static int GetUVDBNumByParserName(const std::string& name);
     int SetState(int state) { return yybegin(state); }
+    // What the last scan left open. Nothing before its end, nor with tables that don't tell where a text may
+    // end (see the note on where a text may end).
+    const std::optional<SUnfinishedText>& Unfinished() const { return m_Unfinished; }
     // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
     // reads it.
     void set_ColoringWanted(bool on) { m_bColoringWanted = on; }
@@ -136,6 +148,7 @@ private:
     void ResolveOperands(SOperation& operation);
     std::uint32_t CompileToken(const std::string& name);
     void FindEofRules();
+    void NoteEnd();
 
     SResult Token(std::uint32_t token, int color, ParserNode& node);
     int TokenNumber(const std::string& fullName);
@@ -190,7 +203,15 @@ private:
     std::vector<SRule> m_lstRules;
     std::vector<SToken> m_lstTokens;
     std::map<std::string, std::uint32_t> m_mapTokens;
-    std::vector<bool> m_lstEofRules;               // by rule number
+    std::vector<bool> m_lstEofRules; // by rule number
+    // A start condition that the scan is in, and the match that began it.
+    struct SEntered
+    {
+        int condition = 0;
+        std::size_t offset = 0;
+    };
+    std::vector<SEntered> m_lstEntered; // outermost first; without the condition that texts begin in
+    std::optional<SUnfinishedText> m_Unfinished;
     CSQLGrammarParser* m_pGrammarParser = nullptr; // m_pParser, if it is one
     ParserNode m_LocalNode;                        // takes the tokens when there is no parser
     bool m_bColoringWanted = true;

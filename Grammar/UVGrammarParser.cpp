@@ -239,6 +239,30 @@ void CSQLGrammarParser::yyaction(int rule)
     }
 }
 
+void CSQLGrammarParser::yyrecovery(bool isReported)
+{
+    m_Extension.m_lstDiscarded.push_back({isReported});
+}
+
+void CSQLGrammarParser::yydiscard_symbols(int count)
+{
+    // the error symbol has the value of the token that it was shifted before, which may be in the tree
+    for (int below = 0; below < count; ++below)
+        if (yystos[yyssp[-below]] != kErrorToken)
+            m_Extension.m_lstDiscarded.back().Take(StackEntry(-below).m_nStart, StackEntry(-below).m_nLength);
+}
+
+void CSQLGrammarParser::yydiscard_lookahead()
+{
+    const auto& value = *static_cast<const ParserNode*>(yylval);
+    // a one-character token has no value of its own
+    if (value.m_nStart == -1)
+        m_Extension.m_lstDiscarded.back().Take(static_cast<int>(yylexerptr->yymatch_offset()),
+                                               yylexerptr->yyleng);
+    else
+        m_Extension.m_lstDiscarded.back().Take(value.m_nStart, value.m_nLength);
+}
+
 void CSQLGrammarParser::yysyntaxerror()
 {
     const auto line = static_cast<unsigned long>(yylexerptr->yylineno);

@@ -62,6 +62,9 @@ public:
     void yyaction(int rule) override;
     int yygettoken() override;
     void yysyntaxerror() override;
+    void yyrecovery(bool isReported) override;
+    void yydiscard_symbols(int count) override;
+    void yydiscard_lookahead() override;
 
     // For the scanner that feeds this parser: the lookahead's value, and where its text goes. The value is
     // null until yycreate.

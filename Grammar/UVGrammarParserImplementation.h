@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <string>
@@ -15,6 +16,24 @@ struct SUnexpectedToken
     std::string text;
 };
 
+// Text that the recovery from one error has thrown away. Offsets are bytes of the query.
+struct SDiscardedText
+{
+    bool isReported = false; // an unexpected token stands for it
+    std::size_t begin = 0;
+    std::size_t end = 0; // `begin` if it is empty
+
+    // Adds what a symbol covers; one that starts nowhere covers nothing.
+    void Take(int start, int length)
+    {
+        if (start < 0 || length <= 0)
+            return;
+        const auto from = static_cast<std::size_t>(start);
+        begin = begin == end ? from : std::min(begin, from);
+        end = std::max(end, from + static_cast<std::size_t>(length));
+    }
+};
+
 // What a grammar parser holds of one query.
 class CSQLGrammarParserImplementation
 {
@@ -28,6 +47,13 @@ public:
     // Line `line` of the query, from 1, without its end; empty beyond the text.
     std::string_view LineText(unsigned long line);
 
+    // The stretches of the query that were thrown away, ascending and apart: what several errors threw away
+    // without a token read between is one stretch, reported if one of them was.
+    std::vector<SDiscardedText> DiscardedStretches() const;
+
+    // Forgets the errors of the texts before.
+    void ClearErrors();
+
     std::string m_strLastError;
     std::string m_strParsedXml;
     bool m_bPlainTree = false; // FlattenTreeInPlace can take the tree: names and characters are of its form
@@ -38,6 +64,8 @@ public:
     std::multimap<unsigned long, std::string> m_mapErrors;
     // The same errors in order of arrival, with their places.
     std::vector<SUnexpectedToken> m_lstUnexpected;
+    // One for each error, reported or not, in order of arrival.
+    std::vector<SDiscardedText> m_lstDiscarded;
     bool m_bErrDisplayed = false; // an error of this tree has been reported
 
 private:

@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,9 @@ public:
     // Options on the database info that a host may set:
     //     REPORT_UNEXPECTED_TOKENS "1"  a parse that got as far as the database info leaves the list of
     //                                   FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS
+    //     REPORT_LOST_TEXT "1"          likewise FormatLostText in the text option LOST_TEXT; FastParse
+    //     leaves
+    //                                   both of these too
     //     REPORT_PREPARED_LINES "1"     likewise FormatPreparedLines in the text option PREPARED_LINES, and
     //                                   the name of the preparation pass in PREPARED_BY, empty if there was
     //                                   none
@@ -47,7 +51,8 @@ public:
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     int Parse(bool showErrors) override;
 
-    // Adds to the unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't ready.
+    // Adds to the map of unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't
+    // ready.
     std::string FastParse() override;
 
     int get_SQLTree(Uve::U8CString& out) override;
@@ -117,7 +122,7 @@ protected:
     bool IsPropertiesFile() const;
     void GiveQueryToParser();
     bool IsOptionSet(const char* name) const;
-    int ReportUnexpectedTokens();
+    int ReportErrors();
     int ReportPreparedLines();
     int ReportPreparationNotes();
 
@@ -151,6 +156,7 @@ protected:
     std::shared_ptr<Preprocessor> m_Preprocessor;
     std::vector<std::uint32_t> m_SourceLines; // of the prepared query; empty if no pass kept them
     const char* m_PreparedBy = "";
+    std::optional<SUnfinishedText> m_Unfinished; // of the parse that stands
     // Of the first attempt: the second one prepares a prepared text.
     std::vector<SPreparationNote> m_PreparationNotes;
     std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();

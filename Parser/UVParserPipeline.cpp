@@ -37,7 +37,9 @@ class CUVDBSQLParser::CSecondAttempt
 public:
     explicit CSecondAttempt(CUVDBSQLParser& owner)
         : m_Owner(owner), m_FirstErrors(std::exchange(Extension().m_mapErrors, {})),
-          m_FirstUnexpected(std::exchange(Extension().m_lstUnexpected, {}))
+          m_FirstUnexpected(std::exchange(Extension().m_lstUnexpected, {})),
+          m_FirstDiscarded(std::exchange(Extension().m_lstDiscarded, {})),
+          m_FirstUnfinished(owner.m_Unfinished)
     {
         m_FirstResult.swap(owner.m_Result);
         FlipQuoteRule();
@@ -57,6 +59,8 @@ public:
         m_Owner.m_IsResultPlain = false;
         Extension().m_mapErrors.swap(m_FirstErrors);
         Extension().m_lstUnexpected.swap(m_FirstUnexpected);
+        Extension().m_lstDiscarded.swap(m_FirstDiscarded);
+        m_Owner.m_Unfinished.swap(m_FirstUnfinished);
     }
 
     // The attempt's result stands. One that found nothing to parse made none, and the first one's stays.
@@ -82,6 +86,8 @@ private:
     U8CString m_FirstResult;
     decltype(CSQLGrammarParserImplementation::m_mapErrors) m_FirstErrors;
     decltype(CSQLGrammarParserImplementation::m_lstUnexpected) m_FirstUnexpected;
+    decltype(CSQLGrammarParserImplementation::m_lstDiscarded) m_FirstDiscarded;
+    std::optional<SUnfinishedText> m_FirstUnfinished;
     bool m_IsAccepted = false;
 };
 
@@ -90,7 +96,7 @@ int CUVDBSQLParser::Parse(bool showErrors)
     const int result = GuardEdge([&] { return ParseQuery(showErrors); });
     // A host that asked for the list takes a missing one for a clean parse.
     const int reported = GuardEdge([&] {
-        return std::min({ReportPreparedLines(), ReportPreparationNotes(), ReportUnexpectedTokens()});
+        return std::min({ReportPreparedLines(), ReportPreparationNotes(), ReportErrors()});
     });
     return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
 }
@@ -100,9 +106,9 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
     CLogWrapper::WriteTraceF("\nParsing...");
     m_LastError = std::make_shared<CUVDBErrorInfo>();
     m_PreparationNotes.clear();
+    m_Unfinished.reset();
     if (m_Parser) {
-        m_Parser->m_Extension.m_mapErrors.clear();
-        m_Parser->m_Extension.m_lstUnexpected.clear();
+        m_Parser->m_Extension.ClearErrors();
         m_Parser->m_Extension.m_bShowErrors = showErrors;
     }
     if (!m_DatabaseInfo) {
@@ -212,6 +218,7 @@ int CUVDBSQLParser::ExecuteParsingInternal(bool)
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yyparse");
         return UVDB_ERROR;
     }
+    m_Unfinished = m_Lexer->Unfinished();
     if (parsed != UVDB_OK)
         return parsed;
     m_Result = std::move(m_Parser->m_Extension.m_strParsedXml);
@@ -235,6 +242,7 @@ int CUVDBSQLParser::ExecuteParsingColoring(bool)
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yylex");
         return UVDB_ERROR;
     }
+    m_Unfinished = m_ColoringLexer.Unfinished();
     m_Result = std::move(m_ColoringLexer.m_Extension.m_strColoring);
     CLogWrapper::WriteTraceF("OK\n");
     return UVDB_OK;
@@ -263,8 +271,12 @@ std::string CUVDBSQLParser::FastParse()
 {
     if (!m_IsConnected)
         return {};
+    m_Parser->m_Extension.m_lstUnexpected.clear();
+    m_Parser->m_Extension.m_lstDiscarded.clear();
     GiveQueryToParser();
     m_Parser->yyparse();
+    m_Unfinished = m_Lexer->Unfinished();
+    GuardEdge([&] { return ReportErrors(); });
     return std::move(m_Parser->m_Extension.m_strParsedXml);
 }
 
@@ -309,12 +321,19 @@ bool CUVDBSQLParser::IsForPreparationOnly() const
     return IsOptionSet("PREPARE_ONLY");
 }
 
-int CUVDBSQLParser::ReportUnexpectedTokens()
+int CUVDBSQLParser::ReportErrors()
 {
-    if (!m_Parser || !IsOptionSet("REPORT_UNEXPECTED_TOKENS"))
+    if (!m_Parser)
         return UVDB_OK;
-    const U8CString list = FormatUnexpectedTokens(m_Query, m_Parser->m_Extension.m_lstUnexpected);
-    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "UNEXPECTED_TOKENS", list);
+    const CSQLGrammarParserImplementation& found = m_Parser->m_Extension;
+    const auto report = [&](const char* wish, const char* option, auto&& makeList) {
+        return IsOptionSet(wish) ? CUVDBOptionWrapper::SetParam(m_DatabaseInfo, option, makeList()) : UVDB_OK;
+    };
+    return std::min(report("REPORT_UNEXPECTED_TOKENS", "UNEXPECTED_TOKENS",
+                           [&] { return FormatUnexpectedTokens(m_Query, found.m_lstUnexpected); }),
+                    report("REPORT_LOST_TEXT", "LOST_TEXT", [&] {
+                        return FormatLostText(m_Query, found.DiscardedStretches(), m_Unfinished);
+                    }));
 }
 
 int CUVDBSQLParser::ReportPreparedLines()

@@ -80,6 +80,33 @@ Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<
     return Uve::U8CString(std::move(list));
 }
 
+Uve::U8CString FormatLostText(std::string_view query, const std::vector<SDiscardedText>& discarded,
+                              const std::optional<SUnfinishedText>& unfinished)
+{
+    std::string list;
+    const auto append = [&](const char* what, STextPlace place, std::size_t begin, std::size_t end,
+                            bool isReported, const std::string& condition) {
+        list += what;
+        for (const std::size_t number : {place.line, place.column, begin, end - begin}) {
+            list += '\t';
+            list += std::to_string(number);
+        }
+        list += isReported ? "\t1\t" : "\t0\t";
+        AppendField(list, condition);
+        list += '\n';
+    };
+    CPlaceFinder stretches(query);
+    for (const SDiscardedText& stretch : discarded)
+        append("skipped", stretches.MoveTo(stretch.begin), stretch.begin, stretch.end, stretch.isReported,
+               "");
+    if (unfinished) {
+        const std::size_t begin = std::min(unfinished->offset, query.size());
+        append("unfinished", CPlaceFinder(query).MoveTo(begin), begin, query.size(), false,
+               unfinished->condition);
+    }
+    return Uve::U8CString(std::move(list));
+}
+
 Uve::U8CString FormatPreparationNotes(const std::vector<SPreparationNote>& notes)
 {
     std::string list;

@@ -2,10 +2,12 @@
 // return in a text is shown as a blank.
 #pragma once
 
+#include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
 #include "Preparation/PreparedText.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -14,6 +16,16 @@
 // separated by tabs. Line and column count from 1, columns in code points; offset and length are bytes of the
 // query. All four tell where the token starts.
 Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens);
+
+// The text that was not read, one line for each stretch of it:
+//     what, line, column, offset, length, reported, condition
+// separated by tabs. `what` is "skipped" where the recovery from an error threw the text away; it stands in
+// the tree as space. It is "unfinished" where the text ended in a start condition in which it mustn't: the
+// place is where that condition was entered, and the length goes up to the end. Places are as above.
+// `reported` is 1 if an unexpected token stands for the stretch, otherwise 0; `condition` is that of an
+// unfinished text, by its name in the source of the language, and empty for a skipped one.
+Uve::U8CString FormatLostText(std::string_view query, const std::vector<SDiscardedText>& discarded,
+                              const std::optional<SUnfinishedText>& unfinished);
 
 // What the preparation has to say, one line each:
 //     "error" or "warning", line, file, text

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int kErrorToken = 1;
 constexpr int kQuietTokens = 3;
 
 // Rules may name the end of the text, but nothing comes behind it.
@@ -75,6 +74,7 @@ bool yyBisonParser::ShiftErrorToken(int& state)
         }
         if (yyssp == yyss)
             return false;
+        yydiscard_symbols(1);
         yydestruct("Error: popping", static_cast<int>(yystos[state]), yyvsp);
         yypop_attributes(1);
         state = *yyssp;
@@ -144,6 +144,8 @@ int yyBisonParser::yywork()
             }
             if (yyerror_flag || isRaised) {
                 yyerror_flag = 0;
+                yyrecovery(false);
+                yydiscard_symbols(yylen);
                 yypop_attributes(yylen);
                 yylen = 0;
                 state = *yyssp;
@@ -165,6 +167,8 @@ int yyBisonParser::yywork()
             }
         } else {
             yytoken = yychar == yyempty ? yyempty : yyttranslate(yychar);
+            if (recovery < kQuietTokens)
+                yyrecovery(recovery == 0);
             if (recovery == 0) {
                 ++yynerrs;
                 yysyntaxerror();
@@ -172,6 +176,7 @@ int yyBisonParser::yywork()
                 if (yychar == 0)
                     return yyrelease(1);
                 if (yychar > 0) {
+                    yydiscard_lookahead();
                     yydestruct("Error: discarding", yytoken, yylval);
                     yychar = yyempty;
                     reductions = 0;

@@ -15,6 +15,18 @@ public:
     // Returns: `result`.
     virtual int yyrelease(int result);
 
+    // What recovery throws away, for whoever keeps account of it.
+
+    // An error begins. `isReported`: yysyntaxerror has told of it; errors soon after another one are quiet.
+    virtual void yyrecovery(bool /*isReported*/) {}
+    // The topmost `count` symbols are about to be popped.
+    virtual void yydiscard_symbols(int /*count*/) {}
+    // The lookahead is about to go.
+    virtual void yydiscard_lookahead() {}
+
+protected:
+    static constexpr int kErrorToken = 1;
+
 private:
     // What the tables order in a state: a state to go to, or a rule to reduce by.
     struct SStep

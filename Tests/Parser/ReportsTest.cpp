@@ -67,4 +67,92 @@ TEST_F(UnexpectedTokensOption, TellsOfTheParseThatStands)
     EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), "");
 }
 
+class LostText : public ParserTest
+{
+protected:
+    std::string Lost(const char* text)
+    {
+        Parse(text);
+        return Option<Uve::U8CString>("LOST_TEXT");
+    }
+};
+
+struct SLostCase
+{
+    const char* text;
+    const char* list;
+};
+
+const SLostCase kLostCases[] = {
+    {"print 1; /* closed */", ""},
+    // the token stands for what goes with it
+    {"print 1 2 3; print 4;", "skipped\t1\t1\t0\t11\t1\t\n"},
+    // an error soon after another one is quiet, and its text isn't
+    {"print ;print = 2;\nuse \"x\";", "skipped\t1\t1\t0\t5\t1\t\nskipped\t1\t8\t7\t9\t0\t\n"},
+    {"use 1; use 2; use 3; use 4; use 5; use 6; use 7; use 8;",
+     "skipped\t1\t1\t0\t5\t1\t\nskipped\t1\t8\t7\t5\t0\t\nskipped\t1\t15\t14\t5\t0\t\n"
+     "skipped\t1\t22\t21\t5\t0\t\nskipped\t1\t29\t28\t5\t0\t\nskipped\t1\t36\t35\t5\t0\t\n"
+     "skipped\t1\t43\t42\t5\t0\t\nskipped\t1\t50\t49\t5\t0\t\n"},
+    // what was read before the error goes with it, characters counted as such
+    {"begin print '\xC3\xA9'; print '\xC3\xA9' + ; end;", "skipped\t1\t18\t18\t12\t1\t\n"},
+    // a condition that is never left is told where it began, a last one that was left isn't
+    {"print 1; /* a */\nprint 2; /* b", "unfinished\t2\t10\t26\t4\t0\tCOMMENT\n"},
+    {"print 1 1; /*", "skipped\t1\t1\t0\t9\t1\t\nunfinished\t1\t12\t11\t2\t0\tCOMMENT\n"},
+};
+
+TEST_F(LostText, IsTheTextThatRecoveryThrewAwayAndWhatIsOpenAtTheEnd)
+{
+    SetOption("REPORT_LOST_TEXT", "1");
+    Start();
+    for (const auto& c : kLostCases) {
+        SCOPED_TRACE(c.text);
+        EXPECT_EQ(Lost(c.text), c.list);
+        m_Parser.set_Query(c.text);
+        m_Parser.FastParse();
+        EXPECT_STREQ(Option<Uve::U8CString>("LOST_TEXT").c_str(), c.list);
+    }
+}
+
+TEST_F(LostText, IsThatOfTheAttemptThatStands)
+{
+    SetOption("REPORT_LOST_TEXT", "1");
+    SetOption("OPTION_VARYING_PARSING", "YES");
+    Start();
+    EXPECT_EQ(Lost("print \"x\"; use \"y\"; /*"),
+              "skipped\t1\t1\t0\t9\t1\t\nunfinished\t1\t21\t20\t2\t0\tCOMMENT\n");
+    EXPECT_EQ(Lost("print \"x\";"), "");
+}
+
+TEST_F(LostText, TheSourceOfTheLanguageSaysWhereATextMayEnd)
+{
+    SetOption("REPORT_LOST_TEXT", "1");
+    Start("-cb");
+    EXPECT_EQ(Lost("print 1; -- a"), "");
+}
+
+TEST(UnfinishedText, IsThatOfTheInnermostConditionAndOfItsOwnBeginning)
+{
+    constexpr struct
+    {
+        const char* text;
+        const char* condition; // empty: none
+        std::size_t offset;
+    } kCases[] = {
+        {"a /* b */ -- c", "LINE", 10},
+        {"a -- c\n", "", 0}, // back in the first condition, not in that which texts begin in
+        {"a /* b */ /* c", "COMMENT", 10},
+        {"", "", 0},
+    };
+    CSQLGrammarLexer lexer("States", false);
+    lexer.yycreate();
+    for (const auto& c : kCases) {
+        SCOPED_TRACE(c.text);
+        lexer.set_Query(c.text, 60);
+        while (lexer.yylex() != 0) {
+        }
+        EXPECT_EQ(lexer.Unfinished() ? lexer.Unfinished()->condition : "", c.condition);
+        EXPECT_EQ(lexer.Unfinished() ? lexer.Unfinished()->offset : 0, c.offset);
+    }
+}
+
 } // namespace

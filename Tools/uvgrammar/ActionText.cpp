@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr std::string_view kEndOfFile = "case YY_STATE_EOF(";
+
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 constexpr std::string_view kDigits = "0123456789";
 
@@ -60,9 +62,8 @@ SScannerActions ReadScannerActions(std::string_view text)
     SScannerActions actions;
     CLines lines(text);
     lines.SkipTo("do_action:");
-    std::vector<SActionCase> open; // labels whose action hasn't come yet
-    bool isEndOfFile = false;
-    int lineNumber = 0;
+    std::vector<SActionCase> open;      // labels whose action hasn't come yet
+    std::vector<SEndOfFileAction> ends; // likewise
     std::string body;
     std::string_view line;
     while (lines.Next(line) && line.find("case YY_END_OF_BUFFER:") == std::string_view::npos) {
@@ -72,23 +73,29 @@ SScannerActions ReadScannerActions(std::string_view text)
             if (!open.empty())
                 open.back().isShared = true;
             open.push_back({number, 0, {}, false});
-        } else if (line.starts_with("case YY_STATE_EOF("))
-            isEndOfFile = true;
+        } else if (line.starts_with(kEndOfFile))
+            ends.push_back(
+                {std::string(line.substr(kEndOfFile.size(), line.find(')') - kEndOfFile.size())), 0, {}});
         else if (place >= 0) {
-            lineNumber = place;
             if (!open.empty())
                 open.back().line = place;
+            if (!ends.empty())
+                ends.back().line = place;
         } else if (line == "\tYY_BREAK") {
-            if (isEndOfFile)
-                actions.endOfFileLines.push_back(lineNumber);
+            for (SEndOfFileAction& entry : ends) {
+                entry.line = ends.back().line;
+                entry.body = Trimmed(body);
+                actions.endsOfFile.push_back(std::move(entry));
+            }
             for (SActionCase& entry : open) {
                 entry.body = entry.isShared ? std::string() : std::string(Trimmed(body));
                 actions.cases.push_back(std::move(entry));
             }
             open.clear();
-            isEndOfFile = false;
+            ends.clear();
             body.clear();
-        } else if (line != "YY_RULE_SETUP" && !line.starts_with("/* rule ") && !open.empty())
+        } else if (line != "YY_RULE_SETUP" && !line.starts_with("/* rule ") &&
+                   (!open.empty() || !ends.empty()))
             body.append(line).append(1, '\n');
     }
     return actions;

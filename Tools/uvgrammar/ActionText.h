@@ -17,10 +17,18 @@ struct SActionCase
     bool isShared = false; // flex only: the action is that of the next rule, by "|"
 };
 
+// What a source says behind <<EOF>>, for one start condition.
+struct SEndOfFileAction
+{
+    std::string condition;
+    int line = 0;
+    std::string body;
+};
+
 struct SScannerActions
 {
     std::vector<SActionCase> cases;
-    std::vector<int> endOfFileLines; // of actions behind <<EOF>>
+    std::vector<SEndOfFileAction> endsOfFile;
 };
 
 // flex's C file. The case of flex's own default rule is among them, the last one.

@@ -2,11 +2,13 @@
 
 #include "Grammar/UVGrammarKeeper.h"
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvgrammar/EndRules.h"
 #include "Tools/uvgrammar/GrammarChecks.h"
 #include "Tools/uvgrammar/TableDirectory.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <filesystem>
+#include <map>
 #include <utility>
 
 namespace {
@@ -24,7 +26,16 @@ void Require(int result, const char* what)
         throw CToolFailure(std::string(what) + " can't be read out of the generated text or written");
 }
 
-void WriteTables(const SGeneratedFiles& files, const std::string& directory)
+// The extractor passes over rules for the end of the text.
+void AppendEndRecords(const CGrammarSource& source, const SGeneratedFiles& files, const std::string& defines,
+                      const std::string& path)
+{
+    std::map<std::string, int> startConditions;
+    UVDBGrammarKeeper::CreateDefinesMap(defines, startConditions);
+    WriteWholeFile(path, ReadWholeFile(path) + EndRecords(source, files, startConditions));
+}
+
+void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, const std::string& directory)
 {
     const std::string lexer = directory + "Lexer/";
     const std::string parser = directory + "Parser/";
@@ -33,6 +44,7 @@ void WriteTables(const SGeneratedFiles& files, const std::string& directory)
     Require(UVDBGrammarKeeper::SaveTablesToFile(files.lexerPath, lexer), "the scanner's tables");
     Require(UVDBGrammarKeeper::SaveDefinesToFile(files.lexerHeaderPath, lexer, defines),
             "the start conditions");
+    AppendEndRecords(source, files, defines, lexer + "actions.dat");
     Require(UVDBGrammarKeeper::SaveActionsToFile(files.parserPath, parser), "the parser's actions");
     Require(UVDBGrammarKeeper::SaveTablesToFile(files.parserPath, parser), "the parser's tables");
     Require(UVDBGrammarKeeper::SaveConstantsToFile(files.parserPath, parser), "the final state");
@@ -108,7 +120,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
 
     const std::string written = output.NewPath();
     try {
-        WriteTables(files, written);
+        WriteTables(lexer, files, written);
     } catch (const Uve::U8CString& text) {
         throw CToolFailure(LogText(text));
     }

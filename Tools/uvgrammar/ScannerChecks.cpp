@@ -1,3 +1,4 @@
+#include "Tools/uvgrammar/EndRules.h"
 #include "Tools/uvgrammar/GrammarChecks.h"
 
 #include <algorithm>
@@ -255,8 +256,11 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
                        const SLoadedTables& tables, CToolMessages& messages, std::set<std::string>& used)
 {
     const SScannerActions actions = ReadScannerActions(files.lexerText);
-    for (const int line : actions.endOfFileLines)
-        messages.Write(enSeverity::Error, source.Place(line), "an action behind <<EOF>> is lost");
+    for (const SEndOfFileAction& action : actions.endsOfFile) {
+        if (!IsEndOfText(action.body))
+            messages.Write(enSeverity::Error, source.Place(action.line),
+                           "an action behind <<EOF>> is lost, unless it is { yyterminate(); }");
+    }
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
     if (static_cast<int>(actions.cases.size()) != defaultRule ||
         static_cast<int>(tables.scanner.rule_can_match_eol.count) != defaultRule + 1)
