@@ -1,11 +1,11 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/CommandLine.h"
+#include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourceText.h"
 #include "Tools/uvparse/TreeText.h"
-#include "Tools/uvparse/UnexpectedTokens.h"
 
 #include <gtest/gtest.h>
 
@@ -162,7 +162,7 @@ TEST(UvparseTreeText, TreeAndSourceAreComparedByteForByte)
 
 TEST(UvparseTreeText, StatementsAreCountedOnceHoweverTheyNest)
 {
-    const std::string inner = "<pl_sql_statement><select></select></pl_sql_statement>";
+    const std::string inner = "<pl_sql_statement><T__SELECT>select</T__SELECT></pl_sql_statement>";
     const std::string delimited = "<delimited_pl_sql_statement>" + inner + "</delimited_pl_sql_statement>";
     EXPECT_EQ(CountStatements(""), 0u);
     EXPECT_EQ(CountStatements("<SQL><pl_sql_statements></pl_sql_statements></SQL>"), 0u);
@@ -170,14 +170,23 @@ TEST(UvparseTreeText, StatementsAreCountedOnceHoweverTheyNest)
     EXPECT_EQ(
         CountStatements("<pl_sql_statement><body>" + delimited + delimited + "</body></pl_sql_statement>"),
         1u);
-    EXPECT_EQ(CountStatements("<delimited_pl_sql_statement></delimited_pl_sql_statement>" + inner), 2u);
     EXPECT_EQ(CountStatements("<pl_sql_statement_delimiter></pl_sql_statement_delimiter>"), 0u);
+    // what was lost leaves a statement with nothing but space and its delimiter
+    const std::string delimiter =
+        "<pl_sql_statement_delimiter><T__SEMICOLON>;</T__SEMICOLON></pl_sql_statement_delimiter>";
+    EXPECT_EQ(CountStatements("<delimited_pl_sql_statement><T__SPACE>selec</T__SPACE>" + delimiter +
+                              "</delimited_pl_sql_statement>" + inner),
+              1u);
+    EXPECT_EQ(
+        CountStatements("<pl_sql_statement><error_statement><T__SLASHES>//</T__SLASHES></error_statement>"
+                        "</pl_sql_statement>"),
+        0u);
     // as flattening writes them
     const std::string full = "<full_pl_sql_statement delimited=\"1\" labeled=\"0\">" + inner +
                              "<pl_sql_statement_delimiter/></full_pl_sql_statement>";
     EXPECT_EQ(
         CountStatements("<?xml version=\"1.0\" ?>\n<SQL><full_pl_sql_statement/>" + full + full + "</SQL>"),
-        3u);
+        2u);
 }
 
 std::string Pretty(std::string_view tree)
@@ -378,13 +387,23 @@ TEST(UvparseTokens, ColumnsAreCodePointsHoweverPlacesAreAskedFor)
         }
 }
 
-std::string Messages(const std::string& text, std::vector<SUnexpectedToken> tokens)
+struct SPlace
+{
+    std::size_t offset;
+    std::size_t length;
+};
+
+std::string Messages(const std::string& text, const std::vector<SPlace>& tokens,
+                     const std::vector<SFinding>& others = {})
 {
     std::ostringstream stream;
     CToolMessages messages("uvparse", stream);
     const SPreparation preparation{text, text, {}, {}};
     CSourcePlaces places("f.sql", preparation);
-    WriteUnexpectedTokens(messages, stream, places, text, std::move(tokens));
+    std::vector<SFinding> findings = others;
+    for (const SPlace& token : tokens)
+        findings.push_back({enFinding::UnexpectedToken, token.offset, token.length});
+    WriteFindings(messages, stream, places, text, std::move(findings));
     return stream.str();
 }
 
@@ -415,9 +434,30 @@ TEST(UvparseTokens, LongLinesAreShownAroundThePlace)
     EXPECT_EQ(shown.substr(lineEnd), "\n    " + std::string(60, ' ') + "^\n");
 }
 
-TEST(UvparseTokens, TokenListIsReadWhateverTheTokenHolds)
+TEST(UvparseTokens, LostTextHasMessagesOfItsOwnUnlessATokenStandsForIt)
 {
-    const auto tokens = ReadTokenList("1\t2\t3\t4\tfoo bar\n\n2\t1\t10\t0\t\nnonsense\n3\t1\t12\t1\t\t\n");
+    EXPECT_EQ(Messages("a b;\nc\nd; /* e", {{2, 1}},
+                       {{enFinding::UnfinishedText, 10, 4},
+                        {enFinding::SkippedText, 5, 3},
+                        {enFinding::SkippedText, 0, 3, true}}),
+              "f.sql:1:3: error: unexpected token 'b'\n    a b;\n      ^\n"
+              "f.sql:2:1: error: skipped 'c...'\n    c\n    ^\n"
+              "f.sql:3:4: error: never closed: '/* e'\n    d; /* e\n       ^\n");
+}
+
+TEST(UvparseTokens, ListsAreReadWhateverTheirTextsHold)
+{
+    std::vector<SFinding> lost;
+    ReadLostText("skipped\t1\t1\t3\t4\t1\t\nx\nunfinished\t2\t1\t9\t5\t0\tA B\n", lost);
+    ASSERT_EQ(lost.size(), 2u);
+    EXPECT_EQ(lost[0].kind, enFinding::SkippedText);
+    EXPECT_TRUE(lost[0].isReported);
+    EXPECT_EQ(lost[1].kind, enFinding::UnfinishedText);
+    EXPECT_EQ(lost[1].offset, 9u);
+    EXPECT_EQ(lost[1].length, 5u);
+
+    std::vector<SFinding> tokens;
+    ReadUnexpectedTokens("1\t2\t3\t4\tfoo bar\n\n2\t1\t10\t0\t\nnonsense\n3\t1\t12\t1\t\t\n", tokens);
     ASSERT_EQ(tokens.size(), 3u);
     EXPECT_EQ(tokens[0].offset, 3u);
     EXPECT_EQ(tokens[0].length, 4u);

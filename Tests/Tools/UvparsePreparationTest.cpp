@@ -1,9 +1,9 @@
 #include "Tools/Support/ToolTerminal.h"
+#include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/LineAlignment.h"
 #include "Tools/uvparse/PreparedDiff.h"
 #include "Tools/uvparse/PreparedLines.h"
 #include "Tools/uvparse/SourcePlaces.h"
-#include "Tools/uvparse/UnexpectedTokens.h"
 
 #include <gtest/gtest.h>
 
@@ -305,10 +305,10 @@ std::string MessagesAboutBad(const char* source, const char* prepared, const cha
     const SPreparation preparation{source, prepared, CPreparedLines(pass, list), pass};
     CSourcePlaces places("f", preparation);
     const std::string_view text = prepared;
-    std::vector<SUnexpectedToken> tokens;
+    std::vector<SFinding> tokens;
     for (std::size_t at = text.find("bad"); at != std::string_view::npos; at = text.find("bad", at + 1))
-        tokens.push_back({at, 3});
-    WriteUnexpectedTokens(messages, stream, places, text, std::move(tokens));
+        tokens.push_back({enFinding::UnexpectedToken, at, 3});
+    WriteFindings(messages, stream, places, text, std::move(tokens));
     return stream.str();
 }
 

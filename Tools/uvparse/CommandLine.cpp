@@ -34,7 +34,7 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages that are there")
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
-        ("stat", po::bool_switch(&line.isStat), "count statements, unexpected tokens, bytes a second")
+        ("stat", po::bool_switch(&line.isStat), "count statements read and lost, unexpected tokens, bytes a second")
         ("quiet", po::bool_switch(&line.isQuiet), "no progress and no messages but about what could not run")
         ("version", po::bool_switch(&line.isVersion), "print the version")
         ("help", po::bool_switch(&line.isHelp), "print this help");
@@ -113,23 +113,24 @@ std::string HelpText()
     Texts options;
     Texts objectOptions;
     std::ostringstream text;
-    text << "usage: uvparse [options] FILE... | -\n"
-            "Turns source text into an XML tree with every token, blank and comment in it. Languages in "
-            "fixed\n"
-            "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n"
-         << VisibleOptions(line, options, objectOptions)
-         << "\nResults go to standard output, messages to standard error.\n"
-            "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared "
-            "line\n"
-            "above, < vanished, > starts no source line. It is as wide as the terminal, else as the "
-            "environment's\n"
-            "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
-            "preparation doesn't keep the source line.\n"
-            "Exit code: 0 clean; 1 a text has unexpected tokens, failed to parse or differs from its tree,\n"
-            "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines "
-            "was\n"
-            "asked of a preparation that keeps no source lines;\n"
-            "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
+    text
+        << "usage: uvparse [options] FILE... | -\n"
+           "Turns source text into an XML tree with every token, blank and comment in it. Languages in "
+           "fixed\n"
+           "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n"
+        << VisibleOptions(line, options, objectOptions)
+        << "\nResults go to standard output, messages to standard error.\n"
+           "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared "
+           "line\n"
+           "above, < vanished, > starts no source line. It is as wide as the terminal, else as the "
+           "environment's\n"
+           "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
+           "preparation doesn't keep the source line.\n"
+           "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
+           "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines "
+           "was\n"
+           "asked of a preparation that keeps no source lines;\n"
+           "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
     return text.str();
 }
 

@@ -1,4 +1,4 @@
-#include "Tools/uvparse/UnexpectedTokens.h"
+#include "Tools/uvparse/Findings.h"
 
 #include <algorithm>
 #include <ostream>
@@ -8,55 +8,84 @@ namespace uvparse {
 
 namespace {
 
-constexpr std::size_t kShownOfToken = 60;
+constexpr std::size_t kShown = 60;
 
-// The first line of a token, cut if it is long. A token's bytes come from a file: what would move the cursor
+// The first line of what was found, cut if it is long. Its bytes come from a file: what would move the cursor
 // is shown as a blank.
-std::string ShownToken(std::string_view text, const SUnexpectedToken& token)
+std::string Shown(std::string_view text, const SFinding& finding)
 {
-    const std::size_t begin = std::min(token.offset, text.size());
-    const std::size_t end = begin + std::min(token.length, text.size() - begin);
+    const std::size_t begin = std::min(finding.offset, text.size());
+    const std::size_t end = begin + std::min(finding.length, text.size() - begin);
     const std::size_t lineEnd = std::min(text.find('\n', begin), end);
     if (lineEnd == begin)
         return {};
-    const std::size_t shownEnd = StepForward(text, begin, kShownOfToken, lineEnd);
+    const std::size_t shownEnd = StepForward(text, begin, kShown, lineEnd);
     std::string shown(text.substr(begin, shownEnd - begin));
     std::replace_if(
         shown.begin(), shown.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
     return shownEnd < end ? shown + "..." : shown;
 }
 
+std::string MessageOf(const SFinding& finding, std::string_view prepared)
+{
+    const std::string shown = Shown(prepared, finding);
+    switch (finding.kind) {
+    case enFinding::SkippedText:
+        return "skipped '" + shown + "'";
+    case enFinding::UnfinishedText:
+        return "never closed: '" + shown + "'";
+    default:
+        return !shown.empty()                     ? "unexpected token '" + shown + "'"
+               : finding.offset < prepared.size() ? "unexpected end of line"
+                                                  : "unexpected end of text";
+    }
+}
+
 } // namespace
 
-std::vector<SUnexpectedToken> ReadTokenList(const std::string& list)
+void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findings)
 {
-    std::vector<SUnexpectedToken> tokens;
     std::istringstream lines(list);
     for (std::string line; std::getline(lines, line);) {
         std::istringstream fields(line);
         std::size_t lineNumber = 0;
         std::size_t column = 0;
-        SUnexpectedToken token;
-        if (fields >> lineNumber >> column >> token.offset >> token.length)
-            tokens.push_back(token);
+        SFinding finding;
+        if (fields >> lineNumber >> column >> finding.offset >> finding.length)
+            findings.push_back(finding);
     }
-    return tokens;
 }
 
-void WriteUnexpectedTokens(CToolMessages& messages, std::ostream& stream, CSourcePlaces& places,
-                           std::string_view prepared, std::vector<SUnexpectedToken> tokens)
+void ReadLostText(const std::string& list, std::vector<SFinding>& findings)
 {
-    std::stable_sort(tokens.begin(), tokens.end(), [](const SUnexpectedToken& a, const SUnexpectedToken& b) {
-        return a.offset < b.offset;
-    });
-    for (const SUnexpectedToken& token : tokens) {
-        const SMessagePlace found = places.Find(token.offset);
-        const std::string shown = ShownToken(prepared, token);
-        messages.Write(enSeverity::Error, found.place,
-                       (!shown.empty()                   ? "unexpected token '" + shown + "'"
-                        : token.offset < prepared.size() ? "unexpected end of line"
-                                                         : "unexpected end of text") +
-                           found.remark);
+    std::istringstream lines(list);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        std::string what;
+        std::size_t lineNumber = 0;
+        std::size_t column = 0;
+        SFinding finding;
+        if (!(fields >> what >> lineNumber >> column >> finding.offset >> finding.length >>
+              finding.isReported))
+            continue;
+        finding.kind = what == "skipped" ? enFinding::SkippedText : enFinding::UnfinishedText;
+        findings.push_back(finding);
+    }
+}
+
+std::size_t CountFindings(const std::vector<SFinding>& findings, enFinding kind)
+{
+    return static_cast<std::size_t>(std::ranges::count(findings, kind, &SFinding::kind));
+}
+
+void WriteFindings(CToolMessages& messages, std::ostream& stream, CSourcePlaces& places,
+                   std::string_view prepared, std::vector<SFinding> findings)
+{
+    std::erase_if(findings, [](const SFinding& finding) { return finding.isReported; });
+    std::ranges::stable_sort(findings, {}, &SFinding::offset);
+    for (const SFinding& finding : findings) {
+        const SMessagePlace found = places.Find(finding.offset);
+        messages.Write(enSeverity::Error, found.place, MessageOf(finding, prepared) + found.remark);
         if (found.caret && !found.place.sourceLine.empty())
             stream << "    " << std::string(*found.caret, ' ') << "^\n";
     }

@@ -1,4 +1,4 @@
-// The tokens that the parser met where no rule has a place for them, and the messages about them.
+// What a parse found wrong with its text, and the messages about it.
 #pragma once
 
 #include "Tools/Support/ToolMessages.h"
@@ -12,19 +12,35 @@
 
 namespace uvparse {
 
-struct SUnexpectedToken
+enum class enFinding
 {
-    std::size_t offset = 0; // bytes into the prepared text
-    std::size_t length = 0;
+    UnexpectedToken, // no rule has a place for it
+    SkippedText,     // thrown away in the recovery from an error
+    UnfinishedText   // a comment, quote or the like that is open at the end of the text
 };
 
-// Reads the library's list, a line each: line, column, offset, length, token, parted by tabs. Lines of
-// another form are passed over.
-std::vector<SUnexpectedToken> ReadTokenList(const std::string& list);
+struct SFinding
+{
+    enFinding kind = enFinding::UnexpectedToken;
+    std::size_t offset = 0; // bytes into the prepared text
+    std::size_t length = 0;
+    bool isReported = false; // skipped text that an unexpected token stands for
+};
 
-// Writes one message for each token, with the line that it stands in and a caret below: a long line is shown
-// around the place. Offsets count in `prepared`, the messages are of the source. Sorts the tokens by offset.
-void WriteUnexpectedTokens(CToolMessages& messages, std::ostream& stream, CSourcePlaces& places,
-                           std::string_view prepared, std::vector<SUnexpectedToken> tokens);
+// Both read a list of the library, a line each with fields separated by tabs, and add to `findings`:
+//     line, column, offset, length, token
+//     what, line, column, offset, length, reported, condition
+// Lines of another form are passed over.
+void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findings);
+void ReadLostText(const std::string& list, std::vector<SFinding>& findings);
+
+// Counts those of one kind.
+std::size_t CountFindings(const std::vector<SFinding>& findings, enFinding kind);
+
+// Writes one message for each that has none yet, with the line that it stands in and a caret below: a long
+// line is shown around the place. Offsets count in `prepared`, the messages are of the source and come in its
+// order.
+void WriteFindings(CToolMessages& messages, std::ostream& stream, CSourcePlaces& places,
+                   std::string_view prepared, std::vector<SFinding> findings);
 
 } // namespace uvparse

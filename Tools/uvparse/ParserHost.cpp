@@ -20,6 +20,7 @@ namespace uvparse {
 namespace {
 
 constexpr char kUnexpectedTokens[] = "UNEXPECTED_TOKENS";
+constexpr char kLostText[] = "LOST_TEXT";
 constexpr char kPreparedBy[] = "PREPARED_BY";
 constexpr char kPreparedLines[] = "PREPARED_LINES";
 constexpr char kPreparationNotes[] = "PREPARATION_NOTES";
@@ -100,6 +101,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
     for (const auto& [key, value] : settings.options)
         SetTextOption(m_DatabaseInfo, key, value);
     SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "1");
+    SetTextOption(m_DatabaseInfo, "REPORT_LOST_TEXT", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARATION_NOTES", "1");
     if (settings.mode == enMode::Preparation)
@@ -139,26 +141,11 @@ SParseResult CParserHost::Parse(const std::string& text, const std::string& path
     m_IsUsed = true;
 
     SetTextOption(m_ConvertingObject, "FilePath", path);
-    for (const char* report : {kUnexpectedTokens, kPreparedBy, kPreparedLines, kPreparationNotes})
+    for (const char* report : {kUnexpectedTokens, kLostText, kPreparedBy, kPreparedLines, kPreparationNotes})
         SetTextOption(m_DatabaseInfo, report, "");
     m_Parser->set_ConvertingObject(m_ConvertingObject);
     m_Parser->set_Query(text.c_str());
-    if (m_Settings.mode != enMode::RawTree)
-        return RunParse();
-
-    // The fast way tells only that something is wrong. What it is comes from the ordinary one, whose own tree
-    // isn't wanted here.
-    SParseResult fast = ParseRaw();
-    if (fast.isParsed && !m_Parser->IsParseHasErrors())
-        return fast;
-    SParseResult report = RunParse();
-    fast.unexpectedTokens = std::move(report.unexpectedTokens);
-    fast.pass = std::move(report.pass);
-    fast.preparedLines = std::move(report.preparedLines);
-    fast.notes = std::move(report.notes);
-    if (fast.failure.empty())
-        fast.failure = std::move(report.failure);
-    return fast;
+    return m_Settings.mode == enMode::RawTree ? ParseRaw() : RunParse();
 }
 
 SParseResult CParserHost::ParseRaw()
@@ -168,10 +155,15 @@ SParseResult CParserHost::ParseRaw()
     try {
         result.output = m_Parser->FastParse();
         result.isParsed = !result.output.empty();
+        if (!result.isParsed) {
+            m_Parser->SetLastError();
+            ReadFailure(result);
+        }
     } catch (const std::exception& e) {
         result.failure = e.what();
     }
     result.seconds = watch.Seconds();
+    ReadFindings(result);
     return result;
 }
 
@@ -195,13 +187,21 @@ SParseResult CParserHost::RunParse()
     result.seconds = watch.Seconds();
     result.isEmpty = code == UVDB_NO_DATA;
 
-    Uve::U8CString tokens;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kUnexpectedTokens, tokens);
-    result.unexpectedTokens = ReadTokenList(tokens);
+    ReadFindings(result);
     ReadPreparation(result);
     if (!result.isParsed)
         ReadFailure(result);
     return result;
+}
+
+void CParserHost::ReadFindings(SParseResult& result) const
+{
+    Uve::U8CString tokens;
+    Uve::U8CString lost;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kUnexpectedTokens, tokens);
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kLostText, lost);
+    ReadUnexpectedTokens(tokens, result.findings);
+    ReadLostText(lost, result.findings);
 }
 
 void CParserHost::ReadPreparation(SParseResult& result) const

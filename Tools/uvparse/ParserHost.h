@@ -3,9 +3,9 @@
 #pragma once
 
 #include "Interfaces/ILog.h"
+#include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/PreparedLines.h"
-#include "Tools/uvparse/UnexpectedTokens.h"
 
 #include <memory>
 #include <string>
@@ -49,7 +49,7 @@ struct SParseResult
 {
     bool isParsed = false; // false: the parse failed, `failure` tells why
     std::string output;    // tree, coloring map or prepared text; empty for an empty text
-    std::vector<SUnexpectedToken> unexpectedTokens;
+    std::vector<SFinding> findings;
     std::string pass;             // what prepared the text; empty: nothing did
     CPreparedLines preparedLines; // of the text that the pass made
     std::vector<SPreparationNote> notes;
@@ -74,8 +74,7 @@ public:
     // Throws: std::runtime_error if the tables can't be loaded any more.
     SParseResult Parse(const std::string& text, const std::string& path);
 
-    // Parses the text of the last Parse once more, as that one has prepared it, and gives its raw tree. The
-    // unexpected tokens are left out.
+    // Parses the text of the last Parse once more, as that one has prepared it, and gives its raw tree.
     SParseResult ParseRaw();
 
     double GetLoadSeconds() const { return m_LoadSeconds; }
@@ -83,6 +82,7 @@ public:
 private:
     void Load();
     SParseResult RunParse();
+    void ReadFindings(SParseResult& result) const;
     void ReadPreparation(SParseResult& result) const;
     void ReadFailure(SParseResult& result) const;
 

@@ -2,6 +2,7 @@
 
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolTerminal.h"
+#include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/LegacyEncoding.h"
 #include "Tools/uvparse/ParserHost.h"
@@ -12,7 +13,6 @@
 #include "Tools/uvparse/SourceText.h"
 #include "Tools/uvparse/TraceFile.h"
 #include "Tools/uvparse/TreeText.h"
-#include "Tools/uvparse/UnexpectedTokens.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
@@ -51,7 +51,8 @@ std::string ShownName(const std::string& path)
 // Counts of one text, or of all.
 struct SStatistics
 {
-    std::size_t statements = 0;
+    std::size_t statements = 0; // read
+    std::size_t lost = 0;
     std::size_t unexpectedTokens = 0;
     std::size_t bytes = 0;
     double seconds = 0;
@@ -59,6 +60,7 @@ struct SStatistics
     SStatistics& operator+=(const SStatistics& other)
     {
         statements += other.statements;
+        lost += other.lost;
         unexpectedTokens += other.unexpectedTokens;
         bytes += other.bytes;
         seconds += other.seconds;
@@ -69,9 +71,9 @@ struct SStatistics
     {
         const auto rate =
             seconds > 0 ? static_cast<unsigned long long>(static_cast<double>(bytes) / seconds) : 0;
-        return std::to_string(statements) + " statements, " + std::to_string(unexpectedTokens) +
-               " unexpected tokens, " + std::to_string(bytes) + " bytes, " + std::to_string(rate) +
-               " bytes/s";
+        return std::to_string(statements) + " statements read, " + std::to_string(lost) + " lost, " +
+               std::to_string(unexpectedTokens) + " unexpected tokens, " + std::to_string(bytes) +
+               " bytes, " + std::to_string(rate) + " bytes/s";
     }
 };
 
@@ -283,17 +285,17 @@ void CRun::Report(const std::string& path, const SPreparation& preparation, cons
 {
     const bool isRefused =
         std::any_of(result.notes.begin(), result.notes.end(), [](const auto& note) { return note.isError; });
-    if (!result.unexpectedTokens.empty() || !result.isParsed || isRefused)
+    if (!result.findings.empty() || !result.isParsed || isRefused)
         Worsen(kToolFindings);
     if (m_Line.isQuiet)
         return;
     m_Progress.Clear();
     WriteNotes(path, result.notes);
-    if (!result.unexpectedTokens.empty()) {
+    if (!result.findings.empty()) {
         CSourcePlaces places(ShownName(path), preparation);
-        WriteUnexpectedTokens(m_Messages, std::cerr, places, preparation.prepared, result.unexpectedTokens);
+        WriteFindings(m_Messages, std::cerr, places, preparation.prepared, result.findings);
     }
-    if (!result.isParsed && (result.unexpectedTokens.empty() || !result.isRefusedForTokens))
+    if (!result.isParsed && (result.findings.empty() || !result.isRefusedForTokens))
         ReportFailure(path, preparation, result);
     if (result.isEmpty && !result.pass.empty() && !preparation.source.empty())
         m_Messages.Write(enSeverity::Warning, SSourcePlace{ShownName(path), 0, 0, {}},
@@ -380,7 +382,7 @@ std::string CRun::PrepareAgain(const SLanguage& language, const std::string& pat
 {
     if (result.pass.empty())
         return PreparedText(text);
-    if (result.unexpectedTokens.empty() && !m_Line.isVerify)
+    if (result.findings.empty() && !m_Line.isVerify)
         return {};
     return HostOf(language, enMode::Preparation).Parse(text, path).output;
 }
@@ -400,8 +402,9 @@ void CRun::ParseFile(const SLanguage& language, const std::string& path, const s
     if (m_Line.isVerify && result.isParsed)
         Verify(path, m_Line.isRaw ? SPreparation{text, text, {}, {}} : preparation, result.output, host);
     if (m_Line.isStat) {
-        const SStatistics statistics{CountStatements(result.output), result.unexpectedTokens.size(),
-                                     text.size(), result.seconds};
+        const SStatistics statistics{
+            CountStatements(result.output), CountFindings(result.findings, enFinding::SkippedText),
+            CountFindings(result.findings, enFinding::UnexpectedToken), text.size(), result.seconds};
         Tell(ShownName(path), statistics.Text());
         m_Sum += statistics;
         ++m_Counted;

@@ -178,6 +178,14 @@ private:
     std::string_view m_Word; // what is left of the word that stands for the character at m_Offset
 };
 
+constexpr std::string_view kDelimiter = "pl_sql_statement_delimiter";
+constexpr std::string_view kLostStatement = "error_statement";
+
+bool IsToken(std::string_view name)
+{
+    return name.starts_with("T__") && name != "T__SPACE";
+}
+
 bool IsStatement(std::string_view name)
 {
     return name == "delimited_pl_sql_statement" || name == "full_pl_sql_statement" ||
@@ -205,18 +213,20 @@ std::size_t CountStatements(std::string_view tree)
 {
     std::size_t count = 0;
     std::size_t depth = 0; // of statement elements alone
+    std::size_t delimiters = 0;
+    bool isDecided = false; // whether the outermost statement counts
     CMarkupScanner scanner(tree);
     for (SMarkup markup; scanner.Next(markup);) {
-        if (!IsStatement(markup.name))
-            continue;
-        if (markup.kind == enMarkup::End) {
-            depth -= depth > 0 ? 1 : 0;
-            continue;
+        const bool isStart = markup.kind == enMarkup::Start;
+        if (IsStatement(markup.name) && (isStart || markup.kind == enMarkup::End)) {
+            depth = isStart ? depth + 1 : depth - std::min<std::size_t>(depth, 1);
+            isDecided = isDecided && depth > 0;
+        } else if (markup.name == kDelimiter && (isStart || markup.kind == enMarkup::End)) {
+            delimiters = isStart ? delimiters + 1 : delimiters - std::min<std::size_t>(delimiters, 1);
+        } else if (isStart && depth > 0 && delimiters == 0 && !isDecided) {
+            isDecided = IsToken(markup.name) || markup.name == kLostStatement;
+            count += IsToken(markup.name) ? 1 : 0;
         }
-        if (depth == 0)
-            ++count;
-        if (markup.kind == enMarkup::Start)
-            ++depth;
     }
     return count;
 }

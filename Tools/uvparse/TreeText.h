@@ -18,9 +18,9 @@ struct STreeDifference
 // data link escape is a word of its own. Returns: where they part; nothing if they are equal.
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text);
 
-// The number of statements: of elements "delimited_pl_sql_statement", "full_pl_sql_statement" and
-// "pl_sql_statement" that stand in no other of these. A delimiter without a statement in front of it counts
-// as one.
+// The number of statements that were read: of elements "delimited_pl_sql_statement", "full_pl_sql_statement"
+// and "pl_sql_statement" that stand in no other of these and hold a token beside the delimiter. One that is
+// all there is of an "error_statement" doesn't count.
 std::size_t CountStatements(std::string_view tree);
 
 } // namespace uvparse
