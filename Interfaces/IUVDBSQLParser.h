@@ -49,7 +49,8 @@ public:
     virtual int set_Query(const char* text) = 0;
 
     // Parses the text and makes the result. Returns: UVDB_NO_DATA if nothing is left of the text to be
-    // parsed; other codes if it failed, and get_LastError then has the message.
+    // parsed; other codes if it failed, and get_LastError then has the message: "out of memory" where that is
+    // what was short, which is no fault of the text.
     virtual int Parse(bool showErrors) = 0;
 
     // Parses the text without preparing it and gives the tree before it is flattened.

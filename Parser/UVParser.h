@@ -11,6 +11,7 @@
 #include "Grammar/UVGrammarParser.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
+#include "Parser/UVParserGuard.h"
 #include "Preparation/PreparedText.h"
 #include "Preparation/Preprocessor.h"
 #include "Stylesheets/Resources.h"
@@ -19,6 +20,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -165,6 +167,21 @@ private:
     friend class ScriptFormatter;
     class CSecondAttempt;
 
+    // GuardEdge, which remembers that memory was short.
+    template <class Operation>
+    int GuardMemory(Operation&& operation)
+    {
+        return GuardEdge([&] {
+            try {
+                return operation();
+            } catch (const std::bad_alloc&) {
+                m_IsOutOfMemory = true;
+                throw;
+            }
+        });
+    }
+
+    bool m_IsOutOfMemory = false;   // in the running Parse
     bool m_IsConnected = false;     // scanner and parser are linked: texts can be parsed
     bool m_IsSecondAttempt = false; // the second attempt doesn't start a third
 };

@@ -59,7 +59,7 @@ int CUVDBSQLParser::ExecuteTree2Serial()
     const auto start = std::chrono::steady_clock::now();
     CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
     const bool isPlain = std::exchange(m_IsResultPlain, false);
-    const int result = GuardEdge([&] {
+    const int result = GuardMemory([&] {
         return m_Result.IsEmpty() ? UVDB_OK : Flatten(m_DatabaseInfo, m_Result, kXmlHeader, isPlain);
     });
     const auto elapsed = std::chrono::steady_clock::now() - start;
@@ -78,7 +78,7 @@ int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U
 int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
                             std::string_view declaration, bool isPlain)
 {
-    return GuardEdge([&] {
+    return GuardMemory([&] {
         const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
         if (!IsStylesheetForced(info) && IsEmbeddedStylesheet(stylesheet)) {
             if (isPlain)

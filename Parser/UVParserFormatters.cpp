@@ -7,6 +7,9 @@
 #include "Parser/ScriptFormatter.h"
 #include "Parser/UVParserText.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 using Uve::U8CString;
@@ -63,28 +66,25 @@ bool HasJclFormat(const SFormatterOptions& options)
 
 // clang-format off
 constexpr SFormatterRow kRows[] = {
-//   kind                     name                    wanted           formatter
-    {UVDB_DB_CPP,             "FormatCPP",            IsPreprocessed,  &ScriptFormatter::FormatCPP},
-    {UVDB_DB_C,               "FormatCPP",            IsPreprocessed,  &ScriptFormatter::FormatCPP},
-    {UVDB_DB_4GL_PROGRESS,    "Format4GL_PROGRESS",   IncludesFiles,   &ScriptFormatter::Format4GL_PROGRESS},
-    {UVDB_DB_ASP,             "FormatASP",            IsAspFile,       &ScriptFormatter::FormatASP},
-    {UVDB_DB_PASCAL,          "FormatPASCAL",         ResolvesDefines, &ScriptFormatter::FormatPASCAL},
-    {UVDB_DB_COBOL,           "FormatCOBOL",          HasCobolFormat,  &ScriptFormatter::FormatCOBOL},
-    {UVDB_DB_TELON_COBOL,     "FormatCOBOL",          HasCobolFormat,  &ScriptFormatter::FormatCOBOL},
-    {UVDB_DB_IBM_RPG,         "FormatIBM_RPG",        Always,          &ScriptFormatter::FormatIBM_RPG},
-    {UVDB_DB_JCL,             "FormatJCL",            HasJclFormat,    &ScriptFormatter::FormatJCL},
-    {UVDB_DB_IBM_CL,          "FormatIBM_CL",         Always,          &ScriptFormatter::FormatIBM_CL},
-    {UVDB_DB_FOXPRO_PROGRAMS, "FormatFoxProPrograms", Always,          &ScriptFormatter::FormatFoxProPrograms},
+//   kind                     name                    wanted           unwanted, since                     formatter
+    {UVDB_DB_CPP,             "FormatCPP",            IsPreprocessed,  "PREPROCESSOR is not 0",            &ScriptFormatter::FormatCPP},
+    {UVDB_DB_C,               "FormatCPP",            IsPreprocessed,  "PREPROCESSOR is not 0",            &ScriptFormatter::FormatCPP},
+    {UVDB_DB_4GL_PROGRESS,    "Format4GL_PROGRESS",   IncludesFiles,   "INCLUDE_FILES is not YES",         &ScriptFormatter::Format4GL_PROGRESS},
+    {UVDB_DB_ASP,             "FormatASP",            IsAspFile,       "the file is no .asp or .inc",      &ScriptFormatter::FormatASP},
+    {UVDB_DB_PASCAL,          "FormatPASCAL",         ResolvesDefines, "UNIK_DEFINE is not Yes",           &ScriptFormatter::FormatPASCAL},
+    {UVDB_DB_COBOL,           "FormatCOBOL",          HasCobolFormat,  "COBOLFORMAT is not set",           &ScriptFormatter::FormatCOBOL},
+    {UVDB_DB_TELON_COBOL,     "FormatCOBOL",          HasCobolFormat,  "COBOLFORMAT is not set",           &ScriptFormatter::FormatCOBOL},
+    {UVDB_DB_IBM_RPG,         "FormatIBM_RPG",        Always,          "",                                 &ScriptFormatter::FormatIBM_RPG},
+    {UVDB_DB_JCL,             "FormatJCL",            HasJclFormat,    "JCLANSIFORMAT is neither YES nor 1", &ScriptFormatter::FormatJCL},
+    {UVDB_DB_IBM_CL,          "FormatIBM_CL",         Always,          "",                                 &ScriptFormatter::FormatIBM_CL},
+    {UVDB_DB_FOXPRO_PROGRAMS, "FormatFoxProPrograms", Always,          "",                                 &ScriptFormatter::FormatFoxProPrograms},
 };
 // clang-format on
 
 } // namespace
 
-const SFormatterRow* FindFormatter(std::uint64_t kind, const SFormatterOptions& options)
+const SFormatterRow* FindFormatter(std::uint64_t kind)
 {
-    for (const SFormatterRow& row : kRows) {
-        if (row.kind == kind)
-            return row.isWanted(options) ? &row : nullptr;
-    }
-    return nullptr;
+    const auto* const row = std::ranges::find(kRows, kind, &SFormatterRow::kind);
+    return row != std::end(kRows) ? row : nullptr;
 }

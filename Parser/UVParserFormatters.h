@@ -21,8 +21,9 @@ struct SFormatterRow
     std::uint64_t kind; // a number of the UVDB_DB_ list
     const char* name;
     bool (*isWanted)(const SFormatterOptions& options);
+    const char* unwanted; // why it isn't, as the end of a sentence
     void (ScriptFormatter::*format)();
 };
 
-// Returns: the formatter for texts of this kind under these options; null if they need none.
-const SFormatterRow* FindFormatter(std::uint64_t kind, const SFormatterOptions& options);
+// Returns: the formatter for texts of this kind, wanted or not; null if there is none.
+const SFormatterRow* FindFormatter(std::uint64_t kind);

@@ -4,6 +4,18 @@
 #include "UVEnvironment/LogSystem.h"
 
 #include <exception>
+#include <new>
+
+bool IsMemoryShort() noexcept
+{
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
 
 int TraceCurrentException() noexcept
 {

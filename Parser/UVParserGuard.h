@@ -1,5 +1,8 @@
 #pragma once
 
+// Whether the exception that is being handled tells of short memory.
+bool IsMemoryShort() noexcept;
+
 // Writes the exception that is being handled to the trace, as one "FAILED" record.
 // Returns: UVDB_ERROR.
 int TraceCurrentException() noexcept;

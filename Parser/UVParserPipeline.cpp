@@ -21,6 +21,8 @@ namespace {
 
 using Uve::U8CString;
 
+constexpr char kOutOfMemory[] = "out of memory";
+
 bool HasDescription(IUVDBErrorInfo& error)
 {
     char description[1024];
@@ -93,7 +95,14 @@ private:
 
 int CUVDBSQLParser::Parse(bool showErrors)
 {
-    const int result = GuardEdge([&] { return ParseQuery(showErrors); });
+    m_IsOutOfMemory = false;
+    const int result = GuardMemory([&] { return ParseQuery(showErrors); });
+    // Whatever the failure was told as on its way: the text is not at fault.
+    if (result < UVDB_OK && m_IsOutOfMemory)
+        GuardEdge([&] {
+            SetLastError(0, kOutOfMemory, nullptr, nullptr);
+            return UVDB_OK;
+        });
     // A host that asked for the list takes a missing one for a clean parse.
     const int reported = GuardEdge([&] {
         return std::min({ReportPreparedLines(), ReportPreparationNotes(), ReportErrors()});
@@ -186,11 +195,16 @@ int CUVDBSQLParser::PrepareToParse()
     m_SourceLines.clear();
     m_PreparedBy = "";
     const bool isPreprocessorEnabled = m_Preprocessor && m_Preprocessor->IsEnabled();
-    if (const SFormatterRow* const row =
-            FindFormatter(GetVersion().db, {m_DatabaseInfo, m_ConvertingObject, isPreprocessorEnabled})) {
+    const SFormatterRow* const row = FindFormatter(GetVersion().db);
+    const SFormatterOptions options{m_DatabaseInfo, m_ConvertingObject, isPreprocessorEnabled};
+    if (row != nullptr && row->isWanted(options)) {
         m_PreparedBy = row->name;
         ScriptFormatter formatter(*this);
         (formatter.*row->format)();
+    } else if (IsForPreparationOnly()) {
+        const char* const reason =
+            row != nullptr ? row->unwanted : "texts of this language need no preparation";
+        m_PreparationNotes.push_back({false, 0, "", std::string("not prepared: ") + reason});
     }
 
     if (!m_Query.IsEmpty()) {
@@ -214,6 +228,7 @@ int CUVDBSQLParser::ExecuteParsingInternal(bool)
     try {
         parsed = m_Parser->yyparse();
     } catch (...) {
+        m_IsOutOfMemory = IsMemoryShort();
         SetLastError(0, "Exception in yyparse", nullptr, nullptr);
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yyparse");
         return UVDB_ERROR;
@@ -238,6 +253,7 @@ int CUVDBSQLParser::ExecuteParsingColoring(bool)
         while (m_ColoringLexer.yylex() != 0) {
         }
     } catch (...) {
+        m_IsOutOfMemory = IsMemoryShort();
         SetLastError(0, "Exception in yylex on coloring", nullptr, nullptr);
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Exception in yylex");
         return UVDB_ERROR;
@@ -250,7 +266,7 @@ int CUVDBSQLParser::ExecuteParsingColoring(bool)
 
 void CUVDBSQLParser::TryParseWithOtherOpts(bool showErrors)
 {
-    GuardEdge([&] {
+    GuardMemory([&] {
         if (!m_DatabaseInfo || !m_IsConnected)
             return static_cast<int>(UVDB_ERROR);
         {

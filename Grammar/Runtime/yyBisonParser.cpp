@@ -1,5 +1,6 @@
 #include "Grammar/Runtime/yyBisonParser.h"
 
+#include <new>
 #include <stdexcept>
 
 // Note: the parser's machine
@@ -138,6 +139,8 @@ int yyBisonParser::yywork()
             bool isRaised = false;
             try {
                 yyaction(rule);
+            } catch (const std::bad_alloc&) {
+                throw; // no fault of the text, which recovery would throw away
             } catch (...) {
                 yyerror("Syntax error");
                 isRaised = true;

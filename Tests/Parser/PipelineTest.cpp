@@ -176,6 +176,9 @@ TEST_F(Pipeline, FlatteningThatFailsIsTold)
     EXPECT_TRUE(m_Log.Text().ends_with("\nFAILED: no stylesheet\n"));
     m_Parser.m_Flatten = []() -> int { throw 7; };
     EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
+    m_Parser.m_Flatten = []() -> int { throw std::bad_alloc(); };
+    EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
+    EXPECT_EQ(LastDescription(), "out of memory");
 }
 
 // ---- The flattening ----

@@ -1,6 +1,7 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/CommandLine.h"
 #include "Tools/uvparse/Findings.h"
+#include "Tools/uvparse/KnownOptions.h"
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "Tools/uvparse/Selection.h"
@@ -10,6 +11,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -32,6 +36,7 @@ struct SDecodeCase
     std::string text;    // empty: refused
     std::string refusal; // what the message must hold
     const char* encoding = "";
+    std::size_t recordLength = 0;
 };
 
 const SDecodeCase kDecodeCases[] = {
@@ -71,6 +76,14 @@ const SDecodeCase kDecodeCases[] = {
     {"\xFE\xFF\0s"s, "", "byte order mark of UTF-16, while --encoding names UTF-16LE", "UTF-16LE"},
     {"a\0"s, "", "NUL character", "CP1252"},
     {"a", "", "no encoding is called 'nonesuch'", "nonesuch"},
+    // NEL and NL end lines on mainframes, and nowhere else.
+    {"\xC1\x15\xC2\x25"s, "A\nB\n", "", "IBM1047"},
+    {"a\x85"s, "a\xC2\x85", "", "ISO-8859-1"},
+    // Records have no line ends, and shift states don't cross them.
+    {"\xC1\x40\x40\xC2\x40\x40"s, "A  \nB  \n", "", "IBM037", 3},
+    {"ab\xC3\xA9"s, "ab\n\xC3\xA9\n", "", "", 2},
+    {"abc"s, "", "no whole records of 2 bytes: one begins at byte offset 2", "", 2},
+    {"a\xC3\xA9z"s, "", "cut off at byte offset", "", 2},
     // Either would have iconv drop or replace what doesn't convert.
     {"a\x81", "", "is no encoding's name", "CP1252//IGNORE"},
     {"a\x81", "", "is no encoding's name", "CP1252//TRANSLIT"},
@@ -81,11 +94,11 @@ TEST(UvparseSourceText, MarksDecideAndWhatIsNoTextIsRefusedWithItsOffset)
     for (const auto& c : kDecodeCases) {
         SCOPED_TRACE(testing::PrintToString(c.bytes) + ' ' + c.encoding);
         if (c.refusal.empty()) {
-            EXPECT_EQ(DecodeSourceText(c.bytes, "f", c.encoding), c.text);
+            EXPECT_EQ(DecodeSourceText(c.bytes, "f", {c.encoding, c.recordLength}), c.text);
             continue;
         }
         try {
-            DecodeSourceText(c.bytes, "f.sql", c.encoding);
+            DecodeSourceText(c.bytes, "f.sql", {c.encoding, c.recordLength});
             ADD_FAILURE() << "not refused";
         } catch (const CToolFailure& e) {
             // An offset is of a file, a name is not.
@@ -107,10 +120,10 @@ TEST(UvparseSourceText, UTF16LongerThanOnePieceKeepsItsPairs)
         text += "\xF0\x9F\x98\x80";
     }
     EXPECT_EQ(DecodeSourceText(bytes, "f"), text);
-    EXPECT_EQ(DecodeSourceText(bytes, "f", "UTF-16"), text);
+    EXPECT_EQ(DecodeSourceText(bytes, "f", {"UTF-16"}), text);
     bytes.replace(bytes.size() - 2, 2, "x");
     try {
-        DecodeSourceText(bytes, "f", "UTF-16");
+        DecodeSourceText(bytes, "f", {"UTF-16"});
         ADD_FAILURE() << "not refused";
     } catch (const CToolFailure& e) {
         EXPECT_STREQ(e.what(), "f: the UTF-16 text is cut off at byte offset 2400000");
@@ -502,7 +515,15 @@ TEST(UvparseLanguage, RulesAreTriedInOrder)
         {"", "", "x.", nullptr, 0, "no extension"},
         {"", "", "a.sql/x", nullptr, 0, "no extension"},
         {"", "", "-", nullptr, 0, "Languages: COBOL MySQL Pascal PostgreSQL Tiny"},
-        {"postgresql", "", "x.sql", nullptr, 0, "there is no language 'postgresql'. Languages: COBOL"},
+        {"postgresql", "", "x.sql", "PostgreSQL", 8, ""},
+        {"delphi", "", "x", "Pascal", 82, ""}, // as people say
+        {"pl/SQL", "", "x", nullptr, 0, "there is no language 'Oracle'. Languages: COBOL"},
+        {"", "", "x.DPR", "Pascal", 82, ""},
+        {"", "", "x.cpy", "COBOL", 90, ""},
+        {"nonesuch", "", "x.sql", nullptr, 0, "there is no language 'nonesuch'. Languages: COBOL"},
+        {"RPG", "", "x", nullptr, 0,
+         "Tiny. Texts of IBMRPG can be prepared: --prepare -l IBMRPG -o IBMRPG_VERSION=0 or"},
+        {"", "", "x.clle", nullptr, 0, "Texts of IBMCL can be prepared: --prepare -l IBMCL"},
         {"../Grammar/Tiny", "", "x.sql", nullptr, 0, "is no parser name"},
         {"/etc", "", "x.sql", nullptr, 0, "is no parser name"},
         {"", "Oracle", "x.sql", nullptr, 0, "there is no language 'Oracle'"},
@@ -531,16 +552,17 @@ TEST(UvparseLanguage, PreparationNeedsNoGrammar)
     EXPECT_EQ(none.Choose("", "IBMCL", "-").parserName, "IBMCL");
     EXPECT_EQ(none.Choose("", "", "x.CL").version.db, none.Choose("IBMCL", "", "-").version.db);
     EXPECT_EQ(none.Choose("", "", "x.pas").parserName, "Pascal"); // two kinds, one parser name
-    EXPECT_THROW(none.Choose("Jcl", "", "x.jcl"), CLanguageError);
+    EXPECT_EQ(none.Choose("Jcl", "", "x.jcl").parserName, "JCL");
+    EXPECT_EQ(none.Choose("", "", "x.rpgle").parserName, "IBMRPG");
+    EXPECT_EQ(none.Choose("", "", "x.cob").parserName, "COBOL"); // others of this extension are rare
     EXPECT_THROW(none.Choose("../JCL", "", "x.jcl"), CLanguageError);
     EXPECT_THROW(none.Choose("", "", "x.nonesuch"), CLanguageError);
     try {
-        none.Choose("", "", "x.cob");
+        none.Choose("", "", "x.inc");
         ADD_FAILURE() << "chosen among several";
     } catch (const CLanguageError& e) {
-        EXPECT_STREQ(
-            e.what(),
-            "files with the extension 'cob' may be of COBOL PACBASE TelonCOBOL; name one with --language");
+        EXPECT_STREQ(e.what(),
+                     "files with the extension 'inc' may be of ASP Pascal; name one with --language");
     }
     // A grammar that is there goes first, also one that no database has.
     const CLanguageChoice here({"TelonCOBOL", "Tiny"}, enPurpose::Preparation);
@@ -614,6 +636,49 @@ TEST(UvparseCommandLine, WhatMakesNoSenseIsRefused)
     EXPECT_THROW(Read({"--lines", "--diff", "f"}), CUsageError);
     EXPECT_THROW(Read({"--prepare", "--lines", "--diff", "f"}), CUsageError);
     EXPECT_NO_THROW(Read({"--prepare", "--lines", "f"}));
+}
+
+// The names in the sources of the library where options are read.
+std::set<std::string> OptionsThatAreRead()
+{
+    const std::regex reading(
+        R"rx((Param|Option|ReadText|IsOptionSet|ReadOption|Get)\w*\([^;"]*"([A-Z][A-Z0-9_]{2,})")rx");
+    std::set<std::string> names;
+    for (const char* folder : {"/Parser", "/Preparation"})
+        for (const auto& entry :
+             std::filesystem::recursive_directory_iterator(std::string(UV_SOURCE_DIR) + folder)) {
+            if (entry.path().extension() != ".cpp")
+                continue;
+            const std::string source = ReadWholeFile(entry.path().string());
+            for (std::sregex_iterator at(source.begin(), source.end(), reading), end; at != end; ++at)
+                names.insert((*at)[2]);
+        }
+    return names;
+}
+
+TEST(UvparseOptions, AreThoseThatTheLibraryReads)
+{
+    // what the parser hands to its host, and what uvparse asks for by itself
+    const std::set<std::string> others = {"REPORT_UNEXPECTED_TOKENS",
+                                          "REPORT_LOST_TEXT",
+                                          "REPORT_PREPARED_LINES",
+                                          "REPORT_PREPARATION_NOTES",
+                                          "PREPARE_ONLY",
+                                          "UNEXPECTED_TOKENS",
+                                          "LOST_TEXT",
+                                          "PREPARED_BY",
+                                          "PREPARED_LINES",
+                                          "PREPARATION_NOTES",
+                                          "WARNINGS_COUNT",
+                                          "WARNINGS_TYPES"};
+    const auto known = [](const std::string& name) {
+        return std::ranges::any_of(DatabaseOptions(),
+                                   [&](const SKnownOption& row) { return row.name == name; });
+    };
+    const std::set<std::string> read = OptionsThatAreRead();
+    EXPECT_GT(read.size(), 20u);
+    for (const std::string& name : read)
+        EXPECT_TRUE(known(name) || others.contains(name)) << name << " is read, and uvparse refuses it";
 }
 
 } // namespace

@@ -82,7 +82,9 @@ TEST_F(UvparsePrepare, TextsArePreparedWithoutAnyGrammar)
 
         const SRunResult prepared = RunProgram(program, "--prepare " + arguments);
         EXPECT_EQ(prepared.code, 0);
-        EXPECT_EQ(prepared.err, "");
+        const bool isLeftAlone = prepared.err.starts_with(c.file + ": warning: not prepared: "s);
+        EXPECT_TRUE(prepared.err.empty() || isLeftAlone) << prepared.err;
+        EXPECT_TRUE(!isLeftAlone || c.source == std::string(c.prepared)) << prepared.err;
         EXPECT_EQ(prepared.out, c.prepared);
 
         const SRunResult lines = RunProgram(program, "--lines " + arguments);
@@ -194,7 +196,7 @@ TEST_F(UvparsePrepare, WhatPreparationCannotDoIsTold)
 
     EXPECT_EQ(Run("--prepare -l Nonesuch a.c").err,
               "uvparse: error: a.c: no language is called 'Nonesuch'\n");
-    EXPECT_EQ(Run("--prepare a.cob").code, 2); // several languages have these
+    EXPECT_EQ(Run("--prepare a.inc").code, 2); // several languages have these
     EXPECT_EQ(Run("--prepare --verify a.cl").code, 2);
 }
 

@@ -257,11 +257,77 @@ TEST_F(UvparseProgram, OutputFolderTakesOneFilePerInput)
     EXPECT_EQ(Get("deep/er/a.sql.xml"), tree);
     EXPECT_TRUE(Has("deep/er/b.sql.xml"));
 
-    const SRunResult clash = Run("--output other x/a.sql y/a.sql");
+    // files of one name go to their folders, from where these part
+    EXPECT_EQ(Run("--output twins x/a.sql x/../y/a.sql $PWD/y/b.sql").code, 0);
+    EXPECT_EQ(Get("twins/x/a.sql.xml"), tree);
+    EXPECT_TRUE(Has("twins/y/a.sql.xml"));
+    EXPECT_TRUE(Has("twins/b.sql.xml"));
+
+    const SRunResult clash = Run("--output other x/a.sql x/../x/a.sql");
     EXPECT_EQ(clash.code, 2);
-    EXPECT_NE(clash.err.find("'x/a.sql' and 'y/a.sql' would both be written"), std::string::npos)
+    EXPECT_NE(clash.err.find("'x/a.sql' and 'x/../x/a.sql' would both be written"), std::string::npos)
         << clash.err;
     EXPECT_FALSE(Has("other"));
+}
+
+TEST_F(UvparseProgram, WhatNeverEndsIsLeftAtItsFirstNul)
+{
+    const SRunResult run = Run("-l PostgreSQL /dev/zero");
+    EXPECT_EQ(run.code, 2);
+    EXPECT_NE(run.err.find("/dev/zero: NUL byte"), std::string::npos) << run.err;
+    EXPECT_EQ(Run("-l PostgreSQL --encoding UTF-16LE /dev/zero").code, 2);
+}
+
+#ifndef UV_SANITIZED // a sanitizer reserves more than any limit allows
+TEST_F(UvparseProgram, ShortMemoryIsNoFaultOfTheTextAndTheNextFileGoesOn)
+{
+    std::string statements;
+    for (int i = 0; i < 200000; ++i)
+        statements += "select a, b from t where x in (1, 2, 3);\n";
+    Put("large.sql", statements);
+    Put("small.sql", "select 1;\n");
+    const SRunResult run = RunProgram("/bin/sh", "-c \"ulimit -v 400000; exec '" UV_BIN_DIR
+                                                 "/uvparse' --stat --output out large.sql small.sql\"");
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.err.find("uvparse: error: large.sql: out of memory\nsmall.sql: 1 statements read, 0 lost"),
+              0u)
+        << run.err;
+    EXPECT_FALSE(Has("out/large.sql.xml"));
+    EXPECT_TRUE(Has("out/small.sql.xml"));
+}
+#endif
+
+TEST_F(UvparseProgram, OptionsThatNothingReadsAreRefused)
+{
+    constexpr struct
+    {
+        const char* arguments;
+        const char* refusal;
+    } kCases[] = {
+        {"-o COBOLFORMT=ANSI", "--option: nothing reads an option 'COBOLFORMT'; did you mean 'COBOLFORMAT'?"},
+        {"-o COBOLFORMAT=YES", "--option: COBOLFORMAT takes one of ANSI FREE NO, not 'YES'"},
+        {"-o JCLANSIFORMAT=yes", "JCLANSIFORMAT takes one of YES"}, // there the case of letters counts
+        {"-o COBOL_TAB_WIDTH=-1", "COBOL_TAB_WIDTH takes a number, not '-1'"},
+        {"-o ORVA_CHILD=maybe", "ORVA_CHILD takes one of yes no true false 1 0, not 'maybe'"},
+        {"--object-option ObjectId=1",
+         "--object-option: nothing reads an option 'ObjectId'; did you mean 'ObjectID'?"},
+    };
+    Put("a.sql", kScript);
+    for (const auto& c : kCases) {
+        SCOPED_TRACE(c.arguments);
+        const SRunResult run = Run("a.sql "s + c.arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_NE(run.err.find(c.refusal), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(Run("a.sql -o cobolformat=ANSI").code, 2);
+    EXPECT_EQ(Run("a.sql -o OPTION_VARYING_PARSING=yes -o ORVA_CHILD=True").code, 0);
+}
+
+TEST_F(UvparseProgram, LanguagesAreListedWithWhatIsDoneForThem)
+{
+    const std::string list = Run("--list-languages").out;
+    for (const char* line : {"COBOL\tprepared\n", "JCL\tprepared, parsed\n", "PostgreSQL\tparsed\n"})
+        EXPECT_NE(list.find(line), std::string::npos) << list;
 }
 
 TEST_F(UvparseProgram, LostWritesAreNeverASuccess)

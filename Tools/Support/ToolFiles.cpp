@@ -58,7 +58,7 @@ mode_t CreationMode(mode_t wanted)
 
 } // namespace
 
-std::string ReadWholeFile(const std::string& path)
+std::string ReadWholeFile(const std::string& path, const std::function<bool(std::string_view)>& isEnough)
 {
     const bool isStandardInput = path == "-";
     const CDescriptor opened(isStandardInput ? -1 : open(path.c_str(), O_RDONLY | O_CLOEXEC));
@@ -82,6 +82,8 @@ std::string ReadWholeFile(const std::string& path)
         if (got == 0)
             break;
         size += static_cast<std::size_t>(got);
+        if (isEnough && isEnough(std::string_view(content).substr(0, size)))
+            break;
     }
     content.resize(size);
     return content;

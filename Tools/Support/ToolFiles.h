@@ -14,9 +14,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// The whole file, byte for byte; "-" reads the standard input.
+// The whole file, byte for byte; "-" reads the standard input. `isEnough`, if given, is asked after each
+// piece with all that was read; once it says yes, the rest of a file that may have no end is left alone.
 // Throws: CToolFailure, also for a folder.
-std::string ReadWholeFile(const std::string& path);
+std::string ReadWholeFile(const std::string& path,
+                          const std::function<bool(std::string_view)>& isEnough = nullptr);
 
 // Where the pieces of a text go, one after the other.
 using TTextSink = std::function<void(std::string_view)>;

@@ -22,6 +22,7 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
         ("object-option", po::value(&objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
         ("encoding", po::value(&line.encoding)->value_name("NAME"), "encoding of the input, by iconv's name; else told by a byte order mark, else UTF-8")
+        ("record-length", po::value(&line.recordLength)->value_name("N"), "the input has no line ends but records of N bytes each")
         ("prepare", po::bool_switch(&line.isPrepare), "print the prepared text instead of parsing it; needs no language tables")
         ("diff", po::bool_switch(&line.isDiff), "with --prepare: source and prepared text side by side, with line numbers")
         ("lines", po::bool_switch(&line.isLines), "print the number of each prepared line and of the source line that it comes from; with --prepare: the prepared text, the source line's number in front")
@@ -30,8 +31,8 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("xpath", po::value(&line.xpath)->value_name("EXPR"), "what this XPath 1.0 expression selects, instead of the whole tree")
         ("color", po::bool_switch(&line.isColor), "the coloring map instead of the tree")
         ("verify", po::bool_switch(&line.isVerify), "check that the tree holds every byte of the source text")
-        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath, .prepared, .diff, .lines) instead of standard output")
-        ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages that are there")
+        ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath, .prepared, .diff, .lines) instead of standard output; files of one name go to their folders there")
+        ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages, and whether texts of them are prepared, parsed or both")
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
         ("stat", po::bool_switch(&line.isStat), "count statements read and lost, unexpected tokens, bytes a second")
@@ -95,6 +96,8 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
                       .run(),
                   values);
         po::notify(values);
+        if (values.count("record-length") > 0 && line.recordLength == 0)
+            throw CUsageError("--record-length needs a number above 0");
         for (const char* option : {"encoding", "xpath"})
             if (values.count(option) > 0 && values[option].as<std::string>().empty())
                 throw CUsageError(std::string("--") + option + " needs a value that isn't empty");

@@ -1,6 +1,7 @@
 // What the user asked for on uvparse's command line.
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -15,10 +16,11 @@ struct SCommandLine
     std::string database;           // KIND[:SUBTYPE[:VERSION]]; empty: by language
     std::vector<std::pair<std::string, std::string>> options;
     std::vector<std::pair<std::string, std::string>> objectOptions;
-    std::string outputFolder; // empty: standard output
-    std::string traceFile;    // empty: no trace
-    std::string encoding;     // of the input, by iconv's name; empty: by its byte order mark
-    std::string xpath;        // empty: the whole tree
+    std::string outputFolder;     // empty: standard output
+    std::string traceFile;        // empty: no trace
+    std::string encoding;         // of the input, by iconv's name; empty: by its byte order mark
+    std::size_t recordLength = 0; // of the input, in bytes; 0: it has line ends
+    std::string xpath;            // empty: the whole tree
     bool isPrepare = false;
     bool isDiff = false;
     bool isLines = false;

@@ -4,6 +4,7 @@
 #include "Catalogue/UVDBHelpers.h"
 #include "Catalogue/UVDBParserNames.h"
 #include "Tools/Support/ToolDatabase.h"
+#include "Tools/uvparse/LanguageNames.h"
 #include "UVEnvironment/UVECompat.h"
 
 #include <algorithm>
@@ -19,6 +20,28 @@ namespace {
 bool IsInCatalogue(const std::string& parserName)
 {
     return VersionOfParser(parserName).db != UVDB_UNKNOWN_DATABASE_KIND;
+}
+
+// Calls `visit` with each row that has a parser, and its name.
+template <class Visit>
+void ForEachInCatalogue(Visit&& visit)
+{
+    const UVDB::DbinfoHelper& catalogue = UVDB::DbinfoHelper::getInstance();
+    for (int index = 0; index <= static_cast<int>(catalogue.getRowCount()); ++index) {
+        const DB_INFO_ROW& row = catalogue.findDbInfo(index);
+        if (!catalogue.isUnknownDbInfo(row))
+            visit(row, std::string(GetParserModuleName(row.dbVersion)));
+    }
+}
+
+// What can be had of a language that can't be parsed, as a sentence to be added; empty if nothing.
+std::string PreparationText(const std::string& parserName)
+{
+    const SPreparedLanguage* const prepared = FindPreparedLanguage(parserName);
+    if (prepared == nullptr)
+        return {};
+    const std::string options = *prepared->options != '\0' ? std::string(" ") + prepared->options : "";
+    return ". Texts of " + parserName + " can be prepared: --prepare -l " + parserName + options;
 }
 
 template <class Names>
@@ -69,13 +92,33 @@ SLanguage CLanguageChoice::Choose(const std::string& parserName, const std::stri
         return ChooseByExtension(path);
 
     SLanguage language;
+    const std::string named = NameOf(parserName);
     if (!database.empty())
         language.version = ReadDatabase(database);
     else
-        language.version = VersionOfParser(parserName);
-    language.parserName = parserName.empty() ? GetParserModuleName(language.version) : parserName;
+        language.version = VersionOfParser(named);
+    language.parserName = named.empty() ? GetParserModuleName(language.version) : named;
     RequireGrammar(language.parserName);
     return language;
+}
+
+// The name as the folders of tables and the catalogue have it, for one that is written or said otherwise.
+std::string CLanguageChoice::NameOf(const std::string& said) const
+{
+    if (said.empty() || HasGrammar(said) || IsInCatalogue(said))
+        return said;
+    const auto isSame = [&](const std::string& name) {
+        return Uve::Compat::stricmp(name.c_str(), said.c_str()) == 0;
+    };
+    if (const auto grammar = std::ranges::find_if(m_Grammars, isSame); grammar != m_Grammars.end())
+        return *grammar;
+    std::string name = said;
+    ForEachInCatalogue([&](const DB_INFO_ROW&, const std::string& parserName) {
+        if (isSame(parserName))
+            name = parserName;
+    });
+    const std::string_view other = ParserOfOtherName(said);
+    return name == said && !other.empty() ? std::string(other) : name;
 }
 
 SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
@@ -85,27 +128,30 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
         throw CLanguageError(
             "'" + path + "' has no extension to tell its language; name one with --language. " + ListText());
     extension.erase(0, 1);
+    const auto isSame = [&](const char* other) {
+        return Uve::Compat::stricmp(other, extension.c_str()) == 0;
+    };
 
-    const UVDB::DbinfoHelper& catalogue = UVDB::DbinfoHelper::getInstance();
     const std::string common = GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON});
     std::set<std::string> fitting;
-    std::set<std::string> known; // to the catalogue, but without a grammar here
-    for (int index = 0; index <= static_cast<int>(catalogue.getRowCount()); ++index) {
-        const DB_INFO_ROW& row = catalogue.findDbInfo(index);
-        if (catalogue.isUnknownDbInfo(row) ||
-            Uve::Compat::stricmp(row.defaultExtension.c_str(), extension.c_str()) != 0)
-            continue;
-        const std::string parserName = GetParserModuleName(row.dbVersion);
-        if (std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
+    std::set<std::string> known; // without a grammar here
+    for (const SFileExtension& row : FileExtensions())
+        if (isSame(row.extension))
+            (HasGrammar(row.parserName) ? fitting : known).insert(row.parserName);
+    const bool isListed = !fitting.empty() || !known.empty();
+    ForEachInCatalogue([&](const DB_INFO_ROW& row, const std::string& parserName) {
+        if (!isSame(row.defaultExtension.c_str()))
+            return;
+        if (HasGrammar(parserName))
             fitting.insert(parserName);
-        else if (IsInCatalogue(parserName))
+        else if (!isListed && IsInCatalogue(parserName))
             known.insert(parserName);
-    }
+    });
     // The common grammar stands in for databases that have none: it gives way to any that has its own.
     if (fitting.size() > 1)
         fitting.erase(common);
+    known.erase(common);
     if (fitting.empty() && m_Purpose == enPurpose::Preparation) {
-        known.erase(common);
         if (known.size() > 1)
             throw CLanguageError("files with the extension '" + extension + "' may be of" + Listed(known) +
                                  "; name one with --language");
@@ -114,8 +160,14 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
     if (fitting.size() != 1)
         throw CLanguageError((fitting.empty() ? "no language here reads files with the extension '"
                                               : "several languages read files with the extension '") +
-                             extension + "'; name one with --language. " + ListText());
+                             extension + "'; name one with --language. " + ListText() +
+                             (fitting.size() + 1 == known.size() ? PreparationText(*known.begin()) : ""));
     return {*fitting.begin(), VersionOfParser(*fitting.begin())};
+}
+
+bool CLanguageChoice::HasGrammar(const std::string& parserName) const
+{
+    return std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName);
 }
 
 void CLanguageChoice::RequireGrammar(const std::string& parserName) const
@@ -123,10 +175,11 @@ void CLanguageChoice::RequireGrammar(const std::string& parserName) const
     // The name becomes part of a path: it must not lead out of the folder of grammars.
     if (parserName.find('/') != std::string::npos || parserName.find("..") != std::string::npos)
         throw CLanguageError("'" + parserName + "' is no parser name");
-    if (std::binary_search(m_Grammars.begin(), m_Grammars.end(), parserName))
+    if (HasGrammar(parserName))
         return;
     if (m_Purpose == enPurpose::Parsing)
-        throw CLanguageError("there is no language '" + parserName + "'. " + ListText());
+        throw CLanguageError("there is no language '" + parserName + "'. " + ListText() +
+                             PreparationText(parserName));
     if (!IsInCatalogue(parserName))
         throw CLanguageError("no language is called '" + parserName + "'");
 }

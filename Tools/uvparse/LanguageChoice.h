@@ -32,10 +32,10 @@ enum class enPurpose
 };
 
 // Chooses among the grammars that are there. The rules, first to last:
-//   a parser name is taken as it is given, and the database kind is the one whose texts it reads;
-//   a database names its parser;
-//   a file's extension is looked up in the catalogue, and must lead to exactly one grammar that is there;
-//   "Common" gives way to another one.
+//   a parser name is taken as it is given, or for what it means (see LanguageNames.h), and the database kind
+//   is the one whose texts it reads; a database names its parser; a file's extension is looked up among those
+//   that such files have and in the catalogue, and must lead to exactly one grammar that is there; "Common"
+//   gives way to another one.
 // For preparation the parser names of the catalogue count as well, and an extension that leads to no grammar
 // may lead to exactly one of them.
 class CLanguageChoice
@@ -54,6 +54,8 @@ public:
                      const std::string& path) const;
 
 private:
+    std::string NameOf(const std::string& said) const;
+    bool HasGrammar(const std::string& parserName) const;
     SLanguage ChooseByExtension(const std::string& path) const;
     void RequireGrammar(const std::string& parserName) const;
     std::string ListText() const;

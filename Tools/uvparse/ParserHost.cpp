@@ -12,6 +12,7 @@
 #include <charconv>
 #include <chrono>
 #include <map>
+#include <new>
 #include <sstream>
 #include <stdexcept>
 
@@ -159,6 +160,8 @@ SParseResult CParserHost::ParseRaw()
             m_Parser->SetLastError();
             ReadFailure(result);
         }
+    } catch (const std::bad_alloc&) {
+        throw;
     } catch (const std::exception& e) {
         result.failure = e.what();
     }
@@ -222,6 +225,8 @@ void CParserHost::ReadFailure(SParseResult& result) const
     std::shared_ptr<IUVDBErrorInfo> error;
     m_Parser->get_LastError(error);
     result.failure = error ? Trimmed(Description(*error)) : std::string();
+    if (result.failure == "out of memory")
+        throw std::bad_alloc();
     if (result.failure.empty())
         result.failure = "the text could not be parsed";
     void* tokens = nullptr;

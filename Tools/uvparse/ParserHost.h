@@ -71,7 +71,7 @@ public:
     CParserHost& operator=(const CParserHost&) = delete;
 
     // `path` becomes the option FilePath of the object being converted.
-    // Throws: std::runtime_error if the tables can't be loaded any more.
+    // Throws: std::runtime_error if the tables can't be loaded any more, std::bad_alloc if memory is short.
     SParseResult Parse(const std::string& text, const std::string& path);
 
     // Parses the text of the last Parse once more, as that one has prepared it, and gives its raw tree.

@@ -1,10 +1,14 @@
 #include "Tools/uvparse/Run.h"
 
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolTerminal.h"
 #include "Tools/uvparse/Findings.h"
+#include "Tools/uvparse/KnownOptions.h"
 #include "Tools/uvparse/LanguageChoice.h"
+#include "Tools/uvparse/LanguageNames.h"
 #include "Tools/uvparse/LegacyEncoding.h"
+#include "Tools/uvparse/OutputNames.h"
 #include "Tools/uvparse/ParserHost.h"
 #include "Tools/uvparse/PreparedDiff.h"
 #include "Tools/uvparse/PrettyTree.h"
@@ -24,7 +28,9 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <new>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace uvparse {
@@ -138,18 +144,27 @@ CRun::CRun(const SCommandLine& line, CToolMessages& messages)
 
 void CRun::ListLanguages()
 {
+    std::map<std::string, std::string> languages;
+    for (const SPreparedLanguage& language : PreparedLanguages())
+        languages[language.parserName] = "prepared";
+    for (const std::string& name : m_Languages.GetGrammars()) {
+        std::string& what = languages[name];
+        what += what.empty() ? "parsed" : ", parsed";
+    }
     std::string text;
-    for (const std::string& name : m_Languages.GetGrammars())
-        text += name + '\n';
+    for (const auto& [name, what] : languages)
+        text += name + '\t' + what + '\n';
     WriteStandardOutput(text);
 }
 
-// Two files of one name would overwrite each other's result, so that is found before the work begins.
+// Results of files of one name go to the folders of these files, so that none overwrites another. What would
+// do so all the same is found before the work begins.
 void CRun::NameOutputs()
 {
     std::map<std::string, std::string> users;
+    const COutputNames names(m_Line.files);
     for (const std::string& path : m_Line.files) {
-        std::string name = path == "-" ? "stdin" : std::filesystem::path(path).filename().string();
+        std::string name = path == "-" ? "stdin" : names.NameOf(path);
         name += m_Line.isDiff      ? ".diff"
                 : m_Line.isPrepare ? ".prepared"
                 : m_Line.isLines   ? ".lines"
@@ -168,10 +183,15 @@ void CRun::NameOutputs()
                                    .append("'"));
         m_OutputPaths[path] = target;
     }
-    std::error_code failed;
-    std::filesystem::create_directories(m_Line.outputFolder, failed);
-    if (failed)
-        throw CToolFailure(m_Line.outputFolder + ": " + failed.message());
+    std::set<std::string> folders{m_Line.outputFolder};
+    for (const auto& [path, target] : m_OutputPaths)
+        folders.insert(std::filesystem::path(target).parent_path().string());
+    for (const std::string& folder : folders) {
+        std::error_code failed;
+        std::filesystem::create_directories(folder, failed);
+        if (failed)
+            throw CToolFailure(folder + ": " + failed.message());
+    }
 }
 
 CParserHost& CRun::HostOf(const SLanguage& language, enMode mode)
@@ -435,7 +455,10 @@ void CRun::RunFile(const std::string& path)
 {
     const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
     const Clock::time_point start = Clock::now();
-    const std::string text = ReadSourceText(path, m_Line.encoding);
+    std::string text = ReadSourceText(path, {m_Line.encoding, m_Line.recordLength});
+    // The preparation takes the last character, whatever it is.
+    if (language.version.db == UVDB_DB_IBM_CL && !m_Line.isRaw && !text.empty() && text.back() != '\n')
+        text += '\n';
     const double readSeconds = SecondsSince(start);
     if (m_Line.IsPreparing())
         PrepareFile(language, path, text, readSeconds);
@@ -458,6 +481,8 @@ int CRun::Run()
         return kToolClean;
     }
     // What the arguments get wrong is told before any work is done.
+    CheckOptions(m_Line.options, DatabaseOptions(), "--option");
+    CheckOptions(m_Line.objectOptions, ObjectOptions(), "--object-option");
     if (!m_Line.encoding.empty())
         CLegacyDecoder check(m_Line.encoding);
     if (!m_Line.xpath.empty())
@@ -474,6 +499,12 @@ int CRun::Run()
         } catch (const CLanguageError& e) {
             m_Progress.Clear();
             m_Messages.Error(ShownName(path) + ": " + e.what());
+            Worsen(kToolCouldNotRun);
+        } catch (const std::bad_alloc&) {
+            // What the text has taken goes with its parser.
+            m_Hosts.clear();
+            m_Progress.Clear();
+            m_Messages.Error(ShownName(path) + ": out of memory");
             Worsen(kToolCouldNotRun);
         } catch (const std::exception& e) {
             m_Progress.Clear();

@@ -20,6 +20,23 @@ constexpr std::string_view kZeroWidthSpace = "\xE2\x80\x8B";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr char kEncodingHint[] = "; if the text is in another encoding, name it with --encoding";
 
+// In place: the text gets shorter.
+void ReplaceAll(std::string& text, std::string_view what, char replacement)
+{
+    std::size_t to = 0;
+    std::size_t from = 0;
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, from)) {
+        std::char_traits<char>::move(text.data() + to, text.data() + from, at - from);
+        to += at - from;
+        text[to++] = replacement;
+        from = at + what.size();
+    }
+    if (from == 0)
+        return;
+    std::char_traits<char>::move(text.data() + to, text.data() + from, text.size() - from);
+    text.resize(to + text.size() - from);
+}
+
 using Converter = int (*)(unsigned char*, int*, const unsigned char*, int*);
 
 // The converters count in int, so the text goes through them in pieces.
@@ -122,6 +139,19 @@ bool IsMark(std::string_view text)
     return text.empty() || text == kByteOrderMark;
 }
 
+// What the files of mainframes end lines with, and the blank of every EBCDIC code page.
+constexpr std::string_view kNextLine = "\xC2\x85";
+constexpr std::string_view kEbcdicBlank = "\x40";
+
+bool IsEbcdic(CLegacyDecoder& decoder)
+{
+    try {
+        return decoder.Decode(kEbcdicBlank) == " ";
+    } catch (const SRefusal&) {
+        return false;
+    }
+}
+
 std::string DecodeByName(const std::string& bytes, const std::string& encoding)
 {
     CLegacyDecoder decoder(encoding);
@@ -141,15 +171,71 @@ std::string DecodeByName(const std::string& bytes, const std::string& encoding)
     std::string text = decoder.Decode(bytes);
     if (text.starts_with(kByteOrderMark))
         text.erase(0, kByteOrderMark.size());
+    if (IsEbcdic(decoder))
+        ReplaceAll(text, kNextLine, '\n');
     return text;
+}
+
+// One record after the other, so that none begins in the shift state that another one ended in.
+std::string DecodeRecords(std::string_view bytes, const SSourceForm& form)
+{
+    if (bytes.size() % form.recordLength != 0)
+        throw SRefusal{"no whole records of " + std::to_string(form.recordLength) + " bytes: one begins",
+                       bytes.size() - bytes.size() % form.recordLength};
+    CLegacyDecoder decoder(form.encoding.empty() ? "UTF-8" : form.encoding);
+    std::string text;
+    for (std::size_t at = 0; at < bytes.size(); at += form.recordLength) {
+        try {
+            text += decoder.Decode(bytes.substr(at, form.recordLength));
+        } catch (const SRefusal& refusal) {
+            throw SRefusal{refusal.reason, at + refusal.offset, refusal.advice};
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+// The bytes that a character takes at least.
+std::size_t UnitOf(std::string_view bytes, const SSourceForm& form)
+{
+    if (form.encoding.empty()) {
+        const Uve::File::Encoding encoding = MarkOf(std::string(bytes.substr(0, 4))).encoding;
+        const bool isUtf16 =
+            encoding == Uve::File::ENCODING_UTF16LE || encoding == Uve::File::ENCODING_UTF16BE;
+        const bool isUtf32 =
+            encoding == Uve::File::ENCODING_UTF32LE || encoding == Uve::File::ENCODING_UTF32BE;
+        return isUtf32 ? 4 : isUtf16 ? 2 : 1;
+    }
+    CLegacyDecoder decoder(form.encoding);
+    for (const std::size_t unit : {std::size_t{1}, std::size_t{2}}) {
+        try {
+            decoder.Decode(std::string(unit, '\0'));
+            return unit;
+        } catch (const SRefusal&) {
+        }
+    }
+    return 4;
+}
+
+// Looks on from `searched`, and sets it to where the next piece begins.
+bool HasNulUnit(std::string_view bytes, std::size_t unit, std::size_t& searched)
+{
+    if (unit == 1)
+        return bytes.find('\0', std::exchange(searched, bytes.size())) != std::string_view::npos;
+    for (; searched + unit <= bytes.size(); searched += unit)
+        if (bytes.substr(searched, unit).find_first_not_of('\0') == std::string_view::npos)
+            return true;
+    return false;
 }
 
 } // namespace
 
-std::string DecodeSourceText(std::string bytes, const std::string& name, const std::string& encoding)
+std::string DecodeSourceText(std::string bytes, const std::string& name, const SSourceForm& form)
 {
     try {
-        std::string text = encoding.empty() ? DecodeByMark(std::move(bytes)) : DecodeByName(bytes, encoding);
+        std::string text = form.recordLength > 0   ? DecodeRecords(bytes, form)
+                           : form.encoding.empty() ? DecodeByMark(std::move(bytes))
+                                                   : DecodeByName(bytes, form.encoding);
         const std::size_t nul = text.find('\0');
         if (nul != std::string::npos)
             throw SRefusal{"NUL character, which source text can't hold, in the text as UTF-8", nul};
@@ -160,22 +246,20 @@ std::string DecodeSourceText(std::string bytes, const std::string& name, const s
     }
 }
 
-std::string ReadSourceText(const std::string& path, const std::string& encoding)
+std::string ReadSourceText(const std::string& path, const SSourceForm& form)
 {
-    return DecodeSourceText(ReadWholeFile(path), path, encoding);
+    std::size_t searched = 0;
+    const auto hasNul = [&](std::string_view bytes) {
+        const std::size_t unit = UnitOf(bytes, form);
+        return bytes.size() >= unit && HasNulUnit(bytes, unit, searched);
+    };
+    return DecodeSourceText(ReadWholeFile(path, hasNul), path, form);
 }
 
-std::string PreparedText(const std::string& text)
+std::string PreparedText(std::string text)
 {
-    std::string prepared;
-    prepared.reserve(text.size());
-    std::size_t from = 0;
-    for (std::size_t at = text.find(kZeroWidthSpace); at != std::string::npos;
-         at = text.find(kZeroWidthSpace, from)) {
-        prepared.append(text, from, at - from).append(1, ' ');
-        from = at + kZeroWidthSpace.size();
-    }
-    return prepared.append(text, from);
+    ReplaceAll(text, kZeroWidthSpace, ' ');
+    return text;
 }
 
 } // namespace uvparse

@@ -1,22 +1,31 @@
 // Reading the texts to be parsed.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace uvparse {
 
-// The whole of a file, a pipe, or standard input ("-") as UTF-8 without its byte order mark. It is read in
-// `encoding`, by iconv's name; without one a byte order mark decides, and what has none is UTF-8.
-// Throws: CToolFailure if it can't be read or isn't text.
-std::string ReadSourceText(const std::string& path, const std::string& encoding);
+// How the bytes of a source are to be read.
+struct SSourceForm
+{
+    std::string encoding; // by iconv's name; empty: a byte order mark decides, and what has none is UTF-8
+    std::size_t recordLength = 0; // bytes of a record, each of which is a line; 0: the text has line ends
+};
+
+// The whole of a file, a pipe, or standard input ("-") as UTF-8 without its byte order mark. The line ends of
+// mainframes, NEL and NL, become line feeds where the encoding is of the EBCDIC family. Reading stops at the
+// first NUL, since what never ends is full of them. Throws: CToolFailure if it can't be read or isn't text.
+std::string ReadSourceText(const std::string& path, const SSourceForm& form);
 
 // The same for bytes at hand; `name` is what messages call them. The text can't hold a NUL: the parser would
-// take it for the end. A byte order mark that isn't the encoding's is refused: one of both must be wrong.
-// Throws: CToolFailure with the offset into `bytes`, or if there is no such encoding.
-std::string DecodeSourceText(std::string bytes, const std::string& name, const std::string& encoding = {});
+// take it for the end. A byte order mark that isn't the encoding's is refused: one of both must be wrong. So
+// are bytes that are no whole number of records. Throws: CToolFailure with the offset into `bytes`, or if
+// there is no such encoding.
+std::string DecodeSourceText(std::string bytes, const std::string& name, const SSourceForm& form = {});
 
 // The text as an ordinary parse sees it: a zero-width space counts as a blank. A raw parse sees the text as
 // it stands.
-std::string PreparedText(const std::string& text);
+std::string PreparedText(std::string text);
 
 } // namespace uvparse

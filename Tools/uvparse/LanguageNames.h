@@ -1,0 +1,32 @@
+// What people call languages and how they name files, beside what the catalogue knows; and which languages
+// are prepared, under which options.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace uvparse {
+
+// An extension that files of a language really have, lower case and without a dot. One extension may belong
+// to several languages.
+struct SFileExtension
+{
+    const char* extension;
+    const char* parserName;
+};
+std::span<const SFileExtension> FileExtensions();
+
+// The parser name of what is called `name` in everyday speech, in any case of letters; empty if nothing is.
+std::string_view ParserOfOtherName(std::string_view name);
+
+// A language whose texts are prepared before they are parsed.
+struct SPreparedLanguage
+{
+    const char* parserName;
+    const char* options; // that ask for the preparation, as on the command line; empty: it is always done
+};
+std::span<const SPreparedLanguage> PreparedLanguages();
+// Null if the texts of this language aren't prepared.
+const SPreparedLanguage* FindPreparedLanguage(std::string_view parserName);
+
+} // namespace uvparse
