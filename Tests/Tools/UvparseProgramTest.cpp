@@ -270,6 +270,35 @@ TEST_F(UvparseProgram, OutputFolderTakesOneFilePerInput)
     EXPECT_FALSE(Has("other"));
 }
 
+struct SLostCase
+{
+    const char* file;
+    const char* text;
+    const char* message; // empty: the text is clean
+};
+
+const SLostCase kLostCases[] = {
+    {"a.sql", "select 1;\n/* note\nselect 2;\n", "a.sql:2:1: error: never closed: '/* note...'\n"},
+    {"b.sql", "select $x$ a; $$ b;", "b.sql:1:8: error: never closed: '$x$ a; $$ b;'\n"},
+    {"c.sql", "select ; creat x; selec 1; select 1;", "c.sql:1:19: error: skipped 'selec 1'\n"},
+    {"a.cl", "PGM\n/* note\n", "a.cl:2:1: error: never closed: '/* note"},
+    {"a.jcl", "//A JOB\n//B EXEC PGM=C\n//D DD *\n data", ""}, // data may end with the text
+    {"b.jcl", "//A JOB\n//B EXEC PGM=C", ""},
+};
+
+TEST_F(UvparseProgram, NoTextThatWasNotReadIsSilent)
+{
+    for (const auto& c : kLostCases) {
+        SCOPED_TRACE(c.text);
+        Put(c.file, c.text);
+        for (const char* mode : {"", "--raw "}) {
+            const SRunResult run = Run(std::string(mode) + c.file);
+            EXPECT_EQ(run.code, *c.message != '\0' ? 1 : 0) << run.err;
+            EXPECT_NE(run.err.find(c.message), std::string::npos) << run.err;
+        }
+    }
+}
+
 TEST_F(UvparseProgram, WhatNeverEndsIsLeftAtItsFirstNul)
 {
     const SRunResult run = Run("-l PostgreSQL /dev/zero");
