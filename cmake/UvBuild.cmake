@@ -121,7 +121,10 @@ function(uv_test target)
     # What is tested is built as the preset says; optimising the tests themselves takes longer than it saves.
     target_compile_options(${target} PRIVATE -O0)
     target_compile_definitions(${target} PRIVATE UV_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-                               UV_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" $<$<BOOL:${UV_SANITIZE}>:UV_SANITIZED>)
+                               UV_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+    if(UV_SANITIZE)
+        target_compile_definitions(${target} PRIVATE UV_SANITIZED)
+    endif()
     # A changed line of the house links the shared library anew, and no test program.
     set_target_properties(${target} PROPERTIES LINK_DEPENDS_NO_SHARED ON)
     if(arg_DEPENDS)
