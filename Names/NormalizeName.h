@@ -201,7 +201,7 @@ public:
     static std::list<Uve::U8CString> BindIdentifier(std::list<Uve::U8CString> names,
                                                     std::list<Uve::U8CString> others);
 
-    // A name as the parser's tree has it. `table` goes into an attribute.
+    // A name as the parser's tree has it. `table` goes into an attribute, unless it is empty.
     static Uve::U8CString BuildXMLIdentifier(const Uve::U8CString& name, unsigned long type,
                                              const Uve::U8CString& table);
     static Uve::U8CString BuildXMLQualifiedIdentifier(const Uve::U8CString& first, unsigned long firstType,

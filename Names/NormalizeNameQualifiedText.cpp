@@ -53,8 +53,9 @@ std::list<Uve::U8CString> CNormalizeName::BindIdentifier(std::list<Uve::U8CStrin
 Uve::U8CString CNormalizeName::BuildXMLIdentifier(const Uve::U8CString& name, unsigned long type,
                                                   const Uve::U8CString& table)
 {
-    return "<sql_identifier identifier_type=\"" + TypeToString(type) + "\" table=\"" + table +
-           "\"><T__REGULAR_SQL_IDENTIFIER type=\"TOKEN\">" + name +
+    const Uve::U8CString tableAttribute = table.empty() ? Uve::U8CString() : " table=\"" + table + "\"";
+    return "<sql_identifier identifier_type=\"" + TypeToString(type) + "\"" + tableAttribute +
+           "><T__REGULAR_SQL_IDENTIFIER type=\"TOKEN\">" + name +
            "</T__REGULAR_SQL_IDENTIFIER></sql_identifier>";
 }
 

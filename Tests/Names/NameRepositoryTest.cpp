@@ -32,6 +32,8 @@ enum enType : int
     kColumn = 17,
     kPrimaryKey = 21,
     kForeignKey = 22,
+    kUniqueConstraint = 24,
+    kComment = 27,
     kIndex = 33,
     kSchema = 36,
     kLabel = 37,
@@ -78,6 +80,9 @@ constexpr SNameSpaceCase kNameSpaces[] = {
     {0, kTable, kIndex, false},
     {2, kPrimaryKey, kProcedure, true},
     {2, kColumn, kPrimaryKey, false},
+    {2, kForeignKey, kTable, true},
+    {2, kUniqueConstraint, kColumn, true},
+    {2, kComment, kComment, false}, // shares no name with anything, not even with another comment
     {4, kTable, kView, true},
     {4, kTable, kProcedure, false},
     {5, kProcedure, kFunction, true},

@@ -388,6 +388,9 @@ TEST(Xml, IdentifiersAreJoinedByDots)
               "<sql_identifier identifier_type=\"Column\" table=\"t\">"
               "<T__REGULAR_SQL_IDENTIFIER type=\"TOKEN\">c</T__REGULAR_SQL_IDENTIFIER></sql_identifier>");
     const Uve::U8CString schema = CNormalizeName::BuildXMLIdentifier("s", 36, "");
+    EXPECT_EQ(schema,
+              "<sql_identifier identifier_type=\"schema\">"
+              "<T__REGULAR_SQL_IDENTIFIER type=\"TOKEN\">s</T__REGULAR_SQL_IDENTIFIER></sql_identifier>");
     const Uve::U8CString column = CNormalizeName::BuildXMLIdentifier("c", kColumn, "");
     EXPECT_EQ(CNormalizeName::BuildXMLQualifiedIdentifier("s", 36, "", kTable, "c", kColumn),
               "<qualified_sql_identifier>" + schema + "<T__DOT type=\"TOKEN\">.</T__DOT>" + column +
