@@ -407,6 +407,25 @@ TEST(Unique, NameSpacesOfTheTargetDecide)
     }
 }
 
+// Constraints and the types up to comments are known without their table, the next type with it.
+TEST(Unique, SqlServerKnowsConstraintsWithoutTheirTable)
+{
+    constexpr int kPartition = 26;
+    constexpr int kComment = 27;
+    constexpr int kTableData = 28;
+    constexpr std::size_t kAbove = 3; // the schema and two tables
+    for (const auto& [type, records] : {std::pair(kPartition, 1u), {kComment, 1u}, {kTableData, 2u}}) {
+        SCOPED_TRACE(type);
+        CNameHost host({8}, {2});
+        for (const char* table : {"t", "u"}) {
+            SName name{"s", table, "thing"};
+            ASSERT_EQ(host.Normalize(type, name), 0);
+            EXPECT_EQ(name.sub, "thing");
+        }
+        EXPECT_EQ(host.normaliser.GetTargetNames().GetCount(), kAbove + records);
+    }
+}
+
 TEST(Unique, PathsAreFilledUpAndReservedNamesCompareAsWritten)
 {
     CNameHost host({2}, {1}, {.reservedWordPattern = "%RWORD%_"});
