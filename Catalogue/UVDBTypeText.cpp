@@ -2,6 +2,7 @@
 
 #include "Catalogue/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
+#include "Catalogue/UVDBTypeTextAdditions.h"
 #include "Catalogue/UVDBTypeTextName.h"
 
 #include <algorithm>
@@ -33,14 +34,18 @@ struct SItem
     enKind kind = kNumber;
     std::int64_t number = 0;
     bool hasUnit = false;
+    enUVDB_LENGTH_UNIT lengthUnit = UVDB_LENGTH_UNIT_NOT_TOLD;
 };
 
-bool IsLengthUnit(std::string_view word)
+enUVDB_LENGTH_UNIT LengthUnit(std::string_view word)
 {
-    constexpr std::string_view kUnits[] = {"BYTE",  "BYTES",       "CHAR",        "CHARACTERS",
-                                           "CHARS", "CODEUNITS16", "CODEUNITS32", "OCTETS"};
-    static_assert(std::ranges::is_sorted(kUnits));
-    return std::ranges::binary_search(kUnits, word);
+    for (const std::string_view bytes : {"BYTE", "BYTES", "OCTETS"})
+        if (word == bytes)
+            return UVDB_LENGTH_UNIT_BYTES;
+    for (const std::string_view characters : {"CHAR", "CHARS", "CHARACTERS", "CODEUNITS16", "CODEUNITS32"})
+        if (word == characters)
+            return UVDB_LENGTH_UNIT_CHARACTERS;
+    return UVDB_LENGTH_UNIT_NOT_TOLD;
 }
 
 SItem ReadItem(std::string_view text)
@@ -73,7 +78,8 @@ SItem ReadItem(std::string_view text)
         left = Trimmed(left.substr(1));
     }
     if (!left.empty()) {
-        if (!IsLengthUnit(left))
+        item.lengthUnit = LengthUnit(left);
+        if (item.lengthUnit == UVDB_LENGTH_UNIT_NOT_TOLD)
             throw CBadTypeText("a number is expected instead of " + Quoted(text));
         item.hasUnit = true;
     }
@@ -102,6 +108,7 @@ public:
 
     STypeNumbers numbers{};
     bool isMax = false;
+    enUVDB_LENGTH_UNIT lengthUnit = UVDB_LENGTH_UNIT_NOT_TOLD;
 
     void Take(std::string_view word, const std::string& text)
     {
@@ -150,6 +157,7 @@ private:
         if (item.kind == SItem::kAsterisk)
             throw CBadTypeText("a number is expected instead of " + Quoted(text));
         isMax = item.kind == SItem::kMax;
+        lengthUnit = item.lengthUnit;
         numbers.size = isMax ? m_Limit : static_cast<unsigned long>(NotNegative(item.number, text));
         numbers.hasSize = true;
     }
@@ -197,6 +205,14 @@ bool TakesReserve(DB_VERSION_INFO version, std::string_view name)
            (name == "VARCHAR" || name == "NVARCHAR" || name == "CHARACTER VARYING");
 }
 
+// Types whose parameters are no numbers: what is in a spatial type, the schema of an XML document.
+bool HasOpaqueParameters(const SDataTypeParams& row)
+{
+    constexpr std::int64_t kTypes[] = {106, 107, 108, 110, 111, 138, 139};
+    static_assert(std::ranges::is_sorted(kTypes));
+    return std::ranges::binary_search(kTypes, row.uvdbType);
+}
+
 void TakeNumbers(const SWritten& written, const SFit& fit, const TWordGroups& groups, bool takesReserve,
                  CNumberReader& reader)
 {
@@ -228,17 +244,22 @@ void TakeNumbers(const SWritten& written, const SFit& fit, const TWordGroups& gr
     }
 }
 
-// The numbers of a name that nobody knows: a size, then a scale.
+// The numbers of a name that nobody knows: a size, then a scale. None where it isn't numbers that stand
+// there.
 STypeNumbers NumbersOfUnknown(const SWritten& written)
 {
-    CNumberReader reader(0);
     if (written.pairs.empty())
         return {};
+    CNumberReader reader(0);
     const std::vector<std::string>& items = written.pairs.front().items;
-    if (!items.empty())
-        reader.Take("LENGTH", items[0]);
-    if (items.size() > 1)
-        reader.Take("SCALE", items[1]);
+    try {
+        if (!items.empty())
+            reader.Take("LENGTH", items[0]);
+        if (items.size() > 1)
+            reader.Take("SCALE", items[1]);
+    } catch (const CBadTypeText&) {
+        return {};
+    }
     return reader.numbers;
 }
 
@@ -256,7 +277,7 @@ std::optional<STypeText> ReadPeriod(DB_VERSION_INFO version, std::string_view te
         return std::nullopt;
     if (!inner.ends_with(')'))
         throw CBadTypeText("the \")\" is missing in " + Quoted(text));
-    SWritten written = TakeApart(inner.substr(1, inner.size() - 2));
+    SWritten written = TakeApart(version, inner.substr(1, inner.size() - 2));
     written.name = UpperCase(written.name);
     CNumberReader reader(0);
     for (const SPair& pair : written.pairs) {
@@ -281,6 +302,76 @@ bool ReadExactName(const SDataTypeTable& table, const std::string& name, STypeTe
     return true;
 }
 
+// The name of the table that a text means once all that isn't the name has been taken off it.
+struct SReading
+{
+    SFound found{};
+    SAdditions additions{};
+    SStandIn standIn{};
+    SValueList values{};
+};
+
+// An IDENTITY that isn't part of the name: a name with the word in it takes no numbers before it.
+bool HasInnerIdentity(const SWritten& written)
+{
+    return written.name.ends_with(" IDENTITY") && std::ranges::any_of(written.pairs, [&](const SPair& pair) {
+               return pair.offset < written.name.size();
+           });
+}
+
+// Takes off `written` what isn't of the name that is found.
+SReading FindReading(DB_VERSION_INFO version, const SDataTypeTable& table, SWritten& written)
+{
+    SReading reading;
+    while (true) {
+        if (!HasInnerIdentity(written))
+            reading.found = FindTypeName(table, written);
+        if (reading.found.span)
+            return reading;
+        reading.values = ReadValueList(version, written);
+        if (reading.values.count > 0) {
+            written = {"VARCHAR", {{7, {std::to_string(reading.values.longest)}}}};
+            continue;
+        }
+        // No stand-in has one itself.
+        if (!reading.standIn.isFound) {
+            reading.standIn = TakeStandIn(version, written);
+            if (reading.standIn.isFound)
+                continue;
+        }
+        if (!TakeAddition(version, written, reading.additions))
+            return reading;
+    }
+}
+
+// The unsigned type where the tables have one: ZEROFILL says UNSIGNED, too, and words come in any order.
+void TakeUnsigned(const SDataTypeTable& table, SWritten& written, SFound& found)
+{
+    SWritten wanted = written;
+    wanted.name += " UNSIGNED";
+    if (SFound other = FindTypeName(table, wanted); other.span) {
+        written = std::move(wanted);
+        found = std::move(other);
+    }
+}
+
+bool IsNumberingName(std::string_view name)
+{
+    return name.find("SERIAL") != std::string_view::npos || name.find("IDENTITY") != std::string_view::npos ||
+           name == "COUNTER";
+}
+
+// INTEGER ARRAY[3] is INTEGER[].
+void TakeArrayWord(SWritten& written)
+{
+    for (const std::string_view words : {" ARRAY[]", " ARRAY"}) {
+        if (!written.name.ends_with(words))
+            continue;
+        written.name.replace(written.name.size() - words.size(), words.size(), "[]");
+        return;
+    }
+}
+
 STypeText ReadText(DB_VERSION_INFO version, std::string_view text)
 {
     if (text.empty())
@@ -291,33 +382,43 @@ STypeText ReadText(DB_VERSION_INFO version, std::string_view text)
         return std::move(*period);
 
     STypeText type;
-    SWritten written = TakeApart(text);
-    const SDataTypeTable& table = SetDBMSDataTypeParamsList(version);
+    SWritten written = TakeApart(version, text);
+    if (written.name.size() > kMaxTypeNameBytes)
+        throw CBadTypeText("the text is too long for a type");
     const std::string asWritten = written.name;
     written.name = UpperCase(written.name);
-    // A name with IDENTITY in it takes no numbers: those in front of the word belong to the name without it.
-    const bool hasInnerNumbers = std::ranges::any_of(
-        written.pairs, [&](const SPair& pair) { return pair.offset < written.name.size(); });
-    SFound found = FindTypeName(table, written);
-    if ((!found.span || hasInnerNumbers) && TakeIdentity(version, written)) {
-        type.identity = true;
-        found = FindTypeName(table, written);
-    }
-    if (!found.span) {
-        type.numbers = NumbersOfUnknown(written);
+    TakeSystemSchema(version, written);
+    TakeArrayWord(written);
+    const SWritten whole = written;
+    const SDataTypeTable& table = SetDBMSDataTypeParamsList(version);
+    SReading reading = FindReading(version, table, written);
+    if (!reading.found.span) {
+        type.numbers = NumbersOfUnknown(whole);
         if (!ReadExactName(table, asWritten, type))
-            type.name = written.name;
+            type.name = whole.name;
         return type;
     }
+    if (reading.additions.isUnsigned)
+        TakeUnsigned(table, written, reading.found);
 
-    const auto rows = RowsOf(table, *found.span);
+    const STypeNameSpan& span = *reading.found.span;
+    const auto rows = RowsOf(table, span);
     CNumberReader reader(LargestSize(version, rows));
-    TakeNumbers(written, found.fit, WordsOf(rows), TakesReserve(version, found.span->name), reader);
-    type.name = U8CString(found.span->name);
+    if (!HasOpaqueParameters(rows.back()))
+        TakeNumbers(written, reading.found.fit, WordsOf(rows), TakesReserve(version, span.name), reader);
+    type.name = U8CString(span.name);
     if (reader.isMax && version.db == UVDB_DB_MSSQL)
         type.name += "(MAX)";
     type.isKnown = true;
+    type.uvdbType = reading.standIn.uvdbType;
     type.numbers = reader.numbers;
+    type.lengthUnit = reader.lengthUnit;
+    type.identity = reading.additions.hasNumbering;
+    type.hasNumbering = type.identity || reading.standIn.hasNumbering || IsNumberingName(span.name);
+    type.characterSet = U8CString(reading.additions.characterSet);
+    type.valueCount = reading.values.count;
+    if (reading.standIn.isFound || reading.values.count > 0)
+        type.writtenName = U8CString(whole.name);
     return type;
 }
 

@@ -25,23 +25,168 @@ bool IsWordCharacter(char character)
 
 // ---- Taking the text apart ----
 
-// The end of a bracket that opens at `open`. Bounds of arrays don't count.
-std::size_t EndOfBounds(std::string_view text, std::size_t open)
+// No type has a longer name, and no message shows more of a text.
+constexpr std::size_t kShownBytes = 200;
+
+bool QuotesByBrackets(DB_VERSION_INFO version)
 {
-    const std::size_t close = text.find(']', open);
-    if (close == std::string_view::npos)
-        throw CBadTypeText("the \"]\" is missing in " + Quoted(text));
-    return close;
+    return version.db == UVDB_DB_MSSQL || version.db == UVDB_DB_SYBASE || version.db == UVDB_DB_ACCESS;
 }
 
-std::size_t EndOfPair(std::string_view text, std::size_t open)
+bool EscapesByBackslash(DB_VERSION_INFO version)
 {
-    const std::size_t close = text.find_first_of("()", open + 1);
+    return version.db == UVDB_DB_MySQL || version.db == UVDB_DB_SingleStoreDB || version.db == UVDB_DB_GBASE;
+}
+
+// The marks that open a quoted name, and what closes it; 0 for other characters.
+char ClosingMark(DB_VERSION_INFO version, char open)
+{
+    if (open == '[')
+        return QuotesByBrackets(version) ? ']' : '\0';
+    return open == '"' || open == '`' ? open : '\0';
+}
+
+// One text on the way through TakeApart.
+class CTextReader
+{
+public:
+    CTextReader(DB_VERSION_INFO version, std::string_view text) : m_Version(version), m_Text(text) {}
+
+    SWritten Read();
+
+private:
+    void ReadPair();
+    void ReadBounds();
+    // What stands between a mark and `close`, which is doubled inside; goes behind the closing one.
+    std::string ReadQuoted(char close, bool hasEscapes);
+    void ReadCharacter(char character);
+    void AddWord(std::string_view word);
+    [[noreturn]] void FailMissing(char mark) const
+    {
+        throw CBadTypeText("the " + Quoted({&mark, 1}) + " is missing in " + Quoted(m_Text));
+    }
+
+    const DB_VERSION_INFO m_Version;
+    const std::string_view m_Text;
+    std::size_t m_At = 0;
+    bool m_NeedsBlank = false; // before the next word
+    SWritten m_Written;
+};
+
+void CTextReader::AddWord(std::string_view word)
+{
+    if (m_NeedsBlank && !m_Written.name.empty())
+        m_Written.name += ' ';
+    m_NeedsBlank = false;
+    m_Written.name += word;
+}
+
+std::string CTextReader::ReadQuoted(char close, bool hasEscapes)
+{
+    std::string content;
+    for (++m_At; m_At < m_Text.size(); ++m_At) {
+        const char character = m_Text[m_At];
+        const char next = m_At + 1 < m_Text.size() ? m_Text[m_At + 1] : '\0';
+        if (character == close && next != close) {
+            ++m_At;
+            return content;
+        }
+        if (character == close || (character == '\\' && hasEscapes && m_At + 1 < m_Text.size()))
+            ++m_At;
+        content += m_Text[m_At];
+    }
+    FailMissing(close);
+}
+
+void CTextReader::ReadPair()
+{
+    if (!m_Written.pairs.empty() && m_Written.pairs.back().offset == m_Written.name.size())
+        throw CBadTypeText("two pairs of parentheses in one place in " + Quoted(m_Text));
+    SPair pair{m_Written.name.size(), {}};
+    std::string item;
+    bool hasItem = false;
+    const auto end = [&](bool isLast) {
+        item = Trimmed(item);
+        // A blank pair has no items.
+        if (hasItem || !isLast || !item.empty() || !pair.items.empty())
+            pair.items.push_back(std::move(item));
+        item.clear();
+        hasItem = false;
+    };
+    for (++m_At; m_At < m_Text.size();) {
+        const char character = m_Text[m_At];
+        if (character == '\'' || character == '"') {
+            item += '\'' + ReadQuoted(character, EscapesByBackslash(m_Version)) + '\'';
+            hasItem = true;
+            continue;
+        }
+        ++m_At;
+        if (character == '(')
+            throw CBadTypeText("a parenthesis inside parentheses in " + Quoted(m_Text));
+        if (character == ')') {
+            end(true);
+            m_Written.pairs.push_back(std::move(pair));
+            m_NeedsBlank = true;
+            return;
+        }
+        if (character == ',')
+            end(false);
+        else
+            item += UpperCase({&character, 1});
+    }
+    FailMissing(')');
+}
+
+// Bounds of arrays don't count, and neither does how many there are.
+void CTextReader::ReadBounds()
+{
+    const std::size_t close = m_Text.find(']', m_At);
     if (close == std::string_view::npos)
-        throw CBadTypeText("the \")\" is missing in " + Quoted(text));
-    if (text[close] == '(')
-        throw CBadTypeText("a parenthesis inside parentheses in " + Quoted(text));
-    return close;
+        FailMissing(']');
+    m_At = close + 1;
+    if (!m_Written.name.ends_with("[]"))
+        m_Written.name += "[]";
+    m_NeedsBlank = true;
+}
+
+void CTextReader::ReadCharacter(char character)
+{
+    constexpr std::string_view kUnexpected = ")],;";
+
+    if (kUnexpected.find(character) != std::string_view::npos)
+        throw CBadTypeText("unexpected " + Quoted({&character, 1}) + " in " + Quoted(m_Text));
+    if (static_cast<unsigned char>(character) < ' ' || character == '\x7f')
+        throw CBadTypeText("a control character in the type");
+    AddWord({&character, 1});
+    ++m_At;
+}
+
+SWritten CTextReader::Read()
+{
+    while (m_At < m_Text.size()) {
+        const char character = m_Text[m_At];
+        if (IsBlank(character)) {
+            m_NeedsBlank = !m_Written.name.empty();
+            ++m_At;
+        } else if (character == '(') {
+            ReadPair();
+        } else if (const char close = ClosingMark(m_Version, character)) {
+            AddWord(ReadQuoted(close, false));
+        } else if (character == '[') {
+            ReadBounds();
+        } else if (character == '\'') {
+            ReadQuoted(character, EscapesByBackslash(m_Version));
+            AddWord("''");
+        } else {
+            ReadCharacter(character);
+        }
+    }
+    const bool hasLetter = std::ranges::any_of(m_Written.name, [](char character) {
+        return IsWordCharacter(character) && (character < '0' || character > '9');
+    });
+    if (!hasLetter)
+        throw CBadTypeText("there is no type name in " + Quoted(m_Text));
+    return std::move(m_Written);
 }
 
 // ---- Finding the name ----
@@ -75,23 +220,6 @@ constexpr SSpelling kSpellings[] = {
     {"TIMESTAMP WITHOUT TIME ZONE", "TIMESTAMP"},
     {"TIME WITHOUT TIME ZONE", "TIME"},
 };
-
-SWritten Canonical(SWritten written)
-{
-    for (const SSpelling& spelling : kSpellings) {
-        const std::size_t length = spelling.written.size();
-        if (!written.name.starts_with(spelling.written) ||
-            (written.name.size() > length && IsWordCharacter(written.name[length])))
-            continue;
-        written.name.replace(0, length, spelling.canonical);
-        for (SPair& pair : written.pairs) {
-            pair.offset = pair.offset < length ? std::min(pair.offset, spelling.canonical.size())
-                                               : pair.offset - length + spelling.canonical.size();
-        }
-        break;
-    }
-    return written;
-}
 
 // A table's name like a written one: its pairs are empty.
 SWritten TakeApartKey(std::string_view key)
@@ -172,19 +300,18 @@ SFound FindFitting(const SDataTypeTable& table, const SWritten& written, bool by
     return best;
 }
 
-SFound FindWithoutAdditions(const SDataTypeTable& table, const SWritten& written)
-{
-    const SFound found = FindFitting(table, written, false);
-    return found.span ? found : FindFitting(table, written, true);
-}
-
 } // namespace
 
 namespace UVDBTypeText {
 
 std::string Quoted(std::string_view text)
 {
-    return "\"" + std::string(text) + "\"";
+    if (text.size() <= kShownBytes)
+        return "\"" + std::string(text) + "\"";
+    std::size_t end = kShownBytes;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        --end;
+    return "\"" + std::string(text.substr(0, end)) + "...\"";
 }
 
 std::string_view Trimmed(std::string_view text)
@@ -219,52 +346,9 @@ std::vector<std::string> SplitItems(std::string_view inner)
     return items;
 }
 
-SWritten TakeApart(std::string_view text)
+SWritten TakeApart(DB_VERSION_INFO version, std::string_view text)
 {
-    SWritten written;
-    bool needsBlank = false; // in front of the next word
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char character = text[i];
-        if (IsBlank(character)) {
-            needsBlank = !written.name.empty();
-            continue;
-        }
-        switch (character) {
-        case '(': {
-            const std::size_t close = EndOfPair(text, i);
-            if (!written.pairs.empty() && written.pairs.back().offset == written.name.size())
-                throw CBadTypeText("two pairs of parentheses in one place in " + Quoted(text));
-            written.pairs.push_back({written.name.size(), SplitItems(text.substr(i + 1, close - i - 1))});
-            i = close;
-            needsBlank = true;
-            break;
-        }
-        case '[':
-            i = EndOfBounds(text, i);
-            written.name += "[]";
-            needsBlank = true;
-            break;
-        case ')':
-        case ']':
-        case ',':
-        case ';':
-        case '\'':
-            throw CBadTypeText("unexpected " + Quoted({&character, 1}) + " in " + Quoted(text));
-        default:
-            if (static_cast<unsigned char>(character) < ' ' || character == '\x7f')
-                throw CBadTypeText("a control character in the type");
-            if (needsBlank && !written.name.empty())
-                written.name += ' ';
-            needsBlank = false;
-            written.name += character;
-        }
-    }
-    const bool hasLetter = std::ranges::any_of(written.name, [](char character) {
-        return IsWordCharacter(character) && (character < '0' || character > '9');
-    });
-    if (!hasLetter)
-        throw CBadTypeText("there is no type name in " + Quoted(text));
-    return written;
+    return CTextReader(version, text).Read();
 }
 
 std::string WithPairs(const SWritten& written)
@@ -275,37 +359,27 @@ std::string WithPairs(const SWritten& written)
     return name;
 }
 
-SFound FindTypeName(const SDataTypeTable& table, SWritten& written)
+SWritten Canonical(SWritten written)
 {
-    SFound found = FindWithoutAdditions(table, written);
-    if (found.span)
-        return found;
-    // How texts are stored and ordered isn't the type's.
-    for (const std::string_view addition : {" CHARACTER SET ", " COLLATE "}) {
-        const std::size_t at = written.name.find(addition);
-        if (at == std::string::npos)
+    for (const SSpelling& spelling : kSpellings) {
+        const std::size_t length = spelling.written.size();
+        if (!written.name.starts_with(spelling.written) ||
+            (written.name.size() > length && IsWordCharacter(written.name[length])))
             continue;
-        SWritten shorter = written;
-        shorter.name.resize(at);
-        std::erase_if(shorter.pairs, [at](const SPair& pair) { return pair.offset > at; });
-        found = FindWithoutAdditions(table, shorter);
-        if (found.span) {
-            written = shorter;
-            return found;
+        written.name.replace(0, length, spelling.canonical);
+        for (SPair& pair : written.pairs) {
+            pair.offset = pair.offset < length ? std::min(pair.offset, spelling.canonical.size())
+                                               : pair.offset - length + spelling.canonical.size();
         }
+        break;
     }
-    return found;
+    return written;
 }
 
-bool TakeIdentity(DB_VERSION_INFO version, SWritten& written)
+SFound FindTypeName(const SDataTypeTable& table, const SWritten& written)
 {
-    constexpr std::string_view kIdentity = " IDENTITY";
-
-    if ((version.db != UVDB_DB_MSSQL && version.db != UVDB_DB_SYBASE) || !written.name.ends_with(kIdentity))
-        return false;
-    written.name.resize(written.name.size() - kIdentity.size());
-    std::erase_if(written.pairs, [&](const SPair& pair) { return pair.offset > written.name.size(); });
-    return true;
+    const SFound found = FindFitting(table, written, false);
+    return found.span ? found : FindFitting(table, written, true);
 }
 
 } // namespace UVDBTypeText

@@ -18,7 +18,8 @@ class CBadTypeText : public std::runtime_error
     using std::runtime_error::runtime_error;
 };
 
-// The texts of one pair of parentheses, and the byte in the name in front of which the pair stands.
+// The texts of one pair of parentheses, and the byte in the name before which the pair stands. A text is
+// trimmed and in upper case; what was quoted in it stays as it is, between apostrophes.
 struct SPair
 {
     std::size_t offset = 0;
@@ -45,6 +46,7 @@ struct SFound
     SFit fit{};
 };
 
+// For messages: long texts are cut.
 std::string Quoted(std::string_view text);
 
 // Without white space at both ends. Borrows `text`.
@@ -56,17 +58,18 @@ std::string UpperCase(std::string_view text);
 // The parts between commas, trimmed and in upper case; none of a blank text.
 std::vector<std::string> SplitItems(std::string_view inner);
 
-// Blanks become single ones, array bounds go. Throws: CBadTypeText.
-SWritten TakeApart(std::string_view text);
+// Blanks become single ones, array bounds and the marks around quoted names go, a quoted text outside of
+// parentheses becomes ''. Throws: CBadTypeText.
+SWritten TakeApart(DB_VERSION_INFO version, std::string_view text);
 
 // The name with an empty pair wherever it was written with one.
 std::string WithPairs(const SWritten& written);
 
-// The name whose spelling and pairs fit best. What a text says of its character set is taken off `written`
-// where no name has it.
-SFound FindTypeName(const SDataTypeTable& table, SWritten& written);
+// The name in the one spelling that stands for all that mean the same in every database: CHARACTER VARYING is
+// VARCHAR.
+SWritten Canonical(SWritten written);
 
-// Takes a trailing IDENTITY with its start and step off. Returns: whether there was one.
-bool TakeIdentity(DB_VERSION_INFO version, SWritten& written);
+// The name whose spelling and pairs fit best.
+SFound FindTypeName(const SDataTypeTable& table, const SWritten& written);
 
 } // namespace UVDBTypeText

@@ -127,6 +127,7 @@ uv_subsystem(uv_types
         UVDBTypePreFormat.cpp
         UVDBTypeRules.cpp
         UVDBTypeText.cpp
+        UVDBTypeTextAdditions.cpp
         UVDBTypeTextName.cpp
         UVDBTypeTrail.cpp
     HEADERS
@@ -145,6 +146,7 @@ uv_subsystem(uv_types
         UVDBTypeMapping.h
         UVDBTypeRules.h
         UVDBTypeText.h
+        UVDBTypeTextAdditions.h
         UVDBTypeTextName.h
         UVDBTypeTrail.h
     LINKS uv_foundation uv_catalogue)

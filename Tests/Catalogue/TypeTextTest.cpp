@@ -78,6 +78,41 @@ constexpr SReadCase kTexts[] = {
     {UVDB_DB_INFORMIX, "DATETIME YEAR TO FRACTION(3)", "DATETIME YEAR TO FRACTION()", -1, 3},
     {UVDB_DB_INFORMIX, "INTERVAL HOUR(3) TO FRACTION(2)", "INTERVAL HOUR() TO FRACTION()", -1, 2, 3},
     {UVDB_DB_INFORMIX, "INTERVAL HOUR TO MINUTE", "INTERVAL HOUR() TO MINUTE"},
+    // what databases write beside the name and its numbers
+    {UVDB_DB_MySQL, "int(10) unsigned zerofill", "INTEGER UNSIGNED"},
+    {UVDB_DB_MySQL, "INT ZEROFILL UNSIGNED", "INTEGER UNSIGNED"},
+    {UVDB_DB_MySQL, "smallint(5) zerofill", "SMALLINT UNSIGNED"},
+    {UVDB_DB_MySQL, "DECIMAL(9,2) UNSIGNED", "DECIMAL", 9, 2},
+    {UVDB_DB_MySQL, "bigint(20) unsigned NOT NULL AUTO_INCREMENT COMMENT 'a (b), c'", "BIGINT UNSIGNED"},
+    {UVDB_DB_MySQL, "char(3) charset latin1 binary", "CHAR", 3},
+    {UVDB_DB_MSSQL, "varchar(50) COLLATE Latin1_General_CI_AS", "VARCHAR", 50},
+    {UVDB_DB_MSSQL, "int IDENTITY(1,1) NOT FOR REPLICATION NOT NULL", "INT"},
+    {UVDB_DB_MSSQL, "[decimal] (8, 2)", "DECIMAL", 8, 2},
+    {UVDB_DB_MSSQL, "[sys].[nvarchar](max)", "NVARCHAR(MAX)", 1073741823},
+    {UVDB_DB_MSSQL, "[XML]([Sales].[Store Survey])", "XML"},
+    {UVDB_DB_DB2, "VARCHAR(10) FOR SBCS DATA CCSID 37", "VARCHAR", 10},
+    {UVDB_DB_DB2, "INTEGER GENERATED ALWAYS AS IDENTITY (START WITH 1, INCREMENT BY 1)", "INTEGER"},
+    {UVDB_DB_TERADATA, "DATE FORMAT 'YYYY-MM-DD'", "DATE"},
+    {UVDB_DB_POSTGRESQL, "public.geometry(Point,4326)", "GEOMETRY"},
+    {UVDB_DB_POSTGRESQL, "varchar(10) collate \"de_DE\"", "VARCHAR", 10},
+    {UVDB_DB_ORA, "\"SDO_GEOMETRY\"", "SDO_GEOMETRY"},
+    // names that the tables have by another name
+    {UVDB_DB_MySQL, "ENUM('a','it''s, (b)','\\'')", "VARCHAR", 9},
+    {UVDB_DB_MySQL, "set(\"ä\", \"bb\") character set utf8mb4", "VARCHAR", 4},
+    {UVDB_DB_MySQL, "YEAR(4)", "SMALLINT"},
+    {UVDB_DB_MySQL, "CHAR(3) BYTE", "BINARY", 3},
+    {UVDB_DB_POSTGRESQL, "FLOAT(24)", "REAL"},
+    {UVDB_DB_POSTGRESQL, "FLOAT(25)", "DOUBLE PRECISION"},
+    {UVDB_DB_POSTGRESQL, "float", "DOUBLE PRECISION"},
+    {UVDB_DB_POSTGRESQL, "interval day to second(3)", "INTERVAL()", -1, 3},
+    {UVDB_DB_POSTGRESQL, "name", "VARCHAR", 63},
+    {UVDB_DB_POSTGRESQL, "integer array[3]", "INTEGER[]"},
+    {UVDB_DB_POSTGRESQL, "int4[][]", "INTEGER[]"},
+    {UVDB_DB_ORA, "NATIONAL CHARACTER VARYING(5)", "NVARCHAR2", 5},
+    {UVDB_DB_DB2, "LONG VARCHAR FOR BIT DATA", "VARCHAR() FOR BIT DATA", 32672},
+    {UVDB_DB_ORA, "YEAR", "YEAR", -1, -1, -1, false}, // of MySQL alone
+    {UVDB_DB_POSTGRESQL, "inet", "INET", -1, -1, -1, false},
+    {UVDB_DB_MySQL, "vector('x')", "VECTOR", -1, -1, -1, false},
     {UVDB_DB_ORA, "no such type(7, 3)", "NO SUCH TYPE", 7, 3, -1, false},
     {UVDB_DB_ORA, "owner.my_type", "OWNER.MY_TYPE", -1, -1, -1, false},
 };
@@ -129,11 +164,18 @@ TEST(TypeText, BadTextsAreRefusedWithTheirReason)
         {UVDB_DB_ORA, "VARCHAR2(10 apples)", "expected instead of \"10 APPLES\""},
         {UVDB_DB_ORA, "NUMBER; DROP", "unexpected \";\""},
         {UVDB_DB_ORA, std::string("NU\1BER"), "control character"},
-        {UVDB_DB_ORA, std::string(kMaxTypeTextBytes + 1, 'A'), "too long"},
+        {UVDB_DB_ORA, std::string(kMaxTypeNameBytes + 1, 'A'), "too long"},
         {UVDB_DB_POSTGRESQL, "INTEGER[", "\"]\" is missing"},
         {UVDB_DB_TERADATA, "PERIOD(TIMESTAMP(6)", "is missing"},
         {UVDB_DB_TERADATA, "PERIOD(TIMESTAMP(x))", "expected instead of \"X\""},
         {UVDB_DB_MySQL, "INT(eleven)", "expected instead of \"ELEVEN\""},
+        {UVDB_DB_MySQL, "INT('11')", "expected instead of \"'11'\""},
+        {UVDB_DB_MySQL, "ENUM", "ENUM needs its values"},
+        {UVDB_DB_MySQL, "ENUM('a','b)", "\"'\" is missing"},
+        {UVDB_DB_MySQL, "ENUM('a'", "\")\" is missing"},
+        {UVDB_DB_MySQL, "SET('a',b)", "SET needs its values"},
+        {UVDB_DB_MSSQL, "[int", "\"]\" is missing"},
+        {UVDB_DB_ORA, "NUMBER(" + std::string(300, '9') + ")", "9...\" is too large"},
     };
     for (const SCase& c : kCases) {
         SCOPED_TRACE(c.text.substr(0, 50));
@@ -143,12 +185,52 @@ TEST(TypeText, BadTextsAreRefusedWithTheirReason)
     }
 }
 
-TEST(TypeText, IdentityIsTakenOff)
+TEST(TypeText, WhatTheNameDoesntSayIsKept)
 {
-    const STypeText type = ReadTypeText(Db(UVDB_DB_MSSQL), "int identity(1,1)");
-    EXPECT_EQ(type.name, "INT");
-    EXPECT_TRUE(type.isKnown && type.identity);
+    struct SCase
+    {
+        std::uint64_t db;
+        const char* text;
+        bool identity; // by a word
+        bool hasNumbering;
+        enUVDB_LENGTH_UNIT unit = UVDB_LENGTH_UNIT_NOT_TOLD;
+        const char* characterSet = "";
+        std::size_t valueCount = 0;
+        const char* writtenName = "";
+    };
+    constexpr SCase kCases[] = {
+        {UVDB_DB_MSSQL, "int identity(1,1)", true, true},
+        {UVDB_DB_MSSQL, "smallint identity", false, true}, // a name of the table
+        {UVDB_DB_MySQL, "int auto_increment", true, true},
+        {UVDB_DB_MySQL, "serial", false, true, {}, "", 0, "SERIAL"},
+        {UVDB_DB_POSTGRESQL, "bigserial", false, true},
+        {UVDB_DB_ORA, "NUMBER(5) GENERATED BY DEFAULT ON NULL AS IDENTITY", true, true},
+        {UVDB_DB_MSSQL, "int", false, false},
+        {UVDB_DB_ORA, "VARCHAR2(5 CHAR)", false, false, UVDB_LENGTH_UNIT_CHARACTERS},
+        {UVDB_DB_DB2, "VARCHAR(5 OCTETS)", false, false, UVDB_LENGTH_UNIT_BYTES},
+        {UVDB_DB_ORA, "VARCHAR2(5)", false, false},
+        {UVDB_DB_MySQL, "varchar(5) character set latin1 collate x", false, false, {}, "LATIN1"},
+        {UVDB_DB_MySQL, "enum('a','b')", false, false, {}, "", 2, "ENUM"},
+        {UVDB_DB_POSTGRESQL, "citext", false, false, {}, "", 0, "CITEXT"},
+    };
+    for (const SCase& c : kCases) {
+        SCOPED_TRACE(c.text);
+        const STypeText type = ReadTypeText(Db(c.db), c.text);
+        EXPECT_TRUE(type.isKnown);
+        EXPECT_EQ(type.identity, c.identity);
+        EXPECT_EQ(type.hasNumbering, c.hasNumbering);
+        EXPECT_EQ(type.lengthUnit, c.unit);
+        EXPECT_EQ(type.characterSet, c.characterSet);
+        EXPECT_EQ(type.valueCount, c.valueCount);
+        EXPECT_EQ(type.writtenName, c.writtenName);
+    }
     EXPECT_FALSE(ReadTypeText(Db(UVDB_DB_ORA), "int identity").isKnown);
+}
+
+TEST(TypeText, AnIntervalsFieldsAreItsType)
+{
+    EXPECT_EQ(ReadTypeText(Db(UVDB_DB_POSTGRESQL), "INTERVAL YEAR TO MONTH").uvdbType, 62);
+    EXPECT_EQ(ReadTypeText(Db(UVDB_DB_POSTGRESQL), "INTERVAL").uvdbType, -1);
 }
 
 TEST(TypeText, LanguagesAreFoundInTheirCase)

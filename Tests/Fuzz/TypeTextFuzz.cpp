@@ -75,8 +75,8 @@ void DriveRead(const DB_VERSION_INFO& source, const DB_VERSION_INFO& target, con
 {
     STypeText type = ReadTypeText(source, text);
     Require(type.error.empty() != type.name.empty());
-    Require(type.error.size() <= kMaxTypeTextBytes + kRoom);
-    Require(type.name.size() <= 2 * kMaxTypeTextBytes + kRoom);
+    Require(type.error.size() <= kMaxTypeNameBytes + kRoom);
+    Require(type.name.size() <= 2 * kMaxTypeNameBytes + kRoom);
     if (!type.error.empty())
         return;
     CompleteTypeNumbers(source, type);
