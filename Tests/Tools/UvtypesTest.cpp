@@ -3,6 +3,7 @@
 #include "Tests/Support/ProgramFixture.h"
 #include "Tools/Support/ToolDatabase.h"
 #include "Tools/uvtypes/Capacity.h"
+#include "Tools/uvtypes/Losses.h"
 #include "Tools/uvtypes/TypeMap.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-// What a type can hold, and what is lost when one stands for another.
+// What a type can hold.
 //
 // This goes by the meaning of internal types and by the numbers of a type's row, and not by the mapping: so
 // it tells of rows that map badly, too. A byte and a character count the same.
@@ -6,47 +6,11 @@
 
 #include "Catalogue/UVDBTypeText.h"
 #include "Interfaces/DB_VERSION_INFO.h"
+#include "Tools/uvtypes/Meaning.h"
 
 #include <cstdint>
-#include <string>
-#include <vector>
 
 namespace uvtypes {
-
-enum class enFamily
-{
-    Unknown,
-    Text,
-    NationalText,
-    Binary,
-    Bits,
-    Integer,
-    Decimal,
-    Float,
-    Boolean,
-    DateTime, // dates, times of day, and both
-    Interval,
-    Uuid,
-    Xml,
-    Json,
-    Spatial,
-    RowId,
-    Array,
-    Variant,
-    Hierarchy,
-    Record
-};
-
-// The parts of a date and time, and of an interval.
-enum enTimeField : unsigned
-{
-    kYear = 1,
-    kMonth = 2,
-    kDay = 4,
-    kHour = 8,
-    kMinute = 16,
-    kSecond = 32
-};
 
 struct SCapacity
 {
@@ -68,9 +32,5 @@ struct SCapacity
 
 // Of a type with its numbers completed.
 SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type);
-
-// What `target`, a type as written for `to`, can't take of `source`. Each is a sentence without a full stop;
-// none: nothing is lost, or nothing is known of one of both.
-std::vector<std::string> Losses(const SCapacity& source, DB_VERSION_INFO to, const std::string& target);
 
 } // namespace uvtypes

@@ -8,6 +8,7 @@
 #include "Tools/uvtypes/Capacity.h"
 #include "Tools/uvtypes/Databases.h"
 #include "Tools/uvtypes/Explanation.h"
+#include "Tools/uvtypes/Losses.h"
 #include "Tools/uvtypes/TypeMap.h"
 
 #include <iostream>
