@@ -2,6 +2,7 @@
 
 #include "Catalogue/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
+#include "Catalogue/UVDBKindSet.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,6 +50,7 @@ void SetDecimalRange(long digits, long scale, SCapacity& capacity)
     capacity.isBounded = true;
     capacity.most = std::pow(10.0, static_cast<double>(digits - scale));
     capacity.least = -capacity.most;
+    capacity.wholeDigits = digits - scale;
     capacity.fraction = std::max(scale, 0L);
 }
 
@@ -89,10 +91,12 @@ long BitsOfDigits(double digits)
     return static_cast<long>(std::ceil(digits * std::log2(10.0)));
 }
 
+constexpr long kDecimalFloat = 137;
+
 long FloatBits(const SMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers)
 {
     // Decimal floats count decimal digits.
-    if (meaning.type == 137)
+    if (meaning.type == kDecimalFloat)
         return row.columnSize > 0 ? BitsOfDigits(static_cast<double>(row.columnSize)) : meaning.bits;
     if (TakesWord(row, "PRECISION") || TakesWord(row, "LENGTH")) {
         const auto told = static_cast<long>(numbers.size);
@@ -111,10 +115,13 @@ long FractionOfText(std::uint64_t size, unsigned fields)
 }
 
 void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypeParams& row,
-             const STypeNumbers& numbers, SCapacity& capacity)
+             const STypeText& type, SCapacity& capacity)
 {
+    const STypeNumbers& numbers = type.numbers;
     capacity.fields = meaning.fields;
-    capacity.hasZone = meaning.hasZone;
+    // MySQL's TIMESTAMP is a moment: it is shown in the zone of whoever asks.
+    const bool isMoment = version.db == UVDB_DB_MySQL && std::strcmp(row.name, "TIMESTAMP") == 0;
+    capacity.hasZone = meaning.hasZone || isMoment;
     const bool hasSeconds = (meaning.fields & kSecond) != 0;
     const bool isInterval = meaning.family == enFamily::Interval;
     if (!hasSeconds || (isInterval && !row.isScaleValid && !numbers.hasScale))
@@ -128,8 +135,8 @@ void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypePa
     if (isInterval) {
         if (row.isLeadingPrecisionValid)
             capacity.leadingDigits = numbers.leadingPrecision;
-        // One type for all of them.
-        if (version.db == UVDB_DB_POSTGRESQL)
+        // One type for all of them, unless fields are written.
+        if (version.db == UVDB_DB_POSTGRESQL && type.uvdbType == -1)
             capacity.fields = kDate | kTime;
     }
     // To the minute.
@@ -156,6 +163,24 @@ long FloatingDigits(DB_VERSION_INFO version, const SDataTypeParams& row, const S
     return 0;
 }
 
+// PostgreSQL's NUMERIC without numbers takes all digits that come, before the point and after it.
+bool IsUnlimitedDecimal(DB_VERSION_INFO version, const STypeText& type)
+{
+    constexpr CKindSet kKinds{UVDB_DB_POSTGRESQL, UVDB_DB_ENTERPRISEDB, UVDB_DB_GREENPLUM, UVDB_DB_VPOSTGRES};
+    return type.uvdbType == kDecimalFloat && kKinds.Has(version.db);
+}
+
+void SetText(DB_VERSION_INFO version, const SDataTypeParams& row, const STypeText& type, SCapacity& capacity)
+{
+    capacity.length = type.numbers.size > 0 ? type.numbers.size : row.columnSize;
+    capacity.text = TextTraitsOf(version, row, type);
+    capacity.foldsCase = type.writtenName == "CITEXT";
+    capacity.valueCount = type.valueCount;
+    const std::string_view name = row.name;
+    const bool isVarying = name == "VARCHAR" || name == "CHARACTER VARYING";
+    capacity.hasNoLength = version.db == UVDB_DB_POSTGRESQL && type.numbers.size == 0 && isVarying;
+}
+
 } // namespace
 
 SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type)
@@ -170,9 +195,15 @@ SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type)
     const SMeaning* const meaning = MeaningOf(static_cast<long>(row->uvdbType));
     if (meaning == nullptr)
         return capacity;
+    capacity.hasNumbering = type.hasNumbering;
+    if (IsUnlimitedDecimal(version, type)) {
+        capacity.family = enFamily::Decimal;
+        return capacity;
+    }
     if (const long digits = FloatingDigits(version, *row, type.numbers); digits > 0) {
         capacity.family = enFamily::Float;
         capacity.floatBits = BitsOfDigits(static_cast<double>(digits));
+        capacity.isDecimalFloat = true;
         return capacity;
     }
     capacity.family = meaning->family;
@@ -183,10 +214,15 @@ SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type)
         break;
     case enFamily::Float:
         capacity.floatBits = FloatBits(*meaning, *row, type.numbers);
+        capacity.isDecimalFloat = meaning->type == kDecimalFloat;
         break;
     case enFamily::DateTime:
     case enFamily::Interval:
-        SetTime(version, *meaning, *row, type.numbers, capacity);
+        SetTime(version, *meaning, *row, type, capacity);
+        break;
+    case enFamily::Text:
+    case enFamily::NationalText:
+        SetText(version, *row, type, capacity);
         break;
     default:
         capacity.length = type.numbers.size > 0 ? type.numbers.size : row->columnSize;

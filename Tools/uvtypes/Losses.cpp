@@ -21,7 +21,7 @@ struct SFamilyName
 
 constexpr SFamilyName kFamilyNames[] = {
     {enFamily::Text,         "text"},
-    {enFamily::NationalText, "national text"},
+    {enFamily::NationalText, "text"},
     {enFamily::Binary,       "bytes"},
     {enFamily::Bits,         "bits"},
     {enFamily::Integer,      "an integer"},
@@ -60,36 +60,88 @@ bool IsNumber(enFamily family)
     return family == enFamily::Integer || family == enFamily::Decimal || family == enFamily::Float;
 }
 
-std::string NumberText(double number)
+std::string LimitText(double limit, const SCapacity& capacity)
 {
+    if (capacity.family == enFamily::Decimal && capacity.wholeDigits > 0)
+        return std::to_string(capacity.wholeDigits) + " digits before the point";
     char text[40];
-    std::snprintf(text, sizeof(text), "%.15g", number);
+    std::snprintf(text, sizeof(text), "%.15g", limit);
     return text;
 }
 
-std::string BitsText(long bits)
+std::string CountText(std::uint64_t count, const char* one)
 {
-    // What has thousands of digits is told to have no limit.
-    constexpr long kMany = 10000;
-    return bits >= kMany ? "no limit" : std::to_string(bits) + " binary digits";
+    return std::to_string(count) + ' ' + one + (count == 1 ? "" : "s");
 }
 
-bool HasNationalTypes(DB_VERSION_INFO version)
+// Of the significand of a float, as decimal digits that are always exact.
+std::string DigitsText(long bits)
 {
-    for (const SDataTypeParams& row : GetDBMSDataTypeParamsList(version)) {
-        const SMeaning* const meaning = MeaningOf(static_cast<long>(row.uvdbType));
-        if (meaning != nullptr && meaning->family == enFamily::NationalText)
-            return true;
-    }
-    return false;
+    return std::to_string(static_cast<long>(static_cast<double>(bits) * std::log10(2.0))) + " digits";
 }
 
 using Texts = std::vector<std::string>;
 
 void CompareLengths(std::uint64_t wanted, std::uint64_t there, Texts& losses)
 {
-    if (wanted != 0 && there != 0 && wanted > there)
+    // No value is that long.
+    constexpr std::uint64_t kHuge = 1000000000;
+    if (wanted != 0 && there != 0 && wanted > there && there < kHuge)
         losses.push_back("length: " + std::to_string(wanted) + " there, " + std::to_string(there) + " here");
+}
+
+// Above this nobody counts characters: large objects.
+constexpr std::uint64_t kLongText = 1000000;
+
+// A character takes up to so many bytes.
+constexpr std::uint64_t kMostBytes = 4;
+
+void CompareTextLengths(const SCapacity& source, const SCapacity& target, Texts& losses)
+{
+    if (source.hasNoLength) {
+        if (!target.hasNoLength && target.length != 0 && target.length < kLongText)
+            losses.push_back("length: no limit there, " + std::to_string(target.length) + " here");
+        return;
+    }
+    if (source.length == 0 || target.length == 0)
+        return;
+    if (source.length > target.length) {
+        CompareLengths(source.length, target.length, losses);
+        return;
+    }
+    // In a code page it is the character set that gets lost.
+    const bool isCountedInBytes =
+        target.text.unit == UVDB_LENGTH_UNIT_BYTES && target.text.characters == enCharacters::Unicode;
+    if (!isCountedInBytes || target.length >= kLongText || target.length / kMostBytes >= source.length)
+        return;
+    const std::string bytes = CountText(target.length, "byte");
+    if (source.text.unit == UVDB_LENGTH_UNIT_CHARACTERS)
+        losses.push_back("length: " + CountText(source.length, "character") + " there, " + bytes + " here");
+    else if (source.text.characters == enCharacters::CodePage)
+        losses.push_back("length: " + CountText(source.length, "byte") + " of a code page there, " + bytes +
+                         " of Unicode here");
+}
+
+void CompareTexts(const SCapacity& source, const SCapacity& target, Texts& losses)
+{
+    CompareTextLengths(source, target, losses);
+    if (source.text.characters == enCharacters::Unicode && target.text.characters == enCharacters::CodePage)
+        losses.emplace_back("character set: Unicode there, a code page here");
+    if (source.valueCount > 0 && target.valueCount == 0)
+        losses.push_back("values: only " + std::to_string(source.valueCount) + " allowed there, any here");
+    if (source.foldsCase && !target.foldsCase)
+        losses.emplace_back("case: doesn't count there, may count here");
+}
+
+// An exact number in a floating one.
+bool StaysExact(const SCapacity& source, const SCapacity& target)
+{
+    const double limit = std::ldexp(1.0, static_cast<int>(target.floatBits));
+    if (!target.isDecimalFloat)
+        return source.isBounded && source.fraction == 0 && source.most <= limit;
+    // Of what has no limit nobody uses more digits than such a one has.
+    const auto digits = static_cast<double>(source.wholeDigits + source.fraction);
+    return !source.isBounded || source.family == enFamily::Integer || std::pow(10.0, digits) <= limit;
 }
 
 void CompareNumbers(const SCapacity& source, const SCapacity& target, Texts& losses)
@@ -100,29 +152,28 @@ void CompareNumbers(const SCapacity& source, const SCapacity& target, Texts& los
             if (target.isBounded)
                 losses.push_back("range: a floating point number there, fixed digits here");
         } else if (target.floatBits < source.floatBits) {
-            losses.push_back("precision: " + BitsText(source.floatBits) + " there, " +
-                             BitsText(target.floatBits) + " here");
+            losses.push_back("precision: " + DigitsText(source.floatBits) + " there, " +
+                             DigitsText(target.floatBits) + " here");
         }
         return;
     }
     if (target.family == enFamily::Float) {
-        const bool isExact = source.isBounded && source.fraction == 0 &&
-                             source.most <= std::ldexp(1.0, static_cast<int>(target.floatBits));
-        if (!isExact)
+        if (!StaysExact(source, target) && target.isDecimalFloat)
+            losses.push_back("precision: " + std::to_string(source.wholeDigits + source.fraction) +
+                             " digits there, " + DigitsText(target.floatBits) + " here");
+        else if (!StaysExact(source, target))
             losses.push_back("precision: an exact number there, a floating point number here");
         return;
     }
-    if (target.isBounded && !source.isBounded)
-        losses.push_back("range: no limit there, " + NumberText(target.most) + " here");
     // Rounded powers of ten and of two don't meet closer than this.
     constexpr double kAlmost = 1 - 1e-12;
     if (target.isBounded && source.isBounded) {
         if (source.most * kAlmost > target.most)
-            losses.push_back("range: up to " + NumberText(source.most) + " there, " +
-                             NumberText(target.most) + " here");
+            losses.push_back("range: up to " + LimitText(source.most, source) + " there, " +
+                             LimitText(target.most, target) + " here");
         else if (source.least * kAlmost < target.least)
-            losses.push_back("range: from " + NumberText(source.least) + " there, " +
-                             NumberText(target.least) + " here");
+            losses.push_back("range: from " + LimitText(source.least, source) + " there, " +
+                             LimitText(target.least, target) + " here");
     }
     if (target.fraction < source.fraction)
         losses.push_back(
@@ -212,10 +263,10 @@ std::vector<std::string> Losses(const SCapacity& source, DB_VERSION_INFO to, con
         return {};
 
     Texts losses;
+    if (source.hasNumbering && !here.hasNumbering)
+        losses.emplace_back("numbering: rows are numbered there, not here");
     if (IsText(source.family) && IsText(here.family)) {
-        CompareLengths(source.length, here.length, losses);
-        if (source.family == enFamily::NationalText && here.family == enFamily::Text && HasNationalTypes(to))
-            losses.push_back("family: national text there, text of the database's own character set here");
+        CompareTexts(source, here, losses);
     } else if (IsNumber(source.family) && IsNumber(here.family)) {
         CompareNumbers(source, here, losses);
     } else if (source.family == here.family) {
