@@ -101,11 +101,15 @@ TEST_F(Uvtypes, StandardInputIsReadToItsEnd)
     const SRunResult run = Map("Oracle", "MySQL", "--format tsv -");
     EXPECT_EQ(run.code, 1);
     const std::vector<Texts> rows = Rows(run.out);
-    ASSERT_EQ(rows.size(), 3u);
+    ASSERT_EQ(rows.size(), 7u) << "every line but the blank one has its answer";
     EXPECT_EQ(rows[0][0], "NUMBER(5)");
     EXPECT_EQ(rows[1][0], "varchar2( 10 )");
     EXPECT_EQ(rows[1][3], "VARCHAR(10)");
-    EXPECT_EQ(rows[2][0], "DATE");
+    for (const std::size_t unknown : {2, 3, 4, 5})
+        EXPECT_EQ(rows[unknown].at(1), "unknown");
+    EXPECT_EQ(rows[2][0], "NOSUCH");
+    EXPECT_EQ(rows[5][0], "\xEF\xBF\xBD") << "no byte that isn't UTF-8 goes out";
+    EXPECT_EQ(rows[6][0], "DATE");
     const Texts messages = Split(run.err, '\n');
     ASSERT_EQ(messages.size(), 4u) << run.err;
     EXPECT_THAT(messages[0], StartsWith("<stdin>:4: error: Oracle: there is no type 'NOSUCH'"));
@@ -113,7 +117,31 @@ TEST_F(Uvtypes, StandardInputIsReadToItsEnd)
     EXPECT_THAT(messages[2],
                 HasSubstr("<stdin>:6: error: Oracle: there is no type 'NUMBR'; did you mean 'NUMBER'"));
     EXPECT_THAT(messages[3], StartsWith("<stdin>:7: error: "));
-    EXPECT_EQ(nlohmann::json::parse(Map("Oracle", "MySQL", "--format json -").out).size(), 3u);
+    EXPECT_EQ(nlohmann::json::parse(Map("Oracle", "MySQL", "--format json -").out).size(), 7u);
+}
+
+TEST_F(Uvtypes, FilesAreReadLikeStandardInput)
+{
+    Put("types.txt", "\xEF\xBB\xBFNUMBER(5)\r\nNOSUCH\n");
+    Put("DATE", "CLOB\n");
+    Put("in", "RAW(5)\n");
+    const SRunResult run = Map("Oracle", "MySQL", "--format tsv --check types.txt DATE ./DATE - nofile");
+    EXPECT_EQ(run.code, 1);
+    const Texts expected = {"NUMBER(5)", "NOSUCH", "DATE", "CLOB", "RAW(5)", "nofile"};
+    const std::vector<Texts> rows = Rows(run.out);
+    ASSERT_EQ(rows.size(), expected.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        EXPECT_EQ(rows[i][0], expected[i]);
+    EXPECT_THAT(run.err, HasSubstr("types.txt:2: error: Oracle: there is no type 'NOSUCH'"));
+    EXPECT_THAT(run.err, HasSubstr("uvtypes: error: Oracle: there is no type 'NOFILE'"));
+}
+
+TEST_F(Uvtypes, ExplanationNamesWhatStandsInForAType)
+{
+    EXPECT_THAT(Map("MySQL", "Oracle", "--explain \"SET('a','b')\"").out,
+                HasSubstr("read          VARCHAR, size 3, in place of SET of 2 values\n"));
+    EXPECT_THAT(Map("PostgreSQL", "Oracle", "--explain inet").out,
+                HasSubstr("    unknown       there is no type 'INET'"));
 }
 
 // A program that writes a type and waits for what it is called.
@@ -152,7 +180,9 @@ TEST_F(Uvtypes, WhatCantBeDoneIsSaid)
         {"map --to MySQL DATE", "map needs --from and --to"},
         {"map --from Oracle --to MySQL", "no type given"},
         {"map --from Oracle --to MySQL --all DATE", "name none"},
-        {"map --from Oracle --to MySQL DATE -", "'-' stands alone"},
+        {"map --from Oracle --to MySQL - -", "'-' stands there once"},
+        {"map --from Oracle --to MySQL missing/types.txt", "missing/types.txt: No such file"},
+        {"map --from Oracle --to MySQL ./", "./: Is a directory"},
         {"map --from Oracle --to Excel DATE", "Excel can't be a target"},
         {"map --from Oracle --to MySQL --al", "unrecognised option"},
         {"list Oracle > /dev/full", "standard output"},

@@ -1,5 +1,7 @@
 #include "Tools/Support/ToolResults.h"
 
+#include "UVEnvironment/UVEEncoding.h"
+
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
@@ -61,6 +63,11 @@ std::optional<enToolFormat> ReadToolFormat(std::string_view name)
 
 void AppendTsvText(std::string_view text, std::string& out)
 {
+    std::string replaced;
+    if (!UVDB::IsValidUTF8(text)) {
+        replaced = Uve::WideToUTF8(Uve::UTF8ToWide(text));
+        text = replaced;
+    }
     for (const char c : text) {
         switch (c) {
         case '\t':

@@ -22,7 +22,8 @@ enum class enToolFormat
 // The format by its name on a command line: "table", "tsv" or "json".
 std::optional<enToolFormat> ReadToolFormat(std::string_view name);
 
-// A text as a cell of TSV: \t, \n, \r and \\ for what would break a line; and back again.
+// A text as a cell of TSV: \t, \n, \r and \\ for what would break a line, and the replacement character for
+// bytes that are no UTF-8; and back again.
 void AppendTsvText(std::string_view text, std::string& out);
 std::string TsvText(std::string_view cell);
 

@@ -55,11 +55,13 @@ struct SCommand
 // clang-format off
 constexpr SCommand kCommands[] = {
 //   name         command               min max         options         usage, purpose, examples
-    {"map",       enCommand::Map,       0,  kAnyNumber, AddMapOptions,  "map --from DB --to DB TYPE... | - | --all",
-     "Tells what types of one database are called in another. '-' reads one type a line from standard input.",
+    {"map",       enCommand::Map,       0,  kAnyNumber, AddMapOptions,  "map --from DB --to DB TYPE|FILE|-... | --all",
+     "Tells what types of one database are called in another. A file has one type a line; '-' is standard input. "
+     "What isn't\n  a type and is the name of a file is one. A type that isn't known gets a line that says 'unknown'.",
      "uvtypes map --from Oracle --to PostgreSQL 'NUMBER(10,2)' 'VARCHAR2(30 CHAR)' DATE\n"
      "uvtypes map --from Oracle:11.2 --to MSSQL:9.0 --explain CLOB\n"
      "uvtypes map --from MySQL --to Oracle --all --check\n"
+     "uvtypes map --from MySQL --to Oracle types.txt --check\n"
      "cut -f3 columns.tsv | uvtypes map --from DB2 --to Teradata --format tsv -\n"},
     {"list",      enCommand::List,      1,  1,          AddNoOptions,   "list DB",
      "Prints the data types of a database: name, internal type, limits, words of the parameters.",
@@ -118,9 +120,10 @@ void RefuseContradictions(const SCommand& command, const SCommandLine& line)
     if (line.isAll && !line.operands.empty())
         throw CUsageError("--all takes the types from the source's table: name none");
     if (!line.isAll && line.operands.empty())
-        throw CUsageError("no type given ('-' reads standard input, --all takes the source's table)");
-    if (line.operands.size() > 1 && std::count(line.operands.begin(), line.operands.end(), "-") > 0)
-        throw CUsageError("'-' stands alone: types come from the command line or from standard input");
+        throw CUsageError(
+            "no type given (a file has one a line, '-' is standard input, --all takes the source's table)");
+    if (std::count(line.operands.begin(), line.operands.end(), "-") > 1)
+        throw CUsageError("'-' stands there once: standard input is read to its end");
 }
 
 void AddCommandHelp(const SCommand& command, std::ostringstream& text)
@@ -184,9 +187,10 @@ std::string HelpText(const std::string& topic)
            "\nResults go to standard output, messages to standard error. --help behind a command tells of it "
            "alone,\n"
            "--version prints the version.\n"
-           "Exit code: 0 clean; 1 a type couldn't be read, or --check found a loss; 2 something could not "
-           "run: bad\n"
-           "arguments, an unknown database, failed writes.\n";
+           "Exit code: 0 clean; 1 a type isn't known, or --check found a loss; 2 something could not run: "
+           "bad "
+           "arguments,\n"
+           "an unknown database, files that can't be read, failed writes.\n";
     return text.str();
 }
 

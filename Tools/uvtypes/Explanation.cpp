@@ -69,6 +69,17 @@ std::string RungText(const SToolDatabase& database, const SDataTypeParams& row)
     return text;
 }
 
+// ", in place of YEAR", where another name of the table holds the values.
+std::string StandInText(const STypeText& type)
+{
+    if (type.writtenName.empty())
+        return {};
+    std::string text = std::string(", in place of ") + type.writtenName.c_str();
+    if (type.valueCount > 0)
+        text += " of " + std::to_string(type.valueCount) + (type.valueCount == 1 ? " value" : " values");
+    return text;
+}
+
 std::string SheafText(const SToolDatabase& to)
 {
     const SMappingSheafKey& sheaf = SheafOf(to);
@@ -111,8 +122,9 @@ ToolDetails Explain(const SToolDatabase& from, const SToolDatabase& to, const SM
                     const STypeTrail& trail)
 {
     ToolDetails details;
-    details.emplace_back("read",
-                         mapped.source.name.c_str() + NumbersText(mapped.written, mapped.source.numbers));
+    details.emplace_back("read", mapped.source.name.c_str() +
+                                     NumbersText(mapped.written, mapped.source.numbers) +
+                                     StandInText(mapped.source));
     if (trail.sourceRow != nullptr)
         details.emplace_back("source", RungText(from, *trail.sourceRow));
     for (const enTypeDecision decision : trail.decisions)

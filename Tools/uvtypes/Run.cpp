@@ -3,6 +3,7 @@
 #include "Catalogue/UVDBDataTypes.h"
 #include "Tools/Support/ToolDatabaseNames.h"
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/Support/ToolLines.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/Support/ToolResults.h"
 #include "Tools/uvtypes/Capacity.h"
@@ -11,7 +12,9 @@
 #include "Tools/uvtypes/Losses.h"
 #include "Tools/uvtypes/TypeMap.h"
 
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 #include <utility>
 
 namespace uvtypes {
@@ -19,6 +22,9 @@ namespace uvtypes {
 namespace {
 
 using Texts = std::vector<std::string>;
+
+// The internal type of what the source doesn't have.
+constexpr const char* kUnknown = "unknown";
 
 std::vector<std::string> MapColumns(const SCommandLine& line)
 {
@@ -39,10 +45,11 @@ public:
     int Run();
 
 private:
-    void MapOne(const std::string& text, int inputLine);
-    void MapStandardInput();
-    // `inputLine` 0: the type doesn't come from a file.
-    void Tell(enSeverity severity, int inputLine, const std::string& text);
+    // `place`: where the type comes from, if it is from a file.
+    void MapOne(const std::string& text, const SSourcePlace& place);
+    void MapOperand(const std::string& operand);
+    void MapLines(const std::string& path);
+    void Tell(enSeverity severity, const SSourcePlace& place, const std::string& text);
 
     const SCommandLine& m_Line;
     CToolMessages& m_Messages;
@@ -52,26 +59,27 @@ private:
     int m_ExitCode = kToolClean;
 };
 
-void CMapping::Tell(enSeverity severity, int inputLine, const std::string& text)
+void CMapping::Tell(enSeverity severity, const SSourcePlace& place, const std::string& text)
 {
     m_ExitCode = kToolFindings;
-    SSourcePlace place;
-    place.file = "<stdin>";
-    place.line = inputLine;
-    if (inputLine > 0)
+    if (place.line > 0)
         m_Messages.Write(severity, place, text);
     else
         m_Messages.Write(severity, text);
 }
 
-void CMapping::MapOne(const std::string& text, int inputLine)
+void CMapping::MapOne(const std::string& text, const SSourcePlace& place)
 {
     SMappedType mapped;
     STypeTrail trail;
     std::string error;
     if (!MapType(m_From.version, m_To.version, text, m_Line.isIdentity, mapped, error,
                  m_Line.isExplain ? &trail : nullptr)) {
-        Tell(enSeverity::Error, inputLine, m_From.name + ": " + error);
+        Tell(enSeverity::Error, place, m_From.name + ": " + error);
+        std::vector<ToolCell> cells{text, std::string(kUnknown), ToolCell(), ToolCell()};
+        if (m_Line.isCheck)
+            cells.emplace_back(Texts());
+        m_Results.Add(std::move(cells), m_Line.isExplain ? ToolDetails{{kUnknown, error}} : ToolDetails());
         return;
     }
     const long type = mapped.target.uvdbType;
@@ -82,47 +90,49 @@ void CMapping::MapOne(const std::string& text, int inputLine)
         for (const std::string& loss : losses) {
             std::string message = text;
             message.append(" as ").append(target).append(": ").append(loss);
-            Tell(enSeverity::Warning, inputLine, message);
+            Tell(enSeverity::Warning, place, message);
         }
         cells.emplace_back(losses);
     }
     m_Results.Add(std::move(cells), m_Line.isExplain ? Explain(m_From, m_To, mapped, trail) : ToolDetails());
 }
 
-void CMapping::MapStandardInput()
+void CMapping::MapLines(const std::string& path)
 {
-    int inputLine = 0;
-    std::string text;
-    while (true) {
-        // Whoever writes a line and waits gets its answer; whoever writes many isn't slowed down.
-        if (std::cin.rdbuf()->in_avail() <= 0)
-            m_Results.Flush();
-        if (!std::getline(std::cin, text))
-            break;
-        ++inputLine;
-        const std::size_t begin = text.find_first_not_of(" \t\r");
-        if (begin == std::string::npos)
-            continue;
-        MapOne(text.substr(begin, text.find_last_not_of(" \t\r") - begin + 1), inputLine);
-        constexpr int kLinesTogether = 1000;
-        if (inputLine % kLinesTogether == 0)
-            m_Results.Flush();
-    }
-    if (std::cin.bad())
-        throw CToolFailure("standard input can't be read");
+    SSourcePlace place;
+    place.file = path == "-" ? "<stdin>" : path;
+    ReadToolLines(
+        path,
+        [&](const std::string& line, int number) {
+            const std::size_t begin = line.find_first_not_of(" \t");
+            if (begin == std::string::npos)
+                return;
+            place.line = number;
+            MapOne(line.substr(begin, line.find_last_not_of(" \t") - begin + 1), place);
+        },
+        [this] { m_Results.Flush(); });
+}
+
+// A type is a type even if a file is called so; "./DATE" is the file.
+void CMapping::MapOperand(const std::string& operand)
+{
+    const bool isPath = operand == "-" || operand.find('/') != std::string::npos;
+    std::error_code ignored;
+    if (isPath ||
+        (!ReadTypeText(m_From.version, operand).isKnown && std::filesystem::exists(operand, ignored)))
+        MapLines(operand);
+    else
+        MapOne(operand, {});
 }
 
 int CMapping::Run()
 {
     if (m_Line.isAll) {
         for (const std::string& text : TypesOfTable(m_From.version))
-            MapOne(text, 0);
-    } else if (m_Line.operands.front() == "-") {
-        MapStandardInput();
-    } else {
-        for (const std::string& text : m_Line.operands)
-            MapOne(text, 0);
+            MapOne(text, {});
     }
+    for (const std::string& operand : m_Line.operands)
+        MapOperand(operand);
     m_Results.End();
     return m_ExitCode;
 }
