@@ -166,7 +166,7 @@ TEST(Documents, TypesWorkWhenFollowedToTheLetter)
 
 TEST(Documents, NamesWorkWhenFollowedToTheLetter)
 {
-    Follow("Names.md", {"uvnames"}, 5);
+    Follow("Names.md", {"uvnames"}, 6);
     Follow("NamesExample.md", {"uvnames"}, 6);
 }
 

@@ -3,6 +3,7 @@
 #include "Tests/Support/ProgramFixture.h"
 #include "Tools/uvnames/MarkupText.h"
 #include "Tools/uvnames/NameMapping.h"
+#include "Tools/uvnames/Reasons.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -155,7 +156,76 @@ TEST_F(Uvnames, LinesThatAreNoNamesAreNamed)
     EXPECT_THAT(messages[2], StartsWith("<stdin>:3: error: a name of type Column needs"));
     EXPECT_THAT(messages[3], StartsWith("<stdin>:4: error: there is no type '99'"));
     EXPECT_THAT(messages[4], StartsWith("<stdin>:6: error: a name of this type is a sub-object"));
-    ASSERT_EQ(Rows(run.out).size(), 1u);
+    // Every line has its answer.
+    const std::vector<Texts> rows = Rows(run.out);
+    ASSERT_EQ(rows.size(), 6u);
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        EXPECT_EQ(rows[i].back() == "Not read", i != 4) << i;
+    EXPECT_EQ(rows[0][0], "Tabel");
+    EXPECT_EQ(rows[2][1], "s.c");
+}
+
+TEST_F(Uvnames, FilesAreReadOneAfterTheOther)
+{
+    Put("in", "Table\t\ts\ta.b\n");
+    Put("first.tsv", "type\tserver\nTable\t\ts\ta b\n");
+    Put("second.tsv", "type\tserver\nTable\t\ts\ta-b\n");
+    EXPECT_THAT(Targets("MSSQL", "PostgreSQL", "first.tsv second.tsv - first.tsv"),
+                ElementsAre("s.a_b", "s.a_b2", "s.a_b3", "s.a_b"));
+    Put("bytes.tsv", "Table\t\ts\t\xFF\nT\xFF\n");
+    EXPECT_THAT(Convert("MSSQL", "PostgreSQL", "--format tsv bytes.tsv").out, Not(HasSubstr("\xFF")));
+}
+
+struct SClashCase
+{
+    const char* to;
+    const char* first;
+    const char* second;
+    bool isTold;
+};
+
+TEST_F(Uvnames, NamesThatTheSchemaCantHoldTwiceAreTold)
+{
+    const SClashCase cases[] = {
+        {"PostgreSQL", "Index\t\ts\tt\tix", "Index\t\ts\tu\tix", true},
+        {"PostgreSQL", "Index\t\ts\tt\tix", "Index\t\ts\tu\tIX", true}, // plain names fold
+        {"PostgreSQL", "Index\t\ts\tt\ti x", "Index\t\ts\tu\ti-x", true},
+        {"PostgreSQL", "Index\t\ts\tt\tix", "Index\t\tr\tt\tix", false},
+        {"PostgreSQL", "Table\t\ts\tt", "Index\t\ts\tu\tt", true},
+        {"PostgreSQL", "PrimaryKey\t\ts\tt\tk", "Index\t\ts\tu\tk", true},
+        {"PostgreSQL", "PrimaryKey\t\ts\tt\tk", "Index\t\ts\tt\tk", false}, // the index of the key
+        {"PostgreSQL", "CheckConstraint\t\ts\tt\tc", "CheckConstraint\t\ts\tu\tc", false},
+        {"Oracle", "CheckConstraint\t\ts\tt\tc", "CheckConstraint\t\ts\tu\tc", true},
+        {"Oracle", "Table\t\ts\tt", "Index\t\ts\tu\tt", false},
+        {"MySQL", "Index\t\ts\tt\tix", "Index\t\ts\tu\tix", false},
+        {"MySQL", "ForeignKey\t\ts\tt\tf", "ForeignKey\t\ts\tu\tf", true},
+        {"MSSQL", "Index\t\ts\tt\tix", "Index\t\ts\tu\tix", false},
+        {"MSSQL", "PrimaryKey\t\ts\tt\tk", "PrimaryKey\t\ts\tu\tk", true},
+        {"DB2", "Index\t\ts\tt\tix", "Index\t\ts\tt\tix", false}, // the same line twice
+    };
+    for (const SClashCase& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.to << ": " << c.first << " and " << c.second);
+        Put("in", std::string(c.first) + '\n' + c.second + '\n');
+        const SRunResult run = Convert("MSSQL", c.to, "--format tsv");
+        EXPECT_EQ(run.code, c.isTold ? 1 : 0);
+        EXPECT_EQ(run.err.find("<stdin>:2: warning: ") != std::string::npos, c.isTold) << run.err;
+        const std::vector<Texts> rows = Rows(run.out);
+        ASSERT_EQ(rows.size(), 2u);
+        EXPECT_EQ(rows[1].back().find("Clashes in the schema") != std::string::npos, c.isTold);
+    }
+}
+
+TEST_F(Uvnames, ALostDefaultSchemaIsNoChange)
+{
+    Put("in", "Table\t\tdbo\tt\nTable\t\tsales\tt\nTable\t\tDBO\ta b\nIndex\t\tdbo\tt\tix\n");
+    const auto changed = [&](const std::string& options) {
+        Texts sources;
+        for (const Texts& row : Rows(Convert("MSSQL", "PostgreSQL", "--changed --format tsv " + options).out))
+            sources.push_back(row[1]);
+        return sources;
+    };
+    EXPECT_THAT(changed(""), ElementsAre("DBO.a b"));
+    EXPECT_THAT(changed("-o EMPTY_SCHEMA=1"), ElementsAre("sales.t", "DBO.a b"));
 }
 
 TEST_F(Uvnames, OptionsChangeTheRules)
@@ -222,18 +292,23 @@ TEST_F(Uvnames, ReportIsXmlWhateverNamesHold)
 TEST_F(Uvnames, PageShowsEveryNameAndAFilterForEveryReason)
 {
     Put("in", "Table\t\ts\t<script>alert('x')</script>\nTable\t\ts\tplain\nTable\t\ts\ta b\nTable\t\ts\ta-b\n"
-              "Table\t\ts\torder\n");
-    ASSERT_EQ(Convert("MSSQL", "PostgreSQL", "--html names.html").code, 0);
+              "Table\t\ts\torder\nColumn\t\ts\torder\tc d\nTabel\n");
+    ASSERT_EQ(Convert("MSSQL", "PostgreSQL", "--html names.html").code, 1);
     const std::string page = Get("names.html");
     EXPECT_THAT(page, HasSubstr("<title>Names from Microsoft SQL Server to PostgreSQL</title>"));
     EXPECT_THAT(page, HasSubstr("&lt;script&gt;alert(&apos;x&apos;)&lt;/script&gt;"));
     EXPECT_THAT(page, Not(HasSubstr("<script>alert")));
-    EXPECT_THAT(page, HasSubstr("5 names, 3 changed"));
-    EXPECT_THAT(page, HasSubstr("value=\"Not allowed characters\"> Not allowed characters (3)"));
+    EXPECT_THAT(page, HasSubstr("7 names, 5 changed"));
+    EXPECT_THAT(
+        page,
+        HasSubstr(
+            "value=\"Not allowed characters\"> Not allowed characters (4)</label> <small>The target has "));
     EXPECT_THAT(page, HasSubstr("value=\"Made unique\"> Made unique (1)"));
     EXPECT_THAT(page, HasSubstr("value=\"Unchanged\"> Unchanged (1)"));
-    EXPECT_THAT(page, HasSubstr("value=\"Quoted in scripts\"> Quoted in scripts (1)"));
+    EXPECT_THAT(page, HasSubstr("value=\"Quoted in scripts\"> Quoted in scripts (2)"));
     EXPECT_THAT(page, HasSubstr("data-reasons=\"Not allowed characters|Made unique\""));
+    EXPECT_THAT(page, HasSubstr("data-reasons=\"Not allowed characters|Quoted in scripts\""));
+    EXPECT_THAT(page, HasSubstr("value=\"Not read\"> Not read (1)"));
 }
 
 TEST_F(Uvnames, ExplanationWalksTheSteps)
@@ -294,7 +369,7 @@ TEST_F(Uvnames, WhatCantBeDoneIsSaid)
         {"", "--from and --to are needed"},
         {"--from Oracle", "--from and --to are needed"},
         {"--from Orcle --to MySQL", "no database is called 'Orcle'; did you mean"},
-        {"--from Oracle --to MySQL a b", "one file of names"},
+        {"--from Oracle --to MySQL - -", "'-' stands there once"},
         {"--from Oracle --to MySQL missing.tsv", "missing.tsv: "},
         {"--from Oracle --to MySQL .", ".: "},
         {"--from Oracle --to MySQL --format xml", "--format takes table, tsv or json, not 'xml'"},
@@ -347,6 +422,13 @@ TEST(UvnamesParts, ReasonsThatShareATextAreToldOnce)
 {
     EXPECT_THAT(uvnames::ReasonTexts(1 | 64 | 256), ElementsAre("Omit schema option", "Quoted by Orvanta"));
     EXPECT_THAT(uvnames::ReasonTexts(0), ElementsAre());
+}
+
+TEST(UvnamesParts, EveryReasonHasASentence)
+{
+    for (unsigned long bit = 1; bit <= UVDB_NAME_QUOTED; bit <<= 1)
+        for (const std::string& text : uvnames::ReasonTexts(bit))
+            EXPECT_THAT(uvnames::ReasonSentence(text), testing::EndsWith(".")) << text;
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "Tools/uvnames/CommandLine.h"
 
 #include "Tools/uvnames/NameOptions.h"
+#include "Tools/uvnames/Reasons.h"
 
 #include <boost/program_options.hpp>
 
+#include <algorithm>
 #include <sstream>
 
 namespace po = boost::program_options;
@@ -30,7 +32,7 @@ po::options_description ShownOptions(SRawLine& raw)
         ("option,o", po::value(&line.options)->value_name("OPTION=VALUE"), "how names are made (see below); source:OPTION=VALUE and target:OPTION=VALUE set it on one side")
         ("schema", po::value(&line.schema)->value_name("NAME"), "every schema becomes this one")
         ("format", po::value(&raw.format)->value_name("FORM"), "table (for reading), tsv or json; table unless told")
-        ("changed", po::bool_switch(&line.isChangedOnly), "leave out names that stay as they are")
+        ("changed", po::bool_switch(&line.isChangedOnly), "leave out names that stay as they are, or that lose the source's default schema alone")
         ("report", po::value(&line.reportFile)->value_name("FILE.xml"), "write the report of all names as XML")
         ("html", po::value(&line.htmlFile)->value_name("FILE"), "write a page for reading, with filters by reason")
         ("explain", po::value(&line.explained)->value_name("NAME"), "walk the steps of one name, such as dbo.Orders, instead of reading names")
@@ -88,10 +90,9 @@ void ReadCommand(SRawLine& raw)
     line.command = line.explained.empty() ? enCommand::Convert : enCommand::Explain;
     if (line.from.empty() || line.to.empty())
         throw CUsageError("--from and --to are needed");
-    if (raw.operands.size() > 1)
-        throw CUsageError("one file of names, or '-' for standard input");
-    if (!raw.operands.empty())
-        line.input = raw.operands.front();
+    if (std::ranges::count(raw.operands, "-") > 1)
+        throw CUsageError("'-' stands there once: standard input is read to its end");
+    line.inputs = raw.operands.empty() ? std::vector<std::string>{"-"} : raw.operands;
     if (line.command == enCommand::Convert) {
         if (!line.type.empty())
             throw CUsageError("--type belongs to --explain: names that are read bring theirs");
@@ -127,7 +128,7 @@ std::string HelpText()
     SRawLine raw;
     std::ostringstream text;
     text << "usage: uvnames --from DB --to DB [-o OPTION=VALUE ...] [--report FILE.xml] [--html FILE] "
-            "[FILE|-]\n"
+            "[FILE|-...]\n"
             "       uvnames --from DB --to DB [-o OPTION=VALUE ...] --explain NAME [--type TYPE]\n"
             "       uvnames words DB\n"
             "       uvnames limits DB\n"
@@ -152,16 +153,18 @@ std::string HelpText()
             head += std::string("=") + option.defaultValue;
         text << head << "\n        " << option.meaning << '\n';
     }
+    text << "\nReasons of changes:\n";
+    for (const SReason& reason : Reasons())
+        text << "  " << reason.text << "\n        " << reason.sentence << '\n';
     text << "\nDB is a database by number or by any of its names, with a version if one is meant: Oracle, "
             "Oracle:11.2,\n"
             "MSSQL:10. A subtype without a name of its own goes between: MySQL:1:. Without a version the "
             "newest "
             "one counts.\n"
             "\nResults go to standard output, messages to standard error.\n"
-            "Exit code: 0 clean; 1 a line couldn't be read as a name; 2 something could not run: bad "
-            "arguments, an "
-            "unknown\n"
-            "database, files that can't be read or written.\n";
+            "Exit code: 0 clean; 1 a line couldn't be read as a name, or two names clash in the target; 2 "
+            "something could\n"
+            "not run: bad arguments, an unknown database, files that can't be read or written.\n";
     return text.str();
 }
 

@@ -28,8 +28,8 @@ struct SCommandLine
     std::string to;
     std::vector<std::string> options; // NAME=VALUE
     std::string schema;
-    std::string input = "-";
-    std::string reportFile; // empty: none is wanted
+    std::vector<std::string> inputs; // files; "-" is standard input
+    std::string reportFile;          // empty: none is wanted
     std::string htmlFile;
     std::string explained; // a name of the source
     std::string type;      // of that name

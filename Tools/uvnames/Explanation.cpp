@@ -3,6 +3,7 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBIdentifierTraits.h"
 #include "Catalogue/UVDBIdentifierTypes.h"
+#include "Tools/uvnames/Reasons.h"
 
 #include <utility>
 
@@ -112,6 +113,8 @@ ToolDetails Explain(CNameMapping& mapping, const SName& name, const SConvertedNa
         details.emplace_back("unique", "another object has the name already: a number goes behind it");
     if (const Uve::U8CString joined = converted.target.Joined(); converted.written != joined)
         details.emplace_back("script", Quoted(joined) + " is written " + converted.written);
+    for (const std::string& reason : ReasonTexts(converted.reasons))
+        details.emplace_back("reason", reason + ". " + ReasonSentence(reason));
     return details;
 }
 

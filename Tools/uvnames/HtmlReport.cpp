@@ -1,6 +1,7 @@
 #include "Tools/uvnames/HtmlReport.h"
 
 #include "Tools/uvnames/MarkupText.h"
+#include "Tools/uvnames/Reasons.h"
 
 namespace uvnames {
 
@@ -40,19 +41,19 @@ text.addEventListener('input', filter);
 filter();
 )";
 
-constexpr const char* kUnchanged = "Unchanged";
-constexpr const char* kQuotedOnly = "Quoted in scripts";
-constexpr const char* kWithoutReason = "Written differently";
-
 // The page's own words stand beside the library's reasons: every row has at least one.
 std::vector<std::string> RowReasons(const SName& source, const SConvertedName& converted)
 {
     std::vector<std::string> reasons = ReasonTexts(converted.reasons);
+    if (!converted.clash.empty())
+        reasons.emplace_back(kClashes);
     const Uve::U8CString target = converted.target.Joined();
     if (reasons.empty() && source.Joined() != target)
-        reasons.emplace_back(kWithoutReason);
-    else if (reasons.empty())
-        reasons.emplace_back(converted.written == target ? kUnchanged : kQuotedOnly);
+        reasons.emplace_back(kWrittenDifferently);
+    if (converted.isQuoted)
+        reasons.emplace_back(kQuoted);
+    if (reasons.empty())
+        reasons.emplace_back(converted.written == target ? kUnchanged : kWrittenDifferently);
     return reasons;
 }
 
@@ -74,10 +75,9 @@ CHtmlReport::CHtmlReport(const std::string& path, const std::string& from, const
         "<th>Reasons</th></tr></thead>\n<tbody>\n");
 }
 
-void CHtmlReport::Add(const SName& source, const SConvertedName& converted)
+void CHtmlReport::AddRow(const std::vector<std::string>& cells, const std::vector<std::string>& reasons)
 {
     ++m_NameCount;
-    const std::vector<std::string> reasons = RowReasons(source, converted);
     std::string values;
     std::string texts;
     for (const std::string& reason : reasons) {
@@ -86,12 +86,23 @@ void CHtmlReport::Add(const SName& source, const SConvertedName& converted)
         texts.append(texts.empty() ? "" : ", ").append(reason);
     }
     const bool isSame = reasons.front() == kUnchanged;
-    m_UnchangedCount += isSame || reasons.front() == kQuotedOnly ? 1 : 0;
-    m_Output.Write("<tr data-reasons=\"" + MarkupText(values) + (isSame ? "\" class=\"same\">" : "\">") +
-                   Cell("", CNormalizeName::TypeToString(static_cast<unsigned long>(source.type))) +
-                   Cell(" class=\"name\"", source.Joined()) +
-                   Cell(" class=\"name\"", converted.target.Joined()) +
-                   Cell(" class=\"name\"", converted.written) + Cell("", isSame ? "" : texts) + "</tr>\n");
+    m_UnchangedCount += isSame || reasons.front() == kQuoted ? 1 : 0;
+    std::string row = "<tr data-reasons=\"" + MarkupText(values) + (isSame ? "\" class=\"same\">" : "\">");
+    for (const std::string& cell : cells)
+        row += Cell(&cell == &cells.front() ? "" : " class=\"name\"", cell);
+    m_Output.Write(row + Cell("", isSame ? "" : texts) + "</tr>\n");
+}
+
+void CHtmlReport::Add(const SName& source, const SConvertedName& converted)
+{
+    AddRow({CNormalizeName::TypeToString(static_cast<unsigned long>(source.type)), source.Joined(),
+            converted.target.Joined(), converted.written},
+           RowReasons(source, converted));
+}
+
+void CHtmlReport::AddUnread(const std::string& line)
+{
+    AddRow({"", line, "", ""}, {kNotRead});
 }
 
 void CHtmlReport::End()
@@ -101,7 +112,8 @@ void CHtmlReport::End()
                       std::to_string(m_NameCount) + "</span> shown.</p>\n<fieldset><legend>Show</legend>\n";
     for (const auto& [reason, count] : m_ReasonCounts)
         end += "<label><input type=\"checkbox\" checked value=\"" + MarkupText(reason) + "\"> " +
-               MarkupText(reason) + " (" + std::to_string(count) + ")</label>\n";
+               MarkupText(reason) + " (" + std::to_string(count) + ")</label> <small>" +
+               MarkupText(ReasonSentence(reason)) + "</small><br>\n";
     end += "<label>Text <input type=\"search\" id=\"text\"></label>\n</fieldset>\n";
     // The counts are known only now; the reader wants them above the names.
     end += std::string("<script>\nconst table = document.querySelector('table');\n"

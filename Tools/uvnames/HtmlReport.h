@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace uvnames {
 
@@ -18,11 +19,15 @@ public:
 
     // Throws: CToolFailure.
     void Add(const SName& source, const SConvertedName& converted);
+    // A line that is no name. Throws: CToolFailure.
+    void AddUnread(const std::string& line);
 
     // Writes the end; without it there is no file. Throws: CToolFailure.
     void End();
 
 private:
+    void AddRow(const std::vector<std::string>& cells, const std::vector<std::string>& reasons);
+
     COutputFile m_Output;
     std::map<std::string, std::size_t> m_ReasonCounts;
     std::size_t m_NameCount = 0;

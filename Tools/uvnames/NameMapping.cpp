@@ -94,7 +94,7 @@ bool IsSubObject(long type)
 CNameMapping::CNameMapping(const SCommandLine& line)
     : m_From(ReadToolDatabase(line.from)), m_To(ReadToolDatabase(line.to)),
       m_Source(MakeInfo(m_From.version)), m_Target(MakeInfo(m_To.version)),
-      m_KeepsReport(!line.reportFile.empty())
+      m_KeepsReport(!line.reportFile.empty()), m_Clashes(m_To.version.db)
 {
     SetOptions(line.options, m_Source, m_Target);
     m_Normaliser.Init(m_Source, m_Target);
@@ -150,7 +150,7 @@ bool CNameMapping::Convert(const SName& name, SConvertedName& converted)
     SName& target = converted.target = name;
     if (name.type == UVDB_DBO_SCHEMA && !name.schema.empty() && name.object.empty() && name.sub.empty()) {
         ConvertSchema(target);
-        converted.written = WrittenForm(target);
+        Write(converted);
         converted.reasons = TakeReport();
         return true;
     }
@@ -159,9 +159,59 @@ bool CNameMapping::Convert(const SName& name, SConvertedName& converted)
         m_ReportMap.clear();
         return false;
     }
-    converted.written = WrittenForm(target);
+    Write(converted);
     converted.reasons = TakeReport();
+    if (m_Clashes.Has(name.type))
+        converted.clash = FindClash(name, target);
     return true;
+}
+
+Uve::U8CString CNameMapping::SchemaOf(const SName& name)
+{
+    SName object = name;
+    object.sub.clear();
+    m_Normaliser.NormalizeName(static_cast<unsigned long>(ObjectTypeOf(name.type)), object.server,
+                               object.schema, object.object, object.sub, "", "", "", false, 0);
+    m_ReportMap.clear();
+    return object.schema;
+}
+
+Uve::U8CString CNameMapping::Compared(const Uve::U8CString& part, long type) const
+{
+    Uve::U8CString compared = NormalizeIdentifier(
+        WrittenPart(part, type).c_str(), m_To.version, m_From.version, m_Normaliser.GetTargetCase(),
+        GetDBMSEncloseCharOpen(m_To.version).c_str(), m_Normaliser.GetTargetQuotedCase());
+    if (m_Normaliser.GetTargetCase() == UVDB_IC_INSENSITIVE ||
+        m_Normaliser.GetTargetQuotedCase() == UVDB_IC_INSENSITIVE)
+        compared.MakeUpper();
+    return compared;
+}
+
+Uve::U8CString CNameMapping::FindClash(const SName& name, const SName& target)
+{
+    const bool isPart = IsSubObject(name.type);
+    const Uve::U8CString schema = isPart ? SchemaOf(name) : target.schema;
+    return m_Clashes.Enter(
+        {.type = name.type,
+         .source = name.Joined(),
+         .table = isPart ? CNormalizeName::GetIdentidierName({name.schema, name.object}) : Uve::U8CString(),
+         .sourceName = isPart ? name.sub : name.object,
+         .schema = Compared(schema, UVDB_DBO_SCHEMA),
+         .name =
+             isPart ? Compared(target.sub, name.type) : Compared(target.object, ObjectTypeOf(name.type))});
+}
+
+bool CNameMapping::IsUnchanged(const SName& name, const SConvertedName& converted) const
+{
+    if (!converted.clash.empty())
+        return false;
+    if (converted.reasons == 0 && name.Joined() == converted.target.Joined())
+        return true;
+    constexpr unsigned long kSchemaReasons = UVDB_NAME_SCHEMA_OMITTED | UVDB_NAME_SCHEMA_LEFT_OUT;
+    const Uve::U8CString usual = GetDefaultSchema(m_From.version);
+    return (converted.reasons & ~kSchemaReasons) == 0 && converted.target.schema.empty() && !usual.empty() &&
+           IsSameWord(name.schema, usual) && name.object == converted.target.object &&
+           name.sub == converted.target.sub;
 }
 
 long CNameMapping::ObjectTypeOf(long type)
@@ -191,15 +241,23 @@ bool CNameMapping::NeedsMarks(const Uve::U8CString& part) const
                                                             UVDBGetIdentifierCaseGuess(m_To.version));
 }
 
-Uve::U8CString CNameMapping::WrittenForm(const SName& name) const
+Uve::U8CString CNameMapping::WrittenPart(const Uve::U8CString& part, long type) const
 {
-    const auto part = [this](const Uve::U8CString& text, long type) {
-        const unsigned long mode = NeedsMarks(text) ? UVDB_PREPARE_QUOTE : 0UL;
-        return m_Normaliser.PrepareSingleObjectName(text, static_cast<unsigned long>(type), m_Target, mode);
-    };
-    return CNormalizeName::GetIdentidierName(
-        {part(name.server, UVDB_DBO_DATABASE), part(name.schema, UVDB_DBO_SCHEMA),
-         part(name.object, ObjectTypeOf(name.type)), part(name.sub, name.type)});
+    const unsigned long mode = NeedsMarks(part) ? UVDB_PREPARE_QUOTE : 0UL;
+    return m_Normaliser.PrepareSingleObjectName(part, static_cast<unsigned long>(type), m_Target, mode);
+}
+
+void CNameMapping::Write(SConvertedName& converted) const
+{
+    const SName& name = converted.target;
+    const std::vector<Uve::U8CString> parts = {
+        WrittenPart(name.server, UVDB_DBO_DATABASE), WrittenPart(name.schema, UVDB_DBO_SCHEMA),
+        WrittenPart(name.object, ObjectTypeOf(name.type)), WrittenPart(name.sub, name.type)};
+    converted.written = CNormalizeName::GetIdentidierName(parts);
+    const Uve::U8CString open = GetDBMSEncloseCharOpen(m_To.version);
+    converted.isQuoted = std::ranges::any_of(parts, [&](const Uve::U8CString& part) {
+        return part.starts_with('"') || (!open.empty() && part.starts_with(open));
+    });
 }
 
 Uve::U8CString CNameMapping::ReportXml() const
@@ -214,19 +272,6 @@ Uve::U8CString CNameMapping::ReportXml() const
     Uve::U8CString report = CNormalizeName::GetNormalizeNameReport();
     std::swap(m_ReportMap, escaped);
     return report;
-}
-
-std::vector<std::string> ReasonTexts(unsigned long reasons)
-{
-    std::vector<std::string> texts;
-    for (unsigned long bit = 1; bit != 0 && bit <= reasons; bit <<= 1) {
-        if (reasons & bit) {
-            Uve::U8CString text = CNormalizeName::ReasonsToString(bit);
-            if (text.TrimRight(); !text.empty() && std::ranges::find(texts, text) == texts.end())
-                texts.push_back(std::move(text));
-        }
-    }
-    return texts;
 }
 
 } // namespace uvnames

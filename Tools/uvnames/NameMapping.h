@@ -5,6 +5,7 @@
 #include "Names/NormalizeName.h"
 #include "Tools/Support/ToolDatabaseNames.h"
 #include "Tools/uvnames/CommandLine.h"
+#include "Tools/uvnames/SchemaClashes.h"
 
 #include <memory>
 #include <optional>
@@ -32,7 +33,9 @@ struct SConvertedName
 {
     SName target;
     Uve::U8CString written; // as a script of the target spells it
+    bool isQuoted = false;  // a part of `written` stands in quotes
     unsigned long reasons = 0;
+    Uve::U8CString clash; // the other object of the source, if the target's schema can't hold both
 };
 
 // A type by number or, in any case, by a text of the report; nothing if it is neither.
@@ -58,6 +61,9 @@ public:
     // Returns: false for a part of a table that names no table.
     bool Convert(const SName& name, SConvertedName& converted);
 
+    // Whether nothing became of the name, or nothing but that it lost the default schema of the source.
+    bool IsUnchanged(const SName& name, const SConvertedName& converted) const;
+
     // What became of all names so far, as the library tells it, with values that XML can hold.
     Uve::U8CString ReportXml() const;
 
@@ -72,8 +78,14 @@ private:
     using ReportMap = std::unordered_map<CObjects, CConvertedName, CObjectsHash>;
 
     void ConvertSchema(SName& name);
+    // The schema that holds the object of a name, which names of indexes leave out.
+    Uve::U8CString SchemaOf(const SName& name);
+    // As the target compares it.
+    Uve::U8CString Compared(const Uve::U8CString& part, long type) const;
+    Uve::U8CString FindClash(const SName& name, const SName& target);
     bool NeedsMarks(const Uve::U8CString& part) const;
-    Uve::U8CString WrittenForm(const SName& name) const;
+    Uve::U8CString WrittenPart(const Uve::U8CString& part, long type) const;
+    void Write(SConvertedName& converted) const;
     unsigned long TakeReport();
 
     const SToolDatabase m_From;
@@ -83,9 +95,7 @@ private:
     const bool m_KeepsReport;
     CNormalizeName m_Normaliser;
     ReportMap m_Report;
+    CSchemaClashes m_Clashes;
 };
-
-// The texts of the reasons, one by one.
-std::vector<std::string> ReasonTexts(unsigned long reasons);
 
 } // namespace uvnames

@@ -2,17 +2,19 @@
 
 #include "Catalogue/UVDBReservedWords.h"
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/Support/ToolLines.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvnames/Explanation.h"
 #include "Tools/uvnames/Facts.h"
 #include "Tools/uvnames/HtmlReport.h"
 #include "Tools/uvnames/NameMapping.h"
+#include "Tools/uvnames/Reasons.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -22,8 +24,6 @@ namespace uvnames {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string TypeText(long type)
 {
@@ -42,25 +42,45 @@ Texts ResultColumns(enToolFormat format)
 
 std::vector<ToolCell> ResultCells(enToolFormat format, const SName& name, const SConvertedName& converted)
 {
-    std::vector<ToolCell> cells{TypeText(name.type), name.Joined(), converted.target.Joined(),
-                                ReasonTexts(converted.reasons)};
+    Texts reasons = ReasonTexts(converted.reasons);
+    if (!converted.clash.empty())
+        reasons.emplace_back(kClashes);
+    std::vector<ToolCell> cells{TypeText(name.type), name.Joined(), converted.target.Joined(), reasons};
     if (format != enToolFormat::Table)
         cells.insert(cells.end() - 1, {converted.target.schema, converted.target.object, converted.target.sub,
                                        converted.written});
     return cells;
 }
 
+// Of a line that is no name: its fields as they stand.
+std::vector<ToolCell> UnreadCells(enToolFormat format, const std::string& line)
+{
+    std::istringstream fields(line);
+    std::string type;
+    std::getline(fields, type, '\t');
+    std::vector<Uve::U8CString> parts;
+    for (std::string field; std::getline(fields, field, '\t');)
+        parts.emplace_back(TsvText(field));
+    std::vector<ToolCell> cells{type, CNormalizeName::GetIdentidierName(parts)};
+    cells.resize(ResultColumns(format).size());
+    cells.back() = Texts{kNotRead};
+    return cells;
+}
+
 // What is read and what is written are files of their own, whatever their paths look like.
 void RefuseSharedFiles(const SCommandLine& line)
 {
-    std::set<std::filesystem::path> places;
-    for (const std::string& file :
-         {line.input == "-" ? std::string() : line.input, line.htmlFile, line.reportFile}) {
+    const auto placeOf = [](const std::string& file) {
         std::error_code ignored;
-        if (!file.empty() &&
-            !places.insert(weakly_canonical(std::filesystem::absolute(file), ignored)).second)
+        return weakly_canonical(std::filesystem::absolute(file), ignored);
+    };
+    std::set<std::filesystem::path> places;
+    for (const std::string& input : line.inputs)
+        if (input != "-")
+            places.insert(placeOf(input));
+    for (const std::string& file : {line.htmlFile, line.reportFile})
+        if (!file.empty() && !places.insert(placeOf(file)).second)
             throw CUsageError("'" + file + "' can't be two files at once");
-    }
 }
 
 class CConversion
@@ -77,9 +97,9 @@ public:
     int Run();
 
 private:
-    void ConvertAll(std::istream& input);
-    void ConvertLine(const std::string& text, int inputLine);
-    void TellError(int inputLine, const std::string& text);
+    void ConvertLines(const std::string& path);
+    void ConvertLine(const std::string& text, const SSourcePlace& place);
+    void TellUnread(const std::string& line, const SSourcePlace& place, const std::string& error);
 
     const SCommandLine& m_Line;
     CToolMessages& m_Messages;
@@ -89,74 +109,61 @@ private:
     int m_ExitCode = kToolClean;
 };
 
-void CConversion::TellError(int inputLine, const std::string& text)
+void CConversion::TellUnread(const std::string& line, const SSourcePlace& place, const std::string& error)
 {
     m_ExitCode = kToolFindings;
-    SSourcePlace place;
-    place.file = m_Line.input == "-" ? "<stdin>" : m_Line.input;
-    place.line = inputLine;
-    m_Messages.Write(enSeverity::Error, place, text);
+    m_Messages.Write(enSeverity::Error, place, error);
+    m_Results.Add(UnreadCells(m_Line.format, line));
+    if (m_Html)
+        m_Html->AddUnread(line);
 }
 
-void CConversion::ConvertLine(const std::string& text, int inputLine)
+void CConversion::ConvertLine(const std::string& text, const SSourcePlace& place)
 {
     SName name;
     std::string error;
     if (!ReadNameLine(text, name, error)) {
-        TellError(inputLine, error);
+        TellUnread(text, place, error);
         return;
     }
     SConvertedName converted;
     if (!m_Mapping.Convert(name, converted)) {
-        TellError(inputLine,
-                  "a name of type " + TypeText(name.type) + " needs the object that it belongs to");
+        TellUnread(text, place,
+                   "a name of type " + TypeText(name.type) + " needs the object that it belongs to");
         return;
+    }
+    if (!converted.clash.empty()) {
+        m_ExitCode = kToolFindings;
+        m_Messages.Write(enSeverity::Warning, place,
+                         name.Joined() + " and " + converted.clash + " are one name in a schema of " +
+                             m_Mapping.GetTo().name + ": rename one of them");
     }
     if (m_Html)
         m_Html->Add(name, converted);
-    if (!m_Line.isChangedOnly || converted.reasons != 0 || name.Joined() != converted.target.Joined())
+    if (!m_Line.isChangedOnly || !m_Mapping.IsUnchanged(name, converted))
         m_Results.Add(ResultCells(m_Line.format, name, converted));
 }
 
-void CConversion::ConvertAll(std::istream& input)
+void CConversion::ConvertLines(const std::string& path)
 {
-    int inputLine = 0;
-    std::string text;
-    while (true) {
-        // Whoever writes a line and waits gets its answer; whoever writes many isn't slowed down.
-        if (input.rdbuf()->in_avail() <= 0)
-            m_Results.Flush();
-        if (!std::getline(input, text))
-            break;
-        ++inputLine;
-        if (inputLine == 1 && text.starts_with(kByteOrderMark))
-            text.erase(0, kByteOrderMark.size());
-        if (text.ends_with('\r'))
-            text.pop_back();
-        const bool isHead = inputLine == 1 && (text == "type" || text.starts_with("type\t"));
-        if (isHead || text.find_first_not_of(" \t") == std::string::npos)
-            continue;
-        ConvertLine(text, inputLine);
-        constexpr int kLinesTogether = 1000;
-        if (inputLine % kLinesTogether == 0)
-            m_Results.Flush();
-    }
-    if (input.bad())
-        throw CToolFailure(m_Line.input + ": can't be read");
+    SSourcePlace place;
+    place.file = path == "-" ? "<stdin>" : path;
+    ReadToolLines(
+        path,
+        [&](const std::string& line, int number) {
+            const bool isHead = number == 1 && (line == "type" || line.starts_with("type\t"));
+            if (isHead || line.find_first_not_of(" \t") == std::string::npos)
+                return;
+            place.line = number;
+            ConvertLine(line, place);
+        },
+        [this] { m_Results.Flush(); });
 }
 
 int CConversion::Run()
 {
-    if (m_Line.input == "-") {
-        ConvertAll(std::cin);
-    } else {
-        std::ifstream input(m_Line.input, std::ios::binary);
-        // A folder opens, and fails at the first read.
-        if (!input || (input.peek(), input.bad()))
-            throw CToolFailure(m_Line.input + ": can't be read");
-        input.clear();
-        ConvertAll(input);
-    }
+    for (const std::string& input : m_Line.inputs)
+        ConvertLines(input);
     m_Results.End();
     if (m_Html)
         m_Html->End();
