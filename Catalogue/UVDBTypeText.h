@@ -50,7 +50,7 @@ struct STypeText
 // name's row. Lengths may be in K, M or G and may say CHAR or BYTE; MAX is the largest length of the name;
 // numbers of types that take none are display widths and pass unread, and so do the parameters of spatial
 // types and XML. Names may be quoted and may have the schema of the database before them. What a database
-// writes behind a type, such as UNSIGNED, COLLATE or IDENTITY, is taken off where the tables don't have it. A
+// writes after a type, such as UNSIGNED, COLLATE or IDENTITY, is taken off where the tables don't have it. A
 // name that the tables don't have is no error: its numbers are read as size and scale.
 STypeText ReadTypeText(DB_VERSION_INFO version, std::string_view text);
 

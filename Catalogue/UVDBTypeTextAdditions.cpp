@@ -19,7 +19,7 @@ constexpr CKindSet kSqlServerKin{UVDB_DB_MSSQL, UVDB_DB_SYBASE};
 constexpr CKindSet kInformixKin{UVDB_DB_INFORMIX, UVDB_DB_4GL_INFORMIX};
 constexpr CKindSet kFirebirdKin{UVDB_DB_FIREBIRD, UVDB_DB_INTERBASE};
 
-// ---- Words behind a name ----
+// ---- Words after a name ----
 
 enum class enAddition
 {

@@ -9,7 +9,7 @@
 
 namespace UVDBTypeText {
 
-// What the words behind a name said.
+// What the words after a name said.
 struct SAdditions
 {
     bool isUnsigned = false;
@@ -17,7 +17,7 @@ struct SAdditions
     std::string characterSet{};
 };
 
-// Takes the last addition off the name, such as COLLATE with its word, and what stands in parentheses behind
+// Takes the last addition off the name, such as COLLATE with its word, and what stands in parentheses after
 // it. Upper case is expected. Returns: whether there was one.
 bool TakeAddition(DB_VERSION_INFO version, SWritten& written, SAdditions& additions);
 

@@ -57,7 +57,7 @@ public:
 private:
     void ReadPair();
     void ReadBounds();
-    // What stands between a mark and `close`, which is doubled inside; goes behind the closing one.
+    // What stands between a mark and `close`, which is doubled inside; goes on after the closing one.
     std::string ReadQuoted(char close, bool hasEscapes);
     void ReadCharacter(char character);
     void AddWord(std::string_view word);

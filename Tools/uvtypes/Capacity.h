@@ -28,7 +28,7 @@ struct SCapacity
     double least = 0;
     double most = 0;
     long wholeDigits = 0;        // decimals: before the point
-    long fraction = kAnyDigits;  // digits behind the point or behind the second
+    long fraction = kAnyDigits;  // digits after the point or after the second
     long floatBits = 0;          // of the significand
     bool isDecimalFloat = false; // its digits are decimal ones, so decimals stay exact
     long leadingDigits = 0;      // of an interval's first field; 0: not known
