@@ -217,15 +217,16 @@ TEST_F(Uvnames, NamesThatTheSchemaCantHoldTwiceAreTold)
 
 TEST_F(Uvnames, ALostDefaultSchemaIsNoChange)
 {
-    Put("in", "Table\t\tdbo\tt\nTable\t\tsales\tt\nTable\t\tDBO\ta b\nIndex\t\tdbo\tt\tix\n");
+    Put("in", "Table\t\tdbo\tt\nTable\t\tsales\tt\nTable\t\tDBO\ta b\nIndex\t\tsales\tt\tix\n"
+              "Index\t\tsales\tt\ti x\n");
     const auto changed = [&](const std::string& options) {
         Texts sources;
         for (const Texts& row : Rows(Convert("MSSQL", "PostgreSQL", "--changed --format tsv " + options).out))
             sources.push_back(row[1]);
         return sources;
     };
-    EXPECT_THAT(changed(""), ElementsAre("DBO.a b"));
-    EXPECT_THAT(changed("-o EMPTY_SCHEMA=1"), ElementsAre("sales.t", "DBO.a b"));
+    EXPECT_THAT(changed(""), ElementsAre("DBO.a b", "sales.t.i x"));
+    EXPECT_THAT(changed("-o EMPTY_SCHEMA=1"), ElementsAre("sales.t", "DBO.a b", "sales.t.ix", "sales.t.i x"));
 }
 
 TEST_F(Uvnames, OptionsChangeTheRules)

@@ -208,10 +208,17 @@ bool CNameMapping::IsUnchanged(const SName& name, const SConvertedName& converte
     if (converted.reasons == 0 && name.Joined() == converted.target.Joined())
         return true;
     constexpr unsigned long kSchemaReasons = UVDB_NAME_SCHEMA_OMITTED | UVDB_NAME_SCHEMA_LEFT_OUT;
+    const bool hasLostSchemaAlone =
+        (converted.reasons & ~kSchemaReasons) == 0 && converted.target.schema.empty() &&
+        name.object == converted.target.object && name.sub == converted.target.sub;
+    if (!hasLostSchemaAlone)
+        return false;
+    // An index is in the schema of its table wherever its name may not say so.
+    const bool isOfTable =
+        converted.reasons == 0 && (name.type == UVDB_DBO_INDEX || name.type == UVDB_DBO_PRIMARY_KEY ||
+                                   name.type == UVDB_DBO_REFERENCES_CONSTRAINT);
     const Uve::U8CString usual = GetDefaultSchema(m_From.version);
-    return (converted.reasons & ~kSchemaReasons) == 0 && converted.target.schema.empty() && !usual.empty() &&
-           IsSameWord(name.schema, usual) && name.object == converted.target.object &&
-           name.sub == converted.target.sub;
+    return isOfTable || (!usual.empty() && IsSameWord(name.schema, usual));
 }
 
 long CNameMapping::ObjectTypeOf(long type)
