@@ -125,20 +125,93 @@ TEST(PostgreSQLTokens, DollarQuotesEndAtTheirOwnTagAlone)
     }
 }
 
+std::string WithLineEnds(std::string text, const std::string& end)
+{
+    for (std::size_t at = text.find('\n'); at != text.npos; at = text.find('\n', at + end.size()))
+        text.replace(at, 1, end);
+    return text;
+}
+
 // Data follow their COPY up to a line of its own; nothing in them is a token.
 TEST(PostgreSQLTokens, CopiedDataAreSkippedWhateverTheyHold)
 {
-    for (const char* const data :
-         {"1\t2\n", "", "select 1\n", "it's\n$$\n/*\n", "a\\.b\n\\\\.\n \\.\n", "x;\ny\n;\n"}) {
-        const std::string text = "copy t from stdin;\n" + std::string(data) + "\\.\nselect 2;";
-        SCOPED_TRACE(text);
-        const SLanguageParse parse = PostgreSQL().Parse(text);
-        EXPECT_TRUE(parse.IsClean());
-        const CSyntaxTree tree(parse.tree);
-        EXPECT_EQ(tree.Text(), text);
-        const std::vector<SElement> statements = tree.Statements();
-        ASSERT_EQ(statements.size(), 2u);
-        EXPECT_EQ(statements[1].from, text.find("select 2;"));
+    constexpr const char* kHeads[] = {
+        "copy t from stdin;\n",
+        "COPY s.\"t;\" (a, \"b)\")FROM STDIN WITH (FORMAT csv);\n",
+        "copy binary :s . t/* ; */from -- ;\n stdin /* ; /* */ ; */ delimiter ','; -- fails\n",
+        "copy t from stdin \\g\n",
+        "\\copy t (a, b) from stdin with csv\n",
+    };
+    constexpr const char* kData[] = {
+        "1\t2\n",
+        "",
+        "select 1\n",
+        "select 1;\n",
+        "create table x;\n1\t2\nselect 1;\n",
+        "insert\tinto;\n",
+        "copy t from stdin;\n",
+        "it's\n$$\n/*\n",
+        "a\\.b\n\\\\.\n \\.\n\\.x\n",
+        "commit;\n\\.x\n\n\\\n",
+        "x;\ny\n;\n",
+    };
+    for (const char* const head : kHeads)
+        for (const char* const data : kData)
+            for (const char* const lineEnd : {"\n", "\r\n"}) {
+                const std::string text = WithLineEnds(std::string(head) + data + "\\.\nselect 2;", lineEnd);
+                SCOPED_TRACE(text);
+                const SLanguageParse parse = ParseWhole(PostgreSQL(), text);
+                EXPECT_TRUE(parse.IsClean());
+                const std::vector<SElement> statements = CSyntaxTree(parse.tree).Statements();
+                ASSERT_EQ(statements.size(), head[0] == '\\' ? 1u : 2u);
+                EXPECT_EQ(statements.back().from, text.find("select 2;"));
+            }
+}
+
+struct SCopyCase
+{
+    const char* script;
+    const char* statements; // a bar between them
+};
+
+// clang-format off
+constexpr SCopyCase kCopies[] = {
+    // without the line that ends them, data go on to a statement of one line, or to the end of the text
+    {"copy t from stdin;\n1\t2",                          "copy t from stdin;"},
+    {"copy t from stdin;\nselect 1;\nselect 2;",          "copy t from stdin;|select 1;|select 2;"},
+    {"copy t from stdin;\n1\nselect\t1;\nselect 2; x\n",  "copy t from stdin;"},
+    {"copy t from stdin;\ncommit;\ncopy u from stdin;\n1\nbegin;\n\\.x",
+     "copy t from stdin;|commit;|copy u from stdin;|begin;"},
+    {"copy t from stdin;\ncommit;\n\\.",                  "copy t from stdin;"},
+    {"copy t from stdin;\n\\.",                           "copy t from stdin;"},
+    {"copy t from stdin;\n1\n\\.\ncopy u from stdin;\nselect 1;",
+     "copy t from stdin;|copy u from stdin;|select 1;"},
+    // the rest of the line isn't data yet
+    {"copy t from stdin; select 1;\n2;\n\\.\nselect 3;",  "copy t from stdin;|select 1;|select 3;"},
+    // what looks similar has no data
+    {"copy t to stdout;\nselect 1;",                      "copy t to stdout;|select 1;"},
+    {"copy t from 'stdin';\nselect 1;",                   "copy t from 'stdin';|select 1;"},
+    {"copy t from program 'from stdin';\nselect 1;",      "copy t from program 'from stdin';|select 1;"},
+    {"copy (select a from stdin) to stdout;\nselect 1;",  "copy (select a from stdin) to stdout;|select 1;"},
+    {"select a from stdin;\nselect 1;",                   "select a from stdin;|select 1;"},
+    {"select copy from stdin;\nselect 1;",                "select copy from stdin;|select 1;"},
+    {"\\copy t to stdout\nselect 1;",                     "select 1;"},
+    {"\\copy t from stdins\nselect 1;",                   "select 1;"},
+    {"\\copy (select a from stdin) to 'f'\nselect 1;",    "select 1;"},
+};
+// clang-format on
+
+TEST(PostgreSQLTokens, CopiedDataEndWhereNoStatementIsLost)
+{
+    for (const SCopyCase& c : kCopies) {
+        const std::string script = c.script;
+        const SLanguageParse parse = ParseWhole(PostgreSQL(), script);
+        EXPECT_TRUE(parse.IsClean()) << script;
+        std::string statements;
+        for (const SElement& statement : CSyntaxTree(parse.tree).Statements())
+            statements += (statements.empty() ? "" : "|") +
+                          script.substr(statement.from, statement.end - statement.from);
+        EXPECT_EQ(statements, c.statements) << script;
     }
 }
 
