@@ -134,6 +134,60 @@ TEST(PostgreSQLLimits, LinesOfMegabytes)
     EXPECT_FALSE(ParseWhole("select 1 " + Repeated("| ", kSize / 128) + ";").IsClean());
 }
 
+struct SRunCase
+{
+    const char* piece;
+    std::size_t tokens; // of a run of kRunLength pieces
+};
+
+constexpr std::size_t kRunLength = 200000;
+// clang-format off
+constexpr SRunCase kRuns[] = {
+    {"+",        kRunLength},
+    {"- ",       kRunLength},
+    {"+-",   2 * kRunLength},
+    {"-+",   2 * kRunLength},
+    {"+/**/",    kRunLength},
+    {"+--\n",    kRunLength},
+    {"/+",   2},   // the last plus stands alone
+    {"*-",   2},
+    {"@+",   1},
+    {"/",    1},
+    {"*",    1},
+};
+// clang-format on
+
+// Where an operator ends is seen at the end of the run that it stands in.
+TEST(PostgreSQLLimits, LongRunsOfOperatorCharacters)
+{
+    for (const SRunCase& c : kRuns) {
+        SCOPED_TRACE(c.piece);
+        const std::string run = Repeated(c.piece, kRunLength);
+        const auto count = [](const std::string& text) {
+            const auto ranges = PostgreSQL().Scan(text);
+            const auto comments = std::ranges::count(ranges, kCommentColor, &SColoredRange::color);
+            return ranges.size() - static_cast<std::size_t>(comments);
+        };
+        EXPECT_EQ(count("select 1 " + run + "a;"), 4 + c.tokens);
+        EXPECT_EQ(count("select 1 " + run), 2 + c.tokens);
+        EXPECT_EQ(count("copy t from stdin where 1 < " + run + "a;\n1\n\\.\n;"), 10 + c.tokens);
+    }
+}
+
+// Whether a row is a statement is seen at the end of the data, or of the text if they have none.
+TEST(PostgreSQLLimits, LongDataAndManyOfThem)
+{
+    constexpr std::size_t kSize = 10 << 20;
+    const std::string head = "copy t from stdin;\n";
+    const std::string rows = Repeated("12\tit's\n", kSize / 8);
+    EXPECT_TRUE(ParseWhole(head + "select 1;\n" + rows + "\\.\nselect 2;").IsClean());
+    EXPECT_FALSE(ParseWhole(head + "select 1;\n" + rows).IsClean());
+    EXPECT_TRUE(ParseWhole(head + Repeated("select 1;\n", kSize / 16) + "\\.\nselect 2;").IsClean());
+    EXPECT_TRUE(ParseWhole(Repeated(head + "select 1;\n1\n\\.\n", kSize / 512)).IsClean());
+    EXPECT_TRUE(ParseWhole(Repeated(head + "select 1;\n\\.x\n", kSize / 512)).isComplete);
+    EXPECT_TRUE(ParseWhole(Repeated(head + "select 1;\n", kSize / 512)).IsClean());
+}
+
 TEST(PostgreSQLLimits, ScriptsOfManyStatements)
 {
     constexpr std::size_t kCount = 200000;
