@@ -140,7 +140,7 @@ struct SRunCase
     std::size_t tokens; // of a run of kRunLength pieces
 };
 
-constexpr std::size_t kRunLength = 200000;
+constexpr std::size_t kRunLength = 100000;
 // clang-format off
 constexpr SRunCase kRuns[] = {
     {"+",        kRunLength},
@@ -177,7 +177,7 @@ TEST(PostgreSQLLimits, LongRunsOfOperatorCharacters)
 // Whether a row is a statement is seen at the end of the data, or of the text if they have none.
 TEST(PostgreSQLLimits, LongDataAndManyOfThem)
 {
-    constexpr std::size_t kSize = 10 << 20;
+    constexpr std::size_t kSize = 4 << 20;
     const std::string head = "copy t from stdin;\n";
     const std::string rows = Repeated("12\tit's\n", kSize / 8);
     EXPECT_TRUE(ParseWhole(head + "select 1;\n" + rows + "\\.\nselect 2;").IsClean());

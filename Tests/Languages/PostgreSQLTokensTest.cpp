@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int kVariableColor = 9;
+
 // The tokens of a text that parses cleanly, as NAME'text' without the names' leading T__, blanks between.
 std::string TokensOf(const std::string& text)
 {
@@ -63,9 +65,10 @@ constexpr SLiteralCase kLiterals[] = {
     {"1a",                       "refused"},
     {"$12",                      "PARAMETER_NUMBER'$12'"},
     {"$1a",                      "refused"},
-    {":v, :'v', :\"v\", a[1:v]",
-     "CLIENT_VARIABLE':v' COMMA',' CLIENT_STRING':'v'' COMMA',' CLIENT_IDENTIFIER':\"v\"' COMMA',' "
-     "IDENTIFIER'a' LBRACKET'[' INTEGER_NUMBER'1' CLIENT_VARIABLE':v' RBRACKET']'"},
+    {":v, :'v', :\"v\"",
+     "CLIENT_VARIABLE':v' COMMA',' CLIENT_STRING':'v'' COMMA',' CLIENT_IDENTIFIER':\"v\"'"},
+    {"a[1:v]",
+     "IDENTIFIER'a' LBRACKET'[' INTEGER_NUMBER'1' COLON':' IDENTIFIER'v' RBRACKET']'"},
     {"a::b",                     "IDENTIFIER'a' TYPECAST'::' IDENTIFIER'b'"},
 };
 
@@ -122,6 +125,67 @@ TEST(PostgreSQLTokens, DollarQuotesEndAtTheirOwnTagAlone)
                 string += token.text;
         EXPECT_EQ(string, "$a$" + std::string(inside) + "$a$");
         EXPECT_TRUE(tree.Holds("select_list(dollar_string '1')"));
+    }
+}
+
+struct SColonCase
+{
+    const char* expression;
+    const char* variables; // the client's, blanks between
+};
+
+// clang-format off
+constexpr SColonCase kColons[] = {
+    {"a[i:j]",                     ""},
+    {"a[:n]",                      ""},
+    {"a[ :n ]",                    ""},
+    {"a[n:]",                      ""},
+    {"a[:]",                       ""},
+    {"a[1:2][:3][:n]",             ""},
+    {"x['a':'b']",                 ""},
+    {"x[:'b']",                    ""},
+    {"x[\"a\":\"b\"]",             ""},
+    {"a[i - 1 :j + 1]",            ""},
+    {"a[f(x, (1)):g(y)]",          ""},
+    {"a[i::int:j::int]",           ""},
+    {"a[:j::int]",                 ""},
+    {"a[b[i:j]:c[k:l]]",           ""},
+    {"a[:c[k:l]]",                 ""},
+    {"array[a[i:j], b[:n]]",       ""},
+    {"a[start:end_]",              ""},
+    {"a[1: :n]",                   ":n"},
+    {"a[:lo : :hi]",               ":lo :hi"},
+    {"a[:lo:hi]",                  ":lo :hi"},
+    {"a[i + :n]",                  ":n"},
+    {"a[:m * :n]",                 ":m :n"},
+    {"a[f(:v)]",                   ":v"},
+    {"a[i -- b :c\n]",             ""},
+    {"a[i -- b :c\n], :v",         ":v"},
+    {"array[:a]",                  ":a"},
+    {"array [:'a', f(b), :\"c\"]", ":'a' :\"c\""},
+    {"array[[:a, :b], [1, :c]]",   ":a :b :c"},
+    {":a[1]",                      ":a"},
+};
+// clang-format on
+
+TEST(PostgreSQLTokens, ColonsInBracketsSeparateBounds)
+{
+    for (const SColonCase& c : kColons) {
+        const std::string text = std::string("select ") + c.expression + " from t";
+        SCOPED_TRACE(text);
+        EXPECT_TRUE(ParseWhole(PostgreSQL(), text).IsClean());
+        std::string variables;
+        std::vector<SByteRange> tokens;
+        for (const SColoredRange& range : PostgreSQL().Scan(text)) {
+            if (range.color == kVariableColor)
+                variables += (variables.empty() ? "" : " ") + text.substr(range.from, range.end - range.from);
+            if (range.color != kCommentColor)
+                tokens.push_back({range.from, range.end});
+        }
+        EXPECT_EQ(variables, c.variables);
+        if (variables.empty()) {
+            EXPECT_EQ(tokens, JudgeScan(text));
+        }
     }
 }
 
