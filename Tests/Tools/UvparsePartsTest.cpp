@@ -456,6 +456,9 @@ TEST(UvparseTokens, LostTextHasMessagesOfItsOwnUnlessATokenStandsForIt)
               "f.sql:1:3: error: unexpected token 'b'\n    a b;\n      ^\n"
               "f.sql:2:1: error: skipped 'c...'\n    c\n    ^\n"
               "f.sql:3:4: error: never closed: '/* e'\n    d; /* e\n       ^\n");
+    // one place, one message
+    EXPECT_EQ(Messages("/* e", {{0, 2}}, {{enFinding::UnfinishedText, 0, 4}}),
+              "f.sql:1:1: error: never closed: '/* e'\n    /* e\n    ^\n");
 }
 
 TEST(UvparseTokens, ListsAreReadWhateverTheirTextsHold)

@@ -283,6 +283,8 @@ const SLostCase kLostCases[] = {
     {"c.sql", "select ; creat x; selec 1; select 1;", "c.sql:1:19: error: skipped 'selec 1'\n"},
     {"a.cl", "PGM\n/* note\n", "a.cl:2:1: error: never closed: '/* note"},
     {"a.jcl", "//A JOB\n//B EXEC PGM=C\n//D DD *\n data", ""}, // data may end with the text
+    {"d.sql", "copy t from stdin;\n1\t2\n", ""},
+    {"c.jcl", "//A JOB\n//B EXEC PGM=C\n//D DD *,DLM=", "c.jcl:3:10: error: never closed: 'DLM='\n"},
     {"b.jcl", "//A JOB\n//B EXEC PGM=C", ""},
 };
 

@@ -81,7 +81,15 @@ std::size_t CountFindings(const std::vector<SFinding>& findings, enFinding kind)
 void WriteFindings(CToolMessages& messages, std::ostream& stream, CSourcePlaces& places,
                    std::string_view prepared, std::vector<SFinding> findings)
 {
-    std::erase_if(findings, [](const SFinding& finding) { return finding.isReported; });
+    // That a comment is never closed says more than that its begin is unexpected.
+    const auto isUnfinished = [&](const SFinding& finding) {
+        return finding.kind == enFinding::UnfinishedText;
+    };
+    const auto unfinished = std::ranges::find_if(findings, isUnfinished);
+    const std::size_t open = unfinished != findings.end() ? unfinished->offset : std::string_view::npos;
+    std::erase_if(findings, [&](const SFinding& finding) {
+        return finding.isReported || (finding.kind == enFinding::UnexpectedToken && finding.offset == open);
+    });
     std::ranges::stable_sort(findings, {}, &SFinding::offset);
     for (const SFinding& finding : findings) {
         const SMessagePlace found = places.Find(finding.offset);
