@@ -87,11 +87,13 @@ macro(uv_finish_subsystems)
     add_library(UVParser SHARED)
     target_link_libraries(UVParser PRIVATE uv_all)
     set_target_properties(UVParser PROPERTIES LINKER_LANGUAGE CXX)
+    # Once loaded it stays in the process. What it leaves with its host may need its code after the last object is
+    # gone: an exception that is caught, the value of an option.
+    target_link_options(UVParser PRIVATE LINKER:-z,nodelete)
     if(UV_SANITIZE)
         # A sanitized library takes the runtime from its host program, which finds some symbols by name.
-        # It stays in the process, since a leak report needs its code, and what its statics hold on to is no leak.
         # What it defines itself it takes from itself, whatever else the process has loaded.
-        target_link_options(UVParser PRIVATE LINKER:-z,nodelete LINKER:-Bsymbolic)
+        target_link_options(UVParser PRIVATE LINKER:-Bsymbolic)
     else()
         # Templates of the standard library come out visible whatever we ask for; the list keeps them in.
         set(version_script ${CMAKE_BINARY_DIR}/exports.map)

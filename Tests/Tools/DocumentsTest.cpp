@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
+#include <sys/wait.h>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -106,6 +107,20 @@ TEST(Documents, TheHostsInThemGiveTheTreesThatUvparseGives)
     const SRun bad = Shell(UV_BIN_DIR "/host_example " + file);
     EXPECT_NE(bad.status, 0);
     EXPECT_NE(bad.output.find("a.sql: "), std::string::npos) << bad.output;
+}
+
+// The exception's code lies in the library, which loses its last object before the host's handler runs.
+TEST(Documents, TheHostsInThemSurviveARefusedGrammar)
+{
+    const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
+    fs::create_hard_link(UV_BIN_DIR "/libUVParser.so", folder.Path() + "/libUVParser.so");
+    for (const char* host : {"/host_example", "/readme_host"}) {
+        SCOPED_TRACE(host);
+        fs::create_hard_link(std::string(UV_BIN_DIR) + host, folder.Path() + host);
+        const SRun run = Shell(folder.Path() + host);
+        EXPECT_EQ(WIFEXITED(run.status) ? WEXITSTATUS(run.status) : -1, 2);
+        EXPECT_NE(run.output.find("Grammar/PostgreSQL"), std::string::npos) << run.output;
+    }
 }
 
 // A guide is a script: it puts files ("<!-- put NAME -->" and a block), runs commands (blocks "sh") and shows

@@ -6,7 +6,7 @@
 #include <iostream>
 
 int main()
-{
+try {
     DB_VERSION_INFO version;
     version.db = UVDB_DB_POSTGRESQL;
     const auto parser = PluginHelpers::CreateParser();
@@ -17,4 +17,7 @@ int main()
     Uve::U8CString tree;
     if (parser->Parse(false) == 0 && parser->get_SQLTree(tree) == 0)
         std::cout << tree;
+} catch (const Uve::U8CString& message) { // a grammar that can't be loaded
+    std::cerr << message << '\n';
+    return 2;
 }
