@@ -49,7 +49,8 @@ public:
     virtual int Get_XMLAttributes_attrib(const char* name, char* dst, unsigned long size,
                                          unsigned long* length) = 0;
 
-    // The database info that made this object, from the option "DatabaseInfo"; empty if there is none.
+    // The database info that made this object, from the option "DatabaseInfo"; empty if there is none any
+    // more. The option's own pointer doesn't keep it alive.
     virtual std::shared_ptr<IUVDBDatabaseInfo2> GetDatabaseInfo() = 0;
 
     virtual std::map<Uve::U8CString, Uve::U8CString>& get_XMLAttributes() = 0;

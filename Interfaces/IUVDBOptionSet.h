@@ -29,8 +29,8 @@ public:
     IUVDBOptionSet& operator=(const IUVDBOptionSet&) = delete;
     virtual ~IUVDBOptionSet() = default;
 
-    // Gives the pointer that was stored under `name`, also when its type differs. The set lends it; it stays
-    // valid for the life of the process.
+    // Gives the pointer that was stored under `name`, also when its type differs. The set lends it: what
+    // CUVDBOptionWrapper has written lives as long as the set, and a new value is written in its place.
     // Returns: a code of enUVDB_OPTION_RESULT; `*value` is null when there is no such option, and untouched
     // when
     //          an argument is refused.

@@ -1,22 +1,31 @@
 #pragma once
 
+#include "Interfaces/IUVDBOptionOwner.h"
 #include "Interfaces/IUVDBOptionSet.h"
 #include "Metadata/UVDBOptionTypes.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 // Options on any interface `T` that begins with the operations of IUVDBOptionSet.
 //
-// The set keeps pointers to values and the type keys beside them. It never releases a value: readers are lent
-// the pointer, and a value outlives its set. CUVDBOptionWrapper allocates values accordingly.
+// The set keeps pointers to values and the type keys beside them. Values that it was given to own, as
+// CUVDBOptionWrapper does with all that it makes, die with the set; until then a pointer that was lent to a
+// reader is good, also when another one has taken its place.
 template <class T>
-class OptionsHost : public T
+class OptionsHost : public T, public IUVDBOptionOwner
 {
 public:
+    void OwnOptionValue(void* value, void (*release)(void*)) override
+    {
+        m_owned.emplace_back(value, release);
+    }
+
     int GetOptValue(const char* name, const char* typeName, void** value) override
     {
         if (const int refusal = RefuseArguments(name, typeName))
@@ -108,6 +117,7 @@ private:
 
     NameMap<void*> m_values;
     NameMap<Uve::U8CString> m_types;
+    std::vector<std::unique_ptr<void, void (*)(void*)>> m_owned;
 };
 
 // The free-standing set.

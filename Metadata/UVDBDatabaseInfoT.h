@@ -21,12 +21,17 @@
 // the creation of objects, the case of identifiers. `I` is the interface, `TObject` and `TColumn` the classes
 // of the objects that it makes.
 //
-// Make it by UVDBMakeObject: the objects that it makes refer to it through its self reference. Each of them
-// keeps it alive to the end of the process, since option values are never released.
+// Make it by UVDBMakeObject: the objects that it makes refer to it through its self reference.
+//
+// The registry owns its objects, so an object in it doesn't own the info: its option "DatabaseInfo" only
+// points there, and is emptied when the info dies. GetDatabaseInfo of the object gives a pointer that owns.
+// An object that leaves the registry owns the info from then on.
 template <class I, class TObject, class TColumn>
 class CDatabaseInfoT : public OptionsHost<I>
 {
 public:
+    ~CDatabaseInfoT() override;
+
     // Runs `query` in the database, without any memory. With `report` a failure goes to the log.
     // Returns: here UVDB_NOT_SUPPORTED.
     virtual int ExecuteDatabaseQuery(const char* query, Uve::U8CString& result, bool report);
@@ -76,6 +81,8 @@ public:
     IUVDBIdentifierConverter* GetIdentifierConverter() override { return m_identifierConverter; }
 
 private:
+    // Sets the option "DatabaseInfo" of an object that was made here.
+    void PointBack(const std::shared_ptr<IUVDBObjectInfo>& object, std::shared_ptr<IUVDBDatabaseInfo2> info);
     int GiveCaseOption(const char* option, long* out);
     static bool IsOfType(const std::shared_ptr<IUVDBObjectInfo>& object, long objectType);
     static bool NeedsConversion(const std::shared_ptr<IUVDBObjectInfo>& object);
@@ -111,8 +118,28 @@ int CDatabaseInfoT<I, TObject, TColumn>::SetQuotedIdentifierCase(long identifier
 template <class I, class TObject, class TColumn>
 int CDatabaseInfoT<I, TObject, TColumn>::unset_ObjectId(int id)
 {
-    m_objects.erase(id);
+    if (const auto entry = m_objects.find(id); entry != m_objects.end()) {
+        PointBack(entry->second, this->template cast<IUVDBDatabaseInfo2>());
+        m_objects.erase(entry);
+    }
     return UVDB_ERROR;
+}
+
+template <class I, class TObject, class TColumn>
+CDatabaseInfoT<I, TObject, TColumn>::~CDatabaseInfoT()
+{
+    for (const auto& entry : m_objects)
+        PointBack(entry.second, nullptr);
+}
+
+template <class I, class TObject, class TColumn>
+void CDatabaseInfoT<I, TObject, TColumn>::PointBack(const std::shared_ptr<IUVDBObjectInfo>& object,
+                                                    std::shared_ptr<IUVDBDatabaseInfo2> info)
+{
+    constexpr const char* kOption = "DatabaseInfo";
+    std::shared_ptr<IUVDBDatabaseInfo2> present;
+    if (object && CUVDBOptionWrapper::GetParam(object, kOption, present) && present.get() == this)
+        CUVDBOptionWrapper::SetParam(object, kOption, info);
 }
 
 template <class I, class TObject, class TColumn>
@@ -203,10 +230,10 @@ int CDatabaseInfoT<I, TObject, TColumn>::create_new_object(std::shared_ptr<IUVDB
         object = UVDBMakeObject<CObjectInfoT<UVDB_DBO_TABLE, IUVDBObjectInfo>>();
     else
         object = UVDBMakeObject<TObject>();
+    CUVDBOptionWrapper::SetParam(object, "DatabaseInfo", this->template cast<IUVDBDatabaseInfo2>());
     int number = 0;
     if (CUVDBOptionWrapper::GetParam(object, "ObjectID", number))
         set_ObjectId(number, object);
-    CUVDBOptionWrapper::SetParam(object, "DatabaseInfo", this->template cast<IUVDBDatabaseInfo2>());
     return UVDB_OK;
 }
 
@@ -231,8 +258,13 @@ int CDatabaseInfoT<I, TObject, TColumn>::CreateObject(const char* typeName, cons
 template <class I, class TObject, class TColumn>
 int CDatabaseInfoT<I, TObject, TColumn>::set_ObjectId(int id, std::shared_ptr<IUVDBObjectInfo> object)
 {
-    if (object)
-        m_objects[id] = std::move(object);
+    if (!object)
+        return UVDB_OK;
+    std::shared_ptr<IUVDBObjectInfo>& entry = m_objects[id];
+    PointBack(entry, this->template cast<IUVDBDatabaseInfo2>());
+    // Points without owning.
+    PointBack(object, std::shared_ptr<IUVDBDatabaseInfo2>(std::shared_ptr<void>(), this));
+    entry = std::move(object);
     return UVDB_OK;
 }
 

@@ -108,6 +108,10 @@ std::shared_ptr<IUVDBDatabaseInfo2> CObjectInfoBaseT<id, I>::GetDatabaseInfo()
 {
     std::shared_ptr<IUVDBDatabaseInfo2> databaseInfo;
     CUVDBOptionWrapper::GetParam(this, "DatabaseInfo", databaseInfo);
+    // The option may point without owning.
+    if (databaseInfo)
+        if (auto owning = databaseInfo->template cast<IUVDBDatabaseInfo2>())
+            return owning;
     return databaseInfo;
 }
 

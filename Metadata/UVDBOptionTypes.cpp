@@ -1,5 +1,7 @@
 #include "Metadata/UVDBOptionTypes.h"
 
+#include "Interfaces/IUVDBOptionOwner.h"
+
 #include <atomic>
 #include <cstdlib>
 
@@ -10,8 +12,15 @@ long DecimalLong(const Uve::U8CString& text)
     return std::strtol(text.c_str(), nullptr, 10);
 }
 
+// A value that nobody releases, kept reachable to the end of the process.
+struct SKeptValue
+{
+    void* value;
+    SKeptValue* next;
+};
+
 // Sets of different threads share it, though each set belongs to one.
-constinit std::atomic<SOptionBlock*> g_optionBlocks{nullptr};
+constinit std::atomic<SKeptValue*> g_keptValues{nullptr};
 
 } // namespace
 
@@ -107,10 +116,14 @@ Uve::U8CString UVDBOptionToText(const Uve::U8CString& value)
     return value;
 }
 
-void UVDBKeepOptionBlock(SOptionBlock* block) noexcept
+void UVDBHandOverOptionValue(IUVDBOptionSet& set, void* value, void (*release)(void*))
 {
-    block->next = g_optionBlocks.load(std::memory_order_relaxed);
-    while (!g_optionBlocks.compare_exchange_weak(block->next, block, std::memory_order_release,
-                                                 std::memory_order_relaxed)) {
+    if (auto* const owner = dynamic_cast<IUVDBOptionOwner*>(&set)) {
+        owner->OwnOptionValue(value, release);
+        return;
+    }
+    auto* const kept = new SKeptValue{value, g_keptValues.load(std::memory_order_relaxed)};
+    while (!g_keptValues.compare_exchange_weak(kept->next, kept, std::memory_order_release,
+                                               std::memory_order_relaxed)) {
     }
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "Interfaces/IUVDBOptionSet.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <concepts>
+#include <memory>
 #include <typeinfo>
 
 // What option sets need to know of the types of their values: the key that is stored beside a value, the text
-// form of those types that have one, and where values live.
+// form of those types that have one, and who owns values.
 
 // Returns: the type key of `T`, which lives as long as the process.
 template <class T>
@@ -45,23 +47,15 @@ concept UVDBTextOption = requires(const Uve::U8CString& text, T& value)
     UVDBOptionFromText(text, value);
 };
 
-// Values of options outlive their sets, so no one releases them: each is entered in a list of the whole
-// process, which keeps it reachable to the end.
-struct SOptionBlock
-{
-    SOptionBlock* next = nullptr;
-};
-void UVDBKeepOptionBlock(SOptionBlock* block) noexcept;
+// Gives a value to the set, or to the process if it is a set that owns nothing: such a set may lend the
+// pointer as long as it likes. Throws: std::bad_alloc; the value is the caller's then.
+void UVDBHandOverOptionValue(IUVDBOptionSet& set, void* value, void (*release)(void*));
 
-// Returns: a new value, zero or empty. Owner: the process.
+// Returns: a new value, zero or empty, which isn't under a name yet. Owner: the set, see above.
 template <class T>
-T* UVDBNewOptionValue()
+T* UVDBNewOptionValue(IUVDBOptionSet& set)
 {
-    struct SValueBlock : SOptionBlock
-    {
-        T value{};
-    };
-    auto* const block = new SValueBlock;
-    UVDBKeepOptionBlock(block);
-    return &block->value;
+    auto value = std::make_unique<T>();
+    UVDBHandOverOptionValue(set, value.get(), [](void* made) { delete static_cast<T*>(made); });
+    return value.release();
 }

@@ -138,7 +138,7 @@ int CUVDBOptionWrapper::SetOptSetParam(IUVDBOptionSet* set, const std::string& n
     if (result >= 0) {
         // Readers may hold on to the pointer, so a new value goes into the old place.
         T* const place =
-            result == UVDB_OPTION_FOUND && stored ? static_cast<T*>(stored) : UVDBNewOptionValue<T>();
+            result == UVDB_OPTION_FOUND && stored ? static_cast<T*>(stored) : UVDBNewOptionValue<T>(*set);
         *place = value;
         result = set->SetOptValue(name.c_str(), UVDBOptionTypeKey<T>(), place);
         if (result == UVDB_OPTION_FOUND)

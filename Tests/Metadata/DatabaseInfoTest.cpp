@@ -88,6 +88,30 @@ TEST(DatabaseInfo, RegistryAnswersByNumber)
     EXPECT_EQ(found, nullptr);
 }
 
+// Registry and objects would otherwise keep each other for ever.
+TEST(DatabaseInfo, ObjectsInTheRegistryDontKeepTheInfoAlive)
+{
+    auto info = MakeInfo();
+    const std::weak_ptr<CUVDBDatabaseInfo> watched = info;
+    std::shared_ptr<IUVDBObjectInfo> registered;
+    std::shared_ptr<IUVDBObjectInfo> replaced;
+    std::shared_ptr<IUVDBObjectInfo> unset;
+    for (auto* const object : {&registered, &replaced, &unset})
+        info->create_new_object(*object, 2);
+    info->unset_ObjectId(NumberOf(unset));
+    EXPECT_EQ(unset->GetDatabaseInfo(), info);
+    info->set_ObjectId(NumberOf(replaced), registered);
+    auto owner = registered->GetDatabaseInfo();
+
+    info.reset();
+    owner.reset();
+    EXPECT_FALSE(watched.expired()) << "the two objects outside the registry own it";
+    unset.reset();
+    replaced.reset();
+    EXPECT_TRUE(watched.expired());
+    EXPECT_EQ(registered->GetDatabaseInfo(), nullptr);
+}
+
 TEST(DatabaseInfo, CreatedObjectCarriesItsNameAndType)
 {
     const auto info = MakeInfo();

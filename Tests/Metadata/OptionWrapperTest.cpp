@@ -262,20 +262,73 @@ TEST(OptionWrapper, TextFormsOfTruthAndNumbers)
     EXPECT_EQ(fraction, 2.5);
 }
 
-// A reader may hold the lent pointer past the life of the set.
-TEST(OptionWrapper, ValueKeepsItsPlaceAndOutlivesTheSet)
+// A value that tells how many of its kind there are.
+struct SCounted
 {
-    void* first = nullptr;
-    void* second = nullptr;
+    SCounted() { ++s_alive; }
+    SCounted(const SCounted&) { ++s_alive; }
+    SCounted& operator=(const SCounted&) = default;
+    ~SCounted() { --s_alive; }
+    static inline int s_alive = 0;
+};
+
+TEST(OptionWrapper, ValueKeepsItsPlaceAndDiesWithTheSet)
+{
     {
         UVDBOptionSet set;
-        Write(set, "T", U8CString("a text too long for the string's own room"));
+        void* first = nullptr;
+        void* second = nullptr;
+        Write(set, "T", U8CString("a text"));
         set.GetOptValue("T", UVDBOptionTypeKey<U8CString>(), &first);
         Write(set, "T", U8CString("another text too long for the string's own room"));
         set.GetOptValue("T", UVDBOptionTypeKey<U8CString>(), &second);
+        EXPECT_EQ(first, second);
+
+        Write(set, "C", SCounted());
+        Write(set, "C", SCounted());
+        EXPECT_EQ(SCounted::s_alive, 1);
+        // What a host stores by itself stays the host's, and what it replaces stays good for who was lent it.
+        SCounted own;
+        set.SetOptValue("C", UVDBOptionTypeKey<SCounted>(), &own);
+        EXPECT_EQ(SCounted::s_alive, 2);
     }
-    EXPECT_EQ(first, second);
-    EXPECT_EQ(*static_cast<U8CString*>(first), "another text too long for the string's own room");
+    EXPECT_EQ(SCounted::s_alive, 0);
+}
+
+// Another module's set, which knows the operations of the interface and no more.
+class CForeignSet : public IUVDBOptionSet
+{
+public:
+    int GetOptValue(const char*, const char*, void** value) override
+    {
+        *value = m_value;
+        return m_value ? UVDB_OPTION_FOUND : UVDB_OPTION_ABSENT;
+    }
+    int SetOptValue(const char*, const char*, const void* value) override
+    {
+        m_value = const_cast<void*>(value);
+        return UVDB_OPTION_FOUND;
+    }
+    bool IsOptionValid(const char*) override { return m_value != nullptr; }
+    bool GetOptTypeName(const char*, U8CString&) override { return false; }
+    bool IsEmpty() override { return m_value == nullptr; }
+    int get_BodyXML_Option(U8CString&) override { return 1; }
+
+private:
+    void* m_value = nullptr;
+};
+
+TEST(OptionWrapper, ValueOfASetThatOwnsNothingIsNeverReleased)
+{
+    void* value = nullptr;
+    {
+        CForeignSet set;
+        EXPECT_EQ(Write(set, "C", SCounted()), 0);
+        set.GetOptValue("C", UVDBOptionTypeKey<SCounted>(), &value);
+    }
+    EXPECT_NE(value, nullptr);
+    EXPECT_EQ(SCounted::s_alive, 1);
+    SCounted::s_alive = 0;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Interfaces/IUVDBErrorInfo.h"
+#include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/IUVDBSQLParser.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBDatabaseInfo.h"
@@ -13,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <malloc.h>
 
 namespace {
 
@@ -60,6 +62,53 @@ TEST(PluginEntry, HostWalksTheCallingOrder)
     EXPECT_EQ(parser->Tree2Serial(info, text), UVDB_OK);
     EXPECT_STREQ(text.c_str(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a><b><c>1</c></b></a>\n");
     EXPECT_THROW(parser->Load("NoSuchGrammar"), Uve::U8CString);
+}
+
+// What a parse leaves with a host: the tree, the error, the list of tokens on the info.
+void ParseOnce(const std::shared_ptr<IUVDBSQLParser>& parser, const std::string& text, bool isNew)
+{
+    const auto info = UVDBMakeObject<CUVDBDatabaseInfo>(
+        MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    CUVDBOptionWrapper::SetParam(info, "REPORT_UNEXPECTED_TOKENS", Uve::U8CString("1"));
+    std::shared_ptr<IUVDBObjectInfo> object;
+    info->create_new_object(object, 0);
+    if (isNew) {
+        ASSERT_EQ(parser->Load("Common"), UVDB_OK);
+    }
+    ASSERT_EQ(parser->set_DatabaseInfo(info), UVDB_OK);
+    parser->set_ConvertingObject(object);
+    ASSERT_EQ(parser->Init(""), UVDB_OK);
+    parser->set_Query(text.c_str());
+    parser->Parse(false);
+    Uve::U8CString tokens;
+    ASSERT_TRUE(CUVDBOptionWrapper::GetParam(info, "UNEXPECTED_TOKENS", tokens));
+    ASSERT_GT(tokens.size(), text.size());
+}
+
+TEST(PluginEntry, ParsesOfManyInfosLeaveNoMemoryBehind)
+{
+    std::string text;
+    for (int i = 0; i < 1000; ++i)
+        text += "print 1 1;\n";
+    const auto log = std::make_shared<CMemoryLog>();
+    for (const bool isNew : {true, false}) {
+        SCOPED_TRACE(isNew ? "a parser for each text" : "one parser");
+        auto parser = PluginHelpers::CreateParser(UV_BIN_DIR "/libUVParser.so");
+        parser->set_Log(log);
+        ASSERT_EQ(parser->Load("Common"), UVDB_OK);
+        std::size_t before = 0;
+        for (int round = 0; round < 12; ++round) {
+            if (round == 2) // what is made once for the process is there
+                before = mallinfo2().uordblks;
+            if (isNew)
+                parser = PluginHelpers::CreateParser(UV_BIN_DIR "/libUVParser.so");
+            ASSERT_NO_FATAL_FAILURE(ParseOnce(parser, text, isNew));
+            log->Clear();
+        }
+        if (before == 0)
+            GTEST_SKIP() << "an allocator that counts by itself";
+        EXPECT_LT(mallinfo2().uordblks, before + 4096);
+    }
 }
 
 } // namespace
