@@ -29,10 +29,18 @@ constexpr int kUnknownNumber = 60;
 CActionsMap CopyActions(const CActionsMap& actions)
 {
     CActionsMap copy;
-    for (const auto& [number, operations] : actions) {
-        auto* const target = copy[number] = new COperationsMap;
-        for (const auto& [key, operands] : *operations)
-            target->emplace(key, operands ? new std::vector<std::string>(*operands) : nullptr);
+    try {
+        for (const auto& [number, operations] : actions) {
+            COperationsMap*& target = copy[number];
+            target = new COperationsMap;
+            for (const auto& [key, operands] : *operations) {
+                auto*& added = (*target)[key];
+                added = operands ? new std::vector<std::string>(*operands) : nullptr;
+            }
+        }
+    } catch (...) {
+        FreeActionsMap(copy);
+        throw;
     }
     return copy;
 }
@@ -100,11 +108,15 @@ void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
 
 void CSQLGrammarLexer::ShareTables(const CSQLGrammarLexer& other)
 {
+    // What can fail comes first: the lexer has one grammar or the other, never a part of it.
+    std::string parserName = other.m_strParserName;
+    auto startConditions = other.m_mapStartConditions;
+    CActionsMap actions = CopyActions(other.m_mapActions);
     Cleanup();
-    m_strParserName = other.m_strParserName;
+    m_strParserName.swap(parserName);
     m_bPatternVersion = other.m_bPatternVersion;
-    m_mapStartConditions = other.m_mapStartConditions;
-    m_mapActions = CopyActions(other.m_mapActions);
+    m_mapStartConditions.swap(startConditions);
+    m_mapActions.swap(actions);
     yyset_tables(other.m_spTables);
     yy_text_initial_size = other.yy_text_initial_size;
 }

@@ -47,6 +47,7 @@ public:
     // Throws: as the constructor.
     void yytables(const char* parserName, bool isPatternVersion);
     // Takes the grammar of another lexer, its name included; its own is released.
+    // Throws: std::bad_alloc; the grammar is the earlier one then.
     void ShareTables(const CSQLGrammarLexer& other);
 
     void Initialize() { m_pParser = nullptr; }

@@ -50,7 +50,12 @@ void CUVDBSQLParser::DefineStylesheets()
 {
     if (m_ResourcesDefined)
         return;
-    DefineResources(*m_XsltResources);
+    try {
+        DefineResources(*m_XsltResources);
+    } catch (...) {
+        m_XsltResources->clear(); // one alone would be in the way of the next attempt
+        throw;
+    }
     m_ResourcesDefined = true;
 }
 

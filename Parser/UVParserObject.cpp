@@ -28,22 +28,26 @@ int CUVDBSQLParser::Load(const char* parserName)
 {
     if (parserName == nullptr)
         return UVDB_INVALID_ARGUMENT;
-    m_PatternProcess = IsPatternProcess();
+    const bool isPatternProcess = IsPatternProcess();
     CLogWrapper::WriteTraceF("\nUVParser%s : Creation...", parserName);
-    auto lexer = std::make_shared<CSQLGrammarLexer>(parserName, m_PatternProcess);
-    auto parser = std::make_shared<CSQLGrammarParser>(parserName, m_PatternProcess);
+    auto lexer = std::make_shared<CSQLGrammarLexer>(parserName, isPatternProcess);
+    auto parser = std::make_shared<CSQLGrammarParser>(parserName, isPatternProcess);
     auto preprocessor = std::make_shared<Preprocessor>();
-
     // Only the coloring scanner's map is ever read.
     lexer->set_ColoringWanted(false);
+    // The coloring scanner starts with the same flags as the new one, whatever was written to it for an
+    // earlier grammar.
+    CSQLGrammarLexerImplementation coloringExtension;
+    CLogWrapper::WriteTraceF("OK");
+
+    // The last step that can fail. From here on the object has the new grammar.
+    m_ColoringLexer.ShareTables(*lexer);
+    m_ColoringLexer.m_Extension = std::move(coloringExtension);
+    m_PatternProcess = isPatternProcess;
     m_IsConnected = false;
     m_Lexer = std::move(lexer);
     m_Parser = std::move(parser);
     m_Preprocessor = std::move(preprocessor);
-    // It starts with the same flags as the new scanner, whatever was written to it for an earlier grammar.
-    m_ColoringLexer.m_Extension = CSQLGrammarLexerImplementation();
-    m_ColoringLexer.ShareTables(*m_Lexer);
-    CLogWrapper::WriteTraceF("OK");
     return UVDB_OK;
 }
 
@@ -64,10 +68,10 @@ int CUVDBSQLParser::Init(const char* mode)
     }
     const int connected = GuardEdge([&] {
         // A connection that can't be made is no failure of Init: the parse that needs it fails.
+        m_IsConnected = false;
         m_IsConnected = m_Lexer && m_Parser && m_Parser->yycreate(m_Lexer.get()) == kConnected &&
-                        m_Lexer->yycreate(m_Parser.get()) == kConnected;
-        if (m_IsConnected)
-            m_ColoringLexer.yycreate();
+                        m_Lexer->yycreate(m_Parser.get()) == kConnected &&
+                        m_ColoringLexer.yycreate() == kConnected;
         return UVDB_OK;
     });
     const int prepared = GuardEdge([&] {

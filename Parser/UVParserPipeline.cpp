@@ -112,6 +112,7 @@ int CUVDBSQLParser::Parse(bool showErrors)
 
 int CUVDBSQLParser::ParseQuery(bool showErrors)
 {
+    m_LastError.reset(); // what follows can fail, and would leave the error of the text before
     CLogWrapper::WriteTraceF("\nParsing...");
     m_LastError = std::make_shared<CUVDBErrorInfo>();
     m_PreparationNotes.clear();
