@@ -374,6 +374,22 @@ TEST_F(UvparseProgram, LostWritesAreNeverASuccess)
     EXPECT_EQ(Run("a.sql >&-").code, 2);
 }
 
+TEST_F(UvparseProgram, AFileThatGrowsTooLargeLeavesNothingBehind)
+{
+    std::string script;
+    for (int i = 0; i < 500; ++i)
+        script += kScript;
+    Put("a.sql", script);
+    Put("trees/a.sql.xml", "earlier");
+    const SRunResult run =
+        RunProgram("/bin/sh", "-c 'ulimit -f 8; exec " UV_BIN_DIR "/uvparse --output trees a.sql'");
+    EXPECT_EQ(run.code, 2);
+    EXPECT_NE(run.err.find("File too large"), std::string::npos) << run.err;
+    EXPECT_EQ(Get("trees/a.sql.xml"), "earlier");
+    const std::filesystem::directory_iterator files(m_Folder / "trees");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1);
+}
+
 TEST_F(UvparseProgram, ColorPrintsRangesOfBytes)
 {
     Put("a.sql", "select \xC3\xA9 -- x\n from t");

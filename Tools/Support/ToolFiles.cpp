@@ -1,6 +1,7 @@
 #include "Tools/Support/ToolFiles.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -15,6 +16,13 @@ namespace {
 [[noreturn]] void Fail(const std::string& path, int error)
 {
     throw CToolFailure(path + ": " + std::strerror(error));
+}
+
+// Where the size of files is limited, the write that goes beyond fails like any other, once the signal that
+// comes with it doesn't end the process. What was begun is taken away then.
+void TakeSizeLimitAsFailedWrite()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 class CDescriptor
@@ -91,6 +99,7 @@ std::string ReadWholeFile(const std::string& path, const std::function<bool(std:
 
 COutputFile::COutputFile(const std::string& path) : m_Path(path)
 {
+    TakeSizeLimitAsFailedWrite();
     if (path == "-") {
         m_Path = "standard output";
         m_Descriptor = STDOUT_FILENO;
@@ -169,12 +178,14 @@ void WriteWholeFile(const std::string& path, std::string_view content)
 
 void WriteStandardOutput(std::string_view content)
 {
+    TakeSizeLimitAsFailedWrite();
     if (std::fwrite(content.data(), 1, content.size(), stdout) != content.size() || std::fflush(stdout) != 0)
         Fail("standard output", errno);
 }
 
 CTemporaryFolder::CTemporaryFolder(const std::string& pathPrefix) : m_Path(pathPrefix + "XXXXXX")
 {
+    TakeSizeLimitAsFailedWrite();
     if (mkdtemp(m_Path.data()) == nullptr)
         Fail(pathPrefix, errno);
 }

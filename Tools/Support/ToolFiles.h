@@ -1,4 +1,6 @@
 // Files and streams of the tools. Every failure is reported: a tool never answers success after a lost write.
+// A limit on the size of files makes a write fail; its signal, SIGXFSZ, is ignored once anything here has
+// written.
 #pragma once
 
 #include <functional>
