@@ -116,14 +116,19 @@ std::size_t DecodeCharacterReference(std::string_view text, unsigned int& codePo
     return at + 1;
 }
 
-// Of the character in front of `text`, which isn't ASCII. Returns: its bytes, 0 if it is none of XML.
+// Of the character in front of `text`, which isn't ASCII. Returns: its bytes, 0 if it is malformed.
 std::size_t MultibyteLength(std::string_view text)
 {
     const auto decoded =
         Uve::CodePoints::DecodeUtf8(reinterpret_cast<const unsigned char*>(text.data()), text.size());
-    const bool isCharacter = decoded.kind == Uve::CodePoints::enDecoded::Character &&
-                             decoded.codePoint != 0xFFFE && decoded.codePoint != 0xFFFF;
-    return isCharacter ? decoded.length : 0;
+    return decoded.kind == Uve::CodePoints::enDecoded::Character ? decoded.length : 0;
+}
+
+// Whether U+FFFE or U+FFFF stands in front of `text`: like control characters they are none of XML.
+constexpr std::size_t kNonCharacterBytes = 3;
+bool IsNonCharacter(std::string_view text)
+{
+    return text.starts_with("\xEF\xBF\xBE") || text.starts_with("\xEF\xBF\xBF");
 }
 
 } // namespace
@@ -282,7 +287,7 @@ void CTreeEvents::ReadComment()
     bool isVerbatim = true;
     for (m_At = from; m_At < end;) {
         if (Byte() >= 0x80)
-            StepMultibyte();
+            isVerbatim = StepMultibyte() && isVerbatim;
         else {
             Demand(Byte() != 0);
             isVerbatim = isVerbatim && Byte() != '\r' && !Is(m_Text[m_At], kControl);
@@ -410,7 +415,7 @@ bool CTreeEvents::StepCharacters()
             Demand(!m_Text.substr(m_At).starts_with("]]>"));
             ++m_At;
         } else if (Byte() >= 0x80)
-            StepMultibyte();
+            isVerbatim = StepMultibyte() && isVerbatim;
         else {
             Demand(Byte() != 0);
             isVerbatim = false;
@@ -462,7 +467,7 @@ bool CTreeEvents::StepValue()
         else if (Byte() == '&')
             isVerbatim = StepReference() && isVerbatim;
         else if (Byte() >= 0x80)
-            StepMultibyte();
+            isVerbatim = StepMultibyte() && isVerbatim;
         else {
             Demand(Byte() != '<' && Byte() != 0);
             isVerbatim = false;
@@ -487,11 +492,13 @@ bool CTreeEvents::StepReference()
     return false;
 }
 
-void CTreeEvents::StepMultibyte()
+bool CTreeEvents::StepMultibyte()
 {
-    const std::size_t length = MultibyteLength(m_Text.substr(m_At));
+    const std::string_view rest = m_Text.substr(m_At);
+    const std::size_t length = MultibyteLength(rest);
     Demand(length != 0);
     m_At += length;
+    return !IsNonCharacter(rest);
 }
 
 // ---- Characters ----
@@ -524,6 +531,11 @@ void ForEachPiece(std::string_view run, enRun kind, Sink&& sink)
             char bytes[4];
             sink(std::string_view(bytes,
                                   static_cast<std::size_t>(Uve::CodePoints::EncodeUtf8(codePoint, bytes))));
+            continue;
+        }
+        if (IsNonCharacter(run.substr(at))) {
+            sink("^");
+            at += kNonCharacterBytes;
             continue;
         }
         ++at;

@@ -149,7 +149,7 @@ private:
     bool StepAttributes();
     bool StepValue();
     bool StepReference();
-    void StepMultibyte();
+    bool StepMultibyte();
     void StepBehindEndTag(std::uint32_t name);
     unsigned char Byte() const { return static_cast<unsigned char>(m_Text[m_At]); }
     bool IsAtEnd() const { return m_At == m_Text.size(); }
@@ -188,7 +188,7 @@ enum class enRun
 };
 
 // The characters that a run of a tree stands for, appended to `out`: references decoded, line ends as line
-// feeds, control characters as "^".
+// feeds, what XML has no place for as "^": control characters, U+FFFE and U+FFFF.
 void AppendCharacters(std::string_view run, enRun kind, std::string& out);
 
 // The same as a serialiser writes it again.

@@ -16,6 +16,7 @@
 #include <libxslt/xsltInternals.h>
 #include <libxslt/xsltutils.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdarg>
 #include <cstring>
@@ -55,7 +56,7 @@ const char* PlainText(const xmlChar* text)
     return reinterpret_cast<const char*>(text);
 }
 
-// The control characters that XML has no place for.
+// The characters that XML has no place for: control characters, U+FFFE and U+FFFF.
 class EscapeInvalidChars
 {
 public:
@@ -69,6 +70,7 @@ public:
             if (kIsInvalid[static_cast<unsigned char>(byte)])
                 byte = '^';
         }
+        EscapeNonCharacters(text);
     }
 
 private:
@@ -78,6 +80,31 @@ private:
         for (const char byte : szC0hars)
             table[static_cast<unsigned char>(byte)] = true;
         return table;
+    }
+
+    // Of U+FFFE and U+FFFF nothing but the last byte differs.
+    static void EscapeNonCharacters(std::string& text)
+    {
+        constexpr std::string_view kFront = "\xEF\xBF";
+        std::size_t from = text.find(kFront);
+        std::size_t kept = from;
+        while (from != std::string::npos) {
+            const std::size_t last = from + kFront.size();
+            const bool isInvalid = last < text.size() && (text[last] == '\xBE' || text[last] == '\xBF');
+            const std::size_t next = text.find(kFront, last);
+            const std::size_t end = std::min(next, text.size());
+            if (isInvalid) {
+                text[kept++] = '^';
+                from = last + 1;
+            }
+            kept = static_cast<std::size_t>(std::copy(text.begin() + static_cast<std::ptrdiff_t>(from),
+                                                      text.begin() + static_cast<std::ptrdiff_t>(end),
+                                                      text.begin() + static_cast<std::ptrdiff_t>(kept)) -
+                                            text.begin());
+            from = next;
+        }
+        if (kept != std::string::npos)
+            text.resize(kept);
     }
 
     static const std::array<bool, 256> kIsInvalid;

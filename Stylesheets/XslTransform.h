@@ -1,9 +1,10 @@
 // One compiled stylesheet with its parameters: turns XML text into a result document.
 //
-// Over a plain call of libxslt it sets the limits of 40000 for templates and variables, turns control
-// characters of the input into "^", and passes whole XML documents as global parameters. It works on a stack
-// of its own, so that those limits and not the caller's stack end a recursion. Stylesheets read no files but
-// those of the rule folders beside the host's executable, write none, and reach no network.
+// Over a plain call of libxslt it sets the limits of 40000 for templates and variables, turns what
+// XML has no place for in the input (control characters, U+FFFE, U+FFFF) into "^", and passes whole XML
+// documents as global parameters. It works on a stack of its own, so that those limits and not the caller's
+// stack end a recursion. Stylesheets read no files but those of the rule folders beside the host's
+// executable, write none, and reach no network.
 //
 // One object serves one thread. Compiling and applying change handlers of libxslt that the whole process
 // shares, and put them back; all objects of the process therefore work one after another.
