@@ -2,7 +2,8 @@
 # Builds the project and runs its tests. The last line is "N passed, N failed"; the exit code is 1 if anything failed.
 #   test.sh [CTEST ARGUMENT...]   debug build with the default compiler, every test (or those that the arguments choose)
 #   test.sh --all                 what CI runs: every test on the release build, each header on its own, format and tidy,
-#                                 and with the second compiler every test under the sanitizers, and the fuzz targets
+#                                 and with the second compiler every test under the sanitizers, the fuzz targets, and
+#                                 parsers on several threads under the thread sanitizer
 set -uo pipefail
 
 top=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -53,19 +54,19 @@ configure() {
     [ -f "$out/build.ninja" ] || cmake --preset "$preset" "${launcher[@]}"
 }
 
-# build <preset> [target...]
-build() {
-    local preset=$1
-    shift
-    configure "$preset" && ninja -C "build/$preset" "${@:-all}"
-}
-
 # Sanitizers map their shadow at fixed addresses, which the kernel's randomisation may have taken. Where the machine
 # lets us, such programs run without it.
 unrandomised=()
 if setarch "$(uname -m)" -R true 2>/dev/null; then
     unrandomised=(setarch "$(uname -m)" -R)
 fi
+
+# build <preset> [target...]
+build() {
+    local preset=$1
+    shift
+    configure "$preset" && "${unrandomised[@]}" ninja -C "build/$preset" "${@:-all}"
+}
 
 # run_tests <preset> [ctest argument...]: every test of the preset counts for itself.
 run_tests() {
@@ -134,4 +135,5 @@ check "headers (clang)" build ci all_verify_interface_header_sets
 check "tidy" check_tidy
 # Clang's build: every test under the sanitizers, and the fuzz targets, which are tests of this preset too.
 build_and_test asan
+if run_logged "build tsan" build tsan parser_threads_test; then run_tests tsan -R '^ParserThreads'; else tally 0 1; fi
 finish

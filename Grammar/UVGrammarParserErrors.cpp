@@ -19,7 +19,7 @@ bool IsToolProcess()
 
 bool IsAnybodyListening()
 {
-    return CLogWrapper::m_spLog != nullptr || IsToolProcess();
+    return CLogWrapper::HasLog() || IsToolProcess();
 }
 
 void Convert(std::string& text)

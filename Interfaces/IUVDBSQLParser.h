@@ -14,8 +14,8 @@ class IUVDBObjectInfo;
 // The parser that the plug-in entry `CreateInstanceIUVDBSQLParser` creates. Whoever gets it owns it.
 //
 // Calling order: Load, set_DatabaseInfo, Init, then for each text set_Query, Parse, and get_SQLTree on
-// success or get_LastError on failure. One object serves one thread, and one parse runs at a time in a
-// process.
+// success or get_LastError on failure. One object serves one thread at a time, with the database info and the
+// objects that it is given; objects of several threads work side by side.
 //
 // Operations return UVDB_OK unless they say otherwise.
 class IUVDBSQLParser

@@ -1,8 +1,10 @@
 #include "Stylesheets/RulesFolder.h"
 
+#include <atomic>
+
 namespace {
 
-bool g_AreRulesForAssessment = false;
+std::atomic<bool> g_AreRulesForAssessment{false};
 
 } // namespace
 

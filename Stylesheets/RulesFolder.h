@@ -1,5 +1,6 @@
 // Which of the two sets of rule files serves this process: the usual one, or that of an assessment. One flag
-// for the whole process, without a lock: it is set while the options are read, before anything is loaded.
+// for the whole process, which any thread may set and read: it is set while the options are read, before
+// anything is loaded, and comes out the same for all parsers of a process unless their options differ.
 #pragma once
 
 #include "UVEnvironment/UVEUnicodeString.h"

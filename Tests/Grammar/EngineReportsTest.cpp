@@ -80,7 +80,7 @@ TEST_F(EngineReports, WithErrorsHiddenOnlyTheTraceHears)
     {
         void WriteTrace(const char*) override {}
     };
-    const std::shared_ptr<ILog> earlier = CLogWrapper::m_spLog;
+    const std::shared_ptr<ILog> earlier = CLogWrapper::GetLog();
     for (const bool showErrors : {true, false}) {
         const auto log = std::make_shared<CLogOnly>();
         CLogWrapper::Init(log);

@@ -44,7 +44,7 @@ class CLogCapture
 {
 public:
     explicit CLogCapture(unsigned char traceLevel = 255)
-        : m_log(std::make_shared<CMemoryLog>(traceLevel)), m_earlierLog(CLogWrapper::m_spLog)
+        : m_log(std::make_shared<CMemoryLog>(traceLevel)), m_earlierLog(CLogWrapper::GetLog())
     {
         CLogWrapper::Init(m_log);
         // Text that waited for a log comes in front of the next one.

@@ -4,6 +4,8 @@
 #include <utility>
 
 std::shared_ptr<ILog> CLogWrapper::m_spLog;
+std::atomic<bool> CLogWrapper::m_HasLog{false};
+std::mutex CLogWrapper::m_LogMutex;
 std::mutex CLogWrapper::_mutex_trace;
 std::mutex CLogWrapper::_mutex_log;
 std::shared_ptr<IProfiler> CProfilerWrapper::m_spProfiler;
@@ -31,20 +33,26 @@ std::string FormatText(const char* format, std::va_list arguments)
     return text;
 }
 
-void WriteWithEarlyText(Uve::U8CString& strPreLog, LogTarget target, const char* text)
+// `strPreLog` belongs to one form. Forms that aren't written one call at a time bring a mutex for it.
+void WriteWithEarlyText(Uve::U8CString& strPreLog, LogTarget target, const char* text,
+                        std::mutex* earlyTextMutex = nullptr)
 {
     if (text == nullptr)
         return;
-    if (!CLogWrapper::m_spLog) {
-        strPreLog.append(text);
-        return;
-    }
-    if (!strPreLog.empty()) {
+    const std::shared_ptr<ILog> log = CLogWrapper::GetLog();
+    Uve::U8CString earlyText;
+    {
+        const auto lock = earlyTextMutex ? std::unique_lock(*earlyTextMutex) : std::unique_lock<std::mutex>();
+        if (!log) {
+            strPreLog.append(text);
+            return;
+        }
         // Emptied first: should the log throw, the text isn't sent twice.
-        const Uve::U8CString earlyText = std::exchange(strPreLog, {});
-        (CLogWrapper::m_spLog.get()->*target)(earlyText.c_str());
+        earlyText = std::exchange(strPreLog, {});
     }
-    (CLogWrapper::m_spLog.get()->*target)(text);
+    if (!earlyText.empty())
+        (log.get()->*target)(earlyText.c_str());
+    (log.get()->*target)(text);
 }
 
 } // namespace
@@ -58,18 +66,30 @@ void WriteWithEarlyText(Uve::U8CString& strPreLog, LogTarget target, const char*
 
 void CLogWrapper::Init(std::shared_ptr<ILog> log)
 {
-    m_spLog = std::move(log);
+    // The parameter takes the earlier log along: its end is the host's code and happens after the lock.
+    const std::lock_guard<std::mutex> lock(m_LogMutex);
+    m_spLog.swap(log);
+    m_HasLog.store(m_spLog != nullptr, std::memory_order_relaxed);
+}
+
+std::shared_ptr<ILog> CLogWrapper::GetLog()
+{
+    if (!HasLog())
+        return nullptr;
+    const std::lock_guard<std::mutex> lock(m_LogMutex);
+    return m_spLog;
 }
 
 void CLogWrapper::WriteLog(const char* text)
 {
     static Uve::U8CString strPreLog;
-    WriteWithEarlyText(strPreLog, &ILog::WriteLog, text);
+    static std::mutex mutex;
+    WriteWithEarlyText(strPreLog, &ILog::WriteLog, text, &mutex);
 }
 
 void CLogWrapper::WriteLogF(const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteLog(text.c_str());
@@ -78,7 +98,7 @@ void CLogWrapper::WriteLogF(const char* format, ...)
 void CLogWrapper::WriteLogF(enTraceMessageType type, const char* file, int line, int code, const char* format,
                             ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteLog(FormMessageString(type, file, line, code, text.c_str()).c_str());
@@ -93,7 +113,7 @@ void CLogWrapper::WriteLogScreen(const char* text)
 
 void CLogWrapper::WriteLogScreenF(const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteLogScreen(text.c_str());
@@ -108,7 +128,7 @@ void CLogWrapper::WriteTrace(const char* text)
 
 void CLogWrapper::WriteTraceF(const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteTrace(text.c_str());
@@ -117,7 +137,7 @@ void CLogWrapper::WriteTraceF(const char* format, ...)
 void CLogWrapper::WriteTraceF(enTraceMessageType type, const char* file, int line, int code,
                               const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteTrace(FormMessageString(type, file, line, code, text.c_str()).c_str());
@@ -125,7 +145,8 @@ void CLogWrapper::WriteTraceF(enTraceMessageType type, const char* file, int lin
 
 bool CLogWrapper::IsTraceLevelWanted(unsigned char level)
 {
-    return m_spLog && m_spLog->GetTraceLevel() >= level;
+    const std::shared_ptr<ILog> log = GetLog();
+    return log && log->GetTraceLevel() >= level;
 }
 
 void CLogWrapper::WriteTraceWithLevel(unsigned char level, const char* text)
@@ -145,12 +166,13 @@ void CLogWrapper::WriteTraceFWithLevel(unsigned char level, const char* format, 
 void CLogWrapper::WriteLogFile(const char* text)
 {
     static Uve::U8CString strPreLog;
-    WriteWithEarlyText(strPreLog, &ILog::WriteLogFile, text);
+    static std::mutex mutex;
+    WriteWithEarlyText(strPreLog, &ILog::WriteLogFile, text, &mutex);
 }
 
 void CLogWrapper::WriteLogFileF(const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteLogFile(text.c_str());
@@ -159,7 +181,7 @@ void CLogWrapper::WriteLogFileF(const char* format, ...)
 void CLogWrapper::WriteLogFileF(enTraceMessageType type, const char* file, int line, int code,
                                 const char* format, ...)
 {
-    if (!m_spLog)
+    if (!HasLog())
         return;
     UV_FORMAT_ARGUMENTS(text, format);
     WriteLogFile(FormMessageString(type, file, line, code, text.c_str()).c_str());
@@ -168,7 +190,8 @@ void CLogWrapper::WriteLogFileF(enTraceMessageType type, const char* file, int l
 void CLogWrapper::WriteProfile(const char* text)
 {
     static Uve::U8CString strPreLog;
-    WriteWithEarlyText(strPreLog, &ILog::WriteProfile, text);
+    static std::mutex mutex;
+    WriteWithEarlyText(strPreLog, &ILog::WriteProfile, text, &mutex);
 }
 
 void CLogWrapper::WriteProfile(const std::string& text)
@@ -178,8 +201,8 @@ void CLogWrapper::WriteProfile(const std::string& text)
 
 void CLogWrapper::SetLog(bool enable)
 {
-    if (m_spLog)
-        m_spLog->SetLog(enable);
+    if (const std::shared_ptr<ILog> log = GetLog())
+        log->SetLog(enable);
 }
 
 Uve::U8CString CLogWrapper::GetLogFormatError(const char* format, ...)

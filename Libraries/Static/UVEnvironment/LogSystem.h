@@ -1,6 +1,10 @@
 // The front of the log. Any code can write a trace here without holding a log; the texts go to the ILog that
 // the host attached by Init. The log is one for the whole process (for each library that links this code).
 //
+// Safe to use from several threads, Init included: who is writing meanwhile finishes with the log that was
+// there. Only the trace and the screen are written one call at a time; the other operations of an ILog are
+// called as the threads come. The profiler has no locks: it is attached before threads are started.
+//
 // Early text: what the plain forms (WriteLog, WriteLogScreen, WriteTrace, WriteLogFile, WriteProfile) write
 // before a log is attached is kept, and goes to the log as one call in front of the next text of the same
 // form. The formatting forms keep nothing: without a log they format nothing and drop the text.
@@ -10,6 +14,7 @@
 #include "Interfaces/IProfiler.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
+#include <atomic>
 #include <cstdarg>
 #include <memory>
 #include <mutex>
@@ -36,6 +41,11 @@ public:
     // Attaches a log; a later call replaces it, an empty pointer detaches it.
     // Owner: shares.
     static void Init(std::shared_ptr<ILog> log);
+
+    // The log at hand; empty if there is none.
+    // Owner: shares.
+    static std::shared_ptr<ILog> GetLog();
+    static bool HasLog() { return m_HasLog.load(std::memory_order_relaxed); }
 
     static void WriteLog(const char* text);
     static void WriteLogF(const char* format, ...) UV_PRINTF_FORMAT(1, 2);
@@ -83,9 +93,10 @@ public:
     // Does nothing here; callers exist for systems that can show their stack.
     static void WriteCallStackTrace();
 
-    static std::shared_ptr<ILog> m_spLog;
-
 private:
+    static std::shared_ptr<ILog> m_spLog;
+    static std::atomic<bool> m_HasLog; // whether m_spLog is there, without the lock
+    static std::mutex m_LogMutex;      // of m_spLog, for as long as it takes to copy the pointer
     static std::mutex _mutex_trace;
     static std::mutex _mutex_log;
 };

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -62,28 +63,36 @@ xmlParserInput* LoadNothing(const char*, const char*, xmlParserCtxt*)
 
 void IgnoreError(void*, xmlError*) {}
 
-// Holds libxml2's loader and its handler for errors without a parser (a failed conversion is one) while a
-// text is read, and puts the host's own back.
+// The loader is one for the process: the first of several readers takes it away, the last one puts it back.
+std::mutex g_LoaderMutex;
+int g_Readers = 0;
+xmlExternalEntityLoader g_HostLoader = nullptr;
+
+// Holds libxml2's loader and its handler for errors without a parser (a failed conversion is one; each thread
+// has its own) while a text is read, and puts the host's own back.
 class CQuietReading
 {
 public:
-    CQuietReading()
-        : m_Loader(xmlGetExternalEntityLoader()), m_Handler(xmlStructuredError),
-          m_HandlerContext(xmlStructuredErrorContext)
+    CQuietReading() : m_Handler(xmlStructuredError), m_HandlerContext(xmlStructuredErrorContext)
     {
-        xmlSetExternalEntityLoader(LoadNothing);
+        const std::lock_guard lock(g_LoaderMutex);
+        if (g_Readers++ == 0) {
+            g_HostLoader = xmlGetExternalEntityLoader();
+            xmlSetExternalEntityLoader(LoadNothing);
+        }
         xmlSetStructuredErrorFunc(nullptr, IgnoreError);
     }
     ~CQuietReading()
     {
         xmlSetStructuredErrorFunc(m_HandlerContext, m_Handler);
-        xmlSetExternalEntityLoader(m_Loader);
+        const std::lock_guard lock(g_LoaderMutex);
+        if (--g_Readers == 0)
+            xmlSetExternalEntityLoader(g_HostLoader);
     }
     CQuietReading(const CQuietReading&) = delete;
     CQuietReading& operator=(const CQuietReading&) = delete;
 
 private:
-    xmlExternalEntityLoader m_Loader;
     xmlStructuredErrorFunc m_Handler;
     void* m_HandlerContext;
 };
@@ -262,7 +271,9 @@ xmlDoc* Read(const char* data, std::size_t size, const char* url, const char* en
 {
     if (data == nullptr || size >= kTextLimit)
         return nullptr;
-    xmlInitParser();
+    // libxml2 doesn't guard its own start.
+    static const bool isStarted = (xmlInitParser(), true);
+    (void)isStarted;
     const CQuietReading quiet;
     const CParser parser(xmlNewParserCtxt(), &xmlFreeParserCtxt);
     if (!parser)

@@ -17,7 +17,8 @@ namespace Uve {
 //
 // Nothing outside the text is ever loaded: no external entity, no DTD, nothing from the network. Errors are
 // not printed, and the handlers and the loader that a host has set in libxml2 are in place again afterwards.
-// Not beside another thread's XML work.
+// Safe on several threads at once; a host's own work with libxml2 on another thread is without a loader
+// meanwhile.
 //
 // Owner: the caller, xmlFreeDoc. Throws: std::bad_alloc.
 [[nodiscard]] _xmlDoc* ReadXml(const char* data, std::size_t size);
