@@ -9,8 +9,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <limits>
 #include <memory>
+#include <system_error>
 
 namespace {
 
@@ -252,6 +254,12 @@ T* UVDBGrammarKeeper::GetBinaryTableFromFile(const char* path, std::size_t& coun
         return nullptr;
     std::uint32_t claimed = 0;
     if (file.Read(&claimed, sizeof claimed) != sizeof claimed)
+        ThrowBadTable(path);
+    // Nothing is unpacked for a count that the file can't hold.
+    constexpr std::uintmax_t kLargestRatio = 1032;
+    std::error_code failure;
+    const std::uintmax_t fileSize = std::filesystem::file_size(path, failure);
+    if (failure || claimed > fileSize * kLargestRatio / sizeof(T))
         ThrowBadTable(path);
 
     // The count is believed only as far as entries arrive. ZFile reads by int, so a chunk stays below that.

@@ -5,8 +5,14 @@
 
 #include "UVEnvironment/UVEUnicodeString.h"
 
+#include <optional>
+#include <string>
+
 void SetRulesForAssessment(bool isForAssessment);
 bool AreRulesForAssessment();
+
+// The canonical path of what is at `path`, if that is a regular file below `folder`, links resolved.
+std::optional<std::string> FindFileBelow(const std::string& folder, const std::string& path);
 
 // The name of the folder beside the host's executable: "rules_KEL" for an assessment, otherwise "rules".
 Uve::U8CString GetRulesFolder();

@@ -1,6 +1,7 @@
 #include "Stylesheets/XslSandbox.h"
 
 #include "Stylesheets/OwnStack.h"
+#include "Stylesheets/RulesFolder.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/UVEXmlRead.h"
 
@@ -56,24 +57,11 @@ struct SPrefsDeleter
     void operator()(xsltSecurityPrefs* prefs) const { xsltFreeSecurityPrefs(prefs); }
 };
 
-bool IsBelow(const fs::path& path, const fs::path& folder)
-{
-    const std::string& whole = path.native();
-    const std::string& front = folder.native();
-    return whole.size() > front.size() && whole.starts_with(front) && whole[front.size()] == '/';
-}
-
 std::optional<std::string> FindRuleFileAt(const char* path)
 {
-    std::error_code failure;
-    const fs::path canonical = fs::canonical(path, failure);
-    if (failure || !fs::is_regular_file(canonical, failure))
-        return std::nullopt;
-    for (const char* folder : kRuleFolders) {
-        const fs::path allowed = fs::canonical(Path::Combine(GetPathOfExe(), folder).c_str(), failure);
-        if (!failure && IsBelow(canonical, allowed))
-            return canonical.native();
-    }
+    for (const char* folder : kRuleFolders)
+        if (auto file = FindFileBelow(Path::Combine(GetPathOfExe(), folder), path))
+            return file;
     return std::nullopt;
 }
 

@@ -359,6 +359,8 @@ xmlDoc* XslTransform::Transform(xmlDoc* document, bool isFull, const CXslSandbox
         return nullptr;
     }
     messages.Catch(context.get());
+    context->opLimit = m_OperationLimit;
+    context->xpathCtxt->opLimit = m_OperationLimit;
     if (isFull) {
         if (context->globalVars == nullptr)
             context->globalVars = xmlHashCreate(kGlobalVariableBuckets);

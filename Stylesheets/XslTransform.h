@@ -71,6 +71,9 @@ public:
 
     void resetParams();
 
+    // A transform that does more instructions, or more steps of XPath, fails and says so.
+    void setOperationLimit(unsigned long limit) { m_OperationLimit = limit; }
+
     // Sets the error; the last one wins.
     void error(const u8string& text);
 
@@ -91,7 +94,8 @@ private:
     _xmlDoc* m_StyleDoc = nullptr;
     _xsltStylesheet* m_Stylesheet = nullptr; // once it is there, m_StyleDoc belongs to it
     std::map<u8string, u8string> m_Params;
-    std::map<u8string, XmlDocument> m_XmlParams; // owns the documents
+    std::map<u8string, XmlDocument> m_XmlParams;    // owns the documents
+    unsigned long m_OperationLimit = 2'000'000'000; // a tree of some hundred megabytes needs less
     bool m_HasError = false;
     u8string m_ErrorText;
 };

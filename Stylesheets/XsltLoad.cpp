@@ -21,16 +21,31 @@ void TraceFailure(const std::string& name, const char* reason)
     CLogWrapper::WriteTraceF("\nRule file \"%s\"... FAILED: %s\n", name.c_str(), reason);
 }
 
-// Tries the path as it stands and with "_" behind it.
-bool ReadEither(std::string& out, const std::string& path)
+// Reads a file below `folder`. One that leads out of it, by its name or by a link, is none.
+bool ReadRuleFile(std::string& out, const std::string& folder, const std::string& path)
 {
-    return ReadFromFile(out, path) == UVDB_OK || ReadFromFile(out, path + "_") == UVDB_OK;
+    out.clear();
+    std::error_code missing;
+    if (!std::filesystem::is_regular_file(path, missing))
+        return false;
+    const auto file = FindFileBelow(folder, path);
+    if (!file)
+        TraceFailure(path, "it leads out of the folder");
+    return file && ReadFromFile(out, *file) == UVDB_OK;
 }
 
-bool ReadStylesheet(std::string& out, const std::string& path)
+// Tries the path as it stands and with "_" behind it.
+bool ReadEither(std::string& out, const std::string& folder, const std::string& path)
 {
+    return ReadRuleFile(out, folder, path) || ReadRuleFile(out, folder, path + "_");
+}
+
+bool ReadStylesheet(std::string& out, const std::string& folder, const std::string& name)
+{
+    const std::string path = folder + name;
     const std::string stem = path.substr(0, path.rfind('.'));
-    return ReadEither(out, path) || ReadEither(out, stem + ".crs") || ReadEither(out, stem + ".cr");
+    return ReadEither(out, folder, path) || ReadEither(out, folder, stem + ".crs") ||
+           ReadEither(out, folder, stem + ".cr");
 }
 
 bool IsPacked(const std::string& text)
@@ -131,22 +146,21 @@ int CRuleFiles::LoadXml(U8CString& out, const U8CString& name) const
     std::string text;
     std::string path = m_BaseFolder;
     path.append(name);
-    const int result = ReadEither(text, path) ? Unpack(text, path) : UVDB_ERROR;
+    const int result = ReadEither(text, m_BaseFolder, path) ? Unpack(text, path) : UVDB_ERROR;
     out = std::move(text);
     return result;
 }
 
 int CRuleFiles::LoadStylesheet(std::string& out, const std::string& name) const
 {
-    const std::string path = m_BaseFolder + name;
-    return ReadStylesheet(out, path) ? Unpack(out, path) : UVDB_ERROR;
+    return ReadStylesheet(out, m_BaseFolder, name) ? Unpack(out, m_BaseFolder + name) : UVDB_ERROR;
 }
 
 int CRuleFiles::ReadUnusedFlag(bool& unused, const std::string& name) const
 {
     unused = false;
     std::string text;
-    if (!ReadStylesheet(text, m_BaseFolder + name))
+    if (!ReadStylesheet(text, m_BaseFolder, name))
         return UVDB_ERROR;
     if (IsPacked(text)) {
         unsigned int size = 0;

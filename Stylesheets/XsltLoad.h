@@ -6,9 +6,10 @@
 // A stylesheet is looked for under several names, the first file that opens is taken: with its ending as
 // given (.xslt), with .crs, with .cr, each of them with and without "_" behind it.
 //
-// Rule files come from outside. More than 1 GiB is not read, be it in one file or in all that one stylesheet
-// takes in; an archive whose payload is damaged is refused. An archive with a bad header, which a plain file
-// with a blank in front is too, counts as an empty file. The trace names the file in each case.
+// Rule files come from outside. A file that isn't below the base folder, because its name or a link leads out
+// of it, isn't loaded. More than 1 GiB is not read, be it in one file or in all that one stylesheet takes in;
+// an archive whose payload is damaged is refused. An archive with a bad header, which a plain file with a
+// blank in front is too, counts as an empty file. The trace names the file in each case.
 #pragma once
 
 #include "Stylesheets/ConditionComments.h"

@@ -143,6 +143,52 @@ TEST(XmlRead, WhatGrowsBeyondMeasureIsRefused)
     }
 }
 
+// What declarations may add is 10 MB and ten times the text. A reference costs its entity's text and 20
+// bytes, once when it is read and once for whoever takes its text.
+TEST(XmlRead, GrowthIsRefusedFromTheLimitOn)
+{
+    const std::string entity(99'980, 'x');
+    for (const std::size_t filler : {0, 1'000'000}) {
+        SCOPED_TRACE(filler);
+        const auto document = [&](std::size_t references) {
+            return WithDtd("<!ENTITY e '" + entity + "'>",
+                           "<r>" + Repeated("&e;", references) + std::string(filler, ' ') + "</r>");
+        };
+        const std::size_t most = (10'000'000 + 10 * document(100).size()) / 200'000;
+        EXPECT_NE(Read(document(most - 1)), nullptr);
+        EXPECT_EQ(Read(document(most + 1)), nullptr);
+    }
+}
+
+// libxml2 compares each attribute of an element with all before it.
+TEST(XmlRead, ElementsWithThousandsOfAttributesAreRefused)
+{
+    const auto attributes = [](int count, const char* quote) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += " a" + std::to_string(i) + " = " + quote + ">" + quote;
+        return text;
+    };
+    EXPECT_NE(Read("<r" + attributes(1000, "'") + "/>"), nullptr);
+    EXPECT_NE(Read("<r>" + Repeated("<b" + attributes(900, "\"") + "/> = ' = \"", 10) + "</r>"), nullptr);
+    const std::string many = "<r" + attributes(200'000, "'") + "/>";
+    std::string escaped = many;
+    escaped.replace(0, 1, "&#60;");
+    const std::string cases[] = {
+        "<r" + attributes(1001, "'") + "/>",
+        many,
+        "<!-- \" <a b=\" -->" + many,
+        WithDtd("<!ENTITY e \"<a b='\">", many),
+        WithDtd("<!ENTITY e \"<!--\">", many),
+        WithDtd("<!ENTITY e \"" + many + "\">", "<r>&e;</r>"),
+        WithDtd("<!ENTITY e \"" + escaped + "\">", "<r>&e;</r>"),
+    };
+    for (const std::string& text : cases) {
+        SCOPED_TRACE(text.substr(0, 40));
+        EXPECT_EQ(Read(text), nullptr);
+    }
+}
+
 TEST(XmlRead, EntitiesWithinMeasureStayReferences)
 {
     const std::pair<std::string, std::string> cases[] = {

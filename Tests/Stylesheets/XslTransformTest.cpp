@@ -50,6 +50,34 @@ std::optional<std::string> Apply(std::string_view templates, std::string_view tr
 
 const std::string kCopy = R"(<xsl:template match="/"><xsl:copy-of select="."/></xsl:template>)";
 
+// ---- Limits ----
+
+TEST(XslTransform, OperationsAreCounted)
+{
+    const struct
+    {
+        const char* name;
+        std::string body;
+    } cases[] = {
+        {"instructions",
+         "<xsl:for-each select='//i'><xsl:for-each select='//i'><a/></xsl:for-each></xsl:for-each>"},
+        {"steps of XPath", "<xsl:value-of select='count(//i[count(//i) = 0])'/>"},
+    };
+    std::string tree = "<t>";
+    for (int i = 0; i < 200; ++i)
+        tree += "<i/>";
+    tree += "</t>";
+    for (const auto& [name, body] : cases) {
+        SCOPED_TRACE(name);
+        XslTransform transform(Stylesheet(Root(body)));
+        EXPECT_NE(Text(transform.apply(tree)), std::nullopt);
+        transform.setOperationLimit(20'000);
+        const CLogCapture log;
+        EXPECT_EQ(Text(transform.apply(tree)), std::nullopt);
+        EXPECT_THAT(log.Text(), HasSubstr("limit exceeded"));
+    }
+}
+
 // ---- Input ----
 
 TEST(XslTransform, ControlCharactersOfTheInputBecomeCarets)

@@ -297,6 +297,31 @@ TEST_F(RuleFiles, RunawayImportsFail)
     EXPECT_EQ(Resolve(Import("sub/../sub/./plain.xslt")), "<plain/>");
 }
 
+// Neither a name nor a link gets at what isn't below the base folder. Folders are told apart by their whole
+// name.
+TEST_F(RuleFiles, StayInTheirFolder)
+{
+    Put("rules/x.xslt", "<inside/>");
+    Put("rules2/x.xslt", "<beside/>");
+    Put("x.xslt", "<above/>");
+    fs::create_symlink("x.xslt", m_Host / "rules/link.xslt");
+    fs::create_symlink("../rules2/x.xslt", m_Host / "rules/beside.xslt");
+    fs::create_symlink("../x.xslt", m_Host / "rules/above.xslt_");
+    fs::create_directory_symlink("../rules2", m_Host / "rules/folder");
+    EXPECT_EQ(Load("x.xslt"), "<inside/>");
+    EXPECT_EQ(Load("link.xslt"), "<inside/>");
+    EXPECT_EQ(Load("../rules/x.xslt"), "<inside/>");
+    for (const char* name : {"beside.xslt", "above.xslt", "folder/x.xslt", "../x.xslt", "../rules2/x.xslt"}) {
+        SCOPED_TRACE(name);
+        const CLogCapture log;
+        EXPECT_EQ(Load(name), "-1:");
+        EXPECT_THAT(log.Text(), HasSubstr("it leads out of the folder"));
+        U8CString xml;
+        EXPECT_EQ(Files().LoadXml(xml, U8CString(name)), -1);
+        EXPECT_TRUE(xml.empty());
+    }
+}
+
 TEST(RuleFilesOfThisProcess, StandBesideTheProgram)
 {
     const fs::path crs = fs::path(Uve::GetPathOfExe().c_str()) / "crs";

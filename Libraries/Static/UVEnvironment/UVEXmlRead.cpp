@@ -12,11 +12,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Uve {
@@ -35,6 +37,8 @@ constexpr std::uint64_t kGrowthFactor = 10;
 constexpr std::uint64_t kReferenceCost = 20;
 constexpr std::uint64_t kNamespaceCost = 80;
 constexpr std::uint64_t kComparisonsPerByte = 16;
+
+constexpr std::size_t kMostAttributes = 1000;
 
 class CGrowth
 {
@@ -110,11 +114,45 @@ bool SpendOrStop(void* parser, std::uint64_t bytes)
     return false;
 }
 
+// True if something in the text looks like a tag with more than kMostAttributes of them, which libxml2 would
+// compare each with all before it. No tag escapes: it begins with "<", and nothing inside it does. So
+// declarations, which hold tags in their quotes, comments and sections of characters need no understanding.
+bool HasTooManyAttributes(std::string_view text)
+{
+    constexpr auto kNone = std::string_view::npos;
+    std::size_t count = 0;
+    for (std::size_t at = text.find('<'); at != kNone;) {
+        if (text[at] == '<')
+            count = 0;
+        at = text.find_first_of("<>=", at + 1);
+        if (at == kNone)
+            return false;
+        if (text[at] == '>') {
+            at = text.find('<', at);
+            continue;
+        }
+        if (text[at] != '=')
+            continue;
+        const std::size_t value = text.find_first_not_of(" \t\r\n", at + 1);
+        if (value == kNone || (text[value] != '"' && text[value] != '\''))
+            continue;
+        if (++count > kMostAttributes)
+            return true;
+        const char ends[] = {text[value], '<'};
+        at = text.find_first_of(std::string_view(ends, std::size(ends)), value + 1);
+    }
+    return false;
+}
+
 xmlEntity* SpendEntity(void* parser, xmlEntity* entity)
 {
-    const std::uint64_t length =
-        entity != nullptr && entity->content != nullptr ? static_cast<std::uint64_t>(entity->length) : 0;
-    return SpendOrStop(parser, length + kReferenceCost) ? entity : nullptr;
+    std::string_view content;
+    if (entity != nullptr && entity->content != nullptr)
+        content = {reinterpret_cast<const char*>(entity->content), static_cast<std::size_t>(entity->length)};
+    // What the parser reads here has its character references resolved: tags may have come of them.
+    const std::uint64_t cost = HasTooManyAttributes(content) ? std::numeric_limits<std::uint64_t>::max()
+                                                             : content.size() + kReferenceCost;
+    return SpendOrStop(parser, cost) ? entity : nullptr;
 }
 
 xmlEntity* GetEntity(void* parser, const xmlChar* name)
@@ -269,7 +307,7 @@ using CParser = std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)>;
 
 xmlDoc* Read(const char* data, std::size_t size, const char* url, const char* encoding)
 {
-    if (data == nullptr || size >= kTextLimit)
+    if (data == nullptr || size >= kTextLimit || HasTooManyAttributes({data, size}))
         return nullptr;
     // libxml2 doesn't guard its own start.
     static const bool isStarted = (xmlInitParser(), true);

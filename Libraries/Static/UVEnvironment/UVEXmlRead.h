@@ -11,6 +11,7 @@ namespace Uve {
 //
 // - isn't well-formed or isn't valid UTF-8, or declares an encoding that nobody knows,
 // - has 0x80000000 bytes or more,
+// - has an element with more than 1000 attributes,
 // - grows by its declarations (entities, parameter entities, default namespaces) beyond 10 MB and ten times
 // its
 //   own size, whether while it is read or when its references are resolved.
