@@ -95,7 +95,7 @@ private:
     _xsltStylesheet* m_Stylesheet = nullptr; // once it is there, m_StyleDoc belongs to it
     std::map<u8string, u8string> m_Params;
     std::map<u8string, XmlDocument> m_XmlParams;    // owns the documents
-    unsigned long m_OperationLimit = 2'000'000'000; // a tree of some hundred megabytes needs less
+    unsigned long m_OperationLimit = 2'000'000'000; // flattening a tree of 250 MB stays below
     bool m_HasError = false;
     u8string m_ErrorText;
 };
