@@ -32,12 +32,13 @@ void FreeActionsMap(CActionsMap& actions);
 std::string ComposeGrammarDirectory(const std::string& parserName, bool isCr, const char* part);
 
 // The content of a text file: `plainDirectory`/name, else the archive `packedDirectory`/name_ unpacked.
-// Throws: U8CString with the line for the log if there is neither, or the archive is damaged.
+// Throws: U8CString with the line for the log if there is neither, if it can't be read, or the archive is
+// damaged. The line names the plain file where there is neither, and the system's reason where it is another.
 std::string GetDatFile(const std::string& packedDirectory, const std::string& plainDirectory,
                        const std::string& name);
 
 // The path of a binary table, by the same two candidates. A packed table is read as it stands: it has the
-// form of a plain one. Throws: U8CString with the line for the log if there is neither.
+// form of a plain one. Throws: U8CString as GetDatFile, if there is neither.
 std::string GetDatFilePath(const std::string& packedDirectory, const std::string& plainDirectory,
                            const std::string& name);
 

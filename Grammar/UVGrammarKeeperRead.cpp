@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,17 +14,34 @@
 #include <limits>
 #include <memory>
 #include <system_error>
+#include <unistd.h>
 
 namespace {
 
-[[noreturn]] void ThrowFileNotFound(const std::string& path)
+// Folders come with a slash at their end, so that paths hold two of them; a reader needs to see one.
+std::string ShownPath(std::string path)
 {
-    throw Uve::U8CString("\nUVParser ERROR: File not found: " + path);
+    for (std::size_t at = path.find("//"); at != std::string::npos; at = path.find("//", at))
+        path.erase(at, 1);
+    return path;
+}
+
+// `error` is the system's. That a file isn't there needs no second word.
+[[noreturn]] void ThrowFileNotFound(const std::string& path, int error = ENOENT)
+{
+    throw Uve::U8CString("\nUVParser ERROR: File not found: " + ShownPath(path) +
+                         (error == ENOENT ? std::string() : std::string(": ") + std::strerror(error)));
+}
+
+// Neither the plain file nor the packed one can be seen.
+[[noreturn]] void ThrowNeitherFound(const std::string& plain)
+{
+    ThrowFileNotFound(plain, access(plain.c_str(), F_OK) != 0 ? errno : ENOENT);
 }
 
 [[noreturn]] void ThrowBadTable(const std::string& path)
 {
-    throw Uve::U8CString("\nUVParser ERROR: Could not construct a table from file: " + path);
+    throw Uve::U8CString("\nUVParser ERROR: Could not construct a table from file: " + ShownPath(path));
 }
 
 struct SFileCloser
@@ -199,12 +217,14 @@ std::string GetDatFile(const std::string& packedDirectory, const std::string& pl
     const std::string plain = plainDirectory + '/' + name;
     if (Uve::File::Exists(plain)) {
         if (UVDBGrammarKeeper::ReadFromFile(content, plain.c_str()) != 0)
-            ThrowFileNotFound(plain);
+            ThrowFileNotFound(plain, errno);
         return content;
     }
     const std::string packed = packedDirectory + '/' + name + '_';
+    if (!Uve::File::Exists(packed))
+        ThrowNeitherFound(plain);
     if (UVDBGrammarKeeper::ReadFromFile(content, packed.c_str()) != 0)
-        ThrowFileNotFound(packed);
+        ThrowFileNotFound(packed, errno);
     std::string unpacked;
     bool isDamaged = false;
     Compressor::ResourceUnarchive(content, unpacked, &isDamaged);
@@ -216,13 +236,13 @@ std::string GetDatFile(const std::string& packedDirectory, const std::string& pl
 std::string GetDatFilePath(const std::string& packedDirectory, const std::string& plainDirectory,
                            const std::string& name)
 {
-    std::string path = plainDirectory + '/' + name;
-    if (Uve::File::Exists(path))
-        return path;
-    path = packedDirectory + '/' + name + '_';
-    if (!Uve::File::Exists(path))
-        ThrowFileNotFound(path);
-    return path;
+    const std::string plain = plainDirectory + '/' + name;
+    if (Uve::File::Exists(plain))
+        return plain;
+    const std::string packed = packedDirectory + '/' + name + '_';
+    if (!Uve::File::Exists(packed))
+        ThrowNeitherFound(plain);
+    return packed;
 }
 
 int UVDBGrammarKeeper::ReadFromFile(std::string& content, const char* path)
