@@ -93,6 +93,8 @@ const SRefusal kParserRefusals[] = {
     {"Parser/pgoto.dat", "starts at", SetEntry(2, -0x7fffffff)},
     {"Parser/defgoto.dat", "next state 10", SetEntry(1, 10)},
     {"Parser/table.dat", "action 0", SetEntry(3, 0)},
+    {"Parser/table.dat", "action 10", SetEntry(0, 10)}, // one state too many
+    {"Parser/table.dat", "action -7", SetEntry(0, -7)}, // one rule too many
     {"Parser/table.dat", "next state 10", SetEntry(8, 10)},
     {"Parser/check.dat", "not as long", Shorten(1)},
     {"Parser/r1.dat", "makes symbol 5", SetEntry(3, 5)}, // a terminal
