@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <climits>
 
 namespace {
 
@@ -90,20 +89,13 @@ void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
     m_strParserName = parserName;
     m_bPatternVersion = isPatternVersion;
     const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Lexer");
-    const auto readText = [&](const char* name) { return GetDatFile(directory, directory, name); };
-
-    UVDBGrammarKeeper::CreateActionsMap(readText("actions.dat"), m_mapActions);
-    UVDBGrammarKeeper::CreateDefinesMap(readText("defines.dat"), m_mapStartConditions);
-    auto tables = std::make_shared<CScannerTables>();
-    ReadScannerTables(directory, *tables);
-    int startConditions = 1; // every scanner has the initial one
-    for (const auto& condition : m_mapStartConditions)
-        startConditions =
-            std::max(startConditions, condition.second < INT_MAX ? condition.second + 1 : INT_MAX);
-    tables->Compile(directory, startConditions);
-    yyset_tables(std::move(tables));
+    SScannerFiles files;
+    ReadScannerFiles(directory, files);
+    ProveScannerFiles(directory, files);
+    m_mapActions.swap(files.actions);
+    m_mapStartConditions = std::move(files.startConditions);
+    yyset_tables(std::move(files.tables));
     yy_text_initial_size = kInitialTextSize;
-    CheckConditions(directory);
 }
 
 void CSQLGrammarLexer::ShareTables(const CSQLGrammarLexer& other)
@@ -119,25 +111,6 @@ void CSQLGrammarLexer::ShareTables(const CSQLGrammarLexer& other)
     m_mapActions.swap(actions);
     yyset_tables(other.m_spTables);
     yy_text_initial_size = other.yy_text_initial_size;
-}
-
-// A start condition that the tables don't know would send the scanner outside them.
-void CSQLGrammarLexer::CheckConditions(const std::string& directory) const
-{
-    const int conditions = m_spTables->StartConditions();
-    for (const auto& [name, value] : m_mapStartConditions)
-        if (value < -1)
-            RefuseTable(directory, "defines.dat", "start condition " + name + " " + std::to_string(value));
-    for (const auto& [number, operations] : m_mapActions)
-        for (const auto& [key, operands] : *operations) {
-            if (!operands || !key.starts_with("BEGIN#"))
-                continue;
-            const int state = ResolveBegin((*operands)[0]);
-            if (state != kToStart && (state < kByName || state >= conditions))
-                RefuseTable(directory, "actions.dat",
-                            "rule " + std::to_string(number) + " begins start condition " + (*operands)[0] +
-                                " of " + std::to_string(conditions));
-        }
 }
 
 int CSQLGrammarLexer::yycreate(yyBisonParser* parser)

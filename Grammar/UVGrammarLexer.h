@@ -144,7 +144,6 @@ private:
     static const std::array<Handler, kGrammarKeywordCount> kHandlers; // by keyword
 
     void Cleanup();
-    void CheckConditions(const std::string& directory) const;
     void CompileActions();
     void ResolveOperands(SOperation& operation);
     std::uint32_t CompileToken(const std::string& name);

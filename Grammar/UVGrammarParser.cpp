@@ -56,27 +56,20 @@ void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
     m_strParserName = parserName;
     m_bPatternVersion = isPatternVersion;
     const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Parser");
-    const auto readText = [&](const char* name) { return GetDatFile(directory, directory, name); };
-
-    UVDBGrammarKeeper::CreateActionsMap(readText("actions.dat"), m_mapActions);
-    const std::uint64_t largest = UVDBGrammarKeeper::CreateDefinesMap(readText("defines.dat"), m_mapDefines);
-    yyset_yymaxutok(static_cast<int>(largest & 0xffffffffu));
-    yyset_yyntokens(m_mapDefines.size(), largest >> 32 != 0);
-
-    auto tables = std::make_shared<CParserTables>();
-    tables->maxutok = yymaxutok;
-    tables->ntokens = yyntokens;
-    ReadParserTables(directory, *tables);
-    tables->Validate(directory);
-    yyset_tables(std::move(tables));
-    CompileActions(directory);
+    SParserFiles files;
+    ReadParserFiles(directory, files);
+    ProveParserFiles(directory, files);
+    m_mapActions.swap(files.actions);
+    m_mapDefines = std::move(files.tokens);
+    yyset_tables(std::move(files.tables));
+    CompileActions();
     yyinitdepth = kInitialDepth;
     yymaxdepth = 0;
 }
 
 // The text form of the actions is what is loaded; what runs is this: one look-up by rule number, names
 // resolved.
-void CSQLGrammarParser::CompileActions(const std::string& directory)
+void CSQLGrammarParser::CompileActions()
 {
     const std::size_t rules = m_spTables->Rules();
     m_lstOperations.clear();
@@ -88,7 +81,6 @@ void CSQLGrammarParser::CompileActions(const std::string& directory)
         SRule& rule = m_lstRules[static_cast<std::size_t>(number)];
         rule.first = static_cast<std::uint32_t>(m_lstOperations.size());
         rule.isKnown = true;
-        const auto length = static_cast<int>(m_spTables->r2[static_cast<std::size_t>(number)]);
         for (const auto& [key, operands] : *operations) {
             const SGrammarKeyword* const keyword =
                 FindGrammarKeyword(std::string_view(key).substr(0, key.find('#')));
@@ -102,10 +94,6 @@ void CSQLGrammarParser::CompileActions(const std::string& directory)
                 [[fallthrough]];
             case enGrammarKeyword::CreateNode:
                 operation.childCount = ToNumber((*operands)[1]);
-                if (operation.childCount < 0 || operation.childCount > length)
-                    RefuseTable(directory, "actions.dat",
-                                "rule " + std::to_string(number) + " of " + std::to_string(length) +
-                                    " symbols joins " + (*operands)[1]);
                 [[fallthrough]];
             case enGrammarKeyword::Empty:
                 operation.element = m_Fragments.Names().Intern((*operands)[0]);

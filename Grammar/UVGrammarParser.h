@@ -103,7 +103,7 @@ private:
     };
 
     void CleanUp();
-    void CompileActions(const std::string& directory);
+    void CompileActions();
     ParserNode& StackEntry(int index) { return static_cast<ParserNode*>(yyvsp)[index]; }
     void CreateNodeExt(const SOperation& operation);
     void CreateErrorNodeExt(const SOperation& operation);

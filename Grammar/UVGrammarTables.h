@@ -1,12 +1,52 @@
+// Loading a language. Both of its parts are read first and proved then, so that a tool can say of a grammar's
+// source what is wrong before the proof says it of the tables.
 #pragma once
 
 #include "Grammar/Runtime/ParserTables.h"
 #include "Grammar/Runtime/ScannerTables.h"
+#include "Grammar/UVGrammarKeeper.h"
 
+#include <map>
+#include <memory>
 #include <string>
 
-// Read the binary tables of a grammar's "Lexer/" or "Parser/" folder, in the order in which they are asked
-// for; the parser's with its accepting state and base mark. Nothing is proved yet: see Compile and Validate.
-// Throws: Uve::U8CString with the line for the log if a file is missing, damaged or shorter than it claims.
-void ReadScannerTables(const std::string& directory, CScannerTables& tables);
-void ReadParserTables(const std::string& directory, CParserTables& tables);
+// What the files of a scanner say, the folder "Lexer/".
+struct SScannerFiles
+{
+    SScannerFiles() = default;
+    SScannerFiles(const SScannerFiles&) = delete;
+    SScannerFiles& operator=(const SScannerFiles&) = delete;
+    ~SScannerFiles() { FreeActionsMap(actions); }
+
+    std::string actionText, conditionText; // as they are stored
+    CActionsMap actions;
+    std::map<std::string, int> startConditions;
+    std::shared_ptr<CScannerTables> tables = std::make_shared<CScannerTables>();
+};
+
+// What the files of a parser say, the folder "Parser/".
+struct SParserFiles
+{
+    SParserFiles() = default;
+    SParserFiles(const SParserFiles&) = delete;
+    SParserFiles& operator=(const SParserFiles&) = delete;
+    ~SParserFiles() { FreeActionsMap(actions); }
+
+    std::string actionText, tokenText, constantText; // as they are stored
+    CActionsMap actions;
+    std::map<std::string, int> tokens;
+    std::shared_ptr<CParserTables> tables = std::make_shared<CParserTables>(); // with their constants
+};
+
+// Read a part's folder, which ends in a slash, in the order in which its files are asked for.
+// Throws: Uve::U8CString with the line for the log if a file is missing, can't be read, is shorter than it
+//         claims.
+void ReadScannerFiles(const std::string& directory, SScannerFiles& files);
+void ReadParserFiles(const std::string& directory, SParserFiles& files);
+
+// Prove what ReadScannerFiles and ReadParserFiles read: no text leads the engine out of the tables or into an
+// action that it doesn't know, and no parse ends well without a tree. `files.tables` of the scanner are
+// compiled afterwards. Throws: Uve::U8CString with the line for the log, which names the file and what is
+// wrong with it.
+void ProveScannerFiles(const std::string& directory, SScannerFiles& files);
+void ProveParserFiles(const std::string& directory, const SParserFiles& files);

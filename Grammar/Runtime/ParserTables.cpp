@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t kMostStates = 32768; // the state stack holds 16-bit entries
 constexpr int kMostBase = 1 << 24;
 constexpr int kNoMark = kMostBase + 1; // no base of a row
+constexpr int kEndOfText = 0;          // its terminal
 
 // The places where rows of one kind begin in table and check.
 class CRowStarts
@@ -126,5 +127,70 @@ void CParserTables::Validate(const std::string& directory) const
             refuse("table.dat", "action " + std::to_string(value) + " in slot " + std::to_string(slot));
         if (check[slot] >= 0 && check[slot] < states && gotoRows.Has(base) && (value < 0 || value >= states))
             refuse("table.dat", "next state " + std::to_string(value) + " in slot " + std::to_string(slot));
+    }
+    if (StartSymbol() < 0)
+        refuse("const.dat",
+               "the end of a text doesn't lead to the accepting state " + std::to_string(final_));
+}
+
+int CParserTables::RowAction(std::size_t state, int terminal) const
+{
+    const int slot = pact[state] + terminal;
+    const bool isInRow = pact[state] != base_ninf && slot >= 0 &&
+                         static_cast<std::size_t>(slot) < table.count &&
+                         check[static_cast<std::size_t>(slot)] == terminal;
+    return isInRow ? table[static_cast<std::size_t>(slot)] : 0;
+}
+
+int CParserTables::Goto(int state, std::size_t nonterminal) const
+{
+    const int slot = pgoto[nonterminal] + state;
+    const bool isInRow = slot >= 0 && static_cast<std::size_t>(slot) < table.count &&
+                         check[static_cast<std::size_t>(slot)] == state;
+    return isInRow ? table[static_cast<std::size_t>(slot)] : defgoto[nonterminal];
+}
+
+int CParserTables::StartSymbol() const
+{
+    for (std::size_t state = 0; state < pact.count; ++state) {
+        if (RowAction(state, kEndOfText) != final_)
+            continue;
+        // the first nonterminal is the generator's own
+        for (std::size_t nonterminal = 1; nonterminal < pgoto.count; ++nonterminal)
+            if (Goto(0, nonterminal) == static_cast<int>(state))
+                return ntokens + static_cast<int>(nonterminal);
+    }
+    return -1;
+}
+
+std::set<int> CParserTables::LastSymbols(int rule) const
+{
+    std::set<int> symbols;
+    for (std::size_t state = 0; state < pact.count; ++state) {
+        bool isReduced = defact[state] == static_cast<unsigned>(rule);
+        for (int terminal = 0; terminal < ntokens && !isReduced; ++terminal)
+            isReduced = RowAction(state, terminal) == -rule;
+        if (isReduced)
+            AddSymbolsInto(static_cast<int>(state), symbols);
+    }
+    return symbols;
+}
+
+// The names of states in stos.dat would tell it at once, but nothing else depends on their being right.
+void CParserTables::AddSymbolsInto(int state, std::set<int>& symbols) const
+{
+    for (std::size_t nonterminal = 1; nonterminal < pgoto.count; ++nonterminal)
+        if (defgoto[nonterminal] == state)
+            symbols.insert(ntokens + static_cast<int>(nonterminal));
+    for (std::size_t slot = 0; slot < table.count; ++slot) {
+        if (table[slot] != state)
+            continue;
+        const int base = static_cast<int>(slot) - check[slot];
+        for (std::size_t nonterminal = 1; nonterminal < pgoto.count; ++nonterminal)
+            if (pgoto[nonterminal] == base)
+                symbols.insert(ntokens + static_cast<int>(nonterminal));
+        for (std::size_t from = 0; from < pact.count; ++from)
+            if (pact[from] == base && base != base_ninf)
+                symbols.insert(check[slot]);
     }
 }

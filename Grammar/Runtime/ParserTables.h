@@ -2,6 +2,7 @@
 
 #include "Grammar/Runtime/ScannerTables.h"
 
+#include <set>
 #include <string>
 
 // The LALR tables of one grammar, and the constants that belong to them. Once loaded and proved they never
@@ -21,6 +22,20 @@ public:
     // log, which names the file in `directory` and what is wrong.
     void Validate(const std::string& directory) const;
 
+    // What a whole text is reduced to: after it the end of the text leads to the accepting state. For valid
+    // tables. Returns: the symbol's number, -1 if there is none.
+    int StartSymbol() const;
+    // The symbols that may stand last on the right side of `rule`: what the states are entered with in which
+    // the tables reduce by it. For valid tables.
+    std::set<int> LastSymbols(int rule) const;
+
     std::size_t States() const { return pact.count; }
     std::size_t Rules() const { return r1.count; }
+
+private:
+    // What the row of `state` says of `terminal`: shift to a state above 0, reduce by the rule of a negative
+    // number; 0 if it says nothing.
+    int RowAction(std::size_t state, int terminal) const;
+    int Goto(int state, std::size_t nonterminal) const;
+    void AddSymbolsInto(int state, std::set<int>& symbols) const;
 };

@@ -62,22 +62,22 @@ std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, 
 {
     const auto number = [](std::size_t value) { return std::to_string(value); };
     std::string report = "grammar " + build.name + "\n\nscanner\n";
-    report += "  rules: " + number(tables.scanner.rule_can_match_eol.count - 2) +
+    report += "  rules: " + number(tables.scanner.tables->rule_can_match_eol.count - 2) +
               '\n'; // without rule 0 and flex's default
-    report += "  start conditions: " + number(tables.startConditions.size()) + '\n';
-    report += "  states: " + number(tables.scanner.accept.count - 3) + '\n';
-    AppendTables(report, {{"accept", tables.scanner.accept.count},
-                          {"base", tables.scanner.base.count},
-                          {"nxt", tables.scanner.nxt.count},
-                          {"acclist", tables.scanner.acclist.count}});
+    report += "  start conditions: " + number(tables.scanner.startConditions.size()) + '\n';
+    report += "  states: " + number(tables.scanner.tables->accept.count - 3) + '\n';
+    AppendTables(report, {{"accept", tables.scanner.tables->accept.count},
+                          {"base", tables.scanner.tables->base.count},
+                          {"nxt", tables.scanner.tables->nxt.count},
+                          {"acclist", tables.scanner.tables->acclist.count}});
     report += "\nparser\n";
     report += "  rules: " + number(parser.rules.size() - 1) + '\n'; // without that of $accept
     report += "  terminals: " + std::to_string(parser.terminals) + '\n';
     report += "  nonterminals: " + std::to_string(parser.nonterminals) + '\n';
-    report += "  states: " + number(tables.parser.pact.count) + '\n';
-    AppendTables(report, {{"table", tables.parser.table.count},
-                          {"r1", tables.parser.r1.count},
-                          {"translate", tables.parser.translate.count}});
+    report += "  states: " + number(tables.parser.tables->pact.count) + '\n';
+    AppendTables(report, {{"table", tables.parser.tables->table.count},
+                          {"r1", tables.parser.tables->r1.count},
+                          {"translate", tables.parser.tables->translate.count}});
     report += "  conflicts: " + std::to_string(parser.shiftReduceConflicts) + " shift/reduce, " +
               std::to_string(parser.reduceReduceConflicts) + " reduce/reduce\n";
     report += "  unused nonterminals: " + number(parser.uselessNonterminals.size()) + '\n';
@@ -89,8 +89,8 @@ std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, 
 
     std::string unmade;
     std::size_t unmadeCount = 0;
-    for (const auto& [token, value] : tables.tokens) {
-        if (value == 0 || used.count(token) != 0 || tables.startConditions.count(token) != 0)
+    for (const auto& [token, value] : tables.parser.tokens) {
+        if (value == 0 || used.count(token) != 0 || tables.scanner.startConditions.count(token) != 0)
             continue;
         ++unmadeCount;
         unmade += "    " + token + '\n';

@@ -1,27 +1,14 @@
 // A written table directory, read again and proved as the engine does it.
 #pragma once
 
-#include "Grammar/Runtime/ParserTables.h"
-#include "Grammar/Runtime/ScannerTables.h"
-#include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarTables.h"
 
-#include <map>
 #include <string>
 
 struct SLoadedTables
 {
-    SLoadedTables() = default;
-    SLoadedTables(const SLoadedTables&) = delete;
-    SLoadedTables& operator=(const SLoadedTables&) = delete;
-    ~SLoadedTables();
-
-    CScannerTables scanner;
-    CActionsMap lexerActions;
-    std::map<std::string, int> startConditions;
-
-    CParserTables parser;
-    CActionsMap parserActions;
-    std::map<std::string, int> tokens;
+    SScannerFiles scanner;
+    SParserFiles parser;
 };
 
 // Loads the directory, which ends in a slash.

@@ -28,8 +28,8 @@ public:
         if (lines != std::string_view::npos)
             m_RuleLines = UVDBGrammarKeeper::GetFileTable<int>(text.substr(text.find('{', lines)));
         for (const SActionCase& action : ReadParserActions(text))
-            m_Actions.emplace(action.number,
-                              std::pair(action, CheckAction(action, tables.parserActions, source, messages)));
+            m_Actions.emplace(action.number, std::pair(action, CheckAction(action, tables.parser.actions,
+                                                                           source, messages)));
     }
 
     void Check()
@@ -93,7 +93,8 @@ private:
     {
         const int line = LineOf(rule);
         const auto number = static_cast<std::size_t>(rule.number);
-        if (number >= m_Tables.parser.r2.count || m_Tables.parser.r2[number] != rule.right.size()) {
+        if (number >= m_Tables.parser.tables->r2.count ||
+            m_Tables.parser.tables->r2[number] != rule.right.size()) {
             Error(line, "the rule's length differs from that in its table");
             return;
         }
@@ -182,11 +183,11 @@ private:
     void CheckCondition(const SActionStatement& statement)
     {
         const std::string& name = statement.operands[0];
-        const auto ofParser = m_Tables.tokens.find(name);
-        const auto ofScanner = m_Tables.startConditions.find(name);
-        if (ofScanner == m_Tables.startConditions.end())
+        const auto ofParser = m_Tables.parser.tokens.find(name);
+        const auto ofScanner = m_Tables.scanner.startConditions.find(name);
+        if (ofScanner == m_Tables.scanner.startConditions.end())
             Error(statement.line, "there is no start condition " + name);
-        else if (ofParser == m_Tables.tokens.end())
+        else if (ofParser == m_Tables.parser.tokens.end())
             Error(statement.line, "the parser doesn't know " + name + ": declare %token " + name + ' ' +
                                       std::to_string(ofScanner->second));
         else if (ofParser->second != ofScanner->second)
@@ -296,9 +297,9 @@ void CheckParserRules(const CGrammarSource& source, const SGeneratedFiles& files
 {
     CParserRules(source, files, report, tables, messages).Check();
     const int terminals = DefinedNumber(files.parserText, "YYNTOKENS");
-    if (terminals != tables.parser.ntokens)
+    if (terminals != tables.parser.tables->ntokens)
         messages.Write(enSeverity::Error, source.Place(0),
                        "the parser has " + std::to_string(terminals) + " terminals, but their names make " +
-                           std::to_string(tables.parser.ntokens) +
+                           std::to_string(tables.parser.tables->ntokens) +
                            ": every terminal needs a name of its own");
 }

@@ -38,7 +38,7 @@ public:
                 Error(action.line, "an action without braces is dropped");
             return;
         }
-        const SActionStatements read = CheckAction(action, m_Tables.lexerActions, m_Source, m_Messages);
+        const SActionStatements read = CheckAction(action, m_Tables.scanner.actions, m_Source, m_Messages);
         for (const SActionStatement& statement : read.statements) {
             if (statement.operands.size() == static_cast<std::size_t>(statement.keyword->operands))
                 CheckStatement(statement);
@@ -160,10 +160,10 @@ private:
     {
         const std::string token = "T" + name;
         m_Used.insert(token);
-        const auto found = m_Tables.tokens.find(token);
+        const auto found = m_Tables.parser.tokens.find(token);
         if (!IsElementName(token))
             Error(line, "'" + name + "' can't be the name of a token: it becomes an XML element");
-        else if (found == m_Tables.tokens.end())
+        else if (found == m_Tables.parser.tokens.end())
             Error(line, "the parser knows no token " + token);
         else if (found->second == 0)
             Error(line, "the token " + token + " has the number 0, which is the end of the text");
@@ -171,8 +171,8 @@ private:
 
     void CheckCondition(int line, const std::string& name)
     {
-        const int conditions = static_cast<int>(m_Tables.startConditions.size());
-        if (name == kBackToStart || m_Tables.startConditions.count(name) != 0 ||
+        const int conditions = static_cast<int>(m_Tables.scanner.startConditions.size());
+        if (name == kBackToStart || m_Tables.scanner.startConditions.count(name) != 0 ||
             (IsNumber(name) && std::to_string(std::atoi(name.c_str())) == name &&
              std::atoi(name.c_str()) < conditions))
             return;
@@ -181,7 +181,7 @@ private:
 
     void NeedCondition(int line, const std::string& name)
     {
-        if (m_Tables.startConditions.count(name) == 0)
+        if (m_Tables.scanner.startConditions.count(name) == 0)
             Error(line, "this needs a start condition " + name);
     }
 
@@ -263,7 +263,7 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
     }
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
     if (static_cast<int>(actions.cases.size()) != defaultRule ||
-        static_cast<int>(tables.scanner.rule_can_match_eol.count) != defaultRule + 1)
+        static_cast<int>(tables.scanner.tables->rule_can_match_eol.count) != defaultRule + 1)
         messages.Write(enSeverity::Error, source.Place(0),
                        "the action switch doesn't hold one case for each rule");
     CScannerRules rules(source, tables, messages, used);
@@ -276,7 +276,7 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
 void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& files,
                        const SLoadedTables& tables, CToolMessages& messages)
 {
-    const CScannerTables& scanner = tables.scanner;
+    const CScannerTables& scanner = *tables.scanner.tables;
     const SScannerActions actions = ReadScannerActions(files.lexerText);
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
 
@@ -289,7 +289,7 @@ void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& file
                            "unused rule: what it matches is always taken by earlier rules");
     }
 
-    for (const auto& [name, number] : tables.startConditions) {
+    for (const auto& [name, number] : tables.scanner.startConditions) {
         constexpr int kShown = 5;
         int count = 0;
         std::string shown;
