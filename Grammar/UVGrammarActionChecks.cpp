@@ -170,9 +170,25 @@ void CheckRoot(const std::string& directory, const CActionsMap& actions, const C
     }
 }
 
+// Names become those of XML elements. Bytes above ASCII are letters of some script.
+bool IsElementName(std::string_view name)
+{
+    const auto isLetter = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
+               static_cast<unsigned char>(c) >= 0x80;
+    };
+    return isLetter(name.front()) && std::all_of(name.begin(), name.end(), [&](char c) {
+               return isLetter(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+           });
+}
+
 void CheckNode(const std::string& directory, int rule, enGrammarKeyword keyword, const Operands& operands,
                unsigned length)
 {
+    if ((keyword == Empty || keyword == CreateNode || keyword == CreateNodeWithError) &&
+        !IsElementName(operands[0]))
+        RefuseTable(directory, kActions,
+                    RuleText(rule) + " names a node '" + operands[0] + "', which is no XML element");
     if (keyword != CreateNode && keyword != CreateNodeWithError)
         return;
     const int joined = ToNumber(operands[1]);

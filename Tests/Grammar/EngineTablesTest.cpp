@@ -212,6 +212,7 @@ const STextRefusal kTextRefusals[] = {
     {"Parser/actions.dat", "2 CREATE_NODE SQL 1\n4 CREATE_NODE l 3\n", "joins 3"},
     {"Parser/actions.dat", "2 CREATE_NODE SQL 1\n4 CREATE_NODE l 1\n", "joins 1"}, // and would lose text
     {"Parser/actions.dat", "2 CREATE_NODE SQL 1\n6 CREATE_NODE_WITH_ERROR x 2 2\n", "error symbol at 2"},
+    {"Parser/actions.dat", "2 CREATE_NODE SQL 1\n3 EMPTY 1e\n", "rule 3 names a node '1e'"},
     {"Parser/actions.dat", "3 EMPTY e\n", "ends a text without a node named SQL"},
     {"Parser/actions.dat", "2 CREATE_NODE SQM 1\n", "ends a text without a node named SQL"},
     {"Parser/actions.dat", "2 \n3 EMPTY SQL\n", "rule 4 ends a text without a node named SQL"},
