@@ -1,35 +1,13 @@
 #include "Grammar/UVGrammarTables.h"
 
 #include "Grammar/UVGrammarActionChecks.h"
+#include "Grammar/UVGrammarManifest.h"
 #include "Grammar/UVGrammarTextChecks.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 
 namespace {
-
-// The table files of one part of a language.
-class CTableFolder
-{
-public:
-    explicit CTableFolder(const std::string& directory) : m_Directory(directory) {}
-
-    std::string ReadText(const char* name) const { return GetDatFile(m_Directory, m_Directory, name); }
-
-    template <class T>
-    void ReadTable(const char* name, STable<T>& table) const
-    {
-        const std::string path = GetDatFilePath(m_Directory, m_Directory, name);
-        table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count));
-        if (!table.values)
-            RefuseTable(m_Directory, name, std::strerror(errno));
-    }
-
-private:
-    const std::string& m_Directory;
-};
 
 // The tokens that the parser beside a scanner knows. A scanner may stand alone, for coloring.
 // Returns: false if there is no parser.

@@ -40,7 +40,7 @@ struct SParserFiles
 
 // Read a part's folder, which ends in a slash, in the order in which its files are asked for.
 // Throws: Uve::U8CString with the line for the log if a file is missing, can't be read, is shorter than it
-//         claims.
+//         claims, or isn't what the manifest of the language says.
 void ReadScannerFiles(const std::string& directory, SScannerFiles& files);
 void ReadParserFiles(const std::string& directory, SParserFiles& files);
 

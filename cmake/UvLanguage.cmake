@@ -15,7 +15,7 @@ function(uv_add_language)
     endif()
 
     # A table that was deleted or lost is made again too, so each of them is an output.
-    set(tables)
+    set(tables ${directory}/manifest.txt)
     foreach(table actions defines accept base chk def NUL_trans nxt rule_can_match_eol acclist)
         list(APPEND tables ${directory}/Lexer/${table}.dat)
     endforeach()

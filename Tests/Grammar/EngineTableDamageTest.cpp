@@ -1,10 +1,12 @@
 // Every byte of every table file changed, and every file cut at every length: a clear error at loading, or an
 // engine that gets through its texts in one piece.
+#include "Stylesheets/Archive/Compressor.h"
 #include "Tests/Support/EngineFixture.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -60,6 +62,53 @@ private:
 
     CEngine m_Sound;
 };
+
+// A language as a whole: scanner and parser of one folder.
+class CLanguageTest
+{
+public:
+    CLanguageTest() : m_Sound(Outcomes("Tiny")) {}
+
+    // Loads and parses. A parse that ends well has a tree.
+    void Try(const std::string& grammar)
+    {
+        try {
+            const std::vector<SParseOutcome> outcomes = Outcomes(grammar);
+            const bool isSame = std::equal(outcomes.begin(), outcomes.end(), m_Sound.begin(), m_Sound.end());
+            ++(isSame ? m_nSame : m_nOther);
+            for (const SParseOutcome& outcome : outcomes) {
+                EXPECT_TRUE(outcome.hasThrown || outcome.result != 0 || !outcome.tree.empty());
+            }
+        } catch (const Uve::U8CString& message) {
+            ++m_nRefused;
+            EXPECT_NE(message.find("\nUVParser ERROR: "), std::string::npos) << message;
+            EXPECT_NE(message.find(grammar), std::string::npos) << message;
+        }
+    }
+
+    int m_nRefused = 0;
+    int m_nSame = 0;
+    int m_nOther = 0;
+
+private:
+    static std::vector<SParseOutcome> Outcomes(const std::string& grammar)
+    {
+        CEngine engine(grammar);
+        std::vector<SParseOutcome> outcomes;
+        for (const char* const text : kTexts)
+            outcomes.push_back(engine.Parse(text));
+        return outcomes;
+    }
+
+    std::vector<SParseOutcome> m_Sound;
+};
+
+// The file of a grammar as it was built.
+std::string PathOf(const std::string& grammar, const std::string& file)
+{
+    const std::string part = file.substr(0, file.find('/'));
+    return GrammarFolder(grammar, part.c_str()) + file.substr(part.size() + 1);
+}
 
 class TableDamage : public testing::Test
 {
@@ -154,9 +203,7 @@ TEST_F(TableDamage, OfThePackedFormIsRefusedOrHarmless)
 {
     for (const std::string& file : m_Files) {
         const std::string plain = m_Copy.Read(file);
-        const std::string part = file.substr(0, file.find('/'));
-        std::ifstream stream(GrammarFolder("Tiny", part.c_str()) + file.substr(part.size() + 1),
-                             std::ios::binary);
+        std::ifstream stream(PathOf("Tiny", file), std::ios::binary);
         const std::string packed{std::istreambuf_iterator<char>(stream), {}};
         if (!packed.starts_with("\x1f\x8b"))
             continue;
@@ -165,6 +212,121 @@ TEST_F(TableDamage, OfThePackedFormIsRefusedOrHarmless)
         m_Copy.Write(file, plain);
     }
     EXPECT_GT(m_Engine.m_nRefused, 100);
+}
+
+class LanguageDamage : public TableDamage
+{
+protected:
+    static bool IsText(const std::string& file)
+    {
+        return file.ends_with("actions.dat") || file.ends_with("defines.dat") || file.ends_with("const.dat");
+    }
+
+    void TryWith(const std::string& file, const std::string& damaged)
+    {
+        m_Copy.Write(file, damaged);
+        m_Language.Try(m_Copy.Name());
+    }
+
+    // Every bit of every byte, and every length.
+    void DamageText(const std::string& file)
+    {
+        const std::string content = m_Copy.Read(file);
+        for (std::size_t at = 0; at < content.size(); ++at)
+            for (int bit = 0; bit < 8; ++bit) {
+                SCOPED_TRACE(testing::Message() << file << ", byte " << at << ", bit " << bit);
+                std::string damaged = content;
+                damaged[at] = static_cast<char>(damaged[at] ^ (1 << bit));
+                TryWith(file, damaged);
+            }
+        for (std::size_t length = 0; length < content.size(); ++length) {
+            SCOPED_TRACE(testing::Message() << file << ", " << length << " bytes");
+            TryWith(file, content.substr(0, length));
+        }
+        m_Copy.Write(file, content);
+    }
+
+    CLanguageTest m_Language;
+};
+
+// What still loads is a text that an author could have written.
+TEST_F(LanguageDamage, OfTextsWithoutAManifestGivesNoEmptyTree)
+{
+    for (const std::string& file : m_Files)
+        if (IsText(file))
+            DamageText(file);
+    EXPECT_GT(m_Language.m_nRefused, 20 * m_Language.m_nOther);
+}
+
+TEST_F(LanguageDamage, IsRefusedByTheManifest)
+{
+    m_Copy.RestoreManifest();
+    for (const std::string& file : m_Files) {
+        if (IsText(file)) {
+            DamageText(file);
+            continue;
+        }
+        const std::string content = m_Copy.Read(file);
+        for (const std::size_t at : {std::size_t{4}, content.size() / 2, content.size() - 1}) {
+            std::string damaged = content;
+            damaged[at] = static_cast<char>(damaged[at] ^ 1);
+            TryWith(file, damaged);
+        }
+        m_Copy.Write(file, content);
+    }
+    EXPECT_GT(m_Language.m_nRefused, 1000);
+    EXPECT_EQ(m_Language.m_nSame, 0);
+    EXPECT_EQ(m_Language.m_nOther, 0);
+}
+
+// In the name of the language any letter is as good as another; all else is compared.
+TEST_F(LanguageDamage, OfTheManifestIsRefused)
+{
+    m_Copy.RestoreManifest();
+    DamageText("manifest.txt");
+    EXPECT_EQ(m_Language.m_nOther, 0);
+    EXPECT_LE(m_Language.m_nSame, static_cast<int>(8 * std::string_view("Tiny").size()));
+}
+
+TEST_F(LanguageDamage, PartsOfTwoLanguagesAreRefused)
+{
+    namespace fs = std::filesystem;
+    const CGrammarCopy other("Nesting");
+    // one part of the other language, under each of the two manifests and without one
+    for (const char* const part : {"Lexer", "Parser"}) {
+        const CGrammarCopy mixed("Tiny");
+        fs::remove_all(mixed.Path(part));
+        fs::copy(other.Path(part), mixed.Path(part));
+        m_Language.Try(mixed.Name());
+        mixed.RestoreManifest();
+        m_Language.Try(mixed.Name());
+        other.RestoreManifest();
+        mixed.Write("manifest.txt", other.Read("manifest.txt"));
+        m_Language.Try(mixed.Name());
+    }
+    EXPECT_EQ(m_Language.m_nRefused, 6);
+}
+
+// The manifest speaks of what the files hold once they are unpacked.
+TEST_F(LanguageDamage, APackedFileIsNoDamage)
+{
+    namespace fs = std::filesystem;
+    m_Copy.RestoreManifest();
+    m_Language.Try(m_Copy.Name());
+    for (const std::string& file : m_Files) {
+        const std::string path = m_Copy.Path(file);
+        if (IsText(file)) {
+            EXPECT_TRUE(Compressor::Archive(path)) << file;
+            fs::rename(path, path + "_");
+        } else
+            fs::copy_file(PathOf("Tiny", file), path + "_"), fs::remove(path);
+        m_Language.Try(m_Copy.Name());
+    }
+    EXPECT_EQ(m_Language.m_nSame, 1 + static_cast<int>(m_Files.size()));
+    // and an archive of another text is damage
+    m_Copy.Write("Lexer/defines.dat", "INITIAL 0\nC 1\n\n");
+    m_Language.Try(m_Copy.Name());
+    EXPECT_EQ(m_Language.m_nRefused, 1);
 }
 
 } // namespace

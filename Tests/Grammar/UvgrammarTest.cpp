@@ -12,6 +12,7 @@
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 
 constexpr const char* kLexer = R"(%option noyywrap reject yylineno noecs nometa-ecs lex-compat
 %x COMMENT
@@ -114,7 +115,8 @@ TEST_F(Uvgrammar, GoodGrammarGivesADirectoryThatTheEngineReads)
     EXPECT_EQ(run.messages, "");
     EXPECT_THAT(run.output, HasSubstr("grammar Lang\n"));
     EXPECT_THAT(run.output, HasSubstr("conflicts: 0 shift/reduce, 0 reduce/reduce\n"));
-    EXPECT_EQ(Snapshot("out").size(), 23u);
+    EXPECT_EQ(Snapshot("out").size(), 24u);
+    EXPECT_THAT(File("out/Lang/manifest.txt"), StartsWith("language Lang\nfile Lexer/actions.dat "));
     EXPECT_EQ(File("out/Lang/Lexer/defines.dat"), "INITIAL 0\nCOMMENT 1\nSS_GENERAL 2\n");
     EXPECT_THAT(File("out/Lang/Lexer/actions.dat"),
                 HasSubstr("\n8 BRACKETS_ACTION 2 TOKEN_ACTION SEMI\n9 yytext 0\n"));

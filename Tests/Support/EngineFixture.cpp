@@ -1,5 +1,6 @@
 #include "Tests/Support/EngineFixture.h"
 
+#include "Grammar/UVGrammarManifest.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
@@ -327,6 +328,8 @@ CGrammarCopy::CGrammarCopy(const std::string& grammar)
     m_strFolder = (folder.parent_path() / m_strName).string();
     fs::remove_all(m_strFolder);
     fs::copy(folder, m_strFolder, fs::copy_options::recursive);
+    m_strManifest = Read(kManifestName);
+    fs::remove(Path(kManifestName));
     for (const auto& entry : fs::recursive_directory_iterator(m_strFolder)) {
         const std::string file = fs::relative(entry.path(), m_strFolder);
         if (entry.is_regular_file() && Read(file).starts_with("\x1f\x8b"))
@@ -343,6 +346,11 @@ CGrammarCopy::~CGrammarCopy()
 std::string CGrammarCopy::Read(const std::string& file) const
 {
     return ReadAll(Path(file));
+}
+
+void CGrammarCopy::RestoreManifest() const
+{
+    Write(kManifestName, m_strManifest);
 }
 
 void CGrammarCopy::Write(const std::string& file, std::string_view content) const

@@ -95,8 +95,8 @@ struct SGrammarCase
 };
 std::vector<SGrammarCase> ReadGrammarCases(const std::string& grammar);
 
-// A copy of a grammar's folder under another name, with its binary tables unpacked, for damaging. It goes
-// with the object.
+// A copy of a grammar's folder under another name, with its binary tables unpacked and without its manifest,
+// for damaging. It goes with the object.
 class CGrammarCopy
 {
 public:
@@ -112,8 +112,11 @@ public:
     void Write(const std::string& file, std::string_view content) const;
     std::vector<int> Table(const std::string& file) const;
     void SetTable(const std::string& file, const std::vector<int>& entries) const;
+    // Puts the manifest of the undamaged grammar back.
+    void RestoreManifest() const;
 
 private:
     std::string m_strName;
     std::string m_strFolder;
+    std::string m_strManifest;
 };

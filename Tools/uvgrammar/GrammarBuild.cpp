@@ -1,6 +1,7 @@
 #include "Tools/uvgrammar/GrammarBuild.h"
 
 #include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarManifest.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar/EndRules.h"
 #include "Tools/uvgrammar/GrammarChecks.h"
@@ -35,7 +36,8 @@ void AppendEndRecords(const CGrammarSource& source, const SGeneratedFiles& files
     WriteWholeFile(path, ReadWholeFile(path) + EndRecords(source, files, startConditions));
 }
 
-void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, const std::string& directory)
+void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, const std::string& name,
+                 const std::string& directory)
 {
     const std::string lexer = directory + "Lexer/";
     const std::string parser = directory + "Parser/";
@@ -49,6 +51,7 @@ void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, con
     Require(UVDBGrammarKeeper::SaveTablesToFile(files.parserPath, parser), "the parser's tables");
     Require(UVDBGrammarKeeper::SaveConstantsToFile(files.parserPath, parser), "the final state");
     Require(UVDBGrammarKeeper::SaveDefinesToFile(files.parserPath, parser, defines), "the tokens");
+    WriteWholeFile(directory + kManifestName, ComposeManifest(directory, name));
 }
 
 void AppendTables(std::string& report, std::initializer_list<std::pair<const char*, std::size_t>> tables)
@@ -120,7 +123,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
 
     const std::string written = output.NewPath();
     try {
-        WriteTables(lexer, files, written);
+        WriteTables(lexer, files, build.name, written);
     } catch (const Uve::U8CString& text) {
         throw CToolFailure(LogText(text));
     }

@@ -1,5 +1,7 @@
 #include "Tools/uvgrammar/TableDirectory.h"
 
+#include "Grammar/UVGrammarManifest.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -27,6 +29,8 @@ void RefuseForeignFiles(const fs::path& path)
         throw CToolFailure(path.string() + ": is not a folder");
     for (const fs::directory_entry& part : fs::directory_iterator(path)) {
         const std::string name = part.path().filename();
+        if (part.is_regular_file() && name == kManifestName)
+            continue;
         if (!part.is_directory() || (name != "Lexer" && name != "Parser"))
             throw CToolFailure(part.path().string() +
                                ": is not part of a table directory; choose another output");

@@ -71,7 +71,8 @@ int Run(int argc, char** argv, CToolMessages& messages)
     }
     if (build.name.empty())
         build.name = LastName(build.outputPath);
-    if (build.name.find('/') != std::string::npos || build.name.find("..") != std::string::npos) {
+    if (build.name.find('/') != std::string::npos || build.name.find("..") != std::string::npos ||
+        build.name.find('\n') != std::string::npos) {
         messages.Error("'" + build.name + "' can't be the name of a language: it becomes a folder");
         return kToolCouldNotRun;
     }
