@@ -200,7 +200,7 @@ TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
         {P, "CREATE_NODE(ITEM, 2)", "TOKEN_ACTION(ID)",
          "P.y:10: error: TOKEN_ACTION is not a keyword of the parser"},
         {P, "TBEGIN items", "TBEGIN { yylexerptr->yybegin(SS_GENERAL); } items",
-         "P.y:11: error: an action inside a rule is an empty rule of its own"},
+         "P.y:11: error: an action inside a rule isn't supported"},
         // error rules
         {P, "CREATE_NODE_WITH_ERROR(BAD, 2, 0)", "CREATE_NODE(BAD, 2)",
          "P.y:13: error: CREATE_NODE over an error symbol"},
@@ -265,16 +265,46 @@ TEST_F(Uvgrammar, ConflictsThatTheGrammarExpectsAreAllowed)
     EXPECT_THAT(run.output, HasSubstr("conflicts: 2 shift/reduce"));
 }
 
-TEST_F(Uvgrammar, NonassocIsRefusedOnlyWhereItMarksErrors)
+// What one mistake spoils further on is not a mistake of its own.
+TEST_F(Uvgrammar, OneMistakeIsOneError)
+{
+    const SBadGrammar kCases[] = {
+        {L, "TOKEN_ACTIONE(BEGIN, 1)", "TOKEN_ACTOINE(BEGIN, 1)",
+         "L.l:9: error: unknown keyword 'TOKEN_ACTOINE'"},
+        {L, "BEGIN COMMENT;", "BEGIN;", "L.l:6: error: BEGIN takes one word"},
+        {P, "CREATE_NODE(ITEMS, 2)", "CREATE_NOD(ITEMS, 2)", "P.y:9: error: unknown keyword 'CREATE_NOD'"},
+        {P, "EMPTY(ITEMS)", "EMPTY(ITEMS, 0)", "P.y:8: error: EMPTY takes 1 argument(s), not 2"},
+        // the other numbers of the rule are those of the author, who didn't count the action
+        {P, "TBEGIN items", "TBEGIN { SQL_REDUCED(x); } items", "P.y:11: error: an action inside a rule"},
+        {P, "TBEGIN items", "TBEGIN { EMPTY(INNER); } items", "P.y:11: error: an action inside a rule"},
+        {P, "TBEGIN items", "TBEGIN { nonsense(); } items", "P.y:11: error: an action inside a rule"},
+        {P, "%start SQL", "%start SQL\n%define lr.default-reduction most", "P.y:5: error: reductions made"},
+    };
+    for (const SBadGrammar& c : kCases) {
+        SCOPED_TRACE(testing::Message() << c.from << " -> " << c.to);
+        const SRun run = BuildReplaced(c.source, c.from, c.to);
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_THAT(run.messages, StartsWith(c.message));
+        std::size_t errors = 0;
+        for (std::size_t at = 0; (at = run.messages.find("error: ", at)) != std::string::npos; ++at)
+            ++errors;
+        EXPECT_EQ(errors, 2u) << run.messages; // and that the grammar is refused
+    }
+}
+
+// Where reductions are made on errors bison marks those of %nonassoc in a way of its own.
+TEST_F(Uvgrammar, NonassocNeedsNoReductionsOnErrors)
 {
     const std::string comparing =
         Replaced(kParser, "name: TID |", "name: TID | name TPLUS name { CREATE_NODE(N, 3); } |");
     const std::string nonassoc = Replaced(comparing, "%token TPLUS 43", "%token TPLUS 43\n%nonassoc TPLUS");
-    const SRun fine = Build(kLexer, nonassoc);
-    EXPECT_EQ(fine.exitCode, 0) << fine.messages;
-    const SRun marked = Build(kLexer, "%define lr.default-reduction most\n" + nonassoc);
-    EXPECT_EQ(marked.exitCode, 1);
-    EXPECT_THAT(marked.messages, HasSubstr("P.y: error: %nonassoc marks errors"));
+    for (const char* const choice : {"", "%define lr.default-reduction accepting\n"}) {
+        const SRun fine = Build(kLexer, choice + nonassoc);
+        EXPECT_EQ(fine.exitCode, 0) << fine.messages;
+    }
+    for (const char* const choice :
+         {"%define lr.default-reduction most\n", "%define\nlr.default-reduction most\n"})
+        EXPECT_EQ(Build(kLexer, choice + nonassoc).exitCode, 1) << choice;
 }
 
 TEST_F(Uvgrammar, AFailedRunLeavesTheOldTablesAndNothingElse)

@@ -265,8 +265,10 @@ private:
         const std::size_t end = std::min(m_Text.find_first_of(";}", m_At), m_Text.size());
         const std::string_view state = Trimmed(m_Text.substr(m_At, end - m_At));
         m_Result.statements.back().operands.emplace_back(state);
-        if (state.empty() || state.find_first_of(" \t\r\n(),") != std::string_view::npos)
+        if (state.empty() || state.find_first_of(" \t\r\n(),") != std::string_view::npos) {
             Problem("BEGIN takes one word and no brackets: BEGIN X;");
+            m_Result.statements.pop_back();
+        }
         m_At = end;
         return true;
     }

@@ -27,9 +27,19 @@ public:
         const std::size_t lines = text.find(" yyrline[] =");
         if (lines != std::string_view::npos)
             m_RuleLines = UVDBGrammarKeeper::GetFileTable<int>(text.substr(text.find('{', lines)));
-        for (const SActionCase& action : ReadParserActions(text))
-            m_Actions.emplace(action.number, std::pair(action, CheckAction(action, tables.parser.actions,
-                                                                           source, messages)));
+        std::set<int> inner;
+        for (const SGrammarRule& rule : report.rules) {
+            if (IsInner(rule.left))
+                inner.insert(rule.number);
+        }
+        bool isStored = true;
+        for (const SActionCase& action : ReadParserActions(text)) {
+            if (inner.count(action.number) != 0)
+                isStored = false; // it is refused as a whole, whatever it says
+            else
+                m_Actions.emplace(action.number, std::pair(action, CheckAction(action, tables.parser.actions,
+                                                                               source, messages, isStored)));
+        }
     }
 
     void Check()
@@ -56,6 +66,12 @@ private:
     {
         const auto at = static_cast<std::size_t>(rule.number) + 1;
         return at < m_RuleLines.size() ? m_RuleLines[at] : 0;
+    }
+
+    // bison makes an empty rule of an action that isn't the last thing in its rule, and gives it such a name.
+    static bool IsInner(const std::string& symbol)
+    {
+        return symbol.starts_with('@') || symbol.starts_with("$@");
     }
 
     const std::vector<SActionStatement>& StatementsOf(const SGrammarRule& rule) const
@@ -92,6 +108,11 @@ private:
     void CheckRule(const SGrammarRule& rule)
     {
         const int line = LineOf(rule);
+        if (IsInner(rule.left)) {
+            Error(line, "an action inside a rule isn't supported: move it to the end, or into an empty rule "
+                        "of its own");
+            return;
+        }
         const auto number = static_cast<std::size_t>(rule.number);
         if (number >= m_Tables.parser.tables->r2.count ||
             m_Tables.parser.tables->r2[number] != rule.right.size()) {
@@ -104,7 +125,8 @@ private:
         }
         for (const SActionStatement& statement : StatementsOf(rule))
             CheckStatement(statement);
-        if (IsUnreadable(rule))
+        // with an action inside the rule's symbols are others than the author counted
+        if (IsUnreadable(rule) || std::any_of(rule.right.begin(), rule.right.end(), IsInner))
             return;
         const SNodeMaking making = NodeMaking(rule);
         if (making.count > 1)
@@ -119,9 +141,7 @@ private:
     void CheckPlainRule(const SGrammarRule& rule, int line)
     {
         if (rule.right.empty())
-            Error(line, rule.left.starts_with('@') || rule.left.starts_with("$@")
-                            ? "an action inside a rule is an empty rule of its own and needs EMPTY"
-                            : "an empty rule needs EMPTY");
+            Error(line, "an empty rule needs EMPTY");
         else if (rule.right.size() > 1)
             Error(line, "a rule of several symbols without CREATE_NODE loses the text of all but the first");
         else if (rule.right.front() == "error")

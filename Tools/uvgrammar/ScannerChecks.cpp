@@ -38,7 +38,8 @@ public:
                 Error(action.line, "an action without braces is dropped");
             return;
         }
-        const SActionStatements read = CheckAction(action, m_Tables.scanner.actions, m_Source, m_Messages);
+        const SActionStatements read =
+            CheckAction(action, m_Tables.scanner.actions, m_Source, m_Messages, m_IsStored);
         for (const SActionStatement& statement : read.statements) {
             if (statement.operands.size() == static_cast<std::size_t>(statement.keyword->operands))
                 CheckStatement(statement);
@@ -224,6 +225,7 @@ private:
     CToolMessages& m_Messages;
     std::set<std::string>& m_Used;
     bool m_IsShared = false;
+    bool m_IsStored = true; // see CheckAction
 };
 
 // The first rule that a state of the scanner accepts, 0 for none. The head of a trailing context isn't an
