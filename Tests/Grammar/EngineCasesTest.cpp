@@ -156,8 +156,8 @@ TEST_P(EngineCases, GiveTheSameASecondTime)
 
 INSTANTIATE_TEST_SUITE_P(Fixtures, EngineCases,
                          testing::Values("Coloring", "CopyToken", "Directives", "Heredoc", "Indent", "Less",
-                                         "Nesting", "Order", "Patterns", "Pending", "Recovery", "Saved",
-                                         "States", "Stuck", "Switch", "Tiny", "Trailing"),
+                                         "Nesting", "Nonassoc", "Order", "Patterns", "Pending", "Recovery",
+                                         "Saved", "States", "Stuck", "Switch", "Tiny", "Trailing"),
                          [](const auto& entry) { return std::string(entry.param); });
 
 } // namespace
