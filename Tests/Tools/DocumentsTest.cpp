@@ -169,6 +169,11 @@ TEST(Documents, LanguageGuideWorksWhenFollowedToTheLetter)
     Follow("LanguageGuide.md", {"uvgrammar", "uvparse", "libUVParser.so"}, 4);
 }
 
+TEST(Documents, UvgrammarGuideWorksWhenFollowedToTheLetter)
+{
+    Follow("UvgrammarGuide.md", {"uvgrammar"}, 4);
+}
+
 TEST(Documents, RuleFilesWorkWhenFollowedToTheLetter)
 {
     Follow("RuleFiles.md", {"uvrules"}, 5);
