@@ -30,8 +30,10 @@ bool Executes(enMachine machine, const SGrammarKeyword& keyword)
 class CTextLines
 {
 public:
-    CTextLines(const std::string& directory, const char* file, const std::string& text)
-        : m_Directory(directory), m_File(file), m_Rest(text)
+    // `blanks` are what the reader skips before a line's first word.
+    CTextLines(const std::string& directory, const char* file, const std::string& text,
+               std::string_view blanks)
+        : m_Directory(directory), m_File(file), m_Rest(text), m_Blanks(blanks)
     {
         if (text.empty())
             RefuseTable(directory, file, "it is empty");
@@ -47,7 +49,7 @@ public:
             const std::size_t end = m_Rest.find('\n');
             line = m_Rest.substr(0, end);
             m_Rest.remove_prefix(end + 1);
-            if (line.find_first_not_of(kWhiteSpace) != std::string_view::npos)
+            if (line.find_first_not_of(m_Blanks) != std::string_view::npos)
                 return true;
         }
         return false;
@@ -62,6 +64,7 @@ private:
     const std::string& m_Directory;
     const char* m_File;
     std::string_view m_Rest;
+    std::string_view m_Blanks;
     int m_nLine = 0;
 };
 
@@ -110,7 +113,7 @@ void CheckOperations(const CTextLines& lines, std::string_view line, enMachine m
 
 void CheckActionText(const std::string& directory, const std::string& text, enMachine machine)
 {
-    CTextLines lines(directory, "actions.dat", text);
+    CTextLines lines(directory, "actions.dat", text, kWhiteSpace);
     std::set<std::string_view> numbers;
     std::string_view line;
     while (lines.Next(line)) {
@@ -132,7 +135,7 @@ void CheckActionText(const std::string& directory, const std::string& text, enMa
 
 void CheckDefinesText(const std::string& directory, const char* file, const std::string& text)
 {
-    CTextLines lines(directory, file, text);
+    CTextLines lines(directory, file, text, " ");
     std::string_view line;
     while (lines.Next(line)) {
         const std::string_view name = TakeWord(line);

@@ -1,9 +1,12 @@
 // Text files of grammars: any bytes are read without a crash or a hang, and what was read is in a form that
-// the interpreters can run.
+// the interpreters can run. Of a text that a language may load nothing is passed over.
 #include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarTextChecks.h"
+#include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstdint>
 #include <cstdlib>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -12,6 +15,27 @@ void Require(bool holds)
 {
     if (!holds)
         std::abort();
+}
+
+template <class F>
+bool Passes(const F& check)
+{
+    try {
+        check();
+        return true;
+    } catch (const Uve::U8CString&) {
+        return false;
+    }
+}
+
+// Lines of more than blanks.
+std::size_t CountLines(const char* blanks, const std::string& text)
+{
+    std::istringstream lines(text);
+    std::size_t count = 0;
+    for (std::string line; std::getline(lines, line);)
+        count += line.find_first_not_of(blanks) != std::string::npos ? 1 : 0;
+    return count;
 }
 
 } // namespace
@@ -32,12 +56,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Require(keyword != nullptr && operands->size() == static_cast<std::size_t>(keyword->operands));
         }
     }
+    for (const enMachine machine : {enMachine::Scanner, enMachine::Parser})
+        if (Passes([&] { CheckActionText("", text, machine); }))
+            Require(actions.size() == CountLines(" \t\r", text));
     FreeActionsMap(actions);
 
     std::map<std::string, int> defines;
     const std::uint64_t result = UVDBGrammarKeeper::CreateDefinesMap(text, defines);
     for (const auto& [name, value] : defines)
         Require(value <= static_cast<int>(result & 0x7fffffff));
+    if (Passes([&] { CheckDefinesText("", "defines.dat", text); })) {
+        // a name may come twice
+        Require(defines.size() <= CountLines(" ", text));
+        for (const auto& define : defines)
+            Require(define.first.find_first_of(" \t\r\n") == std::string::npos);
+    }
     UVDBGrammarKeeper::GetFinalStateNum(text);
     return 0;
 }

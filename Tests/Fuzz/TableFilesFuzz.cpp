@@ -1,9 +1,12 @@
-// Binary tables and the generated texts that tables come from: any bytes are read or refused. The first byte
-// chooses the reader, the rest is the file.
+// Binary tables, manifests, and the generated texts that tables come from: any bytes are read or refused. The
+// first byte chooses the reader, the rest is the file.
 #include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarManifest.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstdint>
+#include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -61,6 +64,26 @@ void ReadInitialiser(std::string_view content)
     }
 }
 
+// A manifest is looked for by its name, in the folder above the tables.
+void ReadManifest(std::string_view content)
+{
+    static const std::string folder = [] {
+        std::string pattern = (std::filesystem::temp_directory_path() / "uvfuzz-XXXXXX").string();
+        if (!mkdtemp(pattern.data()))
+            throw std::runtime_error("no folder");
+        static const std::string made = pattern;
+        std::atexit([] { std::filesystem::remove_all(made); });
+        return pattern + '/';
+    }();
+    UVDBGrammarKeeper::WriteToFile(std::string(content), (folder + kManifestName).c_str());
+    for (const char* const part : {"Lexer/", "Parser/"}) {
+        try {
+            const CTableFolder tables(folder + part);
+        } catch (const Uve::U8CString&) {
+        }
+    }
+}
+
 // The texts are extracted into a folder that doesn't exist: reading them is what counts.
 void ExtractFrom(std::string_view content)
 {
@@ -83,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0)
         return 0;
     const std::string_view content(reinterpret_cast<const char*>(data) + 1, size - 1);
-    switch (data[0] % 4) {
+    switch (data[0] % 5) {
     case 0:
         ReadTable<int>(content);
         break;
@@ -92,6 +115,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
     case 2:
         ReadInitialiser(content);
+        break;
+    case 3:
+        ReadManifest(content);
         break;
     default:
         ExtractFrom(content);

@@ -164,6 +164,7 @@ const STextRefusal kTextRefusals[] = {
     {"Lexer/defines.dat", "INITIAL 0\nC D\n", "line 2: not a name and a number"},
     {"Lexer/defines.dat", "INITIAL 0\nC 1 2\n", "line 2: not a name and a number"},
     {"Lexer/defines.dat", "INITIAL 0\r\nC 1\n", "line 1: not a name and a number"},
+    {"Lexer/defines.dat", "INITIAL 0\n\t\n", "line 2: not a name and a number"}, // to its reader a name
     {"Parser/const.dat", "YYFINAL\n3\n", "line 1: not a name and a number"},
     {"Lexer/actions.dat", "TOKEN_ACTION A\n", "line 1: it doesn't begin with the number of a rule"},
     {"Lexer/actions.dat", "2\nTOKEN_ACTION A\n", "line 1: it doesn't begin with the number of a rule"},
