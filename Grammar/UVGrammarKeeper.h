@@ -37,8 +37,8 @@ std::string ComposeGrammarDirectory(const std::string& parserName, bool isCr, co
 std::string GetDatFile(const std::string& packedDirectory, const std::string& plainDirectory,
                        const std::string& name);
 
-// The path of a binary table, by the same two candidates. A packed table is read as it stands: it has the
-// form of a plain one. Throws: U8CString as GetDatFile, if there is neither.
+// The path of a binary table, by the same two candidates. A packed table has the form of a plain one.
+// Throws: U8CString as GetDatFile, if there is neither.
 std::string GetDatFilePath(const std::string& packedDirectory, const std::string& plainDirectory,
                            const std::string& name);
 

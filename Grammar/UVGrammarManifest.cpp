@@ -55,7 +55,7 @@ std::string Shown(const STableFacts& facts)
     return std::to_string(facts.bytes) + ' ' + checksum + ' ' + std::to_string(facts.records);
 }
 
-// The next word of a line, and the blank behind it; empty at the end.
+// The next word of a line, and over the blank after it; empty at the end.
 std::string_view TakeWord(std::string_view& line)
 {
     const std::size_t end = std::min(line.find(' '), line.size());

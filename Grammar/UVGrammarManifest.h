@@ -38,7 +38,6 @@ public:
     // Throws: Uve::U8CString with the line for the log if there is a manifest that can't be read.
     explicit CTableFolder(const std::string& directory);
 
-    const std::string& Directory() const { return m_Directory; }
     // The unpacked content of a text file.
     // Throws: Uve::U8CString with the line for the log, if it isn't there, damaged, or not what the manifest
     // says.

@@ -45,8 +45,9 @@ void ReadScannerFiles(const std::string& directory, SScannerFiles& files);
 void ReadParserFiles(const std::string& directory, SParserFiles& files);
 
 // Prove what ReadScannerFiles and ReadParserFiles read: no text leads the engine out of the tables or into an
-// action that it doesn't know, and no parse ends well without a tree. `files.tables` of the scanner are
-// compiled afterwards. Throws: Uve::U8CString with the line for the log, which names the file and what is
-// wrong with it.
+// action that it doesn't know, and with the binary tables of a generator no parse ends well without a tree.
+// The scanner's tables are compiled by it.
+//
+// Throws: Uve::U8CString with the line for the log, which names the file and what is wrong with it.
 void ProveScannerFiles(const std::string& directory, SScannerFiles& files);
 void ProveParserFiles(const std::string& directory, const SParserFiles& files);

@@ -41,7 +41,7 @@ public:
             RefuseTable(directory, file, "it is cut: the last line has no end");
     }
 
-    // The next line that holds something; false behind the last.
+    // The next line that holds something; false after the last.
     bool Next(std::string_view& line)
     {
         while (!m_Rest.empty()) {

@@ -22,11 +22,11 @@ public:
     // log, which names the file in `directory` and what is wrong.
     void Validate(const std::string& directory) const;
 
-    // What a whole text is reduced to: after it the end of the text leads to the accepting state. For valid
-    // tables. Returns: the symbol's number, -1 if there is none.
+    // Both for valid tables. What a whole text is reduced to: after it the end leads to the accepting state.
+    // Returns: the symbol's number, -1 if there is none.
     int StartSymbol() const;
     // The symbols that may stand last on the right side of `rule`: what the states are entered with in which
-    // the tables reduce by it. For valid tables.
+    // the tables reduce by it.
     std::set<int> LastSymbols(int rule) const;
 
     std::size_t States() const { return pact.count; }
