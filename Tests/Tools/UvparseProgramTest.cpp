@@ -66,9 +66,11 @@ TEST_F(UvparseProgram, VerifyKnowsWhatFlatteningDoesToLineEnds)
 
 TEST_F(UvparseProgram, FlatteningFailureIsToldInTheLibrarysWords)
 {
-    // A character that XML has no place for, behind an unexpected token.
-    Put("a.sql", "select from from t;\nselect '\xEF\xBF\xBE';\n");
-    const SRunResult run = Run("a.sql");
+    // Nested deeper than a stylesheet may recurse, after an unexpected token.
+    constexpr std::size_t kDepth = 15000;
+    Put("a.sql",
+        "select from from t;\nselect " + std::string(kDepth, '(') + '1' + std::string(kDepth, ')') + ";\n");
+    const SRunResult run = Run("-o TREE2SERIAL_STYLESHEET=1 a.sql");
     EXPECT_EQ(run.code, 1);
     EXPECT_EQ(run.out, "");
     EXPECT_NE(run.err.find("a.sql:1:13: error: unexpected token 'from'\n"), std::string::npos) << run.err;
