@@ -1,5 +1,6 @@
 #include "Preparation/Formatters/Cobol.h"
 
+#include "Preparation/Formatters/AsciiLetters.h"
 #include "Preparation/Formatters/BlankRuns.h"
 #include "Preparation/Formatters/SourceLines.h"
 #include "UVEnvironment/UVECharacter.h"
@@ -31,18 +32,13 @@ std::string_view ExpandTabs(std::string_view line, int tabWidth, std::string& bu
     return buffer.append(line, from);
 }
 
-char AsciiUpper(char character)
-{
-    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
-}
-
 // A grammar takes no comma between the condition and what follows it.
 std::string_view WithoutConditionComma(std::string_view line)
 {
     if (!line.ends_with(','))
         return line;
     const std::string_view code = WithoutLeadingBlanks(line);
-    if (code.size() > 2 && AsciiUpper(code[0]) == 'I' && AsciiUpper(code[1]) == 'F' && code[2] == ' ')
+    if (StartsWithAsciiNoCase(code, "IF "))
         line.remove_suffix(1);
     return line;
 }

@@ -1,5 +1,6 @@
 #include "Preparation/Formatters/Directives.h"
 
+#include "Preparation/Formatters/AsciiLetters.h"
 #include "Preparation/Formatters/SourceLines.h"
 
 #include <algorithm>
@@ -25,25 +26,9 @@ constexpr std::string_view kDefinedSymbols[] = {
     "RELEASE",
 };
 
-bool IsDefined(std::string_view symbol)
-{
-    return std::ranges::find(kDefinedSymbols, symbol) != std::end(kDefinedSymbols);
-}
-
 bool IsSpace(char byte)
 {
     return byte == ' ' || (byte >= '\t' && byte <= '\r');
-}
-
-char Upper(char letter)
-{
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
-bool IsWord(char byte)
-{
-    const char letter = Upper(byte);
-    return (letter >= 'A' && letter <= 'Z') || (byte >= '0' && byte <= '9') || byte == '_';
 }
 
 template <class Class>
@@ -88,7 +73,7 @@ struct SRun
 
     void TakeCondition(const SDirectiveLine& line, const SDirective& directive, bool isIfdef)
     {
-        if (IsDefined(directive.symbol)) {
+        if (std::ranges::find(kDefinedSymbols, directive.symbol) != std::end(kDefinedSymbols)) {
             (isIfdef ? isKnownIfdef : isKnownIfndef) = true;
         } else {
             output.push_back(line);
@@ -175,17 +160,22 @@ Lines CResolver::Resolve(const Lines& lines)
 
 } // namespace
 
+std::span<const std::string_view> DefinedPascalSymbols()
+{
+    return kDefinedSymbols;
+}
+
 std::optional<SDirective> FindDirective(std::string_view line)
 {
     for (std::size_t open = line.find('{'); open != line.npos; open = line.find('{', open + 1)) {
         const std::size_t dollar = SkipWhile(line, open + 1, IsSpace);
         if (dollar == line.size() || line[dollar] != '$')
             continue;
-        const std::size_t nameEnd = SkipWhile(line, dollar + 1, IsWord);
+        const std::size_t nameEnd = SkipWhile(line, dollar + 1, IsAsciiWord);
         if (nameEnd == dollar + 1)
             continue;
         const std::size_t symbol = SkipWhile(line, nameEnd, IsSpace);
-        const std::size_t symbolEnd = SkipWhile(line, symbol, IsWord);
+        const std::size_t symbolEnd = SkipWhile(line, symbol, IsAsciiWord);
         const std::size_t close = SkipWhile(line, symbolEnd, IsSpace);
         if (close == line.size() || line[close] != '}')
             continue;
@@ -201,7 +191,7 @@ bool DirectiveHolds(const SDirective& directive, std::string_view word)
 {
     const std::string_view text = directive.text;
     return std::search(text.begin(), text.end(), word.begin(), word.end(),
-                       [](char a, char b) { return Upper(a) == b; }) != text.end();
+                       [](char a, char b) { return AsciiUpper(a) == b; }) != text.end();
 }
 
 Lines ResolveDirectives(const Lines& lines)

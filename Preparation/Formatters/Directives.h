@@ -7,7 +7,11 @@
 #include <cstdint>
 #include <list>
 #include <optional>
+#include <span>
 #include <string_view>
+
+// What is taken as defined, in upper case.
+std::span<const std::string_view> DefinedPascalSymbols();
 
 // The first directive of a line: "{$NAME}" or "{$NAME SYMBOL}", with white space wherever it does no harm.
 struct SDirective

@@ -1,5 +1,6 @@
 #include "Preparation/Formatters/IbmRpg.h"
 
+#include "Preparation/Formatters/AsciiLetters.h"
 #include "Preparation/Formatters/SourceLines.h"
 
 #include <algorithm>
@@ -62,18 +63,6 @@ constexpr SRpgLayout kLayouts[] = {
     {kWithDefinitions, "H", "*/", "/FREE", "/END-FREE", false, true, 20},
     {kOlder, "HEL", "*", "/EXEC SQL", "/END-EXEC", true, false, 22},
 };
-
-char Upper(char letter)
-{
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
-// `word` is in upper case. A word that the text is too short for isn't there.
-bool StartsWithNoCase(std::string_view text, std::string_view word)
-{
-    return text.size() >= word.size() &&
-           std::equal(word.begin(), word.end(), text.begin(), [](char a, char b) { return a == Upper(b); });
-}
 
 const SRpgLayout* FindLayout(int number)
 {
@@ -145,13 +134,13 @@ void CRpgPass::Flush()
 // Returns: true if the line belongs to what is copied.
 bool CRpgPass::SwitchCopying(const SSourceLine& line)
 {
-    const bool canSwitch = !m_Layout.isCopyingByCalculations || Upper(line.text[kLetterColumn]) == 'C';
+    const bool canSwitch = !m_Layout.isCopyingByCalculations || AsciiUpper(line.text[kLetterColumn]) == 'C';
     const std::string_view fields = line.text.substr(kFirstColumn);
     if (m_IsCopying) {
-        m_IsCopying = !(canSwitch && StartsWithNoCase(fields, m_Layout.copyingEnds));
+        m_IsCopying = !(canSwitch && StartsWithAsciiNoCase(fields, m_Layout.copyingEnds));
         return true;
     }
-    m_IsCopying = canSwitch && StartsWithNoCase(fields, m_Layout.copyingBegins);
+    m_IsCopying = canSwitch && StartsWithAsciiNoCase(fields, m_Layout.copyingBegins);
     return m_IsCopying;
 }
 
@@ -185,7 +174,7 @@ void CRpgPass::Take(const SSourceLine& line)
     }
     Flush();
 
-    const char letter = Upper(text[kLetterColumn]);
+    const char letter = AsciiUpper(text[kLetterColumn]);
     const auto specification = std::ranges::find(m_Layout.specifications, letter, &SRpgSpecification::letter);
     const bool isCut = specification != m_Layout.specifications.end();
     const bool isCopied = m_Layout.copiedLetters.find(letter) != std::string_view::npos;
@@ -216,7 +205,7 @@ void format_section(std::string& piece, int layout, int& depth)
     if (columns == nullptr || piece.size() <= columns->operationAt)
         return;
     const std::string_view operation = std::string_view(piece).substr(columns->operationAt);
-    const auto starts = [&](std::string_view word) { return StartsWithNoCase(operation, word); };
+    const auto starts = [&](std::string_view word) { return StartsWithAsciiNoCase(operation, word); };
     if (starts("IF") || starts("DO") || starts("CAS") || starts("SELEC") || starts("BEGSR")) {
         ++depth;
         piece.insert(columns->operationAt, "VelmoraBeg");
