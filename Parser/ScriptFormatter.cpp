@@ -35,6 +35,11 @@ T ScriptFormatter::ObjectOption(const char* name, T value) const
     return value;
 }
 
+bool ScriptFormatter::IsFaithful() const
+{
+    return Option("SOURCE_FORMS", U8CString()).CollateNoCase("FAITHFUL") == 0;
+}
+
 void ScriptFormatter::Take(SPreparedText prepared)
 {
     m_Parser.set_Query(prepared.text.c_str());
@@ -92,7 +97,7 @@ void ScriptFormatter::FormatASP()
 
 void ScriptFormatter::FormatPASCAL()
 {
-    Take(FormatPascal(m_Parser.m_Query));
+    Take(FormatPascal(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
 }
 
 void ScriptFormatter::FormatCOBOL()

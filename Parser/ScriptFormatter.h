@@ -33,6 +33,8 @@ private:
     T Option(const char* name, T value) const;
     template <class T>
     T ObjectOption(const char* name, T value) const;
+    // Does the host want forms that real sources survive, not those of the letter?
+    bool IsFaithful() const;
     void Take(SPreparedText prepared);
     void TakeNotes(std::vector<SPreparationNote> notes);
 

@@ -1,11 +1,16 @@
 #include "Preparation/Formatters/Pascal.h"
 
 #include "Preparation/Formatters/Directives.h"
+#include "Preparation/Formatters/LineNotes.h"
+#include "Preparation/Formatters/PascalDirectives.h"
+#include "Preparation/Formatters/PascalFaithful.h"
 #include "Preparation/Formatters/SourceLines.h"
 
+#include <algorithm>
 #include <list>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -92,9 +97,62 @@ SPreparedText CPascalPass::Run(std::string_view source)
     return std::move(m_Prepared);
 }
 
+void NoteUnbalanced(const std::vector<SPascalDirective>& directives, std::vector<SPreparationNote>& notes)
+{
+    constexpr std::size_t kMost = 5; // after them one note sums up
+    std::size_t count = 0;
+    std::uint32_t rest = 0;
+    for (const SPascalDirective& directive : directives) {
+        const bool isLeftOpen = directive.kind == enPascalDirective::Condition && !directive.isBalanced;
+        if (!isLeftOpen && !directive.isStray)
+            continue;
+        if (++count <= kMost)
+            notes.push_back(LineWarning(
+                directive.line, std::string(directive.text) +
+                                    (isLeftOpen ? " is never closed" : " has no condition before it")));
+        else if (rest == 0)
+            rest = directive.line;
+    }
+    if (rest != 0)
+        notes.push_back(LineWarning(rest, "from here on " + std::to_string(count - kMost) +
+                                              " more directives have no partner"));
+}
+
+// The lines that the faithful form keeps and the literal one doesn't.
+void NoteVanished(std::string_view source, const SPreparedText& faithful, const SPreparedText& literal,
+                  std::vector<SPreparationNote>& notes)
+{
+    std::vector<std::uint32_t> kept = literal.sourceLines;
+    std::ranges::sort(kept);
+    CLineNotes vanished("vanished with conditions that the literal form misreads");
+    auto expected = faithful.sourceLines.begin();
+    CSourceLines lines(source);
+    for (SSourceLine line; expected != faithful.sourceLines.end() && lines.Next(line);) {
+        if (line.number != *expected)
+            continue;
+        ++expected;
+        if (std::ranges::binary_search(kept, line.number))
+            vanished.EndRun();
+        else if (!WithoutLeadingBlanks(line.text).empty())
+            vanished.Add(line.number);
+    }
+    vanished.MoveTo(notes);
+}
+
 } // namespace
 
-SPreparedText FormatPascal(std::string_view source)
+SPreparedText FormatPascal(std::string_view source, const SPascalOptions& options)
 {
-    return CPascalPass().Run(source);
+    const std::vector<SPascalDirective> directives = FindPascalDirectives(source);
+    SPreparedText prepared = FormatPascalFaithfully(source, directives);
+    std::vector<SPreparationNote> notes;
+    NoteUnbalanced(directives, notes);
+    if (!options.isFaithful) {
+        SPreparedText literal = CPascalPass().Run(source);
+        NoteVanished(source, prepared, literal, notes);
+        prepared = std::move(literal);
+    }
+    SortNotes(notes);
+    prepared.notes = std::move(notes);
+    return prepared;
 }
