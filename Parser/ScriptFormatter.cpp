@@ -108,6 +108,8 @@ void ScriptFormatter::FormatCOBOL()
         options.format = enCobolFormat::Fixed;
     else if (format.CollateNoCase("FREE") == 0)
         options.format = enCobolFormat::Free;
+    options.formatName = format;
+    options.isFaithful = IsFaithful();
     options.savesDebugInfo = Option("SAVE_COBOL_DEBUG_INFO", U8CString("NO")) == "YES";
     options.removesFormatting = Option("REMOVE_SRC_FORMATTING", U8CString("0")) == "1";
     options.tabWidth = Option("COBOL_TAB_WIDTH", options.tabWidth);

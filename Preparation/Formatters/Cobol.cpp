@@ -2,6 +2,8 @@
 
 #include "Preparation/Formatters/AsciiLetters.h"
 #include "Preparation/Formatters/BlankRuns.h"
+#include "Preparation/Formatters/CobolFaithful.h"
+#include "Preparation/Formatters/LineNotes.h"
 #include "Preparation/Formatters/SourceLines.h"
 #include "UVEnvironment/UVECharacter.h"
 
@@ -11,10 +13,6 @@
 #include <utility>
 
 namespace {
-
-constexpr std::size_t kIndicatorColumn = 6;
-constexpr std::size_t kEndColumn = 72; // behind the last one that counts
-constexpr std::string_view kMargin = "      ";
 
 // `line` itself, or its expanded form, kept in `buffer`.
 std::string_view ExpandTabs(std::string_view line, int tabWidth, std::string& buffer)
@@ -32,21 +30,10 @@ std::string_view ExpandTabs(std::string_view line, int tabWidth, std::string& bu
     return buffer.append(line, from);
 }
 
-// A grammar takes no comma between the condition and what follows it.
-std::string_view WithoutConditionComma(std::string_view line)
-{
-    if (!line.ends_with(','))
-        return line;
-    const std::string_view code = WithoutLeadingBlanks(line);
-    if (StartsWithAsciiNoCase(code, "IF "))
-        line.remove_suffix(1);
-    return line;
-}
-
 // What a continuation line brings: the literal's opening quote is repeated in it.
 std::string_view ContinuedText(std::string_view line)
 {
-    std::string_view text = WithoutLeadingBlanks(line.substr(ColumnOffset(line, kIndicatorColumn + 1)));
+    std::string_view text = WithoutLeadingBlanks(line.substr(ColumnOffset(line, kCobolIndicatorColumn + 1)));
     if (text.starts_with('\'') || text.starts_with('"'))
         text.remove_prefix(1);
     return text;
@@ -72,34 +59,22 @@ public:
 private:
     void Add(std::string_view line, std::uint32_t number)
     {
-        const std::size_t indicator = ColumnOffset(line, kIndicatorColumn);
+        const std::size_t indicator = ColumnOffset(line, kCobolIndicatorColumn);
         if (indicator == line.size()) {
             AddCode({}, number);
             return;
         }
         const char mark = line[indicator];
         if (mark != '*' && mark != '$')
-            line = line.substr(0, ColumnOffset(line, kEndColumn));
-        if (line.starts_with("-INC") || line.starts_with("ZMEMBER")) {
+            line = line.substr(0, ColumnOffset(line, kCobolEndColumn));
+        if (IsCobolIncludeLine(line)) {
             BeginLine(number);
             m_Output.append(line);
         } else if (mark == '-') {
             Continue(ContinuedText(line), number);
         } else {
-            AddCode(Code(line, indicator), number);
+            AddCode(CobolCode(line, indicator, m_Options), number);
         }
-    }
-
-    std::string_view Code(std::string_view line, std::size_t indicator) const
-    {
-        const char mark = line[indicator];
-        std::string_view code = line.substr(indicator);
-        if (mark == '*' && !m_Options.savesDebugInfo)
-            return code.substr(0, ColumnOffset(code, kEndColumn - kIndicatorColumn));
-        const auto letter = Uve::utf8_decode(code.data(), code.data() + CharacterLength(code, 0)).codePoint;
-        if (mark != 'D' && mark != 'd' && Uve::UChar::iswalpha(letter))
-            code.remove_prefix(CharacterLength(code, 0));
-        return code;
     }
 
     void AddCode(std::string_view code, std::uint32_t number)
@@ -108,7 +83,7 @@ private:
         if (m_Options.removesFormatting && code.empty())
             return;
         BeginLine(number);
-        m_Output.append(kMargin);
+        m_Output.append(kCobolMargin);
         if (m_Options.removesFormatting && !code.starts_with('*'))
             m_Output.append(RemoveDuplicatedDelimiters(code));
         else
@@ -119,7 +94,7 @@ private:
     {
         // by the line as it stood: a tab of it counts as one column here
         if (!m_Previous.empty())
-            m_Output.append(kEndColumn - CountCharacters(m_Previous, kEndColumn), ' ');
+            m_Output.append(kCobolEndColumn - CountCharacters(m_Previous, kCobolEndColumn), ' ');
         m_Output.append(text);
         if (m_Prepared.sourceLines.empty() && !m_Output.empty())
             m_Prepared.sourceLines.push_back(number);
@@ -173,15 +148,15 @@ private:
 
     void Add(std::string_view line, std::uint32_t number)
     {
-        const std::size_t indicator = ColumnOffset(line, kIndicatorColumn);
+        const std::size_t indicator = ColumnOffset(line, kCobolIndicatorColumn);
         const bool isContinuation = indicator != line.size() && line[indicator] == '-';
         if (isContinuation && !m_CodeEnds.empty()) {
             Continue(ContinuedText(line));
             return;
         }
         const std::size_t begin = m_Output.size();
-        if (!isContinuation && CountCharacters(line, kIndicatorColumn) == kIndicatorColumn) {
-            m_Output.append(kMargin);
+        if (!isContinuation && CountCharacters(line, kCobolIndicatorColumn) == kCobolIndicatorColumn) {
+            m_Output.append(kCobolMargin);
             line.remove_prefix(indicator);
         }
         m_Output.append(line);
@@ -242,17 +217,70 @@ private:
         m_CodeEnds; // the last line that is no comment comes last; below it those that may follow
 };
 
+// Lines of nothing but the columns of the number, which hold no number.
+void NoteVanished(std::string_view source, enCobolFormat format, std::vector<SPreparationNote>& notes)
+{
+    CLineNotes vanished("vanished: no text after the columns of the line number");
+    CSourceLines lines(source);
+    for (SSourceLine line; lines.Next(line);) {
+        const std::string_view text = WithoutOuterBlanks(line.text);
+        if (text.empty())
+            continue;
+        const std::size_t characters =
+            CountCharacters(WithoutTrailingBlanks(line.text), kCobolIndicatorColumn + 1);
+        const bool isGone = format == enCobolFormat::Fixed ? characters <= kCobolIndicatorColumn
+                                                           : characters == kCobolIndicatorColumn;
+        if (isGone && text.find_first_not_of("0123456789") != text.npos && text.find('\t') == text.npos)
+            vanished.Add(line.number);
+        else
+            vanished.EndRun();
+    }
+    vanished.MoveTo(notes);
+}
+
 } // namespace
+
+bool IsCobolIncludeLine(std::string_view line)
+{
+    return line.starts_with("-INC") || line.starts_with("ZMEMBER");
+}
+
+std::string_view CobolCode(std::string_view line, std::size_t indicator, const SCobolOptions& options)
+{
+    const char mark = line[indicator];
+    std::string_view code = line.substr(indicator);
+    if (mark == '*' && !options.savesDebugInfo)
+        return code.substr(0, ColumnOffset(code, kCobolEndColumn - kCobolIndicatorColumn));
+    const auto letter = Uve::utf8_decode(code.data(), code.data() + CharacterLength(code, 0)).codePoint;
+    if (mark != 'D' && mark != 'd' && Uve::UChar::iswalpha(letter))
+        code.remove_prefix(CharacterLength(code, 0));
+    return code;
+}
+
+std::string_view WithoutConditionComma(std::string_view line)
+{
+    if (!line.ends_with(','))
+        return line;
+    const std::string_view code = WithoutLeadingBlanks(line);
+    if (StartsWithAsciiNoCase(code, "IF "))
+        line.remove_suffix(1);
+    return line;
+}
 
 SPreparedText FormatCobol(const Uve::U8CString& text, const SCobolOptions& options)
 {
-    switch (options.format) {
-    case enCobolFormat::Fixed:
-        return CFixedForm(options).Run(text);
-    case enCobolFormat::Free:
-        return CFreeForm(options).Run(text);
-    case enCobolFormat::None:
-        break;
+    SPreparedText prepared;
+    if (options.format == enCobolFormat::None) {
+        if (!text.empty())
+            prepared.notes.push_back(LineWarning(0, "COBOLFORMAT " + std::string(options.formatName) +
+                                                        " is no form: the text is empty"));
+        return prepared;
     }
-    return {};
+    if (options.isFaithful)
+        prepared = FormatCobolFaithfully(text, options);
+    else
+        prepared = options.format == enCobolFormat::Fixed ? CFixedForm(options).Run(text)
+                                                          : CFreeForm(options).Run(text);
+    NoteVanished(text, options.format, prepared.notes);
+    return prepared;
 }

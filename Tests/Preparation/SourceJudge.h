@@ -20,7 +20,8 @@ public:
     std::string Ask(const std::string& name, const std::string& text, const std::string& command) const
     {
         m_Folder.Write(name, text);
-        std::FILE* const pipe = popen(("cd '" + m_Folder.Path() + "' && " + command + " 2>&1").c_str(), "r");
+        std::FILE* const pipe =
+            popen(("cd '" + m_Folder.Path() + "' && { " + command + "; } 2>&1").c_str(), "r");
         if (pipe == nullptr)
             return {};
         std::string printed;
