@@ -136,5 +136,5 @@ void ScriptFormatter::FormatIBM_CL()
 
 void ScriptFormatter::FormatFoxProPrograms()
 {
-    Take(FormatFoxPro(m_Parser.m_Query));
+    Take(FormatFoxPro(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
 }

@@ -4,6 +4,11 @@
 #include "Preparation/PreparedText.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
+struct SFoxProOptions
+{
+    bool isFaithful = false; // SOURCE_FORMS is "FAITHFUL"
+};
+
 // Joins the lines of a statement. Empty lines stay, except at the end of the text, where line feeds go.
 //  - A line that begins with "*" is a comment; it loses its leading white space and is never joined.
 //  - A ";" at the end of a line becomes a blank, and the next line follows. In a literal that the line leaves
@@ -12,4 +17,9 @@
 //    end of the text goes too.
 //  - A ";" in front of anything else stays, and the rest of its line with it.
 // On a line with a ";" that is no comment, characters beyond ASCII come out as "`", up to the ";" that stays.
-SPreparedText FormatFoxPro(const Uve::U8CString& text);
+//
+// In the faithful form a ";" at the end joins comments too, and one that isn't at the end is text like any
+// other, also in front of "&&" in an open literal: what counts is how the line ends. Characters stay.
+//
+// Notes, in the literal form: lines that lose characters, and what is lost after ";" in an open literal.
+SPreparedText FormatFoxPro(const Uve::U8CString& text, const SFoxProOptions& options = {});

@@ -63,6 +63,45 @@ TEST(FoxProFormatter, OtherCharactersOnLinesWithSemicolons)
         ExpectPrepared(c, FormatFoxPro(c.input));
 }
 
+TEST(FoxProFormatter, FaithfulForm)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {"a ;\n  b\n\nc\n", "a    b\n\nc", {1, 3, 4}},
+             // comments go on, whatever is in them
+             {"  * don't ;\n\t'do' ; \r\n && it\nb", "* don't  \t'do'   && it\nb", {1, 4}},
+             {"* a;\n\nb", "* a \nb", {1, 3}},
+             {"* a ;", "* a ;", {1}},
+             // how the line ends is what counts
+             {"x = [a;b] + ;\n  c", "x = [a;b] +    c", {1}},
+             {"a ; b ;\nc", "a ; b  c", {1}},
+             {"a = 1 ; && note\nb = 2", "a = 1  && note\nb = 2", {1, 2}},
+             {"a = 'x; && y ;\nz'", "a = 'x; && y z'", {1}},
+             {"a = 'x; y\nb'", "a = 'x; y\nb'", {1, 2}},
+             {"é = '€😀;' + ;\nü\nä; ö", "é = '€😀;' +  ü\nä; ö", {1, 3}},
+         }) {
+        const SPreparedText prepared = FormatFoxPro(c.input, {.isFaithful = true});
+        ExpectPrepared(c, prepared);
+        EXPECT_TRUE(prepared.notes.empty());
+    }
+    EXPECT_TRUE(FormatFoxPro("x" + Repeated("; ", 1 << 20) + "y", {.isFaithful = true}).text ==
+                "x" + Repeated("; ", 1 << 20) + "y");
+    EXPECT_TRUE(FormatFoxPro(Repeated("*a;\n", 1 << 18), {.isFaithful = true}).text ==
+                "*a" + Repeated(" *a", (1 << 18) - 1) + ";");
+}
+
+TEST(FoxProFormatter, LossesAreTold)
+{
+    const std::vector<SPreparationNote> notes = FormatFoxPro("é;\nä ü;\nb\n* é;\n'ö;&& n\nx'\n").notes;
+    ASSERT_EQ(notes.size(), 3U);
+    EXPECT_EQ(notes[0].line, 1U);
+    EXPECT_EQ(notes[0].text, "2 lines lost characters beyond ASCII: \"`\" stands in their places");
+    EXPECT_EQ(notes[1].line, 5U);
+    EXPECT_EQ(notes[1].text, "1 line lost characters beyond ASCII: \"`\" stands in their places");
+    EXPECT_EQ(notes[2].line, 5U);
+    EXPECT_EQ(notes[2].text, "1 line lost what follows a \";\" within a literal that goes on");
+}
+
 TEST(FoxProFormatter, RealSources)
 {
     for (const SCorpusFile& file : CorpusFiles("foxpro")) {
