@@ -119,6 +119,7 @@ void ScriptFormatter::FormatCOBOL()
 void ScriptFormatter::FormatIBM_RPG()
 {
     SIbmRpgOptions options;
+    options.isFaithful = IsFaithful();
     const U8CString version = Option("IBMRPG_VERSION", U8CString());
     std::from_chars(version.data(), version.data() + version.size(), options.layout);
     Take(FormatIbmRpg(m_Parser.m_Query, options));

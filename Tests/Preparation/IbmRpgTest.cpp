@@ -126,6 +126,67 @@ TEST(IbmRpg, CompileTimeDataIsCopiedWhole)
     EXPECT_EQ(FormatIbmRpg("**CTDATA\n" + Line('C', "A"), {1}).text, "CA\n$\n"); // the older layout has none
 }
 
+TEST(IbmRpg, FaithfulForm)
+{
+    const std::string fields = Repeated("\xC3\xA9", 60);
+    for (const SRpgCase& c : std::vector<SRpgCase>{
+             // columns are characters, wherever the others stand
+             {0, "\xC2\xA3\xC2\xA3   D" + fields,
+              "D" + Repeated("\xC3\xA9", 36) + "\nDK" + Repeated("\xC3\xA9", 24) + "\n$\n"},
+             {1, Line('C', "\xC3\xA9" + Operation(1, "IF").substr(1)),
+              "C\xC3\xA9" + Operation(1, "VelmoraBegIF").substr(1) + "\n$\n"},
+             {0, "12345c* x\n00010C/copy y\n" + Line('h', "z"), "C* x\nC/copy y\nHz\n"},
+             // free form without a switch; only one layout has it
+             {0,
+              Line(' ', " if a;") + Line('C', "A") + Line(' ', "   // b") + Line(' ', "x") + Line('X', " y") +
+                  "      \n",
+              "  if a;\nCA\n$\n    // b\n"},
+             {1, Line(' ', " if a;"), ""},
+             // a whole source, short lines included
+             {0, "**FREE\nend;\n\n  if a;\nC x\n", "**FREE\nend;\n\n  if a;\nC x\n"},
+             // data comes after the rows that wait; a single "*" doesn't begin it
+             {0, "*    CA\n** TXT\nJAN\n", "CA\n$\n** TXT\nJAN\n"},
+         }) {
+        SCOPED_TRACE(testing::Message() << c.layout << ' ' << c.source);
+        const SPreparedText prepared = FormatIbmRpg(c.source, {c.layout, true});
+        EXPECT_EQ(prepared.text, c.text);
+        EXPECT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
+    }
+}
+
+struct SRpgNoteCase
+{
+    SIbmRpgOptions options;
+    std::string source, notes;
+};
+
+TEST(IbmRpg, LinesThatVanishAreTold)
+{
+    const std::string unknown = " vanished: the letter of the specification is unknown, or there is none;";
+    for (const SRpgNoteCase& c : std::vector<SRpgNoteCase>{
+             {{},
+              Repeated(Line('C', "A"), 100),
+              "0: IBMRPG_VERSION names no column layout: the text is empty;"},
+             {{}, "", ""},
+             {{0},
+              "00010\n00020C\n     \n" + Line(' ', " a;") + "\n" + Line('X', "a") + Line('C', "A") +
+                  "     X\n",
+              "4: 2 lines" + unknown + "8: 1 line" + unknown},
+             {{0, true}, Line(' ', " a;") + Line('X', "a"), "2: 1 line" + unknown},
+             {{0}, "**FREE\n  x(1);\nend;\n", "1: 1 line" + unknown + "3: 1 line" + unknown},
+             {{1},
+              Repeated(Line('D', "a") + Line('D', "b") + Line('C', "A"), 9),
+              "1: 2 lines" + unknown + "4: 2 lines" + unknown + "7: 2 lines" + unknown + "10: 2 lines" +
+                  unknown + "13: from here on 10 more lines in 5 places" + unknown},
+         }) {
+        SCOPED_TRACE(c.source);
+        std::string notes;
+        for (const SPreparationNote& note : FormatIbmRpg(c.source, c.options).notes)
+            notes += std::to_string(note.line) + ": " + note.text + ';';
+        EXPECT_EQ(notes, c.notes);
+    }
+}
+
 TEST(IbmRpg, BlocksAreMarked)
 {
     for (const int layout : {0, 1}) {
