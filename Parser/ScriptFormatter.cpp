@@ -127,12 +127,12 @@ void ScriptFormatter::FormatIBM_RPG()
 
 void ScriptFormatter::FormatJCL()
 {
-    Take(FormatJcl(m_Parser.m_Query));
+    Take(FormatJcl(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
 }
 
 void ScriptFormatter::FormatIBM_CL()
 {
-    Take(FormatIbmCl(m_Parser.m_Query));
+    Take(FormatIbmCl(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
 }
 
 void ScriptFormatter::FormatFoxProPrograms()

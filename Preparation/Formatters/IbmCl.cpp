@@ -1,5 +1,6 @@
 #include "Preparation/Formatters/IbmCl.h"
 
+#include "Preparation/Formatters/LineNotes.h"
 #include "Preparation/Formatters/SourceLines.h"
 
 #include <utility>
@@ -31,7 +32,7 @@ bool EndsInEmptyLine(const std::string& text)
 
 } // namespace
 
-SPreparedText FormatIbmCl(const Uve::U8CString& text)
+SPreparedText FormatIbmCl(const Uve::U8CString& text, const SIbmClOptions& options)
 {
     SPreparedText prepared;
     std::string output;
@@ -47,6 +48,9 @@ SPreparedText FormatIbmCl(const Uve::U8CString& text)
                 output += '\n';
             prepared.sourceLines.push_back(line.number);
         }
+        if (const std::string_view filled = WithoutTrailingBlanks(command);
+            options.isFaithful && (filled.ends_with('+') || filled.ends_with('-')))
+            command = filled;
         const bool goesOn = command.ends_with('+') || command.ends_with('-');
         continuation = goesOn ? command.back() : '\0';
         output.append(command.substr(0, command.size() - (goesOn ? 1 : 0)));
@@ -54,7 +58,12 @@ SPreparedText FormatIbmCl(const Uve::U8CString& text)
     if (EndsInEmptyLine(output) && !prepared.sourceLines.empty() && !text.ends_with('\n'))
         prepared.sourceLines.pop_back(); // nothing will make it a line
     AppendFinalLineFeeds(text, lines.Count(), output, prepared.sourceLines);
-    DropLastCharacter(output);
+    const bool endsInLineFeed = output.ends_with('\n');
+    if (!endsInLineFeed && !options.isFaithful && !output.empty())
+        prepared.notes.push_back(
+            LineWarning(lines.Count(), "the last character is lost: the text doesn't end in a line feed"));
+    if (endsInLineFeed || !options.isFaithful)
+        DropLastCharacter(output);
     if (EndsInEmptyLine(output) && !prepared.sourceLines.empty())
         prepared.sourceLines.pop_back(); // that character was the whole line, or its end
     prepared.text = std::move(output);

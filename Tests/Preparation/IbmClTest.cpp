@@ -48,6 +48,27 @@ TEST(IbmClFormatter, TheLastCharacterGoes)
     EXPECT_EQ(FormatIbmCl(FormatIbmCl("PGM\n").text).text, "PG");
 }
 
+TEST(IbmClFormatter, FaithfulForm)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {"A + \n  B\nC -  \t\r\n  D\n", "A B\nC   D", {1, 3}},
+             {"A +\n  \n  B\n", "A \n  B", {1, 3}},
+             {"ENDPGM", "ENDPGM", {1}},
+             {"A\nB\n\n", "A\nB\n", {1, 2}},
+             {"A\n+", "A", {1}},
+             {"+ ", "", {}},
+         }) {
+        const SPreparedText prepared = FormatIbmCl(c.input, {.isFaithful = true});
+        ExpectPrepared(c, prepared);
+        EXPECT_TRUE(prepared.notes.empty());
+    }
+    EXPECT_TRUE(FormatIbmCl("A\nB\n").notes.empty());
+    const std::vector<SPreparationNote> notes = FormatIbmCl("PGM\nENDPGM").notes;
+    ASSERT_EQ(notes.size(), 1U);
+    EXPECT_EQ(notes[0].line, 2U);
+}
+
 TEST(IbmClFormatter, RealSources)
 {
     for (const SCorpusFile& file : CorpusFiles("cl")) {

@@ -26,6 +26,19 @@ TEST(JclFormatter, LinesEndAtColumn71)
         ExpectPrepared(c, FormatJcl(c.input));
 }
 
+TEST(JclFormatter, EmptyRecordsStayInTheFaithfulForm)
+{
+    for (const SPassCase& c : std::vector<SPassCase>{
+             {"", "", {}},
+             {"\n\n//A\n\n\n//B" + std::string(80, ' '),
+              "\n\n//A\n\n\n//B" + std::string(69, ' '),
+              {1, 2, 3, 4, 5, 6}},
+             {"//A\n\nB\n\n\n", "//A\n\nB\n\n\n", {1, 2, 3, 4, 5}},
+             {"\n\n", "\n\n", {1, 2}},
+         })
+        ExpectPrepared(c, FormatJcl(c.input, {.isFaithful = true}));
+}
+
 TEST(JclFormatter, EightBitTextKeepsItsColumns)
 {
     // a byte each: what looks like the first byte of a sequence takes nothing from what follows it
