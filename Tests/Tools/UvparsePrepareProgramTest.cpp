@@ -46,7 +46,11 @@ const SPassCase kPassCases[] = {
     {"-l COBOL", "a.cob", "000100     STOP RUN.\n\n000300", "000100     STOP RUN.\n\n000300", "1 2 3"},
     {"-o JCLANSIFORMAT=YES", "a.jcl",
      "//A        JOB  (1),CLASS=A                                             00010000\n\n//S1 EXEC PGM=X\n",
-     "//A        JOB  (1),CLASS=A                                             \n//S1 EXEC PGM=X\n", "1 3"},
+     "//A        JOB  (1),CLASS=A                                             \n\n//S1 EXEC PGM=X\n",
+     "1 2 3"},
+    // The faithful form unless the literal one is asked for.
+    {"-l IBMCL", "a.cl", "A + \n B\n", "A B", "1"},
+    {"-l IBMCL -o SOURCE_FORMS=LITERAL", "a.cl", "A + \n B\n", "A + \n B", "1 2"},
     {"-l IBMCL", "a.cl", "PGM\n\nCHGVAR VAR(&A) +\r\n       VALUE(1)\nENDPGM\n",
      "PGM\nCHGVAR VAR(&A) VALUE(1)\nENDPGM", "1 3 5"},
     {"--db IBMCL", "-", "PGM\nENDPGM\n", "PGM\nENDPGM", "1 2"},
@@ -184,7 +188,8 @@ TEST_F(UvparsePrepare, WhatPreparationCannotDoIsTold)
     const SRunResult empty = Run("--prepare -l IBMRPG a.rpg");
     EXPECT_EQ(empty.code, 0);
     EXPECT_EQ(empty.out, "");
-    EXPECT_EQ(empty.err, "a.rpg: warning: FormatIBM_RPG left nothing of the text\n");
+    EXPECT_EQ(empty.err, "a.rpg: warning: IBMRPG_VERSION names no column layout: the text is empty\n"
+                         "a.rpg: warning: FormatIBM_RPG left nothing of the text\n");
     Put("empty.cl", "");
     EXPECT_EQ(Run("--prepare empty.cl").err, "");
 

@@ -73,6 +73,24 @@ void RefuseContradictions(const SCommandLine& line)
         throw CUsageError("--diff goes with --prepare, and not with --lines, whose numbers it shows anyway");
 }
 
+// clang-format off
+constexpr char kUsage[] =
+    "usage: uvparse [options] FILE... | -\n"
+    "Turns source text into an XML tree with every token, blank and comment in it. Languages in fixed\n"
+    "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n";
+constexpr char kAfterOptions[] =
+    "\nResults go to standard output, messages to standard error.\n"
+    "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared line\n"
+    "above, < vanished, > starts no source line. It is as wide as the terminal, else as the environment's\n"
+    "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
+    "preparation doesn't keep the source line.\n"
+    "Sources are prepared in their faithful forms; -o SOURCE_FORMS=LITERAL asks for the literal ones.\n"
+    "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
+    "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines was\n"
+    "asked of a preparation that keeps no source lines;\n"
+    "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
+// clang-format on
+
 } // namespace
 
 SCommandLine ReadCommandLine(int argc, const char* const* argv)
@@ -116,24 +134,7 @@ std::string HelpText()
     Texts options;
     Texts objectOptions;
     std::ostringstream text;
-    text
-        << "usage: uvparse [options] FILE... | -\n"
-           "Turns source text into an XML tree with every token, blank and comment in it. Languages in "
-           "fixed\n"
-           "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n"
-        << VisibleOptions(line, options, objectOptions)
-        << "\nResults go to standard output, messages to standard error.\n"
-           "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared "
-           "line\n"
-           "above, < vanished, > starts no source line. It is as wide as the terminal, else as the "
-           "environment's\n"
-           "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
-           "preparation doesn't keep the source line.\n"
-           "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
-           "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines "
-           "was\n"
-           "asked of a preparation that keeps no source lines;\n"
-           "2 something could not run: bad arguments, unreadable input, unknown language, failed write.\n";
+    text << kUsage << VisibleOptions(line, options, objectOptions) << kAfterOptions;
     return text.str();
 }
 

@@ -44,6 +44,7 @@ constexpr SKnownOption kDatabaseOptions[] = {
     {"PREPROCESSOR_UNDEFINES",                     Text,    ""                  },
     {"REMOVE_SRC_FORMATTING",                      Word,    "0 1"               },
     {"SAVE_COBOL_DEBUG_INFO",                      Word,    "=YES NO"           },
+    {"SOURCE_FORMS",                               Word,    "FAITHFUL LITERAL"  },
     {"SRC_UI_TYPE",                                Text,    ""                  },
     {"TREE2SERIAL_STYLESHEET",                     Word,    "0 1"               },
     {"UNIK_DEFINE",                                Word,    "YES NO"            },

@@ -99,6 +99,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
       m_DatabaseInfo(std::make_shared<CUVDBDatabaseInfo>(language.version)),
       m_Parser(PluginHelpers::CreateParser())
 {
+    SetTextOption(m_DatabaseInfo, "SOURCE_FORMS", "FAITHFUL");
     for (const auto& [key, value] : settings.options)
         SetTextOption(m_DatabaseInfo, key, value);
     SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "1");
