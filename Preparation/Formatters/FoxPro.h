@@ -19,7 +19,7 @@ struct SFoxProOptions
 // On a line with a ";" that is no comment, characters beyond ASCII come out as "`", up to the ";" that stays.
 //
 // In the faithful form a ";" at the end joins comments too, and one that isn't at the end is text like any
-// other, also in front of "&&" in an open literal: what counts is how the line ends. Characters stay.
+// other, also before "&&" in an open literal: what counts is how the line ends. Characters stay.
 //
 // Notes, in the literal form: lines that lose characters, and what is lost after ";" in an open literal.
 SPreparedText FormatFoxPro(const Uve::U8CString& text, const SFoxProOptions& options = {});

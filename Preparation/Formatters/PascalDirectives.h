@@ -31,7 +31,7 @@ struct SPascalDirective
     bool isBalanced = true;    // it belongs to a construct that begins and ends; an Undefine to none
     bool isStray = false;      // no condition is open before it, and it needs one
     std::size_t begin = 0;     // bytes of the source, from brace ...
-    std::size_t end = 0;       // ... to behind the other brace
+    std::size_t end = 0;       // ... to after the other brace
     std::size_t nameBegin = 0; // after the "$"
     std::uint32_t line = 0;    // from 1
     std::string_view text;     // all of it

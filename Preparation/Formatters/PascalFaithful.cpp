@@ -122,7 +122,7 @@ private:
     std::vector<std::string_view> m_Defined;
     std::vector<SConstruct> m_Open;
     std::vector<SRange> m_Removed;
-    std::size_t m_LiveEnd = 0; // behind the last directive
+    std::size_t m_LiveEnd = 0; // after the last directive
 };
 
 bool IsBlank(char byte)
