@@ -67,6 +67,9 @@ void DriveRpg(std::string_view source, int layout)
     const SPreparedText prepared = FormatIbmRpg(source, {layout});
     RequireLines(source, prepared);
     Require(layout == 0 || layout == 1 || prepared.text.empty());
+    const SPreparedText faithful = FormatIbmRpg(source, {layout, true});
+    RequireLines(source, faithful);
+    Require(std::ranges::is_sorted(faithful.sourceLines));
 }
 
 void DrivePascal(std::string_view source)
@@ -74,6 +77,11 @@ void DrivePascal(std::string_view source)
     const SPreparedText prepared = FormatPascal(source);
     RequireLines(source, prepared);
     Require(std::ranges::is_sorted(prepared.sourceLines) || prepared.text.find('{') != prepared.text.npos);
+    const SPreparedText faithful = FormatPascal(source, {.isFaithful = true});
+    RequireLines(source, faithful);
+    Require(std::ranges::is_sorted(faithful.sourceLines));
+    // nothing is left to decide
+    Require(FormatPascal(faithful.text, {.isFaithful = true}).text == faithful.text);
     for (const bool singleLine : {false, true}) {
         Uve::U8CString text(source);
         ProcessMultiLineDirective(text, singleLine);

@@ -52,6 +52,12 @@ void DriveCobol(const std::string& source, unsigned choice)
     Require(prepared.text.size() <= 73 * (source.size() + 1) + tabs);
     Require(CountOf(prepared.text, '\t') == 0);
     Require(CountOf(prepared.text, '"') <= CountOf(source, '"'));
+
+    options.isFaithful = true;
+    const SPreparedText faithful = FormatCobol(source, options);
+    CheckLines(source, faithful);
+    Require(CountOf(faithful.text, '\t') == 0);
+    Require(CountOf(faithful.text, '"') <= CountOf(source, '"'));
 }
 
 void DriveJcl(const std::string& source)
@@ -60,13 +66,18 @@ void DriveJcl(const std::string& source)
     CheckLines(source, prepared);
     Require(prepared.text.size() <= source.size());
     Require(FormatJcl(prepared.text).text.size() <= prepared.text.size());
+    const SPreparedText faithful = FormatJcl(source, {.isFaithful = true});
+    CheckLines(source, faithful);
+    Require(CountOf(faithful.text, '\n') == CountOf(source, '\n'));
 }
 
 void DriveIbmCl(const std::string& source)
 {
-    const SPreparedText prepared = FormatIbmCl(source);
-    CheckLines(source, prepared);
-    Require(prepared.text.size() <= source.size());
+    for (const bool isFaithful : {false, true}) {
+        const SPreparedText prepared = FormatIbmCl(source, {isFaithful});
+        CheckLines(source, prepared);
+        Require(prepared.text.size() <= source.size());
+    }
 }
 
 void DriveFoxPro(const std::string& source)
@@ -77,6 +88,9 @@ void DriveFoxPro(const std::string& source)
     Require(CountOf(prepared.text, 'a') == CountOf(source, 'a') || source.find("&&") != source.npos);
     if (CountOf(source, ';') == 0)
         Require(CountOf(prepared.text, '`') == CountOf(source, '`'));
+    const SPreparedText faithful = FormatFoxPro(source, {.isFaithful = true});
+    CheckLines(source, faithful);
+    Require(CountOf(faithful.text, 'a') == CountOf(source, 'a'));
 }
 
 void DriveBlankRuns(const std::string& line)
