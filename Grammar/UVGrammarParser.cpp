@@ -127,7 +127,11 @@ int CSQLGrammarParser::yyparse()
         CFragmentPool& pool;
         ~SRelease() { pool.Release(); }
     } const release{m_Fragments};
-    return yyBisonParser::yyparse();
+    const int result = yyBisonParser::yyparse();
+    // the tree ends in a node named SQL, which every grammar's start symbol makes
+    if (result == 0 && m_Extension.m_strParsedXml.empty())
+        throw std::runtime_error("the parser's tables accept a text without a tree");
+    return result;
 }
 
 int CSQLGrammarParser::yygettoken()
