@@ -59,7 +59,7 @@ void ScriptFormatter::FormatCPP()
     U8CString errors;
     const bool isPrepared =
         m_Parser.m_Preprocessor->Run(m_Parser.m_Query, ObjectOption("FilePath", U8CString()), prepared.text,
-                                     errors, &prepared.sourceLines);
+                                     errors, &prepared.sourceLines, &prepared.notes);
     if (!errors.empty())
         CLogWrapper::WriteTraceF("%s", errors.c_str());
     if (isPrepared) {
@@ -69,9 +69,14 @@ void ScriptFormatter::FormatCPP()
     // A failure that isn't about a character leaves the source to the parser as it stands.
     if (const auto message = PreprocessorFailureMessage(errors)) {
         m_Parser.SetLastError(0, message->c_str(), nullptr, nullptr);
+        // the error record says the same
+        std::erase_if(prepared.notes, [](const SPreparationNote& note) { return note.isError; });
         Take(std::move(prepared));
-    } else
-        m_Parser.m_PreparedBy = "";
+        return;
+    }
+    m_Parser.m_PreparedBy = "";
+    prepared.notes.push_back({true, 0, {}, "the macro processor failed: the whole text goes on unprepared"});
+    TakeNotes(std::move(prepared.notes));
 }
 
 void ScriptFormatter::Format4GL_PROGRESS()

@@ -176,19 +176,25 @@ bool Checker::RunInclude(SRun& run, const Token& directive)
         return FailRun(directive, "No header in #include");
     const Location where = directive.location;
     AddAllTokensCurrLine(run, true);
-    return EnterHeader(run, where, header.substr(1, header.size() - 2), header.front() == '<');
+    return EnterHeader(run, where, header);
 }
 
-bool Checker::EnterHeader(SRun& run, const Location& directive, const std::string& header, bool isSystem)
+// `name`: with its quotes or brackets.
+bool Checker::EnterHeader(SRun& run, const Location& directive, const std::string& name)
 {
+    const std::string header = name.substr(1, name.size() - 2);
     const bool isTooDeep = run.positions.size() >= kMostIncludes;
-    const std::string path = isTooDeep ? std::string() : FindHeader(run.current.file, header, isSystem);
+    const std::string path =
+        isTooDeep ? std::string() : FindHeader(run.current.file, header, name.front() == '<');
     const bool isEntered =
         !path.empty() && (run.onceFiles.empty() || !run.onceFiles.contains(realFilename(path)));
-    if (isTooDeep)
+    if (isTooDeep) {
         errorText += "#include nested too deeply\n";
-    else if (path.empty())
+        Warn("#include nested too deeply: " + name, directive);
+    } else if (path.empty()) {
         errorText += "Preprocessor> Header not found : " + header + '\n';
+        Warn("header not found: " + name, directive);
+    }
     // one that brings nothing in still writes a line, and may be told to do so again and again by a header
     if (isEntered)
         run.enteredBytes += std::max(fileData.at(path).size, kLeastEntered);

@@ -22,6 +22,19 @@ constexpr std::array<std::string_view, 8> kLabels = {
     "syntax error: ", "portability: ", "unhandled char error: ", "explicit include not found: ",
 };
 
+// A directive as it is written, and other messages without what their text says anyway.
+std::string NoteText(const ErorrOutput& error)
+{
+    switch (error.type) {
+    case ERROR_DIRECTIVE:
+        return "#error " + error.msg;
+    case WARNING_DIRECTIVE:
+        return "#warning " + error.msg;
+    default:
+        return error.msg;
+    }
+}
+
 // Writes the tokens of an expansion. A line of them is one token of the output: only its text matters, and an
 // expansion may be long.
 class ExpansionWriter
@@ -110,13 +123,15 @@ void CollectHeaders(const TokenList& list, std::set<std::string>& names)
 bool Checker::PreprocessFile(const std::string& filePath, const std::string& text, Uve::U8CString& result,
                              Command command, const DefaultPresetValues& presets, Uve::U8CString& errorText,
                              const std::shared_ptr<UndefinesTokens>& undefinesTokens,
-                             std::vector<std::uint32_t>* sourceLines)
+                             std::vector<std::uint32_t>* sourceLines, CPreparationNotes* notes)
 {
+    CPreparationNotes unwanted;
+    CPreparationNotes& taken = notes != nullptr ? *notes : unwanted;
     result = Uve::U8CString();
     if (sourceLines != nullptr)
         sourceLines->clear();
     try {
-        Checker checker(filePath, text, presets);
+        Checker checker(filePath, text, presets, taken);
         const bool isDone = checker.LoadSourceFile() && checker.LoadOtherFiles() &&
                             checker.RunCommand(command, undefinesTokens.get());
         checker.GetErrors(errorText);
@@ -125,16 +140,19 @@ bool Checker::PreprocessFile(const std::string& filePath, const std::string& tex
         return isDone;
     } catch (const std::exception& error) {
         errorText += Uve::U8CString(std::string("ERROR!!! std::exception : ") + error.what() + ".\n");
+        taken.AddError(error.what());
     } catch (...) {
         errorText += Uve::U8CString("ERROR!!! some exception.\n");
+        taken.AddError("some exception");
     }
     return false;
 }
 
-Checker::Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values)
+Checker::Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values,
+                 CPreparationNotes& notes)
     : filePath(path), sourceText(source), presets(values), rawTokens(std::make_shared<TokenList>(files)),
-      output(std::make_shared<TokenList>(files)), m_Reader(*rawTokens, sourceText, filePath, errors, false),
-      m_Writer(&m_SourceLines)
+      output(std::make_shared<TokenList>(files)), m_Notes(notes),
+      m_Reader(*rawTokens, sourceText, filePath, errors, false), m_Writer(&m_SourceLines)
 {}
 
 Checker::~Checker() = default;
@@ -159,11 +177,13 @@ bool Checker::LoadOtherFiles()
         const std::string path = simplifyPath(name);
         if (fileData.contains(path))
             continue;
-        if (LoadHeader(path))
+        if (LoadHeader(path)) {
             loaded.push_back(path);
-        else
+        } else {
             errorText +=
                 "Preprocessor> Can not open include file '" + name + "' that is explicitly included.\n";
+            m_Notes.AddWarning("explicit include not found: " + name);
+        }
     }
     LoadHeaders(filePath, m_MainHeaders, loaded);
     while (!loaded.empty()) {
@@ -226,9 +246,25 @@ void Checker::Report(enErrorType type, const Location& location, std::string mes
     errors.push_back({type, location, std::move(message)});
 }
 
+// Empty: the main source.
+std::string Checker::FileOfNote(const Location& location) const
+{
+    return location.file() == filePath ? std::string() : location.file();
+}
+
+void Checker::Warn(const std::string& text, const Location& location)
+{
+    m_Notes.AddWarning(text, location.line, FileOfNote(location));
+}
+
 bool Checker::CheckErrorResult()
 {
     for (const ErorrOutput& error : errors) {
+        const std::string note = NoteText(error);
+        if (error.type == WARNING_DIRECTIVE || error.type == PORTABILITY)
+            Warn(note, error.location);
+        else
+            m_Notes.AddError(note, error.location.line, FileOfNote(error.location));
         errorText += error.location.file() + " : " + std::to_string(error.location.line) + " : ";
         errorText += kLabels[error.type];
         errorText += error.msg + '\n';
@@ -269,6 +305,7 @@ bool Checker::RunCommand(Command command, UndefinesTokens* undefinesTokens)
     for (std::size_t i = 1; isWhole && i < run.conditionals.size(); ++i) {
         const Location& opened = run.conditionals[i].opened;
         errorText += opened.file() + " : " + std::to_string(opened.line) + " : #endif not found\n";
+        Warn("no #endif closes the condition of line " + std::to_string(opened.line), opened);
     }
     return CheckErrorResult() && isWhole;
 }

@@ -5,6 +5,7 @@
 #include "Preparation/Macro.h"
 #include "Preparation/MacroTokenReader.h"
 #include "Preparation/MacroTokens.h"
+#include "Preparation/PreparationNotes.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstddef>
@@ -45,17 +46,23 @@ class Checker
 {
 public:
     // Runs the directives and macros of `text`, whose include files are looked for beside `filePath` and in
-    // the presets' paths. `result`:          the prepared text; empty if the run failed. A final line end may
-    // be missing. `errorText`:       gets appended to it a line for each message, also for those that don't
-    // make the run fail. `undefinesTokens`: if not null, gets the names that the presets keep from being
-    // defined, with the text that
-    //                    they would have stood for.
+    // the presets' paths.
+    // `result`:          the prepared text; empty if the run failed. A final line end may be missing.
+    // `errorText`:       gets appended to it a line for each message, also for those that don't make the run
+    //                    fail.
+    // `undefinesTokens`: if not null, gets the names that the presets keep from being defined, with the text
+    //                    that they would have stood for.
     // `sourceLines`:     if not null, gets for each line of `result` the line of `text` where it begins,
-    // from 1. Returns: true if there was nothing to report but headers that are missing or nested too deeply.
+    //                    from 1.
+    // `notes`:           if not null, gets the messages with their places. What makes the run fail is an
+    // error,
+    //                    save for "#warning" and what merely isn't portable.
+    // Returns: true if there was nothing to report but headers that are missing or nested too deeply.
     static bool PreprocessFile(const std::string& filePath, const std::string& text, Uve::U8CString& result,
                                Command command, const DefaultPresetValues& presets, Uve::U8CString& errorText,
                                const std::shared_ptr<UndefinesTokens>& undefinesTokens,
-                               std::vector<std::uint32_t>* sourceLines = nullptr);
+                               std::vector<std::uint32_t>* sourceLines = nullptr,
+                               CPreparationNotes* notes = nullptr);
 
     virtual ~Checker();
 
@@ -70,7 +77,8 @@ private:
         std::size_t size = 0; // bytes of the file
     };
 
-    Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values);
+    Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values,
+            CPreparationNotes& notes);
 
     // The steps, in their order. False ends them.
     bool LoadSourceFile();
@@ -82,6 +90,8 @@ private:
     // A line of errorText for each record. Returns: true if there is none.
     bool CheckErrorResult();
     void Report(internal::enErrorType type, const internal::Location& location, std::string message);
+    void Warn(const std::string& text, const internal::Location& location);
+    std::string FileOfNote(const internal::Location& location) const;
 
     // Headers. A name is a key of fileData; an empty one says that there is no such file.
     std::string FindHeader(const std::string& sourceFile, const std::string& header, bool isSystem);
@@ -109,8 +119,7 @@ private:
     bool RunMessage(const internal::Token& directive);
     bool RunDefine(SRun& run, const internal::Token* hash);
     bool RunInclude(SRun& run, const internal::Token& directive);
-    bool EnterHeader(SRun& run, const internal::Location& directive, const std::string& header,
-                     bool isSystem);
+    bool EnterHeader(SRun& run, const internal::Location& directive, const std::string& name);
     bool EvaluateCondition(SRun& run, const internal::Token& directive, bool& holds);
 
     std::string filePath;
@@ -122,6 +131,7 @@ private:
     std::shared_ptr<internal::TokenList> output;
     internal::ErrorList errors;
     std::string errorText;
+    CPreparationNotes& m_Notes;
     std::size_t m_LoadedBytes = 0;
 
     // The main source is read piece by piece, once for its messages and include lines, then as the run needs

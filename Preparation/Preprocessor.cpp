@@ -60,6 +60,12 @@ bool IsBlank(char character)
     return character == ' ' || (character >= '\t' && character <= '\r');
 }
 
+// The line that a line of a rewritten text came from.
+std::uint32_t SourceLine(std::uint32_t line, const std::vector<std::uint32_t>& rewrittenLines)
+{
+    return line >= 1 && line <= rewrittenLines.size() ? rewrittenLines[line - 1] : line;
+}
+
 // Messages begin with "path : line : ". Those of the source at `path` name the lines of a text that was made
 // from it; they get the lines that these came from.
 std::string WithSourceLines(std::string_view messages, std::string_view path,
@@ -217,8 +223,10 @@ void Preprocessor::Init(const std::shared_ptr<IUVDBDatabaseInfo>& info)
 }
 
 bool Preprocessor::Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve::U8CString& result,
-                       Uve::U8CString& errorText, std::vector<std::uint32_t>* sourceLines)
+                       Uve::U8CString& errorText, std::vector<std::uint32_t>* sourceLines,
+                       std::vector<SPreparationNote>* notes)
 {
+    CPreparationNotes gathered;
     std::vector<std::uint32_t> rewrittenLines;
     try {
         if (isEmbeddedSql) {
@@ -231,12 +239,21 @@ bool Preprocessor::Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve:
         result = Uve::U8CString();
         if (sourceLines != nullptr)
             sourceLines->clear();
+        gathered.AddError(error.what());
+        if (notes != nullptr)
+            *notes = gathered.Take();
         return false;
     }
 
     Uve::U8CString messages;
     const bool isDone = MacroPreprocessorChecker::Checker::PreprocessFile(
-        filePath, text, result, {function}, presets, messages, undefinesTokens, sourceLines);
+        filePath, text, result, {function}, presets, messages, undefinesTokens, sourceLines, &gathered);
+    if (notes != nullptr) {
+        *notes = gathered.Take();
+        for (SPreparationNote& note : *notes)
+            if (note.file.empty())
+                note.line = SourceLine(note.line, rewrittenLines);
+    }
     if (rewrittenLines.empty()) {
         errorText += messages;
         return isDone;
@@ -244,8 +261,7 @@ bool Preprocessor::Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve:
     errorText += Uve::U8CString(WithSourceLines(messages, filePath, rewrittenLines));
     if (sourceLines != nullptr)
         for (std::uint32_t& line : *sourceLines)
-            if (line >= 1 && line <= rewrittenLines.size())
-                line = rewrittenLines[line - 1];
+            line = SourceLine(line, rewrittenLines);
     return isDone;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Preparation/MacroPreprocessorChecker.h"
+#include "Preparation/PreparationNotes.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstdint>
@@ -20,14 +21,15 @@ public:
     // Reads the options, once for all runs to come; a later change of them isn't seen. A second call begins
     // afresh, but for the undefines tokens. Does nothing if `info` is empty. Shares `info`.
     //
-    //   PREPROCESSOR                                 0 turns the preparation on
-    //   PREPROCESSOR_FUNCTION                        the command, see MacroPreprocessorChecker::Command
-    //   API_SOURCE_DB                                "ESQLC", in any case of letters: the source has embedded
-    //   SQL DSN                                          the first include path PREPROCESSOR_DEFINITIONS
-    //   macros, with ";" between them PREPROCESSOR_UNDEFINES                       names not to be defined,
-    //   or a file of them; ";" between them PREPROCESSOR_ADDITIONAL_INCLUDE_DIRECTORIES  more include paths,
-    //   with ";" between them PREPROCESSOR_EXPANSION_LIMIT                 what macros may make, in bytes,
-    //   instead of 64 MB
+    //   PREPROCESSOR                  0 turns the preparation on
+    //   PREPROCESSOR_FUNCTION         the command, see MacroPreprocessorChecker::Command
+    //   API_SOURCE_DB                 "ESQLC", in any case of letters: the source has embedded SQL
+    //   DSN                           the first include path
+    //   PREPROCESSOR_DEFINITIONS      macros, with ";" between them
+    //   PREPROCESSOR_UNDEFINES        names not to be defined, or a file of them; ";" between them
+    //   PREPROCESSOR_ADDITIONAL_INCLUDE_DIRECTORIES
+    //                                 more include paths, with ";" between them
+    //   PREPROCESSOR_EXPANSION_LIMIT  what macros may make, in bytes, instead of 64 MB
     void Init(const std::shared_ptr<IUVDBDatabaseInfo>& info);
 
     bool IsEnabled() const { return enabled; }
@@ -37,9 +39,11 @@ public:
     // `errorText`:   gets a line appended for each message, whether or not the run fails. Lines of the source
     //                have the numbers that they have there.
     // `sourceLines`: if not null, gets for each line of `result` the line of `text` where it begins, from 1.
+    // `notes`:       if not null, gets the messages with their places in the source.
     // Returns: false if the run failed. Nothing is thrown.
     bool Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve::U8CString& result,
-             Uve::U8CString& errorText, std::vector<std::uint32_t>* sourceLines = nullptr);
+             Uve::U8CString& errorText, std::vector<std::uint32_t>* sourceLines = nullptr,
+             std::vector<SPreparationNote>* notes = nullptr);
 
     // The names that PREPROCESSOR_UNDEFINES kept from being defined, with what they would have stood for. The
     // map is the same for all runs, and grows.

@@ -13,6 +13,7 @@ protected:
         SetDatabase(kind);
         SetOption("PREPARE_ONLY", "1");
         SetOption("REPORT_PREPARED_LINES", "1");
+        SetOption("REPORT_PREPARATION_NOTES", "1");
     }
 
     int Prepare(const char* text)
@@ -21,6 +22,8 @@ protected:
         EXPECT_EQ(m_Parser.Init(""), UVDB_OK);
         return Parse(text);
     }
+
+    std::string Notes() { return Option<Uve::U8CString>("PREPARATION_NOTES"); }
 };
 
 struct SPassCase
@@ -129,11 +132,14 @@ TEST_F(ScriptFormatters, CharacterThatCIsNotWrittenInIsAnError)
     EXPECT_TRUE(LastDescription().starts_with("2 ")) << LastDescription();
     EXPECT_NE(LastDescription().find("character code=195"), std::string::npos) << LastDescription();
     EXPECT_EQ(Tree(), "");
+    EXPECT_EQ(Notes(), ""); // the error record says it
 
     // any other failure leaves the source to the parser
     EXPECT_EQ(Parse("#error no\nint a;\n"), UVDB_OK);
     EXPECT_EQ(Tree(), "#error no\nint a;\n");
     EXPECT_EQ(Option<Uve::U8CString>("PREPARED_BY"), "");
+    EXPECT_EQ(Notes(), "error\t1\t\t#error no\n"
+                       "error\t0\t\tthe macro processor failed: the whole text goes on unprepared\n");
 }
 
 TEST_F(ScriptFormatters, UndefinedNamesAreKeptForTheHost)

@@ -163,6 +163,47 @@ TEST(MacroDirectives, AnOpenConditionalIsToldAndTheRunGoesOn)
     EXPECT_EQ(run.errors, "main.c : 2 : #endif not found\nmain.c : 4 : #endif not found\n");
 }
 
+// The main source's file has no name in a note.
+TEST(MacroDirectives, MessagesBecomeNotes)
+{
+    constexpr std::pair<const char*, const char*> cases[] = {
+        {"a\n#error it's 1 a\n", "E :2 #error it's 1 a\n"},
+        {"#if 0\n#error no\n#endif\n#warning one\n#warning two\n", "W :4 #warning one\nW :5 #warning two\n"},
+        {"a\n#endif\n", "E :2 #endif without #if\n"},
+        {"a\n#if 1\n#ifdef X\n", "W :2 no #endif closes the condition of line 2\n"
+                                 "W :3 no #endif closes the condition of line 3\n"},
+        {"#define f(a) a\n\nf(1,\n2)\n",
+         "E :3 failed to expand 'f', Wrong number of parameters for macro 'f'.\n"},
+        {"#include \"no such.h\"\n\n#include <no such.h>\n#include \"no such.h\"\n",
+         "W :1 header not found: \"no such.h\" (2 times)\nW :3 header not found: <no such.h>\n"},
+        {"#line 40 \"y.y\"\n#error a\n", "E y.y:40 #error a\n"},
+        {"a \\ \nb", "W :1 Combination 'backslash space newline' is not portable.\n"},
+        {"a\n", ""},
+    };
+    for (const auto& [source, notes] : cases) {
+        SCOPED_TRACE(source);
+        EXPECT_EQ(RunMacros(2, source).notes, notes);
+    }
+    DefaultPresetValues presets;
+    presets.defines = {"3=4"};
+    EXPECT_EQ(RunMacros(2, "a", presets).notes, "E :0 bad macro syntax. macroname=3 value=4\n");
+}
+
+// A backslash, a comment or a string may take a line end into the logical line; the next line has its own
+// number.
+TEST(MacroDirectives, ContinuedLinesCount)
+{
+    for (const char* const continued :
+         {"a \\\n b\n\n", "#define A \\\n b \\\n c\n", "// a \\\n b \\\n c\n", "/* a \\\n b \n */\n",
+          "\"a\\\nb\\\nc\"\n", "#define A /* a\n b\n */ c\n", "#define A /* a \\\n b\n */ c\n",
+          "R\"(a\nb\n)\"\n"}) {
+        SCOPED_TRACE(continued);
+        EXPECT_TRUE(RunMacros(2, std::string(continued) + "<__LINE__>").text.ends_with("<4>"));
+        EXPECT_EQ(RunMacros(2, std::string(continued) + "#error x\n").errors, "main.c : 4 : #error: x\n");
+        EXPECT_EQ(RunMacros(2, std::string(continued) + "\nx").sourceLines.back(), 5u);
+    }
+}
+
 // ---- Presets ----
 
 TEST(MacroDirectives, PresetsDefineMacros)
@@ -236,6 +277,8 @@ TEST_F(MacroIncludes, WhatCannotBeReadIsMissing)
     EXPECT_EQ(run.errors,
               "Preprocessor> Header not found : none.h\nPreprocessor> Header not found : folder\n"
               "Preprocessor> Header not found : pipe\nPreprocessor> Header not found : /dev/zero\n");
+    EXPECT_EQ(run.notes, "W :1 header not found: \"none.h\"\nW :2 header not found: \"folder\"\n"
+                         "W :3 header not found: \"pipe\"\nW :4 header not found: \"/dev/zero\"\n");
     // what was missing once stays so
     Write("none.h", "#define A");
     EXPECT_EQ(RunMacros(1, "#include \"none.h\"\n", {}, Path("m.c")).errors,
@@ -261,6 +304,7 @@ TEST_F(MacroIncludes, ExplicitOnesComeFirst)
     const SMacroRun run = RunMacros(2, "E F", presets);
     EXPECT_TRUE(run.isDone);
     EXPECT_EQ(run.text, "1 1"); // the last one pushed is run first
+    EXPECT_EQ(run.notes, "W :0 explicit include not found: " + Path("g.h") + '\n');
     EXPECT_EQ(run.errors,
               "Preprocessor> Can not open include file '" + Path("g.h") + "' that is explicitly included.\n");
 }
@@ -284,6 +328,7 @@ TEST_F(MacroIncludes, FourHundredMayBeOpen)
     EXPECT_TRUE(run.isDone);
     EXPECT_EQ(run.text, "#include \"n1.h\"\n\nyes");
     EXPECT_EQ(run.errors, "#include nested too deeply\n");
+    EXPECT_EQ(run.notes, "W " + Path("n400.h") + ":2 #include nested too deeply: \"n401.h\"\n");
 }
 
 TEST_F(MacroIncludes, FilesThatIncludeThemselvesComeToAnEnd)

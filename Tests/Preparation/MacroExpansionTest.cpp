@@ -111,6 +111,22 @@ TEST(MacroExpansion, FailuresNameFileLineAndMacro)
 
 // ---- Limits ----
 
+// Names that stand for names give nothing and hold nothing: only the steps tell that they take time.
+TEST(MacroExpansion, StepsAreLimited)
+{
+    std::string chain = "#define A0 x\n";
+    for (int i = 1; i <= 500; ++i)
+        chain += "#define A" + std::to_string(i) + " A" + std::to_string(i - 1) + "\n";
+    MacroPreprocessorChecker::DefaultPresetValues presets;
+    presets.expansionLimit = 10000;
+    EXPECT_TRUE(RunMacros(2, chain + Repeated("A500 ", 10), presets).isDone);
+    const SMacroRun run = RunMacros(2, chain + Repeated("A500 ", 30), presets);
+    EXPECT_FALSE(run.isDone);
+    EXPECT_EQ(run.errors,
+              "main.c : 502 : syntax error: failed to expand 'A500', the expansion goes beyond the "
+              "limit of 10000 bytes.\n");
+}
+
 std::string Doubling(int levels, const std::string& last, const std::string& between)
 {
     std::string source = "#define A0 " + last + "\n";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Preparation/MacroPreprocessorChecker.h"
+#include "Tests/Preparation/ToldNotes.h"
 #include "Tests/Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,7 @@ struct SMacroRun
     std::string errors;
     std::vector<std::uint32_t> sourceLines;
     MacroPreprocessorChecker::UndefinesTokens undefines;
+    std::string notes; // a line each: "E" or "W", file:line, text
 };
 
 inline SMacroRun RunMacros(int command, const std::string& source,
@@ -26,13 +28,15 @@ inline SMacroRun RunMacros(int command, const std::string& source,
 {
     SMacroRun run;
     Uve::U8CString result;
+    CPreparationNotes notes;
     Uve::U8CString errors;
     const auto undefines = std::make_shared<MacroPreprocessorChecker::UndefinesTokens>();
-    run.isDone = MacroPreprocessorChecker::Checker::PreprocessFile(path, source, result, {command}, presets,
-                                                                   errors, undefines, &run.sourceLines);
+    run.isDone = MacroPreprocessorChecker::Checker::PreprocessFile(
+        path, source, result, {command}, presets, errors, undefines, &run.sourceLines, &notes);
     run.text = result;
     run.errors = errors;
     run.undefines = *undefines;
+    run.notes = Told(notes.Take());
     return run;
 }
 
