@@ -83,6 +83,7 @@ void ScriptFormatter::Format4GL_PROGRESS()
 {
     SProgressOptions options;
     options.filePath = ObjectOption("FilePath", U8CString());
+    options.includeRoot = Option("INCLUDE_ROOT", U8CString());
     Take(FormatProgress(m_Parser.m_Query, options));
 }
 

@@ -2,6 +2,7 @@
 
 #include "Preparation/Formatters/IncludeFile.h"
 #include "Preparation/Formatters/ProgressReferences.h"
+#include "Preparation/PreparationNotes.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/LogSystem.h"
 
@@ -11,7 +12,9 @@
 #include <cstdint>
 #include <deque>
 #include <iterator>
+#include <map>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -20,6 +23,8 @@ namespace {
 constexpr int kRoundLimit = 1000;
 // How many pieces the source may fall into beyond those it had: each costs memory, however short its text.
 constexpr std::size_t kPieceLimit = std::size_t{1} << 22;
+// How many files may be opened by others, each in as many places as it is named.
+constexpr std::size_t kOpenedLimit = std::size_t{1} << 24;
 // Bytes that arguments may be looked for in, over the whole run: an argument goes through the file's text
 // once.
 constexpr std::size_t kArgumentWorkLimit = std::size_t{1} << 30;
@@ -119,6 +124,21 @@ struct SPiece
     bool isFromSource = false; // its line feeds end lines of the source
     bool isReference = false;
     enEnd end = enEnd::same;
+    std::uint32_t opened = 0; // where the piece came from, an index of m_Opened
+};
+
+// A file that is being taken in by another one. The first is the source, its own parent.
+struct SOpened
+{
+    std::uint32_t parent = 0;
+    std::uint32_t file = 0; // index of m_Files
+};
+
+// The file that a name stands for.
+struct SNamedFile
+{
+    Uve::U8CString path;
+    std::uint32_t file = 0;
 };
 
 // Takes the first `length` bytes off a piece, and returns them. The ends are left to the caller.
@@ -138,7 +158,12 @@ struct SRound
     std::string_view name;
     std::vector<std::size_t> matches;    // their pieces
     std::vector<std::string_view> texts; // one for each, or one for all
+    std::uint32_t file = 0;
+    // From where a match stands to the file opened there; kAlreadyOpen if it is open there.
+    std::unordered_map<std::uint32_t, std::uint32_t> opened;
 };
+
+constexpr std::uint32_t kAlreadyOpen = 0;
 
 class CProgressPass
 {
@@ -149,6 +174,11 @@ public:
         Split(source, 1, true, m_Pieces);
         m_PieceLimit = m_Pieces.size() + kPieceLimit;
         m_Length = source.size();
+        if (!options.filePath.empty())
+            FileOf(options.filePath);
+        else
+            m_Files.emplace_back();
+        m_Opened.emplace_back();
     }
 
     SPreparedText Run();
@@ -156,18 +186,26 @@ public:
 private:
     static void Split(std::string_view text, std::uint32_t line, bool isFromSource,
                       std::vector<SPiece>& pieces);
-    bool RunRound();
-    std::string FileText(std::string_view name);
+    bool HasReference();
+    void RunRound();
+    std::uint32_t FileOf(const Uve::U8CString& path);
+    const SNamedFile& FileNamed(std::string_view name);
+    bool IsOpen(std::uint32_t opened, std::uint32_t file) const;
+    std::uint32_t Open(SRound& round, std::uint32_t parent);
+    void Warn(std::string text, const SPiece& reference);
+    std::string FileText(std::string_view name, const SPiece& reference);
     void FillArguments(std::string_view arguments, std::string& text);
     void FormatMatches(SRound& round, std::string_view format);
-    bool ReplaceInPlace(const SRound& round, const SPiece& replacement);
-    bool ReplaceAll(const SRound& round, std::vector<SPiece>& replacement);
+    bool ReplaceInPlace(SRound& round, const SPiece& replacement);
+    bool ReplaceAll(SRound& round, std::vector<SPiece>& replacement);
     void Rejoin();
     std::string_view Keep(std::string text);
     void CountFormat(std::size_t times, std::string_view format);
-    SPreparedText Joined() const;
+    SPreparedText Joined();
 
     const SProgressOptions& m_Options;
+    CIncludeRoot m_Root{m_Options.includeRoot};
+    CPreparationNotes m_Notes;
     std::size_t m_LengthLimit;
     std::size_t m_PieceLimit = 0;
     std::size_t m_Length = 0;
@@ -176,13 +214,17 @@ private:
     double m_FormatWork = 0;
     std::size_t m_First = 0; // no reference stands before this piece
     std::vector<SPiece> m_Pieces;
-    std::deque<std::string> m_Texts; // what the pieces borrow beside the source
+    std::deque<std::string> m_Texts;  // what the pieces borrow beside the source
+    std::vector<std::string> m_Files; // their real paths; the source comes first
+    std::map<std::string, std::uint32_t> m_FileOfRealPath;
+    std::map<std::string, SNamedFile, std::less<>> m_FileOfName;
+    std::vector<SOpened> m_Opened;
 };
 
 void CProgressPass::Split(std::string_view text, std::uint32_t line, bool isFromSource,
                           std::vector<SPiece>& pieces)
 {
-    SPiece rest{text, line, isFromSource, false};
+    SPiece rest{text, line, isFromSource};
     while (const auto reference = FindProgressReference(rest.text, 0)) {
         const std::size_t length = reference->end - reference->begin;
         if (reference->begin != 0) {
@@ -218,19 +260,82 @@ void CProgressPass::CountFormat(std::size_t times, std::string_view format)
         throw STooMuch();
 }
 
-std::string CProgressPass::FileText(std::string_view name)
+std::uint32_t CProgressPass::FileOf(const Uve::U8CString& path)
 {
-    Uve::U8CString path(name);
-    std::ranges::replace(path, '/', '\\');
-    path.GetBuffer();
-    if (!Uve::File::Exists(path)) {
+    std::string real = RealIncludePath(path);
+    const auto [known, isNew] =
+        m_FileOfRealPath.try_emplace(std::move(real), static_cast<std::uint32_t>(m_Files.size()));
+    if (isNew)
+        m_Files.push_back(known->first);
+    return known->second;
+}
+
+const SNamedFile& CProgressPass::FileNamed(std::string_view name)
+{
+    const auto known = m_FileOfName.find(name);
+    if (known != m_FileOfName.end())
+        return known->second;
+    SNamedFile file;
+    file.path = Uve::U8CString(name);
+    std::ranges::replace(file.path, '/', '\\');
+    file.path.GetBuffer();
+    if (!Uve::File::Exists(file.path)) {
         const std::size_t directory = m_Options.filePath.find_last_of("/\\") + 1; // npos + 1 is 0
-        path = m_Options.filePath.substr(0, directory);
-        path += std::string(name.substr(name.find_last_of("/\\") + 1));
+        file.path = m_Options.filePath.substr(0, directory);
+        file.path += std::string(name.substr(name.find_last_of("/\\") + 1));
     }
+    file.file = FileOf(file.path);
+    return m_FileOfName.emplace(name, std::move(file)).first->second;
+}
+
+bool CProgressPass::IsOpen(std::uint32_t opened, std::uint32_t file) const
+{
+    for (; m_Opened[opened].file != file; opened = m_Opened[opened].parent)
+        if (opened == 0)
+            return false;
+    return true;
+}
+
+// Opens the round's file where `parent` is open, once for all matches there.
+// Returns: an index of m_Opened, kAlreadyOpen if it is open there. Throws: STooMuch.
+std::uint32_t CProgressPass::Open(SRound& round, std::uint32_t parent)
+{
+    const auto [known, isNew] = round.opened.try_emplace(parent, kAlreadyOpen);
+    if (isNew && !IsOpen(parent, round.file)) {
+        if (m_Opened.size() > kOpenedLimit)
+            throw STooMuch();
+        known->second = static_cast<std::uint32_t>(m_Opened.size());
+        m_Opened.push_back({parent, round.file});
+    }
+    return known->second;
+}
+
+void CProgressPass::Warn(std::string text, const SPiece& reference)
+{
+    if (reference.opened != 0)
+        text += ", which " + m_Files[m_Opened[reference.opened].file] + " names";
+    m_Notes.AddWarning(text, reference.line);
+}
+
+std::string CProgressPass::FileText(std::string_view name, const SPiece& reference)
+{
     std::string text;
-    if (ReadIncludeFile(path, m_LengthLimit, text) == enIncludeFile::tooLong)
+    switch (ReadIncludeFile(FileNamed(name).path, m_LengthLimit, text, m_Root)) {
+    case enIncludeFile::read:
+        break;
+    case enIncludeFile::missing:
+        Warn("include file not found: " + std::string(name), reference);
+        break;
+    case enIncludeFile::outside:
+        Warn("include file not found below the folder of INCLUDE_ROOT: " + std::string(name), reference);
+        break;
+    case enIncludeFile::unreadable:
+    case enIncludeFile::binary:
+        Warn("include file that is no text: " + std::string(name), reference);
+        break;
+    case enIncludeFile::tooLong:
         throw STooMuch();
+    }
     return text;
 }
 
@@ -245,6 +350,8 @@ void CProgressPass::FillArguments(std::string_view arguments, std::string& text)
         if (m_ArgumentWork > kArgumentWorkLimit) {
             CLogWrapper::WriteTrace(
                 "\nProgress include files: FAILED: too many arguments, the rest is left out");
+            m_Notes.AddError("too many arguments of include files, the rest is left out",
+                             m_Pieces[m_First].line);
             break;
         }
         const bool isNamed = !argument->name.empty();
@@ -291,6 +398,9 @@ void CProgressPass::FormatMatches(SRound& round, std::string_view format)
         const std::string_view context = needsContext ? std::string_view(whole).substr(matchEnd) : own;
         boost::cmatch match;
         boost::regex_search(context.data(), context.data() + context.size(), match, references);
+        // a reference that stays may have come first
+        if (match[0].first != context.data() + (needsContext ? at - matchEnd : 0))
+            boost::regex_search(own.data(), own.data() + own.size(), match, references);
         std::string text;
         match.format(CBoundedOutput(text, room), format, boost::format_perl);
         room -= text.size();
@@ -303,7 +413,7 @@ void CProgressPass::FormatMatches(SRound& round, std::string_view format)
 
 // Each match becomes one piece, or none: those around it stay where they are.
 // Returns: true if a reference may have come together.
-bool CProgressPass::ReplaceInPlace(const SRound& round, const SPiece& replacement)
+bool CProgressPass::ReplaceInPlace(SRound& round, const SPiece& replacement)
 {
     bool mayJoin = false;
     std::size_t looked = 0; // pieces up to here decide nothing any more
@@ -318,8 +428,10 @@ bool CProgressPass::ReplaceInPlace(const SRound& round, const SPiece& replacemen
         mayJoin = mayJoin || end == enEnd::open;
         SPiece& piece = m_Pieces[matched];
         const std::uint32_t line = piece.line;
+        const std::uint32_t opened = Open(round, piece.opened);
         piece = replacement;
         piece.line = line;
+        piece.opened = opened;
         if (piece.end != enEnd::same)
             end = piece.end;
         mayJoin = mayJoin || end == enEnd::open;
@@ -329,7 +441,7 @@ bool CProgressPass::ReplaceInPlace(const SRound& round, const SPiece& replacemen
 }
 
 // Returns: true if a reference may have come together. Throws: STooMuch, with the text as it was.
-bool CProgressPass::ReplaceAll(const SRound& round, std::vector<SPiece>& replacement)
+bool CProgressPass::ReplaceAll(SRound& round, std::vector<SPiece>& replacement)
 {
     std::vector<SPiece> pieces;
     bool mayJoin = false;
@@ -352,8 +464,10 @@ bool CProgressPass::ReplaceAll(const SRound& round, std::vector<SPiece>& replace
         }
         // an open brace before the reference, or one in what replaces it, may have found its partner
         mayJoin = mayJoin || end == enEnd::open;
+        const std::uint32_t opened = Open(round, m_Pieces[index].opened);
         for (SPiece part : replacement) {
             part.line = m_Pieces[index].line;
+            part.opened = opened;
             add(part);
         }
         mayJoin = mayJoin || end == enEnd::open;
@@ -366,34 +480,48 @@ bool CProgressPass::ReplaceAll(const SRound& round, std::vector<SPiece>& replace
     return mayJoin;
 }
 
-// Takes the file of the first reference, the piece at m_First, in.
-// Returns: false if the text is as it was. Throws: STooMuch, with the text as it was.
-bool CProgressPass::RunRound()
+// Goes on to the first reference whose file isn't open; m_First is its piece then. Those before it stay as
+// they are: what comes before the first reference does so anyway.
+bool CProgressPass::HasReference()
+{
+    for (; m_First != m_Pieces.size(); ++m_First) {
+        SPiece& piece = m_Pieces[m_First];
+        if (!piece.isReference)
+            continue;
+        const auto reference = FindProgressReference(piece.text, 0);
+        if (!IsOpen(piece.opened, FileNamed(reference->name).file))
+            return true;
+        piece.isReference = false;
+        Warn("include file that is open already isn't taken in again: " + std::string(reference->name),
+             piece);
+    }
+    return false;
+}
+
+// Takes the file of the first reference, the piece at m_First, in. Throws: STooMuch, with the text as it was.
+void CProgressPass::RunRound()
 {
     const auto reference = FindProgressReference(m_Pieces[m_First].text, 0);
-    std::string format = FileText(reference->name);
+    std::string format = FileText(reference->name, m_Pieces[m_First]);
     FillArguments(reference->arguments, format);
 
-    SRound round{reference->name, {}, {}};
+    SRound round{reference->name, {}, {}, FileNamed(reference->name).file, {}};
     for (std::size_t i = m_First; i != m_Pieces.size(); ++i)
-        if (m_Pieces[i].isReference && IsProgressReferenceTo(m_Pieces[i].text, round.name))
+        if (m_Pieces[i].isReference && IsProgressReferenceTo(m_Pieces[i].text, round.name) &&
+            Open(round, m_Pieces[i].opened) != kAlreadyOpen)
             round.matches.push_back(i);
     FormatMatches(round, format);
 
     // the length first, so that a text that is too long never comes to be
     std::size_t length = m_Length;
-    bool hasChanged = false;
     for (std::size_t i = 0; i != round.matches.size(); ++i) {
         const std::string_view before = m_Pieces[round.matches[i]].text;
         const std::string_view after = round.texts[round.texts.size() > 1 ? i : 0];
-        hasChanged = hasChanged || before != after;
         length += after.size();
         length -= before.size();
     }
     if (length > m_LengthLimit)
         throw STooMuch();
-    if (!hasChanged)
-        return false;
 
     std::vector<SPiece> replacement; // of the match at hand, or of all
     Split(round.texts.front(), 0, false, replacement);
@@ -405,7 +533,6 @@ bool CProgressPass::RunRound()
     m_Length = length;
     if (mayJoin)
         Rejoin();
-    return true;
 }
 
 // Makes one piece of each reference that has come to lie across several.
@@ -425,13 +552,14 @@ void CProgressPass::Rejoin()
             whole.append(piece.text.substr(0, brace + 1));
             if (FindProgressReference(whole, 0)) {
                 const SPiece before = CutFront(pieces[open], openAt);
-                const std::uint32_t line = pieces[open].line;
+                const SPiece first = pieces[open];
                 pieces.resize(open);
                 if (!before.text.empty()) {
                     pieces.push_back(before);
                     pieces.back().end = EndOf(before.text);
                 }
-                pieces.push_back({Keep(std::move(whole)), line, false, true, enEnd::closed});
+                pieces.push_back(
+                    {Keep(std::move(whole)), first.line, false, true, enEnd::closed, first.opened});
                 CutFront(piece, brace + 1);
                 piece.end = EndOf(piece.text);
             }
@@ -450,9 +578,10 @@ void CProgressPass::Rejoin()
     m_First = 0;
 }
 
-SPreparedText CProgressPass::Joined() const
+SPreparedText CProgressPass::Joined()
 {
     SPreparedText prepared;
+    prepared.notes = m_Notes.Take();
     std::string text;
     text.reserve(m_Length);
     bool isLineBegin = true;
@@ -476,20 +605,21 @@ SPreparedText CProgressPass::Joined() const
 SPreparedText CProgressPass::Run()
 {
     for (int round = 0;; ++round) {
-        // what comes before the first reference stays as it is
-        while (m_First != m_Pieces.size() && !m_Pieces[m_First].isReference)
-            ++m_First;
-        if (m_First == m_Pieces.size())
+        if (!HasReference())
             break;
         if (round == kRoundLimit) {
+            m_Notes.AddError("include files: references are left after " + std::to_string(kRoundLimit) +
+                                 " rounds",
+                             m_Pieces[m_First].line);
             CLogWrapper::WriteTraceF("\nProgress include files: FAILED: references are left after %d rounds",
                                      kRoundLimit);
             break;
         }
         try {
-            if (!RunRound())
-                break;
+            RunRound();
         } catch (const STooMuch&) {
+            m_Notes.AddError("include files: the text becomes too long, or takes too long",
+                             m_Pieces[m_First].line);
             CLogWrapper::WriteTrace(
                 "\nProgress include files: FAILED: the text becomes too long, or takes too long");
             break;

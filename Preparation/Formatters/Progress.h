@@ -13,13 +13,16 @@ struct SProgressOptions
     Uve::U8CString filePath;
     // How many bytes longer than the source the text may become.
     std::size_t expansionLimit = std::size_t{64} << 20;
+    Uve::U8CString includeRoot{}; // see CIncludeRoot
 };
 
 // In rounds: each takes the first reference, fills its arguments into the file's text ("&name=value" wherever
 // "{&name}" stands, a plain value into the first "{&...}" that is left), and puts that in the place of every
 // reference to the same file. A file that is missing or can't be read has no text. Values and files are
 // format strings of the regular expression library: "$" and backslash sequences have their meaning there.
-// Ends when no reference is left or a round changes nothing; with a trace line after 1,000 rounds, and before
-// the round that would exceed the limit, leave some million pieces of text, or spend minutes on format
-// strings.
+// A reference to a file that is open where it stands, the source among them, stays in the text.
+// Ends when no other reference is left; with a trace line after 1,000 rounds, and before the round that would
+// exceed the limit, leave some million pieces of text, or spend minutes on format strings.
+// Notes tell of files that aren't there, of references that stay, and of the bounds; their lines are those of
+// the source, where an included file names the file those of the reference that brought it in.
 SPreparedText FormatProgress(std::string_view source, const SProgressOptions& options);
