@@ -91,9 +91,10 @@ void ScriptFormatter::FormatASP()
 {
     SAspOptions options;
     options.filePath = ObjectOption("FilePath", U8CString());
+    options.includeRoot = Option("INCLUDE_ROOT", U8CString());
     SAspPage page = FormatAsp(m_Parser.m_Query, options);
     for (const U8CString& message : page.messages)
-        CLogWrapper::WriteTraceF("%s", message.c_str());
+        CLogWrapper::WriteLogF("%s", message.c_str());
     for (const SAspBlock& block : page.blocks)
         CUVDBOptionWrapper::SetParam(m_Parser.m_ConvertingObject, block.marker, block.text);
     Take(std::move(page.prepared));

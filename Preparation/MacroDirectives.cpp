@@ -193,7 +193,7 @@ bool Checker::EnterHeader(SRun& run, const Location& directive, const std::strin
         Warn("#include nested too deeply: " + name, directive);
     } else if (path.empty()) {
         errorText += "Preprocessor> Header not found : " + header + '\n';
-        Warn("header not found: " + name, directive);
+        WarnOfHeader(run.current.file, name, directive);
     }
     // one that brings nothing in still writes a line, and may be told to do so again and again by a header
     if (isEntered)

@@ -139,7 +139,8 @@ bool OpenHeader(std::ifstream& stream, const std::string& simplePath)
         return false;
     // a directory opens, a pipe waits and a device never ends
     std::error_code error;
-    if (std::filesystem::is_regular_file(simplePath, error) && !error) {
+    if (simplePath.find('\0') == simplePath.npos && std::filesystem::is_regular_file(simplePath, error) &&
+        !error) {
         stream.open(simplePath, std::ios::binary);
         if (stream.is_open())
             return true;

@@ -22,6 +22,12 @@ constexpr std::array<std::string_view, 8> kLabels = {
     "syntax error: ", "portability: ", "unhandled char error: ", "explicit include not found: ",
 };
 
+// A NUL byte stands in it, where a text in single bytes would end.
+bool IsBinary(std::string_view text)
+{
+    return text.find('\0') != text.npos && !text.starts_with("\xFF\xFE") && !text.starts_with("\xFE\xFF");
+}
+
 // A directive as it is written, and other messages without what their text says anyway.
 std::string NoteText(const ErorrOutput& error)
 {
@@ -151,7 +157,7 @@ bool Checker::PreprocessFile(const std::string& filePath, const std::string& tex
 Checker::Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values,
                  CPreparationNotes& notes)
     : filePath(path), sourceText(source), presets(values), rawTokens(std::make_shared<TokenList>(files)),
-      output(std::make_shared<TokenList>(files)), m_Notes(notes),
+      m_IncludeRoot(values.includeRoot), output(std::make_shared<TokenList>(files)), m_Notes(notes),
       m_Reader(*rawTokens, sourceText, filePath, errors, false), m_Writer(&m_SourceLines)
 {}
 
@@ -217,9 +223,32 @@ std::string Checker::FindHeader(const std::string& sourceFile, const std::string
     return std::string();
 }
 
+// Says why a header isn't there.
+void Checker::WarnOfHeader(const std::string& sourceFile, const std::string& name, const Location& directive)
+{
+    const std::string header = name.substr(1, name.size() - 2);
+    std::string text = "header not found: " + name;
+    for (const std::string& path :
+         HeaderPlaces(presets.includePaths, sourceFile, header, name.front() == '<')) {
+        if (!m_RefusedHeaders.contains(path))
+            continue;
+        const bool isOutside = !m_IncludeRoot.Holds(path);
+        text =
+            (isOutside ? "header not found below the folder of INCLUDE_ROOT: " : "header that is no text: ") +
+            name;
+    }
+    Warn(text, directive);
+}
+
 // The limit bounds what a reader can be made to hold: a token takes many times the memory of its text.
 bool Checker::LoadHeader(const std::string& path)
 {
+    if (m_RefusedHeaders.contains(path))
+        return false;
+    if (!m_IncludeRoot.Holds(path)) {
+        m_RefusedHeaders.insert(path);
+        return false;
+    }
     std::ifstream stream;
     if (!OpenHeader(stream, path))
         return false;
@@ -230,6 +259,10 @@ bool Checker::LoadHeader(const std::string& path)
         stream.read(block.data(), block.size());
         text.append(block.data(), static_cast<std::size_t>(stream.gcount()));
     } while (stream && m_LoadedBytes + text.size() <= presets.expansionLimit);
+    if (IsBinary(text)) {
+        m_RefusedHeaders.insert(path);
+        return false;
+    }
     m_LoadedBytes += text.size();
     header.size = text.size();
     if (m_LoadedBytes > presets.expansionLimit)

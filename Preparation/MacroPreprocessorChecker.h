@@ -2,6 +2,7 @@
 // like the source, and no text of include files gets into it; they are read for their macros only.
 #pragma once
 
+#include "Preparation/Formatters/IncludeFile.h"
 #include "Preparation/Macro.h"
 #include "Preparation/MacroTokenReader.h"
 #include "Preparation/MacroTokens.h"
@@ -35,6 +36,7 @@ struct DefaultPresetValues
     std::set<std::string> undefines;
     std::list<std::string> includePaths;
     std::list<std::string> explicitIncludes;
+    std::string includeRoot; // the folder that include files lie below; empty: anywhere
     // What one run may make out of its macros, in bytes; what include files bring in, each time they are
     // entered, may be four times as much. Beyond it the run fails with a message.
     std::size_t expansionLimit = std::size_t{64} << 20;
@@ -95,6 +97,8 @@ private:
 
     // Headers. A name is a key of fileData; an empty one says that there is no such file.
     std::string FindHeader(const std::string& sourceFile, const std::string& header, bool isSystem);
+    void WarnOfHeader(const std::string& sourceFile, const std::string& name,
+                      const internal::Location& directive);
     bool LoadHeader(const std::string& path);
     void LoadHeaders(const std::string& sourceFile, const std::set<std::string>& names,
                      std::vector<std::string>& loaded);
@@ -128,6 +132,8 @@ private:
     internal::FileNames files;
     std::shared_ptr<internal::TokenList> rawTokens;
     std::map<std::string, SHeader> fileData;
+    CIncludeRoot m_IncludeRoot;
+    std::set<std::string> m_RefusedHeaders; // outside of the root, or no text
     std::shared_ptr<internal::TokenList> output;
     internal::ErrorList errors;
     std::string errorText;

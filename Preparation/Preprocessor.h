@@ -29,6 +29,7 @@ public:
     //   PREPROCESSOR_UNDEFINES        names not to be defined, or a file of them; ";" between them
     //   PREPROCESSOR_ADDITIONAL_INCLUDE_DIRECTORIES
     //                                 more include paths, with ";" between them
+    //   INCLUDE_ROOT                  the folder that include files lie below, see CIncludeRoot
     //   PREPROCESSOR_EXPANSION_LIMIT  what macros may make, in bytes, instead of 64 MB
     void Init(const std::shared_ptr<IUVDBDatabaseInfo>& info);
 

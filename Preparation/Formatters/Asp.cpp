@@ -1,6 +1,7 @@
 #include "Preparation/Formatters/Asp.h"
 
 #include "Preparation/Formatters/IncludeFile.h"
+#include "Preparation/PreparationNotes.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
@@ -116,6 +117,9 @@ public:
         m_Page.text.append(text);
     }
 
+    // Of the source, where what comes next begins.
+    std::uint32_t Line() const { return m_From.lines[m_Line]; }
+
     SPage Finish()
     {
         Copy(m_From.text.size());
@@ -197,27 +201,29 @@ class CIncludeReader
 {
 public:
     CIncludeReader(const SAspOptions& options, std::vector<Uve::U8CString>& messages)
-        : m_Directory(Uve::Path::GetDirectory(options.filePath)), m_Room(options.expansionLimit),
-          m_Limit(options.expansionLimit), m_Messages(messages)
+        : m_Directory(Uve::Path::GetDirectory(options.filePath)), m_Root(options.includeRoot),
+          m_Room(options.expansionLimit), m_Limit(options.expansionLimit), m_Messages(messages)
     {}
 
     // The text that stands for the file; borrowed from the reader.
-    std::string_view Read(std::string_view name)
+    std::string_view Read(std::string_view name, std::uint32_t line)
     {
         const Uve::U8CString path = Uve::Path::Combine(m_Directory, Uve::U8CString(name));
         auto [file, isNew] = m_Files.try_emplace(path);
         if (isNew) {
-            file->second.state = ReadIncludeFile(path, m_Limit, file->second.text);
+            file->second.state = ReadIncludeFile(path, m_Limit, file->second.text, m_Root);
             std::erase(file->second.text, '\n');
         }
         SFile& known = file->second;
         if (known.text.size() > m_Room)
             known = {enIncludeFile::tooLong, {}};
         if (known.state != enIncludeFile::read)
-            Report(known.state, path);
+            Report(known.state, path, name, line);
         m_Room -= known.text.size();
         return known.text;
     }
+
+    std::vector<SPreparationNote> TakeNotes() { return m_Notes.Take(); }
 
 private:
     struct SFile
@@ -226,41 +232,47 @@ private:
         std::string text;
     };
 
-    void Report(enIncludeFile state, const Uve::U8CString& path)
+    void Report(enIncludeFile state, const Uve::U8CString& path, std::string_view name, std::uint32_t line)
     {
         Uve::U8CString text;
         switch (state) {
-        case enIncludeFile::missing:
-            text.Format("File %s does not exist.\n", path.c_str());
-            break;
         case enIncludeFile::tooLong:
             text.Format("File %s makes the page too long\n", path.c_str());
+            m_Notes.AddError("include file that makes the page too long: " + std::string(name), line);
+            break;
+        case enIncludeFile::unreadable:
+            text.Format("Can't open file %s\n", path.c_str());
+            m_Notes.AddWarning("include file that can't be opened: " + std::string(name), line);
             break;
         default:
-            text.Format("Can't open file %s\n", path.c_str());
+            text.Format("File %s does not exist.\n", path.c_str());
+            m_Notes.AddWarning(MissingIncludeText(state, name), line);
         }
         m_Messages.emplace_back().Format("\nError(parser): %s\n", text.c_str());
     }
 
     Uve::U8CString m_Directory;
+    CIncludeRoot m_Root;
     std::size_t m_Room; // bytes that the page may still grow
     std::size_t m_Limit;
     std::vector<Uve::U8CString>& m_Messages;
+    CPreparationNotes m_Notes;
     std::map<std::string, SFile> m_Files;
 };
 
-SPage WithIncludes(const SPage& page, const SAspOptions& options, std::vector<Uve::U8CString>& messages)
+SPage WithIncludes(const SPage& page, const SAspOptions& options, SAspPage& result)
 {
     CPageBuilder builder(page);
     CIncludeSearch search(page.text);
-    CIncludeReader reader(options, messages);
+    CIncludeReader reader(options, result.messages);
     std::size_t from = 0;
     while (const auto directive = search.Next(from)) {
         builder.Copy(directive->begin);
-        builder.Put(reader.Read(directive->file));
+        builder.Put(reader.Read(directive->file, builder.Line()));
         builder.Skip(directive->end);
         from = directive->end;
     }
+    result.prepared.notes = reader.TakeNotes();
     return builder.Finish();
 }
 
@@ -367,7 +379,7 @@ SPage WithMarkers(const SPage& page, SAspPage& result)
 SAspPage FormatAsp(std::string_view source, const SAspOptions& options)
 {
     SAspPage result;
-    SPage page = WithIncludes(PageOf(source), options, result.messages);
+    SPage page = WithIncludes(PageOf(source), options, result);
     page = WithMarkers<CDelimitedSearch>(page, result);
     page = WithMarkers<CElementSearch>(page, result);
     if (page.text.empty() || page.text.back() == '\n')

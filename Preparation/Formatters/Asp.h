@@ -17,6 +17,7 @@ struct SAspOptions
     Uve::U8CString filePath; // the page; include files are looked for in its directory
     // How many bytes longer than the page it may become by its include files.
     std::size_t expansionLimit = std::size_t{64} << 20;
+    Uve::U8CString includeRoot{}; // see CIncludeRoot
 };
 
 struct SAspBlock
@@ -34,5 +35,5 @@ struct SAspPage
 };
 
 // Include files lose their line feeds, and their own includes stay as they are. One that is missing or can't
-// be read gives a message, and the directive disappears; so does one that would exceed the limit.
+// be read gives a message and a note, and the directive disappears; so does one that would exceed the limit.
 SAspPage FormatAsp(std::string_view source, const SAspOptions& options);

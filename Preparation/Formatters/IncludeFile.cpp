@@ -84,6 +84,23 @@ enIncludeFile ReadIncludeFile(const Uve::U8CString& path, std::size_t limit, std
     return enIncludeFile::binary;
 }
 
+std::string MissingIncludeText(enIncludeFile state, std::string_view name)
+{
+    std::string text;
+    switch (state) {
+    case enIncludeFile::outside:
+        text = "include file not found below the folder of INCLUDE_ROOT: ";
+        break;
+    case enIncludeFile::unreadable:
+    case enIncludeFile::binary:
+        text = "include file that is no text: ";
+        break;
+    default:
+        text = "include file not found: ";
+    }
+    return text.append(name);
+}
+
 std::string RealIncludePath(const std::string& path)
 {
     if (HasNul(path))

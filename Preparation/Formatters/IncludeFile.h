@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 enum class enIncludeFile
 {
@@ -36,6 +37,9 @@ private:
 // was read. `limit`: bytes; a longer file isn't opened.
 enIncludeFile ReadIncludeFile(const Uve::U8CString& path, std::size_t limit, std::string& text,
                               const CIncludeRoot& root = CIncludeRoot());
+
+// The note about a file that `state` doesn't let be taken in: one that is missing or counts as that.
+std::string MissingIncludeText(enIncludeFile state, std::string_view name);
 
 // What tells two spellings of one file's path to be the same: the path without links, "." and "..".
 std::string RealIncludePath(const std::string& path);

@@ -320,22 +320,11 @@ void CProgressPass::Warn(std::string text, const SPiece& reference)
 std::string CProgressPass::FileText(std::string_view name, const SPiece& reference)
 {
     std::string text;
-    switch (ReadIncludeFile(FileNamed(name).path, m_LengthLimit, text, m_Root)) {
-    case enIncludeFile::read:
-        break;
-    case enIncludeFile::missing:
-        Warn("include file not found: " + std::string(name), reference);
-        break;
-    case enIncludeFile::outside:
-        Warn("include file not found below the folder of INCLUDE_ROOT: " + std::string(name), reference);
-        break;
-    case enIncludeFile::unreadable:
-    case enIncludeFile::binary:
-        Warn("include file that is no text: " + std::string(name), reference);
-        break;
-    case enIncludeFile::tooLong:
+    const enIncludeFile state = ReadIncludeFile(FileNamed(name).path, m_LengthLimit, text, m_Root);
+    if (state == enIncludeFile::tooLong)
         throw STooMuch();
-    }
+    if (state != enIncludeFile::read)
+        Warn(MissingIncludeText(state, name), reference);
     return text;
 }
 

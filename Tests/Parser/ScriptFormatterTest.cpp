@@ -1,6 +1,10 @@
 // From the options to the prepared text, through the parser object. What each pass makes of its texts is
 // tested with the pass.
 #include "Tests/Parser/ParserFixture.h"
+#include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/ScratchFolder.h"
+
+#include <tuple>
 
 namespace {
 
@@ -167,6 +171,49 @@ TEST_F(ScriptFormatters, ScriptBlocksBecomeOptions)
     EXPECT_EQ(block, " x = 1 ");
     EXPECT_EQ(Option<Uve::U8CString>((number + "VBPart").c_str()),
               "'ORVANTA_VB_CODEBLOCK_0\n x = 1 'ORVANTA_VB_CODEBLOCK_0\n");
+}
+
+TEST_F(ScriptFormatters, MissingFilesOfPagesAreLogged)
+{
+    class CLogOnly : public CMemoryLog
+    {
+        void WriteTrace(const char*) override {}
+    };
+    const auto log = std::make_shared<CLogOnly>();
+    const auto earlier = CLogWrapper::m_spLog;
+    CLogWrapper::Init(log);
+    StartPreparation(UVDB_DB_ASP);
+    SetFilePath("page.asp");
+    EXPECT_EQ(Prepare("a<!--#include file=\"no.inc\"-->"), UVDB_OK);
+    CLogWrapper::Init(earlier);
+    EXPECT_EQ(log->Text(), "\nError(parser): File no.inc does not exist.\n\n");
+    EXPECT_EQ(Notes(), "warning\t1\t\tinclude file not found: no.inc\n");
+}
+
+TEST_F(ScriptFormatters, IncludeFilesLieBelowTheRoot)
+{
+    const CScratchFolder folder;
+    folder.Write("a.i", "a");
+    folder.Write("a.h", "#define A 1\n");
+    const std::string root = folder.Path("sub");
+    for (const auto& [kind, extension, source] :
+         std::initializer_list<std::tuple<std::uint64_t, const char*, const char*>>{
+             {UVDB_DB_4GL_PROGRESS, "p", "{a.i}."},
+             {UVDB_DB_ASP, "asp", "<!--#include file=\"a.i\"-->."},
+             {UVDB_DB_C, "c", "#include \"a.h\"\nA."},
+         }) {
+        for (const bool isBound : {false, true}) {
+            SCOPED_TRACE(testing::Message() << source << isBound);
+            StartPreparation(kind);
+            SetFilePath(folder.Path(std::string("main.") + extension).c_str());
+            SetOption("INCLUDE_FILES", "YES");
+            SetOption("PREPROCESSOR", "0");
+            SetOption("PREPROCESSOR_FUNCTION", "2");
+            SetOption("INCLUDE_ROOT", isBound ? root.c_str() : "");
+            EXPECT_EQ(Prepare(source), UVDB_OK);
+            EXPECT_EQ(Notes().find("not found below") != std::string::npos, isBound) << Notes();
+        }
+    }
 }
 
 } // namespace

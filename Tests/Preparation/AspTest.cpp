@@ -1,6 +1,7 @@
 #include "Preparation/Formatters/Asp.h"
 
 #include "Tests/Preparation/FormatterFixture.h"
+#include "Tests/Preparation/ToldNotes.h"
 #include "Tests/Support/ScratchFolder.h"
 
 #include <boost/regex.hpp>
@@ -89,7 +90,8 @@ TEST(Asp, IncludeFiles)
              {"<!--\n#include\t file\n=\r\n\"inc/../inc/b c.inc\" \n-->\nx", "b\nx", {}},
              {"<!--#include file=\"q\".inc\"-->", "q", {}}, // a quote that ends nothing
              {"<!--#include file=\"empty.inc\"--><!--#include file=\"empty.inc\"-->", "", {}},
-             {"<!--#include file=\"binary.inc\"-->", std::string("a\0\xFF", 3), {}},
+             // a text ends at a NUL byte
+             {"<!--#include file=\"binary.inc\"-->", "", {"File %/binary.inc does not exist.\n"}},
              {"<!--#include virtual=\"a.inc\"--><!--#Include file=\"a.inc\"--><!--#includefile=\"a.inc\"-->",
               "<!--#include virtual=\"a.inc\"--><!--#Include file=\"a.inc\"--><!--#includefile=\"a.inc\"-->",
               {}},
@@ -131,10 +133,33 @@ TEST(Asp, IncludeFilesHaveABound)
     ASSERT_EQ(page.messages.size(), 1U);
     EXPECT_NE(page.messages[0].find("too long"), std::string::npos);
     EXPECT_EQ(FormatAsp(source, {folder.Path("page.asp"), 5}).messages.size(), 3U);
+    EXPECT_EQ(Told(page.prepared.notes), "E :1 include file that makes the page too long: a.inc\n");
     folder.Write("big.inc", std::string(1 << 20, 'x'));
     EXPECT_LE(FormatAsp(Repeated("<!--#include file=\"big.inc\"-->", 1000), {folder.Path("page.asp")})
                   .prepared.text.size(),
               std::size_t{64} << 20);
+}
+
+TEST(Asp, NotesTellWhatIsMissing)
+{
+    const CScratchFolder folder;
+    folder.Write("out.inc", "out");
+    folder.Write("site/in.inc", "in");
+    std::filesystem::create_directories(folder.Path("site/folder"));
+    const auto directive = [](const std::string& name) { return "<!--#include file=\"" + name + "\"-->\n"; };
+    const std::string source = "\n" + directive("in.inc") + directive("../out.inc") + directive("no.inc") +
+                               directive("folder") + directive("no.inc");
+    SAspOptions options{folder.Path("site/page.asp")};
+    const std::string missing =
+        "W :4 include file not found: no.inc (2 times)\nW :5 include file that can't be opened: folder\n";
+    EXPECT_EQ(Told(FormatAsp(source, options).prepared.notes), missing);
+    options.includeRoot = folder.Path("site");
+    const SAspPage page = FormatAsp(source, options);
+    EXPECT_EQ(page.prepared.text, "\nin\n\n\n\n\n");
+    EXPECT_EQ(Told(page.prepared.notes),
+              "W :3 include file not found below the folder of INCLUDE_ROOT: ../out.inc\n" + missing);
+    EXPECT_EQ(page.messages.front(),
+              "\nError(parser): File " + folder.Path("site/../out.inc") + " does not exist.\n\n");
 }
 
 // Takes the lines that markers make out again.

@@ -285,14 +285,43 @@ TEST_F(MacroIncludes, WhatCannotBeReadIsMissing)
               "Preprocessor> Header not found : none.h\n");
 }
 
-TEST_F(MacroIncludes, ABinaryFileFailsTheRun)
+TEST_F(MacroIncludes, ABinaryFileIsMissing)
 {
     Write("b.h", std::string("\x7F"
                              "ELF\0\0\n\xFF\xD8",
                              9));
-    const SMacroRun run = RunMacros(1, "#include \"b.h\"\n", {}, Path("m.c"));
-    EXPECT_FALSE(run.isDone);
-    EXPECT_THAT(run.errors, testing::StartsWith(Path("b.h") + " : 2 : unhandled char error: "));
+    Write("wide.h", std::string("\xFF\xFE#\0d\0e\0f\0i\0n\0e\0 \0A\0 \0001\0\n\0", 26));
+    Write("latin.h", "\n\xFF");
+    const SMacroRun run =
+        RunMacros(2, "#include \"b.h\"\n#include \"b.h\"\n#include \"wide.h\"\nA", {}, Path("m.c"));
+    EXPECT_TRUE(run.isDone) << run.errors;
+    EXPECT_TRUE(run.text.ends_with("\n1"));
+    EXPECT_EQ(run.errors, "Preprocessor> Header not found : b.h\nPreprocessor> Header not found : b.h\n");
+    EXPECT_EQ(run.notes, "W :1 header that is no text: \"b.h\" (2 times)\n");
+    const SMacroRun failed = RunMacros(1, "#include \"latin.h\"\n", {}, Path("m.c"));
+    EXPECT_FALSE(failed.isDone);
+    EXPECT_THAT(failed.errors, testing::StartsWith(Path("latin.h") + " : 2 : unhandled char error: "));
+}
+
+TEST_F(MacroIncludes, FilesOutsideOfTheRootAreMissing)
+{
+    Write("src/in.h", "#define IN in");
+    Write("sys/sys.h", "#define SYS sys");
+    std::filesystem::create_symlink(Path("sys/sys.h"), Path("src/link.h"));
+    const std::string source =
+        "#include \"in.h\"\n#include <sys.h>\n#include \"link.h\"\n#include <no.h>\nIN SYS";
+    DefaultPresetValues presets;
+    presets.includePaths = {Path("sys")};
+    presets.includeRoot = Path("src");
+    const SMacroRun run = RunMacros(2, source, presets, Path("src/m.c"));
+    EXPECT_TRUE(run.isDone);
+    EXPECT_TRUE(run.text.ends_with("in SYS"));
+    const std::string outside = "header not found below the folder of INCLUDE_ROOT: ";
+    EXPECT_EQ(run.notes,
+              "W :2 " + outside + "<sys.h>\nW :3 " + outside + "\"link.h\"\nW :4 " + outside + "<no.h>\n");
+    // what one run may not read isn't forgotten for the next
+    presets.includeRoot.clear();
+    EXPECT_TRUE(RunMacros(2, source, presets, Path("src/m.c")).text.ends_with("in sys"));
 }
 
 TEST_F(MacroIncludes, ExplicitOnesComeFirst)
