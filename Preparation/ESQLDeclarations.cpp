@@ -166,8 +166,8 @@ private:
     std::size_t m_TypeCount = 0;
 };
 
-// The names of one typedef, [from, end) without its ";": of each declarator behind the braces the last name
-// that isn't in brackets, or the one of a pointer to a function.
+} // namespace
+
 void AddDeclaratorNames(std::string_view text, std::size_t from, std::size_t end, const CComments& comments,
                         std::vector<std::string>& names)
 {
@@ -210,8 +210,6 @@ void AddDeclaratorNames(std::string_view text, std::size_t from, std::size_t end
     }
     names.push_back(name);
 }
-
-} // namespace
 
 std::vector<std::string> FindTypeNames(std::string_view text, const CComments& comments)
 {

@@ -135,6 +135,11 @@ std::vector<SSpan> FindStatements(std::string_view text, const CComments& commen
 // The declare sections of both notations that have an end.
 std::vector<SSpan> FindDeclareSections(std::string_view text, const CComments& comments);
 
+// Appends the names of one typedef, [from, end) without its ";": of each declarator behind the braces the
+// last name that isn't in brackets, or the one of a pointer to a function.
+void AddDeclaratorNames(std::string_view text, std::size_t from, std::size_t end, const CComments& comments,
+                        std::vector<std::string>& names);
+
 // The names that the "$typedef" declarations of the text give.
 std::vector<std::string> FindTypeNames(std::string_view text, const CComments& comments);
 

@@ -1,5 +1,7 @@
 #include "Preparation/ESQLPreprocessor.h"
 
+#include "Preparation/ESQLWriter.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -7,43 +9,6 @@
 using namespace Esql;
 
 namespace {
-
-constexpr std::string_view kExecSql = "EXEC SQL ";
-constexpr std::string_view kBeginSection = "EXEC SQL BEGIN DECLARE SECTION;";
-constexpr std::string_view kEndSection = "EXEC SQL END DECLARE SECTION;";
-
-// A text that is put together, and the source line of each of its lines.
-class CPreparedWriter
-{
-public:
-    // The next part of the source.
-    void Copy(std::string_view part)
-    {
-        while (!part.empty()) {
-            const std::size_t end = part.find('\n');
-            const std::size_t length = end == part.npos ? part.size() : end + 1;
-            Append(part.substr(0, length));
-            m_SourceLine += end != part.npos;
-            part.remove_prefix(length);
-        }
-    }
-
-    void Insert(std::string_view part) { Append(part); }
-
-    SPreparedText Take() { return std::move(m_Prepared); }
-
-private:
-    // `part` holds a line feed at its end at most.
-    void Append(std::string_view part)
-    {
-        if (m_Prepared.text.empty() || m_Prepared.text.back() == '\n')
-            m_Prepared.sourceLines.push_back(m_SourceLine);
-        m_Prepared.text.append(part);
-    }
-
-    SPreparedText m_Prepared;
-    std::uint32_t m_SourceLine = 1;
-};
 
 SPreparedText WrapDeclarations(std::string_view text, const CComments& comments, const CTypeNames& types,
                                std::string_view lineEnd)

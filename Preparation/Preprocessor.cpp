@@ -3,6 +3,7 @@
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Metadata/UVDBOptionWrapper.h"
 #include "Preparation/ESQLPreprocessor.h"
+#include "Preparation/ESQLSource.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVECompat.h"
 
@@ -191,6 +192,7 @@ void Preprocessor::Init(const std::shared_ptr<IUVDBDatabaseInfo>& info)
     presets = {};
     function = -1;
     isEmbeddedSql = false;
+    isFaithful = false;
 
     int mode = -1;
     CUVDBOptionWrapper::GetParam(databaseInfo, "PREPROCESSOR", mode);
@@ -205,6 +207,8 @@ void Preprocessor::Init(const std::shared_ptr<IUVDBDatabaseInfo>& info)
         return text;
     };
     isEmbeddedSql = Uve::Compat::stricmp(readText("API_SOURCE_DB").c_str(), "ESQLC") == 0;
+
+    isFaithful = Uve::Compat::stricmp(readText("SOURCE_FORMS").c_str(), "FAITHFUL") == 0;
 
     if (const Uve::U8CString source = readText("DSN"); !source.empty())
         presets.includePaths.push_back(source);
@@ -229,9 +233,16 @@ bool Preprocessor::Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve:
                        std::vector<SPreparationNote>* notes)
 {
     CPreparationNotes gathered;
+    std::vector<SPreparationNote> rewriteNotes;
     std::vector<std::uint32_t> rewrittenLines;
     try {
-        if (isEmbeddedSql) {
+        if (isEmbeddedSql)
+            rewriteNotes = FindEmbeddedSqlNotes(text);
+        if (isEmbeddedSql && isFaithful) {
+            SPreparedText rewritten = RewriteEmbeddedSqlFaithfully(text);
+            text = std::move(rewritten.text);
+            rewrittenLines = std::move(rewritten.sourceLines);
+        } else if (isEmbeddedSql) {
             ESQLPreprocessor rewrite;
             if (rewrite.CheckESQL(text, text))
                 rewrittenLines = rewrite.SourceLines();
@@ -255,6 +266,7 @@ bool Preprocessor::Run(Uve::U8CString text, const Uve::U8CString& filePath, Uve:
         for (SPreparationNote& note : *notes)
             if (note.file.empty())
                 note.line = SourceLine(note.line, rewrittenLines);
+        notes->insert(notes->begin(), rewriteNotes.begin(), rewriteNotes.end());
     }
     if (rewrittenLines.empty()) {
         errorText += messages;

@@ -24,6 +24,9 @@ public:
     //   PREPROCESSOR                  0 turns the preparation on
     //   PREPROCESSOR_FUNCTION         the command, see MacroPreprocessorChecker::Command
     //   API_SOURCE_DB                 "ESQLC", in any case of letters: the source has embedded SQL
+    //   SOURCE_FORMS                  "FAITHFUL", in any case of letters: embedded SQL is read by the rules
+    //   of
+    //                                 its compiler, see RewriteEmbeddedSqlFaithfully()
     //   DSN                           the first include path
     //   PREPROCESSOR_DEFINITIONS      macros, with ";" between them
     //   PREPROCESSOR_UNDEFINES        names not to be defined, or a file of them; ";" between them
@@ -59,6 +62,7 @@ private:
     MacroPreprocessorChecker::DefaultPresetValues presets;
     int function = -1;
     bool isEmbeddedSql = false;
+    bool isFaithful = false;
     std::shared_ptr<MacroPreprocessorChecker::UndefinesTokens> undefinesTokens;
 };
 

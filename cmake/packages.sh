@@ -14,7 +14,7 @@ build=(
 )
 test=(
     binutils python3 strace unicode-data
-    libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
+    libecpg-dev libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
     clang clang-format clang-tidy libclang-rt-14-dev llvm
     mariadb-client-core mariadb-server-core postgresql sqlite3
 )
