@@ -84,7 +84,10 @@ void ScriptFormatter::Format4GL_PROGRESS()
     SProgressOptions options;
     options.filePath = ObjectOption("FilePath", U8CString());
     options.includeRoot = Option("INCLUDE_ROOT", U8CString());
-    Take(FormatProgress(m_Parser.m_Query, options));
+    options.propath = Option("PROPATH", U8CString());
+    const bool isFaithful = Option("SOURCE_FORMS", U8CString()).CollateNoCase("FAITHFUL") == 0;
+    Take(isFaithful ? FormatProgressFaithfully(m_Parser.m_Query, options)
+                    : FormatProgress(m_Parser.m_Query, options));
 }
 
 void ScriptFormatter::FormatASP()

@@ -190,6 +190,33 @@ TEST_F(ScriptFormatters, MissingFilesOfPagesAreLogged)
     EXPECT_EQ(Notes(), "warning\t1\t\tinclude file not found: no.inc\n");
 }
 
+TEST_F(ScriptFormatters, FaithfulFormsAreAskedFor)
+{
+    const CScratchFolder folder;
+    folder.Write("lib/a.i", "[{1}]");
+    const struct
+    {
+        std::uint64_t kind;
+        const char *source, *literal, *faithful;
+    } cases[] = {
+        {UVDB_DB_4GL_PROGRESS, "{a.i x}{a.i y}", nullptr, "[x][y]"},
+        {UVDB_DB_C, "$commit; $open c;", "$commit; EXEC SQL open c;", "EXEC SQL commit; EXEC SQL open c;"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.source);
+        StartPreparation(c.kind);
+        SetOption("INCLUDE_FILES", "YES");
+        SetOption("PROPATH", ("none," + folder.Path("lib")).c_str());
+        SetOption("PREPROCESSOR", "0");
+        SetOption("API_SOURCE_DB", "ESQLC");
+        EXPECT_EQ(Prepare(c.source), c.literal != nullptr ? UVDB_OK : UVDB_NO_DATA);
+        EXPECT_EQ(Tree(), c.literal != nullptr ? c.literal : "");
+        SetOption("SOURCE_FORMS", "Faithful");
+        EXPECT_EQ(Prepare(c.source), UVDB_OK);
+        EXPECT_EQ(Tree(), c.faithful);
+    }
+}
+
 TEST_F(ScriptFormatters, IncludeFilesLieBelowTheRoot)
 {
     const CScratchFolder folder;
