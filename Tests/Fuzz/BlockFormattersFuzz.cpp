@@ -93,12 +93,18 @@ void DrivePascal(std::string_view source)
 void DriveProgress(std::string_view source, std::string_view file)
 {
     std::ofstream(Folder().Path("a.i"), std::ios::binary) << file;
-    constexpr std::size_t kLimit = 4000; // a file that includes itself gets there
+    constexpr std::size_t kLimit = 4000; // a file that another one takes in often gets there
     const SPreparedText prepared = FormatProgress(source, {Folder().Path("main.p"), kLimit});
     RequireLines(source, prepared);
     Require(prepared.text.size() <= source.size() + kLimit);
     if (source.find(".i") == source.npos && source.find(".I") == source.npos)
         Require(prepared.text == source);
+
+    SProgressOptions options{Folder().Path("main.p"), kLimit};
+    options.includeRoot = Folder().Path("");
+    const SPreparedText faithful = FormatProgressFaithfully(source, options);
+    RequireLines(source, faithful);
+    Require(faithful.text.size() <= 2 * source.size() + kLimit);
 }
 
 void DriveAsp(std::string_view source, std::string_view file)

@@ -1,4 +1,5 @@
 #include "Preparation/ESQLPreprocessor.h"
+#include "Preparation/ESQLSource.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -22,12 +23,8 @@ std::size_t CountOf(const std::string& text, char character)
     return static_cast<std::size_t>(std::ranges::count(text, character));
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+void RequireRewritten(const std::string& source, const SPreparedText& prepared)
 {
-    const std::string source(reinterpret_cast<const char*>(data), size);
-    const SPreparedText prepared = RewriteEmbeddedSql(source);
     const std::string& text = prepared.text;
     const auto& lines = prepared.sourceLines;
 
@@ -45,11 +42,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(std::ranges::is_sorted(lines));
     Require(lines.empty() || lines.front() == 1);
     Require(lines.empty() || lines.back() <= 1 + CountOf(source, '\n'));
+}
 
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string source(reinterpret_cast<const char*>(data), size);
+    RequireRewritten(source, RewriteEmbeddedSqlFaithfully(source));
+    for (const SPreparationNote& note : FindEmbeddedSqlNotes(source))
+        Require(note.line <= 1 + CountOf(source, '\n'));
+    const SPreparedText prepared = RewriteEmbeddedSql(source);
+    RequireRewritten(source, prepared);
+
+    const bool hasDollar = source.find('$') != source.npos;
     ESQLPreprocessor rewrite;
     std::string output;
-    Require(rewrite.CheckESQL(source, output) == (dollars != 0));
-    Require(dollars == 0 || output == text);
+    Require(rewrite.CheckESQL(source, output) == hasDollar);
+    Require(!hasDollar || output == prepared.text);
     for (std::size_t at = output.find('$'); at != output.npos; at = output.find('$', at + 1))
         rewrite.CheckComment(static_cast<std::int64_t>(at));
     rewrite.WrapVarDeclaration(source);
