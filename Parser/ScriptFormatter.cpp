@@ -85,9 +85,8 @@ void ScriptFormatter::Format4GL_PROGRESS()
     options.filePath = ObjectOption("FilePath", U8CString());
     options.includeRoot = Option("INCLUDE_ROOT", U8CString());
     options.propath = Option("PROPATH", U8CString());
-    const bool isFaithful = Option("SOURCE_FORMS", U8CString()).CollateNoCase("FAITHFUL") == 0;
-    Take(isFaithful ? FormatProgressFaithfully(m_Parser.m_Query, options)
-                    : FormatProgress(m_Parser.m_Query, options));
+    Take(IsFaithful() ? FormatProgressFaithfully(m_Parser.m_Query, options)
+                      : FormatProgress(m_Parser.m_Query, options));
 }
 
 void ScriptFormatter::FormatASP()

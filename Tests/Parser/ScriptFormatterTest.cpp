@@ -180,7 +180,7 @@ TEST_F(ScriptFormatters, MissingFilesOfPagesAreLogged)
         void WriteTrace(const char*) override {}
     };
     const auto log = std::make_shared<CLogOnly>();
-    const auto earlier = CLogWrapper::m_spLog;
+    const auto earlier = CLogWrapper::GetLog();
     CLogWrapper::Init(log);
     StartPreparation(UVDB_DB_ASP);
     SetFilePath("page.asp");

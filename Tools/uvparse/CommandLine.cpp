@@ -85,6 +85,8 @@ constexpr char kAfterOptions[] =
     "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
     "preparation doesn't keep the source line.\n"
     "Sources are prepared in their faithful forms; -o SOURCE_FORMS=LITERAL asks for the literal ones.\n"
+    "Include files are taken in from wherever sources name them; -o INCLUDE_ROOT=FOLDER takes only those in\n"
+    "from below this folder (links and \"..\" resolved), as is good for foreign texts.\n"
     "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
     "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines was\n"
     "asked of a preparation that keeps no source lines;\n"
