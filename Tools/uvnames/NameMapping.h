@@ -61,8 +61,8 @@ public:
     // Returns: false for a part of a table that names no table.
     bool Convert(const SName& name, SConvertedName& converted);
 
-    // Whether nothing became of the name, or nothing but that it lost its schema: the default one of the source,
-    // or any where names of indexes and keys have none.
+    // Whether nothing became of the name, or nothing but that it lost its schema: the default one of the
+    // source, or any where names of indexes and keys have none.
     bool IsUnchanged(const SName& name, const SConvertedName& converted) const;
 
     // What became of all names so far, as the library tells it, with values that XML can hold.
