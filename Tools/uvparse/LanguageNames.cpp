@@ -13,6 +13,7 @@ namespace {
 // clang-format off
 constexpr SFileExtension kExtensions[] = {
 //   extension     language
+    {"asp",        "ASP"            },
     {"cbl",        "COBOL"          },
     {"cc",         "CPP"            },
     {"clle",       "IBMCL"          },

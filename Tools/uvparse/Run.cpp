@@ -317,7 +317,7 @@ void CRun::Report(const std::string& path, const SPreparation& preparation, cons
     }
     if (!result.isParsed && (result.findings.empty() || !result.isRefusedForTokens))
         ReportFailure(path, preparation, result);
-    if (result.isEmpty && !result.pass.empty() && !preparation.source.empty())
+    if (result.isEmpty && !result.pass.empty() && !preparation.source.empty() && result.notes.empty())
         m_Messages.Write(enSeverity::Warning, SSourcePlace{ShownName(path), 0, 0, {}},
                          result.pass + " left nothing of the text");
 }
