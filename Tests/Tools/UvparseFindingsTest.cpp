@@ -1,0 +1,95 @@
+#include "Tools/Support/ToolMessages.h"
+#include "Tools/uvparse/Findings.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+using namespace uvparse;
+
+namespace {
+
+struct SPlace
+{
+    std::size_t offset;
+    std::size_t length;
+};
+
+std::string Messages(const std::string& text, const std::vector<SPlace>& tokens,
+                     const std::vector<SFinding>& others = {})
+{
+    std::ostringstream stream;
+    CToolMessages messages("uvparse", stream);
+    const SPreparation preparation{text, text, {}, {}};
+    CSourcePlaces places("f.sql", preparation);
+    std::vector<SFinding> findings = others;
+    for (const SPlace& token : tokens)
+        findings.push_back({enFinding::UnexpectedToken, token.offset, token.length});
+    WriteFindings(messages, stream, places, text, std::move(findings));
+    return stream.str();
+}
+
+TEST(UvparseTokens, MessagesPointAtTheToken)
+{
+    EXPECT_EQ(Messages("select\n\t\xC3\xA9 form t;", {{11, 4}}), "f.sql:2:4: error: unexpected token 'form'\n"
+                                                                 "     \xC3\xA9 form t;\n"
+                                                                 "       ^\n");
+    EXPECT_EQ(Messages("a b", {{2, 1}, {0, 1}}),
+              "f.sql:1:1: error: unexpected token 'a'\n    a b\n    ^\n"
+              "f.sql:1:3: error: unexpected token 'b'\n    a b\n      ^\n");
+    EXPECT_EQ(Messages("a\n", {{2, 0}}), "f.sql:2:1: error: unexpected end of text\n");
+    EXPECT_EQ(Messages("'x\ny'", {{0, 5}}), "f.sql:1:1: error: unexpected token ''x...'\n    'x\n    ^\n");
+    EXPECT_EQ(Messages("\x1B[2J", {{0, 4}}), "f.sql:1:1: error: unexpected token ' [2J'\n     [2J\n    ^\n");
+    EXPECT_EQ(Messages("ab", {{7, 9}}), "f.sql:1:3: error: unexpected end of text\n    ab\n      ^\n");
+}
+
+TEST(UvparseTokens, LongLinesAreShownAroundThePlace)
+{
+    std::string text;
+    for (int i = 0; i < 1000; ++i)
+        text += "\xC3\xA9";
+    const std::string shown = Messages(text + "!" + text, {{2000, 1}});
+    const std::size_t line = shown.find("\n    ") + 5;
+    const std::size_t lineEnd = shown.find('\n', line);
+    EXPECT_EQ(shown.substr(0, line), "f.sql:1:1001: error: unexpected token '!'\n    ");
+    EXPECT_EQ(lineEnd - line, 2 * (60 + 59) + 1u);
+    EXPECT_EQ(shown.substr(lineEnd), "\n    " + std::string(60, ' ') + "^\n");
+}
+
+TEST(UvparseTokens, LostTextHasMessagesOfItsOwnUnlessATokenStandsForIt)
+{
+    EXPECT_EQ(Messages("a b;\nc\nd; /* e", {{2, 1}},
+                       {{enFinding::UnfinishedText, 10, 4},
+                        {enFinding::SkippedText, 5, 3},
+                        {enFinding::SkippedText, 0, 3, true}}),
+              "f.sql:1:3: error: unexpected token 'b'\n    a b;\n      ^\n"
+              "f.sql:2:1: error: skipped 'c...'\n    c\n    ^\n"
+              "f.sql:3:4: error: never closed: '/* e'\n    d; /* e\n       ^\n");
+    // one place, one message
+    EXPECT_EQ(Messages("/* e", {{0, 2}}, {{enFinding::UnfinishedText, 0, 4}}),
+              "f.sql:1:1: error: never closed: '/* e'\n    /* e\n    ^\n");
+}
+
+TEST(UvparseTokens, ListsAreReadWhateverTheirTextsHold)
+{
+    std::vector<SFinding> lost;
+    ReadLostText("skipped\t1\t1\t3\t4\t1\t\nx\nunfinished\t2\t1\t9\t5\t0\tA B\n", lost);
+    ASSERT_EQ(lost.size(), 2u);
+    EXPECT_EQ(lost[0].kind, enFinding::SkippedText);
+    EXPECT_TRUE(lost[0].isReported);
+    EXPECT_EQ(lost[1].kind, enFinding::UnfinishedText);
+    EXPECT_EQ(lost[1].offset, 9u);
+    EXPECT_EQ(lost[1].length, 5u);
+
+    std::vector<SFinding> tokens;
+    ReadUnexpectedTokens("1\t2\t3\t4\tfoo bar\n\n2\t1\t10\t0\t\nnonsense\n3\t1\t12\t1\t\t\n", tokens);
+    ASSERT_EQ(tokens.size(), 3u);
+    EXPECT_EQ(tokens[0].offset, 3u);
+    EXPECT_EQ(tokens[0].length, 4u);
+    EXPECT_EQ(tokens[1].offset, 10u);
+    EXPECT_EQ(tokens[2].offset, 12u);
+}
+
+} // namespace
