@@ -30,6 +30,13 @@ extern const char* g_nativeBase;
     } while (0)
 #define SET_CONDITION(c) \
     g_native.conditions.emplace(#c, std::string(yytext, static_cast<std::size_t>(yyleng)))
+#define CONDITIONAL_BEGIN(c, a, b)                                     \
+    do {                                                               \
+        if (g_native.conditions.find(#c) != g_native.conditions.end()) \
+            BEGIN a;                                                   \
+        else                                                           \
+            BEGIN b;                                                   \
+    } while (0)
 #define TNO_ACTION (-1)
 #define CONDITIONAL_TOKEN_ACTION(c, v, a, b)                                                \
     do {                                                                                    \
