@@ -12,7 +12,7 @@
 
 // No type is written longer, in bytes: with its numbers or its values, and without what stands in
 // parentheses.
-inline constexpr std::size_t kMaxTypeTextBytes = 1024 * 1024;
+inline constexpr std::size_t kMaxTypeTextBytes = std::size_t{1} << 20;
 inline constexpr std::size_t kMaxTypeNameBytes = 1000;
 
 // What a text says its length counts.

@@ -236,10 +236,10 @@ std::string GetDatFile(const std::string& packedDirectory, const std::string& pl
 std::string GetDatFilePath(const std::string& packedDirectory, const std::string& plainDirectory,
                            const std::string& name)
 {
-    const std::string plain = plainDirectory + '/' + name;
+    std::string plain = plainDirectory + '/' + name;
     if (Uve::File::Exists(plain))
         return plain;
-    const std::string packed = packedDirectory + '/' + name + '_';
+    std::string packed = packedDirectory + '/' + name + '_';
     if (!Uve::File::Exists(packed))
         ThrowNeitherFound(plain);
     return packed;

@@ -26,6 +26,8 @@
 // The registry owns its objects, so an object in it doesn't own the info: its option "DatabaseInfo" only
 // points there, and is emptied when the info dies. GetDatabaseInfo of the object gives a pointer that owns.
 // An object that leaves the registry owns the info from then on.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it overrides that of I, which the check doesn't
+// know
 template <class I, class TObject, class TColumn>
 class CDatabaseInfoT : public OptionsHost<I>
 {
@@ -82,7 +84,8 @@ public:
 
 private:
     // Sets the option "DatabaseInfo" of an object that was made here.
-    void PointBack(const std::shared_ptr<IUVDBObjectInfo>& object, std::shared_ptr<IUVDBDatabaseInfo2> info);
+    void PointBack(const std::shared_ptr<IUVDBObjectInfo>& object,
+                   const std::shared_ptr<IUVDBDatabaseInfo2>& info);
     int GiveCaseOption(const char* option, long* out);
     static bool IsOfType(const std::shared_ptr<IUVDBObjectInfo>& object, long objectType);
     static bool NeedsConversion(const std::shared_ptr<IUVDBObjectInfo>& object);
@@ -134,7 +137,7 @@ CDatabaseInfoT<I, TObject, TColumn>::~CDatabaseInfoT()
 
 template <class I, class TObject, class TColumn>
 void CDatabaseInfoT<I, TObject, TColumn>::PointBack(const std::shared_ptr<IUVDBObjectInfo>& object,
-                                                    std::shared_ptr<IUVDBDatabaseInfo2> info)
+                                                    const std::shared_ptr<IUVDBDatabaseInfo2>& info)
 {
     constexpr const char* kOption = "DatabaseInfo";
     std::shared_ptr<IUVDBDatabaseInfo2> present;

@@ -220,7 +220,7 @@ void Preprocessor::Init(const std::shared_ptr<IUVDBDatabaseInfo>& info)
     if (const Uve::U8CString list = readText("PREPROCESSOR_ADDITIONAL_INCLUDE_DIRECTORIES"); !list.empty())
         SplitList(list, [&](std::string path) { presets.includePaths.push_back(std::move(path)); });
 
-    presets.includeRoot = readText("INCLUDE_ROOT");
+    presets.includeRoot = static_cast<const std::string&>(readText("INCLUDE_ROOT"));
 
     long limit = 0;
     CUVDBOptionWrapper::GetParam(databaseInfo, "PREPROCESSOR_EXPANSION_LIMIT", limit);

@@ -131,7 +131,7 @@ std::optional<std::string> PlaceholderValue(std::string_view content, const SArg
     }
     if (content == "&*") {
         for (const auto& [name, value] : arguments->named)
-            all += (all.empty() ? "&" : " &") + name + "=\"" + value + '"';
+            all.append(all.empty() ? "&" : " &").append(name).append("=\"").append(value).append(1, '"');
         return all;
     }
     if (content.front() == '&') {

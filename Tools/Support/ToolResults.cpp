@@ -63,10 +63,10 @@ std::optional<enToolFormat> ReadToolFormat(std::string_view name)
 
 void AppendTsvText(std::string_view text, std::string& out)
 {
-    std::string replaced;
+    Uve::U8CString replaced;
     if (!UVDB::IsValidUTF8(text)) {
         replaced = Uve::WideToUTF8(Uve::UTF8ToWide(text));
-        text = replaced;
+        text = static_cast<const std::string&>(replaced);
     }
     for (const char c : text) {
         switch (c) {

@@ -95,8 +95,9 @@ void CHtmlReport::AddRow(const std::vector<std::string>& cells, const std::vecto
 
 void CHtmlReport::Add(const SName& source, const SConvertedName& converted)
 {
-    AddRow({CNormalizeName::TypeToString(static_cast<unsigned long>(source.type)), source.Joined(),
-            converted.target.Joined(), converted.written},
+    const auto plain = [](const std::string& text) { return text; };
+    AddRow({plain(CNormalizeName::TypeToString(static_cast<unsigned long>(source.type))),
+            plain(source.Joined()), plain(converted.target.Joined()), plain(converted.written)},
            RowReasons(source, converted));
 }
 

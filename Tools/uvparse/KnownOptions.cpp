@@ -107,7 +107,9 @@ std::span<const SKnownOption> ObjectOptions()
 void CheckOptions(const std::vector<std::pair<std::string, std::string>>& pairs,
                   std::span<const SKnownOption> known, const char* flag)
 {
-    for (const auto& [name, value] : pairs) {
+    for (const auto& pair : pairs) {
+        const std::string& name = pair.first;
+        const std::string& value = pair.second;
         const auto option =
             std::ranges::find_if(known, [&](const SKnownOption& row) { return row.name == name; });
         if (option == known.end()) {
@@ -118,8 +120,8 @@ void CheckOptions(const std::vector<std::pair<std::string, std::string>>& pairs,
                                NearNamesText(NearNames(name, names, kNamesShown)));
         }
         if (!IsOfKind(*option, value))
-            throw COptionError(std::string(flag) + ": " + name + " takes " + KindText(*option) + ", not '" +
-                               value + "'");
+            throw COptionError(std::string(flag).append(": ").append(name).append(" takes ") +
+                               KindText(*option) + ", not '" + value + "'");
     }
 }
 

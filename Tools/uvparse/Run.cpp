@@ -153,7 +153,7 @@ void CRun::ListLanguages()
     }
     std::string text;
     for (const auto& [name, what] : languages)
-        text += name + '\t' + what + '\n';
+        text.append(name).append(1, '\t').append(what).append(1, '\n');
     WriteStandardOutput(text);
 }
 
