@@ -26,9 +26,9 @@
 // The registry owns its objects, so an object in it doesn't own the info: its option "DatabaseInfo" only
 // points there, and is emptied when the info dies. GetDatabaseInfo of the object gives a pointer that owns.
 // An object that leaves the registry owns the info from then on.
-// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it overrides that of I, which the check doesn't
-// know
+// (The check of destructors doesn't see that the one here overrides that of I.)
 template <class I, class TObject, class TColumn>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class CDatabaseInfoT : public OptionsHost<I>
 {
 public:

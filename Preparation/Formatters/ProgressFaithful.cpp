@@ -380,9 +380,10 @@ private:
         std::ranges::replace(path, '\\', '/');
         std::vector<std::string> places{path};
         if (!path.starts_with('/'))
-            for (const std::string& folder : m_Folders)
-                places.push_back(folder + (folder.ends_with('/') || folder.ends_with('\\') ? "" : "/") +
-                                 path);
+            for (const std::string& folder : m_Folders) {
+                const bool isComplete = folder.ends_with('/') || folder.ends_with('\\');
+                places.emplace_back(folder).append(isComplete ? "" : "/").append(path);
+            }
         // without its folders it may still lie beside the source
         const std::size_t slash = m_Options.filePath.find_last_of("/\\");
         places.push_back(std::string(m_Options.filePath.substr(0, slash + 1)) +
