@@ -25,6 +25,12 @@ constexpr SReportCase kReports[] = {
      ">>>>\n*/\n"
      "\n\nWARNING: 1 unexpected token(s) found\n"
      "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a; < x >b>>>>\n"},
+    {"also one that a token without an element begins", "say a; < ! >b", true,
+     "\n/*PARSER ERROR: Recovery (1,1) :\n    line 1 - unexpected token !\n    Code lines:\n<<<<\nsay a; < ! "
+     ">b\n"
+     ">>>>\n*/\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n"
+     "\n\nWARNING: 1 unexpected token(s) found\n<<<<\nsay a; < ! >b>>>>\n"},
     // what the trace alone hears doesn't count as displayed, so the root tells it again
     {"hidden errors are traced twice", "< x >b", false,
      "\n/*PARSER ERROR: Recovery (1,1) :\n    line 1 - unexpected token x\n    Code lines:\n<<<<\n< x "

@@ -145,6 +145,55 @@ TEST(ScannerAlone, SharedTablesOutliveTheirOwner)
     EXPECT_EQ(tokens, 2);
 }
 
+std::vector<int> TokensOf(CSQLGrammarLexer& lexer, const std::string& text)
+{
+    std::vector<int> tokens;
+    lexer.set_Query(text, 0);
+    for (int token = lexer.yylex(); token != 0; token = lexer.yylex())
+        tokens.push_back(token);
+    return tokens;
+}
+
+TEST(ScannerAlone, NothingOfTheEarlierTablesStays)
+{
+    const std::string text = "a [b] {c} -- 1 (d); if e\n";
+    for (const char* const earlier : {"Tiny", "States", "Directives"})
+        for (const char* const later : {"Order", "Less", "Indent", "Nesting"}) {
+            SCOPED_TRACE(testing::Message() << earlier << ", then " << later);
+            CEngine before(earlier), after(later);
+            CSQLGrammarLexer fresh, exchanged;
+            fresh.ShareTables(after.m_Lexer);
+            ASSERT_EQ(fresh.yycreate(), 1);
+            exchanged.ShareTables(before.m_Lexer);
+            ASSERT_EQ(exchanged.yycreate(), 1);
+            TokensOf(exchanged, text);
+            exchanged.ShareTables(after.m_Lexer);
+            ASSERT_EQ(exchanged.yycreate(), 1);
+            EXPECT_EQ(TokensOf(exchanged, text), TokensOf(fresh, text));
+        }
+}
+
+TEST(ScannerAlone, TokensAreNumberedByTheParserThatIsLinkedLast)
+{
+    CEngine first("Coloring"), second("Recovery");
+    const int numbers[] = {first.m_Parser.m_mapDefines.at("TWORD"), second.m_Parser.m_mapDefines.at("TWORD")};
+    ASSERT_NE(numbers[0], numbers[1]);
+    CSQLGrammarLexer lexer;
+    lexer.ShareTables(second.m_Lexer);
+    ASSERT_EQ(lexer.yycreate(&first.m_Parser), 1);
+    EXPECT_EQ(TokensOf(lexer, "a"), std::vector<int>{numbers[0]});
+    ASSERT_EQ(lexer.yycreate(&second.m_Parser), 1);
+    EXPECT_EQ(TokensOf(lexer, "a"), std::vector<int>{numbers[1]});
+}
+
+// A message at the end of the text shows the last match as the text has it.
+TEST(ScannerAlone, TheEndShowsTheLastMatchNotWhatReplacedIt)
+{
+    CEngine engine("CopyToken");
+    engine.Parse("a abbr");
+    EXPECT_STREQ(engine.m_Lexer.yytext, "abbr");
+}
+
 TEST(ScannerAlone, OwedTokensComeLastInFirstOut)
 {
     CEngine engine("Indent");
@@ -232,6 +281,8 @@ public:
         return 0;
     }
 
+    void PushBack(char c) { yyunput(c, yytext_ptr); }
+
     std::function<void()> m_onMatch;
     int m_char = 0;
 
@@ -293,6 +344,46 @@ TEST(ScannerBuffers, InputAndPushBackLieBetweenTheMatches)
     EXPECT_EQ(scanner.yyinput(), 0);
 }
 
+// A refill moves the text that is read.
+TEST(ScannerBuffers, InputGoesOnOverTheEndOfWhatWasReadFromAStream)
+{
+    std::string text;
+    for (int i = 0; i < 20000; ++i)
+        text += static_cast<char>('a' + i % 23);
+    std::FILE* const file = std::tmpfile();
+    ASSERT_NE(file, nullptr);
+    std::fwrite(text.data(), 1, text.size(), file);
+    std::rewind(file);
+    CPlainScanner scanner("Tiny", 2);
+    scanner.yyset_in(file); // closed with the scanner
+    std::string read;
+    scanner.m_onMatch = [&] {
+        read += scanner.yytext;
+        for (int i = 0; i < 100; ++i)
+            if (const int c = scanner.yyinput(); c != 0)
+                read += static_cast<char>(c);
+    };
+    scanner.Matches();
+    EXPECT_TRUE(read == text) << read.size();
+    scanner.yyset_in(file);
+}
+
+TEST(ScannerBuffers, WhatIsPushedBackIsScannedNextAndItsLineIsTakenBack)
+{
+    CPlainScanner scanner("Tiny", 2, "x\na");
+    int pushes = 0;
+    scanner.m_onMatch = [&] {
+        if (scanner.yytext[0] != 'a' || pushes++ > 0)
+            return;
+        EXPECT_EQ(scanner.yylineno, 2);
+        for (const char c : {'a', '\n'})
+            scanner.PushBack(c);
+        EXPECT_EQ(scanner.yylineno, 1);
+    };
+    EXPECT_EQ(scanner.Matches(), (Matches{"7:x", "7:\n", "2:a", "7:\n", "2:a"}));
+    EXPECT_EQ(scanner.yylineno, 2);
+}
+
 TEST(ScannerBuffers, OnlyTextWithTwoNulsIsScannedInPlace)
 {
     CPlainScanner scanner("Tiny", 2);
@@ -302,6 +393,20 @@ TEST(ScannerBuffers, OnlyTextWithTwoNulsIsScannedInPlace)
     EXPECT_EQ(scanner.yyscan_buffer(good, 1), nullptr);
     ASSERT_NE(scanner.yyscan_buffer(good, 5), nullptr);
     EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "3:b", "1: "}));
+}
+
+// Where a text got stuck, the next one in the same memory isn't.
+TEST(ScannerBuffers, ANewTextHasMatchedNothingYet)
+{
+    CPlainScanner scanner("Stuck", 2);
+    char text[] = {'y', 0, 0};
+    scanner.yyscan_buffer(text, 3);
+    EXPECT_THROW(scanner.Matches(), std::runtime_error);
+    scanner.yycleanup();
+    text[0] = 'u';
+    scanner.yyscan_buffer(text, 3);
+    scanner.m_onMatch = [&] { scanner.yybegin(1); }; // the word is read in the condition LATER
+    EXPECT_EQ(scanner.Matches().size(), 2u);
 }
 
 TEST(ScannerBuffers, APushedBufferReturnsToTheOneBelow)
@@ -321,6 +426,27 @@ TEST(ScannerBuffers, APushedBufferReturnsToTheOneBelow)
     EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "7:x"}));
     scanner.yypop_buffer_state();
     EXPECT_EQ(scanner.Matches(), (Matches{"3:b", "1: ", "2:a"}));
+}
+
+TEST(ScannerBuffers, BuffersArePushedToAnyDepth)
+{
+    constexpr std::size_t kDepth = 40;
+    CPlainScanner scanner("Tiny", 2);
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < kDepth; ++i)
+        texts.push_back(std::string(i + 1, 'a') + std::string(2, '\0'));
+    EXPECT_EQ(scanner.yyscan_string("a")->yy_n_chars, 1);
+    for (std::string& text : texts) {
+        auto* const buffer = new yybuffer_state;
+        buffer->yy_ch_buf = buffer->yy_buf_pos = text.data();
+        buffer->yy_buf_size = buffer->yy_n_chars = static_cast<int>(text.size()) - 2;
+        scanner.yypush_buffer_state(buffer);
+    }
+    for (std::size_t i = kDepth; i > 0; --i) {
+        EXPECT_EQ(scanner.Matches(), Matches(i, "2:a"));
+        scanner.yypop_buffer_state();
+    }
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a"}));
 }
 
 } // namespace

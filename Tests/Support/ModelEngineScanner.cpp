@@ -159,7 +159,8 @@ void CModelEngine::FillHandlers()
         return static_cast<int>(static_cast<signed char>(byte));
     });
     add("strtmp.Format", [=, this](const Operands& o) {
-        Color(Replaced(o[0], "%d", std::to_string(m_at)));
+        const bool isOfOneNumber = std::count(o[0].begin(), o[0].end(), '%') == 1;
+        Color(isOfOneNumber ? Replaced(o[0], "%d", std::to_string(m_at)) : o[0]);
         return none;
     });
     add("strcpy", [=, this](const Operands& o) { return m_match = Unquoted(o[1]), none; });
