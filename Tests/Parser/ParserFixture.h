@@ -36,6 +36,7 @@ public:
     using CUVDBSQLParser::m_Parser;
     using CUVDBSQLParser::m_PatternProcess;
     using CUVDBSQLParser::m_TryOtherOpts;
+    using CUVDBSQLParser::m_Unfinished;
     using CUVDBSQLParser::SetLastError;
 
     int ExecuteTree2Serial() override

@@ -284,14 +284,18 @@ TEST_F(Pipeline, SecondAttemptTriesTheOtherQuoteRule)
 TEST_F(Pipeline, ExceptionInTheSecondAttemptPutsEverythingBack)
 {
     SetOption("OPTION_VARYING_PARSING", "YES");
+    SetOption("REPORT_LOST_TEXT", "1");
     Start();
     int calls = 0;
-    m_Parser.m_Flatten = [&calls] {
-        if (++calls == 1) // of the second attempt
+    m_Parser.m_Flatten = [&] {
+        if (++calls == 1) { // of the second attempt, as one that saw the text end in a comment
+            m_Parser.m_Unfinished = SUnfinishedText{"COMMENT", 0};
             throw std::bad_alloc();
+        }
         return static_cast<int>(UVDB_OK);
     };
     EXPECT_EQ(Parse("print \"x\";"), UVDB_OK);
+    EXPECT_EQ(Option<Uve::U8CString>("LOST_TEXT"), "skipped\t1\t1\t0\t9\t1\t\n");
     EXPECT_TRUE(m_Parser.m_Lexer->m_Extension.m_bMSSQLQID);
     EXPECT_TRUE(m_Parser.IsParseHasErrors());
     EXPECT_NE(Tree().find("error_statement"), std::string::npos);

@@ -54,6 +54,22 @@ TEST_F(UnexpectedTokensOption, StandsOnlyWhereItIsAskedFor)
     EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), "1\t17\t18\t5\t\"a b\"\n2\t17\t41\t1\t;\n");
     Parse("print 1;");
     EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), "");
+
+    for (const auto& [text, list] :
+         {std::pair("print;", "1\t6\t5\t1\t;\n"), {"use 2;", "1\t5\t4\t1\t2\n"}, {"print 3;", ""}}) {
+        m_Parser.set_Query(text);
+        m_Parser.FastParse();
+        EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), list) << text;
+    }
+}
+
+TEST_F(UnexpectedTokensOption, AListThatCantBeHandedOverFailsTheParse)
+{
+    SetOption("REPORT_UNEXPECTED_TOKENS", "1");
+    SetOption("UNEXPECTED_TOKENS", std::map<int, unsigned long>()); // no text goes there
+    Start();
+    EXPECT_LT(Parse("print 1;"), UVDB_OK);
+    EXPECT_EQ(TreeText(Tree()), "print 1;");
 }
 
 TEST_F(UnexpectedTokensOption, TellsOfTheParseThatStands)
@@ -97,6 +113,9 @@ const SLostCase kLostCases[] = {
     {"begin print '\xC3\xA9'; print '\xC3\xA9' + ; end;", "skipped\t1\t18\t18\t12\t1\t\n"},
     // a condition that is never left is told where it began, a last one that was left isn't
     {"print 1; /* a */\nprint 2; /* b", "unfinished\t2\t10\t26\t4\t0\tCOMMENT\n"},
+    // up to the very end
+    {"print 1; print", "skipped\t1\t10\t9\t5\t1\t\n"},
+    {"begin print 1 2; print", "skipped\t1\t7\t6\t9\t1\t\nskipped\t1\t18\t17\t5\t0\t\n"},
     {"print 1 1; /*", "skipped\t1\t1\t0\t9\t1\t\nunfinished\t1\t12\t11\t2\t0\tCOMMENT\n"},
 };
 
@@ -111,6 +130,28 @@ TEST_F(LostText, IsTheTextThatRecoveryThrewAwayAndWhatIsOpenAtTheEnd)
         m_Parser.FastParse();
         EXPECT_STREQ(Option<Uve::U8CString>("LOST_TEXT").c_str(), c.list);
     }
+}
+
+// Errors in what a later error throws away as a whole.
+TEST(LostTextList, AStretchInsideALongerOneIsPartOfIt)
+{
+    CSQLGrammarParserImplementation found;
+    found.set_Query("0123 5678 ABCD");
+    found.m_lstDiscarded = {{true, 2, 3}, {false, 1, 8}, {false, 5, 6}, {true, 14, 14}, {false, 10, 14}};
+    const std::vector<SDiscardedText> stretches = found.DiscardedStretches();
+    ASSERT_EQ(stretches.size(), 2u);
+    EXPECT_EQ(stretches[0].begin, 1u);
+    EXPECT_EQ(stretches[0].end, 8u);
+    EXPECT_TRUE(stretches[0].isReported);
+    EXPECT_EQ(stretches[1].begin, 10u);
+    EXPECT_EQ(stretches[1].end, 14u);
+    EXPECT_FALSE(stretches[1].isReported);
+}
+
+TEST(LostTextList, PlacesBeyondTheTextAreItsEnd)
+{
+    EXPECT_EQ(FormatLostText("a\nb", {}, SUnfinishedText{"COMMENT", 9}),
+              "unfinished\t2\t2\t3\t0\t0\tCOMMENT\n");
 }
 
 TEST_F(LostText, IsThatOfTheAttemptThatStands)
@@ -145,6 +186,13 @@ TEST(UnfinishedText, IsThatOfTheInnermostConditionAndOfItsOwnBeginning)
     };
     CSQLGrammarLexer lexer("States", false);
     lexer.yycreate();
+    // entered from outside: a condition, another one in it, and back
+    lexer.set_Query("a", 60);
+    for (const char* const condition : {"COMMENT", "LINE", "COMMENT"})
+        lexer.SetState(lexer.m_mapStartConditions.at(condition));
+    EXPECT_EQ(lexer.yylex(), 0);
+    ASSERT_TRUE(lexer.Unfinished());
+    EXPECT_EQ(lexer.Unfinished()->condition, "COMMENT");
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
         lexer.set_Query(c.text, 60);

@@ -120,6 +120,20 @@ TEST_F(ScriptFormatters, OptionsReachThePass)
     }
 }
 
+TEST_F(ScriptFormatters, NotesAreThoseOfTheLastText)
+{
+    constexpr char kNote[] = "warning\t0\t\tnot prepared: COBOLFORMAT is not set\n";
+    StartPreparation(UVDB_DB_COBOL);
+    SetOption("REPORT_PREPARATION_NOTES", "1");
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(Prepare("000100 A.\n"), UVDB_OK);
+        EXPECT_STREQ(Option<Uve::U8CString>("PREPARATION_NOTES").c_str(), kNote);
+    }
+    SetOption("COBOLFORMAT", "ansi");
+    EXPECT_EQ(Prepare("000100 A.\n"), UVDB_OK);
+    EXPECT_STREQ(Option<Uve::U8CString>("PREPARATION_NOTES").c_str(), "");
+}
+
 TEST_F(ScriptFormatters, PassThatLeavesNothingGivesNoText)
 {
     StartPreparation(UVDB_DB_IBM_RPG); // no layout
