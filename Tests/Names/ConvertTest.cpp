@@ -254,7 +254,10 @@ TEST(Convert, ATrimRuleThatLeavesNothingIsDropped)
 {
     const CLogCapture log;
     Check({{kMsSql, kOracle11, kAlphanum, "", kTable, "", std::string(31, '_'), std::string(30, '_'), 8}});
-    EXPECT_EQ(log.Lines(), std::vector<std::string>{"\nConvertIdentifier: incorrect identifier.\n"});
+    // nor is the prefix of a variable a name
+    Check({{kMsSql, kOldInformix, kAlphanum, "", kVariable, "", "@" + std::string(31, '_'),
+            "v_" + std::string(16, '_'), 8}});
+    EXPECT_EQ(log.Lines(), std::vector<std::string>(2, "\nConvertIdentifier: incorrect identifier.\n"));
 }
 
 TEST(Convert, TemporaryTablesAreMarked)
@@ -334,6 +337,18 @@ TEST(Unique, NumbersRespectBytesInPostgres)
         kana += "か";
     EXPECT_EQ(MadeUnique(host, kTable, {kana + "a", kana + "b", kana + "c"}),
               (Names{kana, kana.substr(0, 60) + "2", kana.substr(0, 60) + "3"}));
+}
+
+TEST(Unique, TheNumberGoesInsideMarksThatHoldSomething)
+{
+    CNameHost host({8}, {2}, {.remove = false, .removeFirst = false});
+    for (const auto& [name, unique] :
+         {std::pair("[a]", "s.[a2]"), {"[]", "s.[]2"}, {"[", "s.[2"}, {"a]", "s.a]2"}}) {
+        unsigned long reasons = 0;
+        host.Normalized(kTable, {"s", name, ""});
+        EXPECT_EQ(host.normaliser.MakeUniqueName({38, 36, 0}, std::string("s.") + name, {}, 0, reasons),
+                  unique);
+    }
 }
 
 TEST(Unique, WithoutTrimmingTheNumberGoesBehind)
@@ -434,6 +449,14 @@ TEST(Unique, PathsAreFilledUpAndReservedNamesCompareAsWritten)
     EXPECT_EQ(host.normaliser.MakeUniqueName(path, "orders", {}, 0, reasons), "orders");
     EXPECT_EQ(host.normaliser.MakeUniqueName(path, "hr.orders", {}, 0, reasons), "hr.orders");
     EXPECT_EQ(reasons, 0u);
+    // what isn't given is the same for all who don't give it
+    for (const auto& [schema, name, unique] :
+         {std::tuple("", "orders", "orders2"), {"hr", "hr.orders", "hr.orders2"}}) {
+        host.Normalized(kTable, {schema, "orders", ""});
+        EXPECT_EQ(host.normaliser.MakeUniqueName(path, name, {}, 0, reasons), unique);
+        EXPECT_EQ(reasons, UVDB_NAME_MADE_UNIQUE);
+        reasons = 0;
+    }
 
     // "ORDER" will be written ORDER_, which is taken then.
     EXPECT_EQ(MadeUnique(host, kTable, {"ORDER", "order_"}), (Names{"ORDER", "order_2"}));
