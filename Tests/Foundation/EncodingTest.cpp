@@ -186,6 +186,12 @@ TEST(Encoding, ReportingConvertersTellWhatTheyDid)
     }
     int size = 1;
     EXPECT_EQ(UVDB::UTF8ToUTF16LE(nullptr, &size, Input("a"), &size), -1);
+    unsigned char out[4] = {};
+    for (const auto& [room, count] : {std::pair(-1, 1), {4, -1}}) {
+        int outSize = room;
+        int inSize = count;
+        EXPECT_EQ(UVDB::UTF8ToUTF16LE(out, &outSize, Input("a"), &inSize), -1) << room << ' ' << count;
+    }
 }
 
 TEST(Encoding, OdbcTextEndsWhereItIsTold)
@@ -194,6 +200,7 @@ TEST(Encoding, OdbcTextEndsWhereItIsTold)
     EXPECT_EQ(Uve::SqlWcharToUTF8String(text), "a\u20AC\U0001F600");
     EXPECT_EQ(Uve::SqlWcharToUTF8String(text, 2), "a\u20AC");
     EXPECT_EQ(Uve::SqlWcharToUTF8String(text, 6), "a\u20AC\U0001F600\0b"s);
+    EXPECT_EQ(Uve::SqlWcharToUTF8String(text, 0), "");
     EXPECT_EQ(Uve::SqlWcharToUTF8String(nullptr, 5), "");
 
     char out[5] = "xxxx";

@@ -116,6 +116,13 @@ TYPED_TEST(U8Text, PartsAnswerLikeAStringOfCodePoints)
     }
 }
 
+TEST(U8String, ACountBeyondTheTextTakesAllOfIt)
+{
+    for (const std::size_t count :
+         {std::size_t{8}, std::size_t{9}, kNone / 6, kNone / 6 + 1, kNone / 2, kNone - 1})
+        EXPECT_EQ(u8string("\u20ACbcdefgh", count).raw(), "\u20ACbcdefgh") << count;
+}
+
 TEST(U8String, ChangesAnswerLikeAStringOfCodePoints)
 {
     for (const auto& text : kTexts) {

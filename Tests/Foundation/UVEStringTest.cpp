@@ -57,7 +57,9 @@ TEST(UVEstring, Numbers)
 {
     EXPECT_EQ(UVEstring().itoa(-255, 16), "-ff");
     EXPECT_EQ(UVEstring().itoa(LLONG_MIN, 2).size(), 65u);
+    EXPECT_EQ(UVEstring().itoa(71, 36), "1z");
     EXPECT_EQ(UVEstring("x").itoa(5, 37), "");
+    EXPECT_EQ(UVEstring("x").itoa(5, 1), "");
     EXPECT_EQ(UVEstring(" -12x").atoi(), -12);
     EXPECT_EQ(UVEstring("x").atoi(), 0);
     EXPECT_EQ(UVEstring("99999999999999999999").atoi(), INT_MAX);

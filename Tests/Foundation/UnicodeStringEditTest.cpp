@@ -215,6 +215,8 @@ TEST(U8CStringEdit, BuffersCountFourBytesACharacter)
     text.GetBufferBytes(5)[3] = 'x';
     text.ReleaseBufferBytes(4);
     EXPECT_EQ(text, "\xE2\x82\xACx");
+    text.ReleaseBufferBytes(99);
+    EXPECT_EQ(text, "\xE2\x82\xACx");
     text.ReleaseBuffer(99);
     EXPECT_EQ(text.GetLength(), 2);
     text.ReleaseBuffer(0);
@@ -227,10 +229,13 @@ TEST(U8CStringEdit, BuffersCountFourBytesACharacter)
 TEST(U8CStringEdit, MalformedTextLosesNoByte)
 {
     EXPECT_EQ(U8CString("a\xE2").FindOneOf("\xE2\x82\xAC"), -1); // a part of a member isn't a member
+    // clang-format off
     const std::string malformed[] = {
         "\x80",       "a\x80\x80",         "\xE2\x82",      "a\xF0\x9F",        "\xFF\xFE",
         "\xC3 \xC3,", "\xE2 ,\x82\xAC ab", "\xFD\x80 \xFC", "\x80\xE2\x82\xAC", std::string("\xF0\0,\0", 4),
+        "aaaa\xFC" "bcdef,g", // a lead may claim five more bytes
     };
+    // clang-format on
     for (const auto& text : malformed) {
         SCOPED_TRACE(testing::PrintToString(text));
         for (int known = 0; known <= 8; ++known) {
