@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -393,6 +394,61 @@ TEST(ScannerBuffers, OnlyTextWithTwoNulsIsScannedInPlace)
     EXPECT_EQ(scanner.yyscan_buffer(good, 1), nullptr);
     ASSERT_NE(scanner.yyscan_buffer(good, 5), nullptr);
     EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "3:b", "1: "}));
+}
+
+// In front of what was read from a stream there is room for as much as its buffer takes.
+TEST(ScannerBuffers, AStreamTakesMoreBackThanItGave)
+{
+    std::FILE* const file = std::tmpfile();
+    ASSERT_NE(file, nullptr);
+    std::fwrite("x\0]", 1, 3, file); // the NUL is a byte of the text afterwards, too
+    std::rewind(file);
+    CPlainScanner scanner("Tiny", 2);
+    scanner.yyset_in(file); // closed with the scanner
+    bool isPushed = false;
+    scanner.m_onMatch = [&] {
+        if (std::exchange(isPushed, true))
+            return;
+        for (int i = 0; i < 5; ++i)
+            scanner.PushBack('a');
+    };
+    EXPECT_EQ(scanner.Matches(),
+              (Matches{"7:x", "2:a", "2:a", "2:a", "2:a", "2:a", std::string("7:\0", 3), "7:]"}));
+    scanner.yyset_in(file);
+}
+
+TEST(ScannerBuffers, ATerminalIsReadLineByLine)
+{
+    std::FILE* const file = std::tmpfile();
+    ASSERT_NE(file, nullptr);
+    std::fputs("aa\na", file);
+    std::rewind(file);
+    CPlainScanner scanner("Tiny", 2);
+    scanner.yyrestart(file);
+    scanner.yycurrent_buffer()->yy_is_interactive = 1;
+    std::vector<long> read;
+    scanner.m_onMatch = [&] { read.push_back(std::ftell(file)); };
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "2:a", "7:\n", "2:a"}));
+    EXPECT_EQ(read, (std::vector<long>{3, 3, 3, 4}));
+    scanner.yyset_in(file);
+}
+
+TEST(ScannerBuffers, ABufferIsReadOnWhereItWasLeft)
+{
+    CPlainScanner scanner("Tiny", 2, "ab a");
+    char inner[] = {'x', 0, 0};
+    yybuffer_state* outer = nullptr;
+    scanner.m_onMatch = [&] {
+        if (outer)
+            return;
+        outer = scanner.yycurrent_buffer();
+        EXPECT_NE(scanner.yyscan_buffer(inner, 3), nullptr); // switches to it
+    };
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "7:x"}));
+    yybuffer_state* const done = scanner.yycurrent_buffer();
+    scanner.yyswitch_to_buffer(outer);
+    scanner.yydelete_buffer(done);
+    EXPECT_EQ(scanner.Matches(), (Matches{"3:b", "1: ", "2:a"}));
 }
 
 // Where a text got stuck, the next one in the same memory isn't.
