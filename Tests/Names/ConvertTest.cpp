@@ -370,6 +370,8 @@ TEST(Unique, FreedNumbersAreGivenAgain)
     EXPECT_EQ(MadeUnique(host, kTable, {"abc", "ABC", "Abc"}), (Names{"abc", "ABC2", "Abc3"}));
     host.normaliser.RemoveIdentifiers(kTable);
     EXPECT_EQ(MadeUnique(host, kTable, {"abc", "ABC"}), (Names{"abc", "ABC2"}));
+    host.normaliser.Init(host.source, host.target);
+    EXPECT_EQ(MadeUnique(host, kTable, {"abc", "ABC"}), (Names{"abc", "ABC2"}));
 }
 
 struct SSpaceCase

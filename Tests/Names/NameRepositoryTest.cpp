@@ -176,6 +176,19 @@ TEST(NameRepository, PrefixMakesASpaceOfItsOwn)
     EXPECT_EQ(key, "_/36/_S_/6/_P_/42/_V|block");
 }
 
+TEST(NameRepository, NamesOfAnyLengthStay)
+{
+    Repositary2 repository = Repository(8);
+    const std::size_t lengths[] = {1, 4000, 5000, 100, 3000000, 2};
+    for (const std::size_t length : lengths)
+        EXPECT_TRUE(repository.SetObject({kSchema, kTable}, {"s", std::string(length, 'n')},
+                                         {std::string(length, 'N')}));
+    for (const std::size_t length : lengths)
+        EXPECT_TRUE(NameOf(repository, {kSchema, kTable}, {"s", std::string(length, 'n')}) ==
+                    std::string(length, 'N'))
+            << length;
+}
+
 TEST(NameRepository, UnequalOrEmptyPathsAreNoObjects)
 {
     Repositary2 repository = Repository(8);

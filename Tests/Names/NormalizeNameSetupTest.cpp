@@ -120,11 +120,14 @@ protected:
 
 TEST_F(TranslateRules, QuotedCaseOutsideTheRulesIsGuessed)
 {
-    m_Normaliser.Init(MakeInfo(8), MakeInfo(2));
-    for (const auto& [given, taken] :
-         {std::pair(0L, 4L), {1L, 1L}, {3L, 3L}, {4L, 4L}, {5L, 4L}, {-1L, 4L}}) {
-        Set(nullptr, given);
-        EXPECT_EQ(m_Normaliser.GetTargetQuotedCase(), taken) << given;
+    for (const auto& [kind, guess] : {std::pair(2, 4L), {8, 3L}}) {
+        m_Normaliser.Init(MakeInfo(8), MakeInfo(static_cast<std::uint64_t>(kind)));
+        for (const auto& [given, taken] :
+             {std::pair(0L, guess), {1L, 1L}, {3L, 3L}, {4L, 4L}, {5L, guess}, {-1L, guess}}) {
+            SCOPED_TRACE(testing::Message() << kind << ' ' << given);
+            Set(nullptr, given);
+            EXPECT_EQ(m_Normaliser.GetTargetQuotedCase(), taken);
+        }
     }
 }
 

@@ -134,7 +134,9 @@ TEST(Qualified, TypesHaveTheirOwnSteps)
         {kOracle, kPostgres, "", kVariable, "", "", {"s", "p", "order"}, "||\"ORDER\""},
         {kOracle, kMsSql, "EMPTY_SCHEMA=1", kFunction, "", "", {"s", "f", ""}, "dbo|f|"},
         {kOracle, kMsSql, "", kFunction, "", "", {"s", "f", ""}, "s|f|"},
+        {kOracle, kMsSql, "EMPTY_SCHEMA=1", kFunction, "", "", {"s", "", ""}, "||"},
         {kCobol, kOracle, "", kColumn, "", "", {"", "T", "CUST-NO"}, "|T|\"CUST-NO\""},
+        {kCobol, kOracle, "", kColumn, "", "", {"", "T", "\"CUST-NO\""}, "|T|\"CUST-NO\""},
         {kPostgres, kOracle, "", kColumn, "", "", {"", "T", "CUST-NO"}, "|T|CUST-NO"},
         {kOracle, {37}, "SAPHANA_QUOTED_IDENTIFIERS=1", kColumn, "", "", {"S", "Tab", "C"}, "S|\"Tab\"|C"},
         {kOracle, {37}, "SAPHANA_QUOTED_IDENTIFIERS=1", kVariable, "", "", {"S", "P", "var"}, "||var"},
@@ -149,6 +151,7 @@ TEST(Qualified, SchemaFollowsTheOptions)
         {kMsSql, kOracle, "EMPTY_SCHEMA=2", kTable, "", "", {"sales", "t", ""}, "sales|t|"},
         {kMsSql, kOracle, "", kTable, "", "", {"guest", "t", ""}, "|t|"}, // not a schema that owns something
         {kMsSql, kOracle, "SCHEMA_TO_OBJ_NAME=1", kTable, "", "", {"dbo", "\"t\"", ""}, "|dbo_t|"},
+        {kAse, kOracle, "SCHEMA_TO_OBJ_NAME=1", kColumn, "", "", {"dbo", "", "c"}, "dbo||c"},
         {kMsSql, kOracle, "SCHEMA_TO_OBJ_NAME=1", kAlias, "", "", {"dbo", "t", ""}, "|t|"},
         {kMsSql, kMySql, "SCHEMA_TO_OBJ_NAME=1", kTable, "", "", {"guest", "t", ""}, "|guest_t|"},
         {kMsSql, kPostgres, "SCHEMA_TO_OBJ_NAME=1", kTable, "", "", {"guest", "t", ""}, "|t|"},
@@ -260,6 +263,14 @@ TEST(Qualified, TheReportTellsWhatAndWhy)
         {kPostgres, kOracle, "", kColumn, {"s", "1t", "a b"}, "s.1t.a b", "s.t.ab", 2 | 4},
         {kPostgres, kOracle, "EMPTY_SCHEMA=1", kTable, {"s", "t", ""}, "s.t", "t", 1},
         {kInformix, kPostgres, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, {"s", "t", ""}, "s.t", "t", 64},
+        {kInformix,
+         kPostgres,
+         "CONVERT_DATABASE_TO_SCHEMA=1 EMPTY_SCHEMA=1",
+         kTable,
+         {"s", "t", ""},
+         "s.t",
+         "t",
+         1},
         {kOracle, kPostgres, "", kIndex, {"s", "t", "T"}, "T_idx", "t.T_idx", 0},
         {kOracle, kMySql, "", kTable, {"s", "con", ""}, "s.con_", "s.con_", 0},
         {kMsSql,
@@ -283,6 +294,18 @@ TEST(Qualified, TheReportTellsWhatAndWhy)
             EXPECT_EQ(m_ReportMap.begin()->second.reasons, c.reasons) << "call " << call;
         }
     }
+}
+
+// Nothing that was given is missing.
+TEST(Qualified, TheSchemaOfALinkIsLeftOutUntold)
+{
+    m_ReportMap.clear();
+    CNameHost host(kMsSql, kPostgres, kKeep,
+                   "CONVERT_DBLINK_TO_SCHEMA=1 DBLINK_TARGET_NAME=srv=linked CONVERT_DATABASE_TO_SCHEMA=1 "
+                   "CONVERT_PACKAGE_TO_SCHEMA=1 EMPTY_SCHEMA=1");
+    EXPECT_EQ(host.Normalized(kTable, {"", "t", ""}, "", "srv"), "|t|");
+    ASSERT_EQ(m_ReportMap.size(), 1u);
+    EXPECT_EQ(m_ReportMap.begin()->second.reasons, 0u);
 }
 
 struct SPrepareCase
