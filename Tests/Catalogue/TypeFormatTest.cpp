@@ -1,5 +1,6 @@
 #include "Catalogue/TypeMapping/MappingSheaf.h"
 #include "Catalogue/UVDBDataTypeElement.h"
+#include "Catalogue/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBTypeFormat.h"
 #include "Interfaces/IUVDBColumnInfo.h"
@@ -281,10 +282,34 @@ constexpr SRowCase kRows[] = {
     {UVDB_DB_TERADATA, "NUMERIC", -128, -128, 26, "NUMERIC(*)"},
     {UVDB_DB_TERADATA, "PERIOD(TIMESTAMP())", 0, 6, -1, "PERIOD(TIMESTAMP(6))"},
     {UVDB_DB_TERADATA, "PERIOD(TIME() WITH TIME ZONE)", 0, 2, -1, "PERIOD(TIME(2) WITH TIME ZONE)"},
+    {UVDB_DB_TERADATA, "PERIOD(TIMESTAMP())", 0, 99, -1, "PERIOD(TIMESTAMP(99))"},
     {UVDB_DB_TERADATA, "PERIOD(TIMESTAMP())", 0, 100, -1, "PERIOD(TIMESTAMP())"},
     {UVDB_DB_TERADATA, "PERIOD(DATE)", 0, 6, -1, "PERIOD(DATE)"},
     {UVDB_DB_ORA, "PERIOD(TIME())", 0, 6, -1, "PERIOD(TIME())"},
 };
+
+TEST(TypeFormat, ARungHoldsNumbersUpToItsOwn)
+{
+    constexpr struct
+    {
+        long size, scale;
+        std::int64_t uvdbType;
+    } kRungs[] = {
+        {0, 0, 46},  {1, 0, 14},  {2, 0, 14},  {3, 0, 34}, {4, 0, 34},  {5, 0, 14},    {9, 0, 14},
+        {10, 0, 37}, {18, 0, 37}, {19, 0, 25}, {2, 1, 25}, {2, -1, 25}, {38, 127, 25},
+    };
+    for (const auto& c : kRungs) {
+        SCOPED_TRACE(testing::Message() << c.size << ',' << c.scale);
+        const SDataTypeParams* row = nullptr;
+        FormatDBMSDataType({.db = UVDB_DB_ORA}, "NUMBER", c.size, c.scale, 0, -1, &row);
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->uvdbType, c.uvdbType);
+    }
+    const SDataTypeParams* row = nullptr;
+    FormatDBMSDataType({.db = UVDB_DB_ORA}, "NUMBER", 9, 2, 0, 14, &row);
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->columnSize, 9u);
+}
 
 TEST(TypeFormat, RowsLimitAndShapeTheText)
 {
@@ -298,6 +323,7 @@ TEST(TypeFormat, ArraysLoseTheirBounds)
 {
     EXPECT_EQ(GetArrayDataType("INTEGER[10]"), "INTEGER[]");
     EXPECT_EQ(GetArrayDataType("INTEGER[10][3]"), "INTEGER[][3]");
+    EXPECT_EQ(GetArrayDataType("ODD][3]"), "ODD][]");
     for (const char* name : {"INTEGER", "INTEGER[]", "INTEGER[10", "]INTEGER[", ""})
         EXPECT_EQ(GetArrayDataType(name), name);
 }

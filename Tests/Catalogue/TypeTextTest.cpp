@@ -336,4 +336,29 @@ TEST(TypeText, WrittenTypesReadBack)
     }
 }
 
+TEST(TypeText, NumbersAndTextsReachTheirLimits)
+{
+    const struct
+    {
+        std::uint64_t db;
+        std::string text;
+        unsigned long size; // 0: refused
+    } cases[] = {
+        {UVDB_DB_DB2, "CLOB(9007199254740991K)", 9223372036854774784ul},
+        {UVDB_DB_DB2, "CLOB(9007199254740992K)", 0},
+        {UVDB_DB_ORA, "NUMBER(2147483647)", 2147483647},
+        {UVDB_DB_ORA, "NUMBER(2147483648)", 0},
+        {UVDB_DB_ORA, "NUMBER(" + std::string(kMaxTypeTextBytes - 10, ' ') + "10)", 10},
+        {UVDB_DB_ORA, "NUMBER(" + std::string(kMaxTypeTextBytes - 9, ' ') + "10)", 0},
+        {UVDB_DB_MySQL, "ENUM(')", 0},
+        {UVDB_DB_MySQL, "SET('a','b','c')", 5},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text.substr(0, 40));
+        const STypeText type = ReadTypeText(Db(c.db), c.text);
+        EXPECT_EQ(type.error.empty(), c.size != 0) << type.error;
+        EXPECT_EQ(type.numbers.size, c.size);
+    }
+}
+
 } // namespace
