@@ -183,6 +183,11 @@ TEST(Buffer, GrowthKeepsTheBytesAndZeroesTheRest)
     buffer = copy;
     EXPECT_EQ(std::memcmp(buffer.GetData(), "xc", 2), 0);
     EXPECT_EQ(buffer.GetSize(), 2u);
+    buffer.Assign("0123456789", 10);
+    buffer.Resize(2);
+    buffer.Realloc(10); // nor do these come back
+    EXPECT_EQ(std::memcmp(buffer.GetData(), "01\0\0\0\0\0\0\0\0", 10), 0);
+    buffer.Assign("xc", 2);
     buffer.Realloc(1);
     EXPECT_EQ(buffer.GetCapacity(), 1u);
     buffer.Realloc(0);

@@ -133,7 +133,8 @@ TEST(Unicode, CaseOfTexts)
         EXPECT_EQ(utf8_to_lowercase(utf8(c.text)), utf8(c.lower));
         EXPECT_EQ(utf8_casefold(utf8(c.text)), utf8(c.folded));
     }
-    EXPECT_EQ(utf8_to_uppercase("i", "tr_TR.UTF-8"), "\xC4\xB0");
+    for (const char* const locale : {"tr", "tr_TR.UTF-8", "tr-TR", "tr.UTF-8", "az@latin"})
+        EXPECT_EQ(utf8_to_uppercase("i", locale), "\xC4\xB0") << locale;
     EXPECT_EQ(utf8_to_lowercase("I\xC4\xB0", "az"), "\xC4\xB1i");
     EXPECT_EQ(utf8_to_uppercase("i", "en_US"), "I");
     EXPECT_EQ(utf8_to_uppercase(std::string_view("a\0b", 3)), std::string_view("A\0B", 3));

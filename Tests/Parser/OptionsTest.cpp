@@ -108,6 +108,11 @@ TEST_F(ParserOptions, OptionsReachBothScanners)
     EXPECT_EQ(ColoringScanner().m_mapOptions.at("PERCENT_AS_COMMENT"), "0"); // until another Load
     EXPECT_TRUE(Scanner().m_bParserPR4GL);
     EXPECT_TRUE(ColoringScanner().m_bParserPR4GL);
+
+    SetDatabase(UVDB_DB_COMMON); // another info, without a size
+    m_Parser.set_DatabaseInfo(m_Info);
+    EXPECT_EQ(m_Parser.m_ExtParserSize, 102400);
+    EXPECT_EQ(m_Parser.m_ExtParserSizeCopy, 102400);
 }
 
 TEST_F(ParserOptions, UnknownStartStateLeavesTheLaterOptionsUnread)
