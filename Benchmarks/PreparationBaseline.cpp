@@ -47,7 +47,8 @@ constexpr double kMega = 1e6;
 constexpr std::size_t kMostMemoryPerByte = 40; // of source
 constexpr double kGrowthBound = 1.1;           // times the growth of the text
 
-// `folder` holds the include files, and would hold the source. Returns: the bytes of the prepared text.
+// `folder` holds the include files, and would hold the source.
+// Returns: the bytes of the prepared text.
 using Work = std::size_t (*)(const Uve::U8CString& text, const std::string& folder);
 
 template <bool removesFormatting>

@@ -81,7 +81,8 @@ std::string MakeKey(const char* name, std::string* params, std::uint64_t db, lon
     return key;
 }
 
-// The rows of the name, as indexes into the table. Returns: null for an unknown name.
+// The rows of the name, as indexes into the table.
+// Returns: null for an unknown name.
 const STypeNameSpan* FindName(const SDataTypeTable& table, DB_VERSION_INFO version, const char* name)
 {
     return table.Find(MakeKey(name, nullptr, version.db, -1));

@@ -34,7 +34,8 @@ public:
         : m_Table(&table), m_Row(row)
     {}
 
-    // By key text. Returns: the index of the row.
+    // By key text.
+    // Returns: the index of the row.
     constexpr std::optional<std::size_t> find(std::string_view key) const
     {
         const STypeNameSpan* const span = m_Table->Find(key);
@@ -70,7 +71,8 @@ CDataTypeNameMap GetDBMSDataTypeParamsMapLast(DB_VERSION_INFO version);
 std::span<const SDataTypeParams> GetUVDBDataTypeParamsList();
 CInternalTypeMap GetUVDBDataTypeParamsMap();
 
-// By the exact text of the name. Returns: the number of the first row so named, -1 if there is none.
+// By the exact text of the name.
+// Returns: the number of the first row so named, -1 if there is none.
 long GetUVDBDataType(const char* name);
 
 // Returns: the number's first row, null if no row has it.
@@ -96,7 +98,8 @@ Uve::U8CString NormalizeTypeName(const char* name, Uve::U8CString& params, DB_VE
                                  long mode);
 Uve::U8CString NormalizeTypeName(const char* name, DB_VERSION_INFO version);
 
-// By name alone: what the last rung stands for. Returns: -1 for an unknown name.
+// By name alone: what the last rung stands for.
+// Returns: -1 for an unknown name.
 long DBMSToUVDBDataType(DB_VERSION_INFO version, const char* name);
 
 // The first rung from the name's first row on that is wide enough and takes the scale, the last one
@@ -106,7 +109,8 @@ long DBMSToUVDBDataType(DB_VERSION_INFO version, const char* name);
 long DBMSToUVDBDataType(DB_VERSION_INFO version, const char* name, unsigned long size, long precision,
                         long scale);
 
-// The row that the function above chooses. Returns: null for an unknown name.
+// The row that the function above chooses.
+// Returns: null for an unknown name.
 const SDataTypeParams* FindDBMSDataTypeRow(DB_VERSION_INFO version, const char* name, unsigned long size,
                                            long scale);
 
@@ -115,7 +119,8 @@ void DBMSToUVDBDataTypeRange(DB_VERSION_INFO version, const char* name,
                              UVDB::CArray<const SDataTypeParams*>& rows);
 
 // Among the rows of that range the first one of the internal type, or the last row if it has none (-1 asks
-// for that one). Returns: the null row for an unknown name.
+// for that one).
+// Returns: the null row for an unknown name.
 const SDataTypeParams& GetDBMSDataTypeParams(DB_VERSION_INFO version, const char* name, long uvdbType);
 
 // One field of that row; "", 0 or false of the null row.
@@ -127,7 +132,8 @@ bool IsDBMSDataTypePrecScaleFixed(DB_VERSION_INFO version, const char* name, lon
 
 // ---- ODBC type numbers ----
 
-// The name decides where the table knows it, the ODBC number otherwise. Returns: -1 if neither helps.
+// The name decides where the table knows it, the ODBC number otherwise.
+// Returns: -1 if neither helps.
 long ODBCToUVDBDataType(DB_VERSION_INFO version, long odbcType, const char* name, unsigned long size,
                         long precision, long scale);
 

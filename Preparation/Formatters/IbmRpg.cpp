@@ -130,7 +130,7 @@ private:
     int m_Depth = 0;
     bool m_IsCompileTimeData = false;
     bool m_IsCopying = false;
-    CLineNotes m_Vanished{"vanished: the letter of the specification is unknown, or there is none"};
+    CLineNotes m_Vanished{"vanished: the letter of the line is unknown, or there is none"};
 };
 
 void CRpgPass::Flush()

@@ -64,6 +64,7 @@ TEST(PluginEntry, HostWalksTheCallingOrder)
     EXPECT_THROW(parser->Load("NoSuchGrammar"), Uve::U8CString);
 }
 
+#ifndef UV_SANITIZED // a sanitizer's allocator counts by itself
 // What a parse leaves with a host: the tree, the error, the list of tokens on the info.
 void ParseOnce(const std::shared_ptr<IUVDBSQLParser>& parser, const std::string& text, bool isNew)
 {
@@ -105,10 +106,10 @@ TEST(PluginEntry, ParsesOfManyInfosLeaveNoMemoryBehind)
             ASSERT_NO_FATAL_FAILURE(ParseOnce(parser, text, isNew));
             log->Clear();
         }
-        if (before == 0)
-            GTEST_SKIP() << "an allocator that counts by itself";
+        ASSERT_NE(before, 0u);
         EXPECT_LT(mallinfo2().uordblks, before + 4096);
     }
 }
+#endif
 
 } // namespace

@@ -162,7 +162,7 @@ struct SRpgNoteCase
 
 TEST(IbmRpg, LinesThatVanishAreTold)
 {
-    const std::string unknown = " vanished: the letter of the specification is unknown, or there is none;";
+    const std::string unknown = " vanished: the letter of the line is unknown, or there is none;";
     for (const SRpgNoteCase& c : std::vector<SRpgNoteCase>{
              {{},
               Repeated(Line('C', "A"), 100),
