@@ -272,8 +272,8 @@ SPreparedText FormatCobol(const Uve::U8CString& text, const SCobolOptions& optio
     SPreparedText prepared;
     if (options.format == enCobolFormat::None) {
         if (!text.empty())
-            prepared.notes.push_back(LineWarning(0, "COBOLFORMAT " + std::string(options.formatName) +
-                                                        " is no form: the text is empty"));
+            prepared.notes.push_back(
+                TextRefused("COBOLFORMAT " + std::string(options.formatName) + " is no form"));
         return prepared;
     }
     if (options.isFaithful)

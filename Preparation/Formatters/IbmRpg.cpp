@@ -283,8 +283,7 @@ SPreparedText FormatIbmRpg(std::string_view source, const SIbmRpgOptions& option
     if (layout == nullptr) {
         SPreparedText prepared;
         if (!source.empty())
-            prepared.notes.push_back(
-                LineWarning(0, "IBMRPG_VERSION names no column layout: the text is empty"));
+            prepared.notes.push_back(TextRefused("IBMRPG_VERSION names no column layout"));
         return prepared;
     }
     CRpgPass pass(*layout, options, source.size());

@@ -43,6 +43,11 @@ SPreparationNote LineWarning(std::uint32_t line, std::string text)
     return {.isError = false, .line = line, .file = {}, .text = std::move(text)};
 }
 
+SPreparationNote TextRefused(std::string reason)
+{
+    return {.isError = true, .line = 0, .file = {}, .text = std::move(reason) + ": the text is empty"};
+}
+
 void SortNotes(std::vector<SPreparationNote>& notes)
 {
     std::ranges::stable_sort(notes, {}, &SPreparationNote::line);

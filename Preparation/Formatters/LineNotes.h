@@ -35,6 +35,8 @@ private:
 
 // A warning about the text itself. Line 0 is none.
 SPreparationNote LineWarning(std::uint32_t line, std::string text);
+// The pass refused the whole text: nothing of it is left.
+SPreparationNote TextRefused(std::string reason);
 
 // By their lines, equal ones as they are.
 void SortNotes(std::vector<SPreparationNote>& notes);

@@ -476,6 +476,10 @@ TEST(UvparseLanguage, PreparationNeedsNoGrammar)
     EXPECT_EQ(none.Choose("", "", "x.pas").parserName, "Pascal"); // two kinds, one parser name
     EXPECT_EQ(none.Choose("Jcl", "", "x.jcl").parserName, "JCL");
     EXPECT_EQ(none.Choose("", "", "x.rpgle").parserName, "IBMRPG");
+    // Databases have these names too, but nothing prepares their texts.
+    EXPECT_EQ(none.Choose("FoxPro", "", "x").parserName, "FoxproPrograms");
+    EXPECT_EQ(none.Choose("progress", "", "x").parserName, "Progress4GL");
+    EXPECT_EQ(none.Choose("", "", "x.p").parserName, "Progress4GL");
     EXPECT_EQ(none.Choose("", "", "x.cob").parserName, "COBOL"); // others of this extension are rare
     EXPECT_THROW(none.Choose("../JCL", "", "x.jcl"), CLanguageError);
     EXPECT_THROW(none.Choose("", "", "x.nonesuch"), CLanguageError);

@@ -186,9 +186,9 @@ TEST_F(UvparsePrepare, WhatPreparationCannotDoIsTold)
     // Without a layout nothing is left of RPG.
     Put("a.rpg", "     C                   IF        A = B\n");
     const SRunResult empty = Run("--prepare -l IBMRPG a.rpg");
-    EXPECT_EQ(empty.code, 0);
+    EXPECT_EQ(empty.code, 1);
     EXPECT_EQ(empty.out, "");
-    EXPECT_EQ(empty.err, "a.rpg: warning: IBMRPG_VERSION names no column layout: the text is empty\n");
+    EXPECT_EQ(empty.err, "a.rpg: error: IBMRPG_VERSION names no column layout: the text is empty\n");
     Put("empty.cl", "");
     EXPECT_EQ(Run("--prepare empty.cl").err, "");
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <system_error>
 
@@ -105,7 +106,13 @@ SLanguage CLanguageChoice::Choose(const std::string& parserName, const std::stri
 // The name as the folders of tables and the catalogue have it, for one that is written or said otherwise.
 std::string CLanguageChoice::NameOf(const std::string& said) const
 {
-    if (said.empty() || HasGrammar(said) || IsInCatalogue(said))
+    if (said.empty() || HasGrammar(said))
+        return said;
+    const std::string_view other = ParserOfOtherName(said);
+    // A database may have the name of a language whose sources are prepared (FoxPro, Progress).
+    const bool isMeant =
+        m_Purpose == enPurpose::Parsing || other.empty() || FindPreparedLanguage(said) != nullptr;
+    if (IsInCatalogue(said) && isMeant)
         return said;
     const auto isSame = [&](const std::string& name) {
         return Uve::Compat::stricmp(name.c_str(), said.c_str()) == 0;
@@ -117,8 +124,7 @@ std::string CLanguageChoice::NameOf(const std::string& said) const
         if (isSame(parserName))
             name = parserName;
     });
-    const std::string_view other = ParserOfOtherName(said);
-    return name == said && !other.empty() ? std::string(other) : name;
+    return (name == said || !isMeant) && !other.empty() ? std::string(other) : name;
 }
 
 SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
@@ -152,6 +158,9 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
         fitting.erase(common);
     known.erase(common);
     if (fitting.empty() && m_Purpose == enPurpose::Preparation) {
+        const auto isPrepared = [](const std::string& name) { return FindPreparedLanguage(name) != nullptr; };
+        if (std::ranges::any_of(known, isPrepared))
+            std::erase_if(known, std::not_fn(isPrepared));
         if (known.size() > 1)
             throw CLanguageError("files with the extension '" + extension + "' may be of" + Listed(known) +
                                  "; name one with --language");

@@ -73,6 +73,8 @@ constexpr SOtherName kOtherNames[] = {
     {"CLP",           "IBMCL"          },
     {"Delphi",        "Pascal"         },
     {"ESQL/C",        "C"              },
+    {"ESQLC",         "C"              },
+    {"FoxPro",        "FoxproPrograms" },
     {"Object Pascal", "Pascal"         },
     {"ObjectPascal",  "Pascal"         },
     {"OpenEdge",      "OpenEdgeABL"    },
@@ -81,6 +83,7 @@ constexpr SOtherName kOtherNames[] = {
     {"PL/SQL",        "Oracle"         },
     {"PLSQL",         "Oracle"         },
     {"Postgres",      "PostgreSQL"     },
+    {"Progress",      "Progress4GL"    },
     {"Progress 4GL",  "Progress4GL"    },
     {"RPG",           "IBMRPG"         },
     {"RPGLE",         "IBMRPG"         },
@@ -89,6 +92,7 @@ constexpr SOtherName kOtherNames[] = {
     {"T-SQL",         "MSSQL"          },
     {"TSQL",          "MSSQL"          },
     {"VFP",           "FoxproPrograms" },
+    {"Visual FoxPro", "FoxproPrograms" },
 };
 
 constexpr SPreparedLanguage kPrepared[] = {
