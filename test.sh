@@ -111,7 +111,7 @@ check_format() {
 
 # The sources of the product, with the flags that build/ci compiles them with. Tables of facts hold nothing to tidy.
 check_tidy() {
-    list_code '*.cpp' | grep -vE '^\./(Tests|Benchmarks|Catalogue/(DataTypes|TypeMapping|ReservedWords))/' |
+    list_code '*.cpp' | grep -vE '^\./(Tests|Benchmarks|Catalogue/(Types/(DataTypes|TypeMapping)|Identifiers/ReservedWords))/' |
         xargs -n 1 -P "$jobs" clang-tidy --quiet -p build/ci 2>&1 | sed '/ warnings\{0,1\} generated\.$/d'
 }
 

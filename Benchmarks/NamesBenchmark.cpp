@@ -1,6 +1,6 @@
 #include "Benchmarks/MeasuredProcess.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Names/NormalizeName.h"
 

@@ -6,8 +6,8 @@
 #include "Benchmarks/Native/NativeParse.h"
 #include "Grammar/UVGrammarLexer.h"
 #include "Interfaces/UVDBResults.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Parser/UVParser.h"
 #include "Stylesheets/TreeFlattener.h"
 

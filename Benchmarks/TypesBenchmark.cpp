@@ -1,6 +1,6 @@
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBTypeConverting.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBTypeConverting.h"
 #include "Tools/uvtypes/TypeMap.h"
 
 #include <benchmark/benchmark.h>

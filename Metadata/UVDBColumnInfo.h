@@ -2,10 +2,10 @@
 
 #include "Interfaces/IUVDBColumnInfo.h"
 #include "Interfaces/UVDBResults.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDataTypeInfo.h"
 #include "Metadata/UVDBObjectInfo.h"
 #include "Metadata/UVDBObjectText.h"
-#include "Metadata/UVDBOptionWrapper.h"
 
 #include <memory>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "Metadata/UVDBDataTypeInfo.h"
 
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/UVDBObjectText.h"
 

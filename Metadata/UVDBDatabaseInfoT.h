@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBDatabaseSession.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/IUVDBTransformer.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/OptionsHost.h"
+#include "Metadata/Options/OptionsHost.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBObjectInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Metadata/UVDBUnknownList.h"
 
 #include <map>

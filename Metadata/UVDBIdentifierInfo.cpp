@@ -1,11 +1,11 @@
 #include "Metadata/UVDBIdentifierInfo.h"
 
-#include "Catalogue/UVDBIdentifierTraits.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBKindSet.h"
 #include "Catalogue/UVDBRowConditions.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 
 #include <algorithm>
 #include <cstdint>

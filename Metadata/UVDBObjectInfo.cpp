@@ -1,11 +1,11 @@
 #include "Metadata/UVDBObjectInfo.h"
 
-#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/UVDBResults.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBObjectID.h"
 #include "Metadata/UVDBObjectText.h"
-#include "Metadata/UVDBOptionWrapper.h"
 
 #include <string>
 

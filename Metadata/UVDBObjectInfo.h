@@ -3,7 +3,7 @@
 #include "Interfaces/IUVDBColumnInfo.h"
 #include "Interfaces/IUVDBDataTypeInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
-#include "Metadata/OptionsHost.h"
+#include "Metadata/Options/OptionsHost.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <list>

@@ -1,7 +1,7 @@
 #include "Names/NameRepository.h"
 
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
 #include "Names/NameSpaceRows.h"
 
 #include <algorithm>

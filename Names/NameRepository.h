@@ -5,7 +5,7 @@
 // name that one of them has taken is taken for all.
 #pragma once
 
-#include "Catalogue/UVDBObjectTypeSet.h"
+#include "Catalogue/Identifiers/UVDBObjectTypeSet.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Names/NameRecords.h"
 #include "UVEnvironment/UVEUnicodeString.h"

@@ -1,8 +1,8 @@
 // Which types of objects stand below which, and which share a name space, by kind of database.
 #pragma once
 
+#include "Catalogue/Identifiers/UVDBObjectTypeSet.h"
 #include "Catalogue/UVDBKindSet.h"
-#include "Catalogue/UVDBObjectTypeSet.h"
 
 #include <cstdint>
 

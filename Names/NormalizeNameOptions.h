@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Names/NormalizeName.h"
 #include "Names/NormalizeNameConversion.h"
 #include "Names/NormalizeNameFree.h"

@@ -1,5 +1,5 @@
-#include "Catalogue/UVDBIdentifierTraits.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Names/NormalizeName.h"
 
 #include <array>

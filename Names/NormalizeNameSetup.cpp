@@ -1,6 +1,6 @@
-#include "Catalogue/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBIdentifierInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Names/NormalizeName.h"
 
 #include <utility>

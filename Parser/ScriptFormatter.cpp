@@ -2,7 +2,7 @@
 
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/UVParser.h"
 #include "Preparation/Formatters/Asp.h"
 #include "Preparation/Formatters/Cobol.h"

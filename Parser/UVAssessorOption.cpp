@@ -1,6 +1,6 @@
 #include "Parser/UVAssessorOption.h"
 
-#include "Metadata/UVProcessName.h"
+#include "Metadata/Options/UVProcessName.h"
 #include "Stylesheets/RulesFolder.h"
 
 namespace {

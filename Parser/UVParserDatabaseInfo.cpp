@@ -1,7 +1,7 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/UVAssessorOption.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"

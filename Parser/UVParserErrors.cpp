@@ -1,5 +1,5 @@
 #include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserText.h"

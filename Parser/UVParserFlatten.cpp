@@ -1,7 +1,7 @@
 // The last step of a parse: the parser's tree, flattened by the stylesheet that is part of the library.
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"

@@ -3,7 +3,7 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/ScriptFormatter.h"
 #include "Parser/UVParserText.h"
 

@@ -4,7 +4,7 @@
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/ScriptFormatter.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParser.h"

@@ -1,7 +1,7 @@
 #include "Preparation/Preprocessor.h"
 
 #include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Preparation/ESQLPreprocessor.h"
 #include "Preparation/ESQLSource.h"
 #include "UVEnvironment/LogSystem.h"

@@ -82,7 +82,7 @@ endfunction()
 macro(uv_finish_subsystems)
     get_property(uv_subsystems GLOBAL PROPERTY UV_SUBSYSTEMS)
     uv_object_group(uv_all ${uv_subsystems})
-    uv_object_group(uv_host uv_foundation uv_catalogue uv_types uv_options uv_metadata)
+    uv_object_group(uv_host uv_foundation uv_catalogue uv_identifiers uv_options uv_types uv_metadata)
 
     add_library(UVParser SHARED)
     target_link_libraries(UVParser PRIVATE uv_all)

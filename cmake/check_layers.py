@@ -1,82 +1,36 @@
 #!/usr/bin/env python3
-"""Checks that every include of the project points down the house, or sideways within its own folder.
+"""Checks that every include of the project points down the house, or stays within its own folder.
 
 Usage: check_layers.py [ROOT]     ROOT is the repository, by default the folder above this script.
 Prints one line FILE:LINE: MESSAGE for each violation and exits 1 if there is any.
 
 The rules:
 - An include in quotes names a file of the project by its full path from one of the two include roots.
-- A file includes headers of lower floors, and of its own room on its own floor or below. Rooms on one floor don't
-  see each other.
+- A file includes headers of its own folder and of lower floors. Folders on one floor don't see each other.
 - Interfaces may be included from anywhere; it holds headers alone, which include nothing but their like and the
   foundation.
 """
 
-import fnmatch
 import os
 import re
 import sys
 
-# The house from the ground up: each floor's rooms, and the files that live there. The first pattern that fits
-# decides, so that a folder whose files live on two floors names the lower ones first.
+FOUNDATION = "Libraries/Static/UVEnvironment"
+# The house from the ground up: the folders of each floor. A file lives on the floor of the longest folder that holds it.
 FLOORS = [
-    [
-        ("interfaces", ["Interfaces/*"]),
-        ("foundation", ["Libraries/Static/UVEnvironment/*"]),
-    ],
-    [
-        (
-            "catalogue",
-            [
-                "Catalogue/UVDBCatalogueRows.*",
-                "Catalogue/UVDBDatabaseKinds.*",
-                "Catalogue/UVDBDbInfo.*",
-                "Catalogue/UVDBHelpers.*",
-                "Catalogue/UVDBKindLists.*",
-                "Catalogue/UVDBNameMatcher.*",
-                "Catalogue/UVDBNamesHelper.*",
-                "Catalogue/UVDBParserNames.*",
-                "Catalogue/UVDBVersionRange.*",
-            ],
-        ),
-        ("archive", ["Stylesheets/Archive/*"]),
-    ],
-    [
-        (
-            "metadata",
-            [
-                "Metadata/OptionsHost.*",
-                "Metadata/UVDBOption*",
-                "Metadata/UVOptionInfo.*",
-                "Metadata/UVProcessName.*",
-                "Metadata/UVWizardOptionRows.*",
-                "Metadata/wzdoptions*",
-            ],
-        ),
-    ],
-    [("catalogue", ["Catalogue/*"])],
-    [
-        ("metadata", ["Metadata/*"]),
-        ("stylesheets", ["Stylesheets/*"]),
-    ],
-    [
-        ("preparation", ["Preparation/*"]),
-        ("grammar", ["Grammar/*"]),
-        ("names", ["Names/*"]),
-    ],
-    [("parser", ["Parser/*"])],
-    [("tool support", ["Tools/Support/*"])],
-    [
-        ("plugins", ["Plugins/*"]),
-        ("tools", ["Tools/*"]),
-        ("languages", ["Languages/*"]),
-    ],
-    [("test support", ["Tests/Support/*"])],
-    [
-        ("tests", ["Tests/*"]),
-        ("benchmarks", ["Benchmarks/*"]),
-    ],
+    ["Interfaces", FOUNDATION],
+    ["Catalogue", "Tree", "Stylesheets/Archive"],
+    ["Catalogue/Identifiers", "Metadata/Options"],
+    ["Catalogue/Types"],
+    ["Metadata", "Stylesheets"],
+    ["Preparation", "Grammar", "Names"],
+    ["Parser"],
+    ["Tools/Support"],
+    ["Plugins", "Tools", "Languages"],
+    ["Tests/Support"],
+    ["Tests", "Benchmarks"],
 ]
+FLOOR_OF = {folder: floor for floor, folders in enumerate(FLOORS) for folder in folders}
 
 INCLUDE_ROOTS = ["", "Libraries/Static/"]
 SOURCES = (".h", ".hpp", ".inc", ".cpp", ".cc", ".c")
@@ -95,11 +49,12 @@ INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?P<open>["<])(?P<path>[^">\n]
 
 
 def locate(path):
-    """The floor and the room of a file (path from the repository); None for a file outside the house."""
-    for floor, rooms in enumerate(FLOORS):
-        for room, patterns in rooms:
-            if any(fnmatch.fnmatchcase(path, pattern) for pattern in patterns):
-                return floor, room
+    """The floor and the folder of a file (path from the repository); None for a file outside the house."""
+    folder = path
+    while "/" in folder:
+        folder = folder.rpartition("/")[0]
+        if folder in FLOOR_OF:
+            return FLOOR_OF[folder], folder
     return None
 
 
@@ -144,18 +99,16 @@ def problem(root, source, path, quoted):
     if "/" not in path or not targets:
         return f'"{path}" is no full path from an include root'
 
-    floor, room = locate(source)
-    target_floor, target_room = locate(targets[0])
-    if target_room == "interfaces":
+    floor, folder = locate(source)
+    target_floor, target = locate(targets[0])
+    if target == folder or target == "Interfaces":
         return None
-    if room == "interfaces":
-        return None if target_room == "foundation" else f'Interfaces sees the foundation alone, not "{path}"'
-    if target_room == room and target_floor <= floor:
-        return None
+    if folder == "Interfaces":
+        return None if target == FOUNDATION else f'Interfaces sees the foundation alone, not "{path}"'
     if target_floor > floor:
-        return f'"{path}" stands above: {target_room} on floor {target_floor}, this is {room} on floor {floor}'
+        return f'"{path}" stands above: {target} on floor {target_floor}, this is {folder} on floor {floor}'
     if target_floor == floor:
-        return f'"{path}" stands beside: {target_room} and {room} share floor {floor}'
+        return f'"{path}" stands beside: {target} and {folder} share floor {floor}'
     return None
 
 
@@ -168,7 +121,7 @@ def main():
             print(f"{source}:1: this folder has no floor; name it in {os.path.basename(__file__)}")
             violations += 1
             continue
-        if locate(source)[1] == "interfaces" and not source.endswith(".h"):
+        if locate(source)[1] == "Interfaces" and not source.endswith(".h"):
             print(f"{source}:1: Interfaces holds headers alone")
             violations += 1
         for line, path, quoted in includes(root, source):

@@ -1,5 +1,5 @@
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
 #include "Tests/Names/NameFixture.h"
 
 #include <cstddef>

@@ -1,8 +1,8 @@
+#include "Catalogue/Types/UVDBTypeConverting.h"
+#include "Catalogue/Types/UVDBTypeFormat.h"
+#include "Catalogue/Types/UVDBTypeRules.h"
+#include "Catalogue/Types/UVDBTypeText.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBTypeConverting.h"
-#include "Catalogue/UVDBTypeFormat.h"
-#include "Catalogue/UVDBTypeRules.h"
-#include "Catalogue/UVDBTypeText.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDataTypeInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

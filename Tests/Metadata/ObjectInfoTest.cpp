@@ -1,8 +1,8 @@
 #include "Interfaces/IUVDBDatabaseInfo.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBColumnInfo.h"
 #include "Metadata/UVDBObjectInfo.h"
 #include "Metadata/UVDBObjectText.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Metadata/UVDBUnknownList.h"
 
 #include <gmock/gmock.h>

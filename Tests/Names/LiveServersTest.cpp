@@ -2,10 +2,10 @@
 // and to the cuts. Set UV_NAMES_SEED to try other names.
 #include "Tests/Names/LiveServers.h"
 
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBReservedWords.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTraits.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
-#include "Catalogue/UVDBReservedWords.h"
 #include "Names/NormalizeNameCharacters.h"
 #include "Tests/Names/NameFixture.h"
 #include "Tests/Names/NameGenerator.h"

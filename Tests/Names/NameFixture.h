@@ -1,8 +1,8 @@
 // A normaliser with its two database infos, and the rules that a host would set.
 #pragma once
 
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Names/NormalizeName.h"
 
 #include <cstdint>

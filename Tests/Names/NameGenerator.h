@@ -1,7 +1,7 @@
 // Names as catalogues have them, and worse. Text is UTF-8.
 #pragma once
 
-#include "Catalogue/UVDBReservedWords.h"
+#include "Catalogue/Identifiers/UVDBReservedWords.h"
 #include "UVEnvironment/UVECodePoints.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 

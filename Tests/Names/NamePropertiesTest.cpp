@@ -1,6 +1,6 @@
 // What has to hold for every name between every two databases. Set UV_NAMES_SEED and UV_NAMES_COUNT (names of
 // one pair) to try others, or more.
-#include "Catalogue/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
 #include "Names/NormalizeName.h"
 #include "Names/NormalizeNameCharacters.h"
 #include "Names/NormalizeNameKinds.h"

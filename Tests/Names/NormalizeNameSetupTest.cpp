@@ -1,7 +1,7 @@
-#include "Catalogue/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
 #include "Interfaces/UVDBResults.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Names/NormalizeName.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Interfaces/IUVDBObjectInfo.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Parser/UVParserFormatters.h"
 
 #include <gtest/gtest.h>

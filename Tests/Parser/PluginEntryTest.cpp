@@ -5,8 +5,8 @@
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/IUVDBSQLParser.h"
 #include "Interfaces/UVDBResults.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Tests/Parser/ParserFixture.h"
 #include "UVEnvironment/PluginHelpers.h"
 

@@ -1,8 +1,8 @@
 #include "Preparation/Preprocessor.h"
 
 #include "Catalogue/UVDBHelpers.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
-#include "Metadata/UVDBOptionWrapper.h"
 #include "Tests/Preparation/FormatterFixture.h"
 #include "Tests/Support/MemoryLog.h"
 #include "Tests/Support/ScratchFolder.h"

@@ -1,5 +1,5 @@
-#include "Catalogue/UVDBIdentifierTypes.h"
-#include "Catalogue/UVDBReservedWords.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBReservedWords.h"
 #include "Tests/Support/ProgramFixture.h"
 #include "Tools/uvnames/MarkupText.h"
 #include "Tools/uvnames/NameMapping.h"

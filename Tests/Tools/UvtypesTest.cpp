@@ -1,4 +1,4 @@
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Tests/Support/ProgramFixture.h"
 #include "Tools/Support/ToolDatabase.h"

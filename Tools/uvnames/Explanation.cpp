@@ -1,8 +1,8 @@
 #include "Tools/uvnames/Explanation.h"
 
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTraits.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
 #include "Tools/uvnames/Reasons.h"
 
 #include <utility>

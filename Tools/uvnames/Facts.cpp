@@ -1,8 +1,8 @@
 #include "Tools/uvnames/Facts.h"
 
-#include "Catalogue/UVDBIdentifierTraits.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
-#include "Catalogue/UVDBReservedWords.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTraits.h"
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBReservedWords.h"
 #include "Names/NormalizeName.h"
 
 namespace uvnames {

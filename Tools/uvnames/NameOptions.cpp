@@ -1,6 +1,6 @@
 #include "Tools/uvnames/NameOptions.h"
 
-#include "Metadata/UVDBOptionWrapper.h"
+#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Tools/Support/ToolDatabase.h"
 #include "Tools/uvnames/CommandLine.h"
 

@@ -1,6 +1,6 @@
 #include "Tools/uvnames/Run.h"
 
-#include "Catalogue/UVDBReservedWords.h"
+#include "Catalogue/Identifiers/UVDBReservedWords.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolLines.h"
 #include "Tools/Support/ToolMessages.h"

@@ -1,9 +1,9 @@
 #include "Tools/uvnames/SchemaClashes.h"
 
+#include "Catalogue/Identifiers/UVDBIdentifierTypes.h"
+#include "Catalogue/Identifiers/UVDBObjectTypeSet.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Catalogue/UVDBIdentifierTypes.h"
 #include "Catalogue/UVDBKindSet.h"
-#include "Catalogue/UVDBObjectTypeSet.h"
 
 #include <cstddef>
 #include <iterator>

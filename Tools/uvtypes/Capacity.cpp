@@ -1,6 +1,6 @@
 #include "Tools/uvtypes/Capacity.h"
 
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBKindSet.h"
 

@@ -4,7 +4,7 @@
 // it tells of rows that map badly, too.
 #pragma once
 
-#include "Catalogue/UVDBTypeText.h"
+#include "Catalogue/Types/UVDBTypeText.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Tools/uvtypes/Meaning.h"
 #include "Tools/uvtypes/TextTraits.h"

@@ -1,8 +1,8 @@
 #include "Tools/uvtypes/Databases.h"
 
-#include "Catalogue/DataTypes/DataTypeRegistry.h"
+#include "Catalogue/Types/DataTypes/DataTypeRegistry.h"
+#include "Catalogue/Types/UVDBTypeMapping.h"
 #include "Catalogue/UVDBHelpers.h"
-#include "Catalogue/UVDBTypeMapping.h"
 #include "Tools/Support/ToolDatabase.h"
 
 #include <map>

@@ -1,8 +1,8 @@
 #include "Tools/uvtypes/Explanation.h"
 
-#include "Catalogue/TypeMapping/MappingRegistry.h"
-#include "Catalogue/UVDBDataTypes.h"
-#include "Catalogue/UVDBTypeMapping.h"
+#include "Catalogue/Types/TypeMapping/MappingRegistry.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBTypeMapping.h"
 #include "Tools/uvtypes/Databases.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Tools/uvtypes/Losses.h"
 
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,6 +1,6 @@
 #include "Tools/uvtypes/Run.h"
 
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 #include "Tools/Support/ToolDatabaseNames.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolLines.h"

@@ -1,8 +1,8 @@
 // How a database stores texts: what their lengths count, and which characters they hold.
 #pragma once
 
-#include "Catalogue/DataTypes/DataTypeRow.h"
-#include "Catalogue/UVDBTypeText.h"
+#include "Catalogue/Types/DataTypes/DataTypeRow.h"
+#include "Catalogue/Types/UVDBTypeText.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 
 namespace uvtypes {

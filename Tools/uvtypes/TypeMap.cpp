@@ -1,6 +1,6 @@
 #include "Tools/uvtypes/TypeMap.h"
 
-#include "Catalogue/UVDBDataTypes.h"
+#include "Catalogue/Types/UVDBDataTypes.h"
 #include "Tools/Support/ToolDatabase.h"
 
 #include <algorithm>

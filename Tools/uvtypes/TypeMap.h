@@ -1,8 +1,8 @@
 // One type on its way from a database to another.
 #pragma once
 
-#include "Catalogue/UVDBTypeConverting.h"
-#include "Catalogue/UVDBTypeText.h"
+#include "Catalogue/Types/UVDBTypeConverting.h"
+#include "Catalogue/Types/UVDBTypeText.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 
 #include <string>

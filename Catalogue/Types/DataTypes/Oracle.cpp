@@ -1,0 +1,97 @@
+// Oracle's types: limits of columns in SQL with strings of 4000 bytes, national ones in two-byte characters.
+// Order is meaning: the rungs of a name climb, and its last rung takes what the others refuse.
+#include "Catalogue/Types/DataTypes/DataTypeTables.h"
+
+namespace {
+
+using namespace UVDBRows;
+
+// clang-format off
+constexpr SDataTypeParams kRows[] = {
+//               type  name                                  size
+    Sized(          0, "CHAR",                                2000),
+    Sized(          2, "VARCHAR2",                            4000),
+    Sized(          1, "VARCHAR",                             4000),
+    Plain(          4, "LONG",                          2147483647),
+    Plain(          7, "CLOB",                          4294967295),
+    Fixed(         25, "SMALLINT",                              38,   0),
+    Sized(          8, "NCHAR",                               1000),
+    Sized(          9, "NVARCHAR2",                           2000),
+    Plain(         10, "NCLOB",                         2147483647),
+    Sized(         17, "RAW",                                 2000),
+    Plain(         20, "LONG RAW",                      2147483647),
+    Plain(         23, "BLOB",                          4294967295),
+    Plain(         24, "BFILE",                                255),
+    Whole(         46, "DOUBLE PRECISION",                     126),
+    Plain(         28, "BOOLEAN",                                1),
+    Whole(         42, "BINARY_FLOAT",                          24),
+    Precise(       43, "FLOAT",                                 53),
+    Precise(       46, "FLOAT",                                126),
+    Whole(         46, "REAL",                                  63),
+    Whole(         46, "BINARY_DOUBLE",                         53),
+    Plain(         46, "NUMBER",                                 0),
+    Synonym(Plain( 43, "NUMBER",                                 0)),
+    Synonym(Plain( 42, "NUMBER",                                 0)),
+    Synonym(Plain( 61, "NUMBER",                                 0)),
+    Synonym(Plain( 63, "NUMBER",                                 0)),
+    Synonym(Plain( 64, "NUMBER",                                 0)),
+    Synonym(Plain( 65, "NUMBER",                                 0)),
+    Synonym(Plain( 66, "NUMBER",                                 0)),
+    Synonym(Plain( 69, "NUMBER",                                 0)),
+    Synonym(Plain( 70, "NUMBER",                                 0)),
+    Synonym(Plain( 71, "NUMBER",                                 0)),
+    Synonym(Plain( 72, "NUMBER",                                 0)),
+    Synonym(Plain( 73, "NUMBER",                                 0)),
+    Synonym(Plain( 74, "NUMBER",                                 0)),
+    Synonym(Plain( 67, "NUMBER",                                 0)),
+    Scaled(        14, "NUMBER",                                 2,   0,   0),
+    Scaled(        34, "NUMBER",                                 4,   0,   0),
+    Scaled(        14, "NUMBER",                                 9,   0,   0),
+    Scaled(        37, "NUMBER",                                18,   0,   0),
+    Scaled(        25, "NUMBER",                                38, -84, 127),
+    Fixed(         25, "INT",                                   38,   0),
+    Fixed(         25, "INTEGER",                               38,   0),
+    Whole(         35, "PLS_INTEGER",                           10),
+    Whole(         35, "SIMPLE_INTEGER",                        10),
+    Whole(         35, "BINARY_INTEGER",                        10),
+    Whole(         35, "NATURAL",                               10),
+    Whole(         35, "NATURALN",                              10),
+    Whole(         35, "POSITIVE",                              10),
+    Whole(         35, "POSITIVEN",                             10),
+    Whole(         34, "SIGNTYPE",                               1),
+    Scaled(        14, "DECIMAL",                                2,   0,   0),
+    Scaled(        34, "DECIMAL",                                4,   0,   0),
+    Scaled(        14, "DECIMAL",                                9,   0,   0),
+    Scaled(        37, "DECIMAL",                               18,   0,   0),
+    Scaled(        25, "DECIMAL",                               38, -84, 127),
+    Scaled(        14, "NUMERIC",                                2,   0,   0),
+    Scaled(        34, "NUMERIC",                                4,   0,   0),
+    Scaled(        14, "NUMERIC",                                9,   0,   0),
+    Scaled(        37, "NUMERIC",                               18,   0,   0),
+    Scaled(        26, "NUMERIC",                               38, -84, 127),
+    Plain(         57, "DATE",                                  19),
+    Timed(         53, "TIMESTAMP",                             29,   0,   9),
+    Timed(         54, "TIMESTAMP() WITH TIME ZONE",            36,   0,   9),
+    Timed(         54, "TIMESTAMP() WITH LOCAL TIME Z",         29,   0,   9),
+    Timed(         54, "TIMESTAMP WITH TIME ZONE",              36,   0,   9, ""),
+    Led(           62, "INTERVAL YEAR() TO MONTH",              12,   9),
+    Led(           62, "INTERVAL YEAR() TO MONTH",              15,   9),
+    Led(           62, "INTERVAL YEAR TO MONTH",                15,   2, ""),
+    LedTimed(      68, "INTERVAL DAY TO SECOND",                30,   2,   0, 6, ""),
+    LedTimed(      68, "INTERVAL DAY() TO SECOND",              28,   9,   0, 6, "LEADING PRECISION"),
+    LedTimed(      68, "INTERVAL DAY() TO SECOND",              30,   9,   0, 6, "LEADING PRECISION"),
+    LedTimed(      68, "INTERVAL DAY() TO SECOND()",            28,   2,   0, 6),
+    LedTimed(      68, "INTERVAL DAY() TO SECOND()",            30,   9,   0, 9),
+    Plain(         29, "ROWID",                                 18),
+    Sized(         30, "UROWID",                              4000),
+    Plain(        106, "SDO_GEOMETRY",                  2147483647),
+    Synonym(Plain(106, "MDSYS.SDO_GEOMETRY",            2147483647)),
+    Plain(        103, "GUID",                                  36),
+    Plain(        111, "XMLTYPE",                       2147483647),
+};
+// clang-format on
+static_assert(std::size(kRows) == 79);
+
+} // namespace
+
+constinit const SDataTypeTable kOracleDataTypes = MakeDataTypeTable<kRows>();

@@ -1,0 +1,88 @@
+// DB2 for i. Times with a fraction become timestamps.
+#include "Catalogue/Types/TypeMapping/MappingSheaves.h"
+
+namespace {
+
+using namespace UVDBRows;
+
+// clang-format off
+constexpr SUVDBToDBMSDataType kRows[] = {
+//     type        size  scale  name
+    Map(  0,      32765,        "CHAR"),
+    Map(  0, 2147483647,        "CLOB"),
+    Map(  1,      32739,        "VARCHAR"),
+    Map(  1, 2147483647,        "CLOB"),
+    Map(  5, 1073741823,        "DBCLOB"),
+    Map(  7, 2147483647,        "CLOB"),
+    Map( 11,      16382,        "GRAPHIC"),
+    Map( 12,      16369,        "VARGRAPHIC"),
+    Map( 13, 1073741823,        "DBCLOB"),
+    Map(  8,      16382,        "GRAPHIC"),
+    Map(  8, 1073741823,        "DBCLOB"),
+    Map(  9,      16369,        "VARGRAPHIC"),
+    Map(  9, 1073741823,        "DBCLOB"),
+    Map( 10, 1073741823,        "DBCLOB"),
+    Map( 16,      32765,        "BINARY"),
+    Map( 16, 2147483647,        "BLOB"),
+    Map( 17,      32739,        "VARBINARY"),
+    Map( 17, 2147483647,        "BLOB"),
+    Map( 20, 2147483647,        "BLOB"),
+    Map( 23, 2147483647,        "BLOB"),
+    Map( 25,         63, 0, 63, "DECIMAL"),
+    Map( 26,         63, 0, 63, "NUMERIC"),
+    Map( 14,         63, 0, 63, "DECIMAL"),
+    Map( 27,          1,        "BOOLEAN"),
+    Map( 27,      32739,        "VARBINARY"),
+    Map( 27, 2147483647,        "BLOB"),
+    Map( 28,          1,        "BOOLEAN"),
+    Map( 33,          3,        "SMALLINT"),
+    Map( 34,          5,        "SMALLINT"),
+    Map( 35,         10,        "INTEGER"),
+    Map( 37,         19,        "BIGINT"),
+    Map( 36,         10,        "INTEGER"),
+    Map( 38,          3,        "SMALLINT"),
+    Map( 39,          5,        "INTEGER"),
+    Map( 40,         10,        "BIGINT"),
+    Map( 41,         20, 0,  0, "DECIMAL"),
+    Map( 42,         24,        "REAL"),
+    Map( 43,         53,        "DOUBLE"),
+    Map( 44,         53,        "DOUBLE"),
+    Map( 46,         53,        "DOUBLE"),
+    Map(137,         34,        "DOUBLE"),
+    Map( 48,         10,        "DATE"),
+    Map( 57,         19,        "TIMESTAMP"),
+    Map( 49,         18,        "TIME"),
+    Map( 49,         18, 1, 12, "TIMESTAMP"),
+    Map( 50,         15, 0,  6, "TIMESTAMP"),
+    Map( 51,         26, 0,  6, "TIMESTAMP"),
+    Map( 52,         19,        "TIMESTAMP"),
+    Map( 53,         32, 0, 12, "TIMESTAMP"),
+    Map( 54,         32, 0, 12, "TIMESTAMP"),
+    Map(102,         32, 0, 12, "TIMESTAMP"),
+    Map( 58,         10, 4,  4, "DECIMAL"),
+    Map( 59,         19, 0,  4, "DECIMAL"),
+    Map( 60,         32, 0, 32, "DECIMAL"),
+    Map( 77,         10,        "DATE"),
+    Map( 80,         19,        "TIMESTAMP"),
+    Map( 87,         25, 0,  5, "TIMESTAMP"),
+    Map(113,          5,        "SMALLINT"),
+    Map( 29,         40,        "ROWID"),
+    Map(104,         10,        "BIGINT"),
+    Map(110, 2147483647,        "XML"),
+    Map(111, 2147483647,        "XML"),
+    Map(103,         36,        "CHAR"),
+    Map(112,          8,        "BINARY"),
+    Map(123,         63, 0, 63, "NUMERIC"),
+    Map(129,         10,        "INTEGER"),
+    Map(130,         10,        "BIGINT"),
+    Map(132,          3,        "SMALLINT"),
+    Map(131,          5,        "INTEGER"),
+    Map(133,          8,        "INTEGER"),
+    Map(134,         20, 0,  0, "DECIMAL"),
+};
+// clang-format on
+static_assert(std::size(kRows) == 71);
+
+} // namespace
+
+constinit const SMappingSheaf kDb2ForIMapping = MakeMappingSheaf<kRows>();

@@ -1,0 +1,78 @@
+// The databases built on PostgreSQL that keep its types.
+#include "Catalogue/Types/TypeMapping/MappingSheaves.h"
+
+#include <iterator>
+
+namespace {
+
+using namespace UVDBRows;
+
+// Order is meaning: the rungs of a type climb, and its last rung takes what the others refuse.
+// clang-format off
+constexpr SUVDBToDBMSDataType kRows[] = {
+//  type           size  scale
+    Map(  0,   10485760,          "CHAR"),
+    Map(  1,   10485760,          "VARCHAR"),
+    Map(  1, 2147483647,          "TEXT"),
+    Map(  7, 1073741823,          "TEXT"),
+    Map( 16, 1073741823,          "BYTEA"),
+    Map( 17, 1073741823,          "BYTEA"),
+    Map( 20, 1073741823,          "BYTEA"),
+    Map( 22,   83886080,          "BIT VARYING"),
+    Map( 23, 1073741823,          "BYTEA"),
+    Map( 25,       1000, 0, 1000, "DECIMAL"),
+    Map( 26,       1000, 0, 1000, "NUMERIC"),
+    Map( 14,       1000, 0, 1000, "DECIMAL"),
+    Map( 27,          1,          "BOOLEAN"),
+    Map( 27,         64,          "BIT"),
+    Map( 28,          1,          "BOOLEAN"),
+    Map( 33,          3,          "SMALLINT"),
+    Map( 34,          5,          "SMALLINT"),
+    Map( 35,         10,          "INTEGER"),
+    Map( 37,         19,          "BIGINT"),
+    Map( 36,         10,          "INTEGER"),
+    Map( 38,          3,          "SMALLINT"),
+    Map( 39,          5,          "INTEGER"),
+    Map( 40,         10,          "BIGINT"),
+    Map( 41,         20,          "DECIMAL"),
+    Map( 42,         24,          "REAL"),
+    Map( 43,         53,          "DOUBLE PRECISION"),
+    Map( 44,         53,          "DOUBLE PRECISION"),
+    Map( 46,         53,          "DOUBLE PRECISION"),
+    Map(137,         53,          "DOUBLE PRECISION"),
+    Map( 48,         10,          "DATE"),
+    Map( 57,         19,          "TIMESTAMP()"),
+    Map( 49,         15, 0,    6, "TIME()"),
+    Map( 50,         15, 0,    6, "TIME()"),
+    Map( 51,         26, 0,    6, "TIMESTAMP()"),
+    Map( 52,         19,          "TIMESTAMP()"),
+    Map( 53,         26, 0,    6, "TIMESTAMP()"),
+    Map( 54,         32, 0,    6, "TIMESTAMP() WITH TIME ZONE"),
+    Map( 56,         21, 0,    6, "TIME() WITH TIME ZONE"),
+    Map(102,         32, 0,    6, "TIMESTAMP() WITH TIME ZONE"),
+    Map( 58,         10, 0,    4, "DECIMAL"),
+    Map( 59,         19, 0,    4, "DECIMAL"),
+    Map( 60,         32, 0,   32, "DECIMAL"),
+    Map( 62,         49,          "INTERVAL()"),
+    Map( 67,         49, 0,    6, "INTERVAL()"),
+    Map( 80,         19,          "TIMESTAMP()"),
+    Map( 87,         26, 0,    6, "TIMESTAMP()"),
+    Map( 68,         49, 0,    6, "INTERVAL()"),
+    Map(113,         10,          "SERIAL"),
+    Map(104,         10,          "BIGINT"),
+    Map(103,         36,          "UUID"),
+    Map(112, 1073741823,          "BYTEA"),
+    Map(123,         38, 0,   38, "NUMERIC"),
+    Map(129,         10,          "SERIAL"),
+    Map(130,         10,          "BIGINT"),
+    Map(132,          3,          "SMALLINT"),
+    Map(131,          5,          "INTEGER"),
+    Map(133,          8,          "INTEGER"),
+    Map(134,         20,          "DECIMAL"),
+};
+// clang-format on
+static_assert(std::size(kRows) == 58);
+
+} // namespace
+
+constinit const SMappingSheaf kPostgreSqlForkMapping = MakeMappingSheaf<kRows>();

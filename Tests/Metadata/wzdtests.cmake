@@ -1,2 +1,0 @@
-set(uv_wzd_tests
-    WizardOptionsTest.cpp)
