@@ -9,7 +9,7 @@
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Parser/UVParser.h"
-#include "Stylesheets/TreeFlattener.h"
+#include "Tree/TreeFlattener.h"
 
 #include <algorithm>
 #include <chrono>

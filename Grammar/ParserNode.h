@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Grammar/FragmentPool.h"
+#include "Tree/FragmentPool.h"
 
 #include <string>
 

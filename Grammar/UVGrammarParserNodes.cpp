@@ -1,5 +1,5 @@
 #include "Grammar/UVGrammarParser.h"
-#include "Stylesheets/TreeEvents.h"
+#include "Tree/TreeEvents.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -5,8 +5,8 @@
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"
-#include "Stylesheets/TreeFlattener.h"
 #include "Stylesheets/XslTransform.h"
+#include "Tree/TreeFlattener.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEXml.h"
 

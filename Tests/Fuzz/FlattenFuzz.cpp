@@ -2,8 +2,8 @@
 // the stylesheet makes the same bytes of, and so it is in a second run. Plain trees must be taken.
 //
 // An input that begins with a NUL is a row of choices for the generator, any other is the text itself.
-#include "Tests/Stylesheets/FlattenRoads.h"
 #include "Tests/Support/TreeGenerator.h"
+#include "Tests/Tree/FlattenRoads.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // Control language: commands and their parameters, lines and what joins them, and what an error costs.
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Stylesheets/TreeFlattener.h"
 #include "Tests/Languages/LanguageFixture.h"
+#include "Tree/TreeFlattener.h"
 
 #include <gtest/gtest.h>
 

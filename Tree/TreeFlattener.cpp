@@ -1,8 +1,8 @@
-#include "Stylesheets/TreeFlattener.h"
+#include "Tree/TreeFlattener.h"
 
-#include "Stylesheets/TextOverwriter.h"
-#include "Stylesheets/TreeAttributes.h"
-#include "Stylesheets/TreeEvents.h"
+#include "Tree/TextOverwriter.h"
+#include "Tree/TreeAttributes.h"
+#include "Tree/TreeEvents.h"
 
 #include <algorithm>
 #include <stdexcept>

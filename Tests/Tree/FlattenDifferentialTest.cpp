@@ -1,10 +1,10 @@
 // The native flattener beside the stylesheet: the same bytes for every tree, on the first run and on the
 // second.
 #include "Tests/Languages/LanguageFixture.h"
-#include "Tests/Stylesheets/FlattenRoads.h"
 #include "Tests/Support/EngineFixture.h"
 #include "Tests/Support/TreeGenerator.h"
 #include "Tests/Support/TreeShrinker.h"
+#include "Tests/Tree/FlattenRoads.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Stylesheets/TreeEvents.h"
+#include "Tree/TreeEvents.h"
 
 #include "UVEnvironment/UVECodePoints.h"
 

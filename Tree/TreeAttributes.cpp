@@ -1,6 +1,6 @@
-#include "Stylesheets/TreeAttributes.h"
+#include "Tree/TreeAttributes.h"
 
-#include "Stylesheets/TreeEvents.h"
+#include "Tree/TreeEvents.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "Grammar/FragmentPool.h"
+#include "Tree/FragmentPool.h"
 
 #include <array>
 #include <charconv>

@@ -1,8 +1,8 @@
-#include "Tests/Stylesheets/FlattenRoads.h"
+#include "Tests/Tree/FlattenRoads.h"
 
 #include "Stylesheets/Resources.h"
-#include "Stylesheets/TreeFlattener.h"
 #include "Stylesheets/XslTransform.h"
+#include "Tree/TreeFlattener.h"
 #include "UVEnvironment/UVEXml.h"
 
 #include <libxml/tree.h>

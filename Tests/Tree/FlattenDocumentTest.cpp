@@ -1,5 +1,5 @@
 // The examples that rule authors read.
-#include "Tests/Stylesheets/FlattenRoads.h"
+#include "Tests/Tree/FlattenRoads.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "Grammar/ElementNames.h"
+#include "Tree/ElementNames.h"
 
-#include "Stylesheets/TreeEvents.h"
+#include "Tree/TreeEvents.h"
 
 CMarkup::CMarkup(const std::string& text) : m_padded(text), m_size(text.size())
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Grammar/ElementNames.h"
+#include "Tree/ElementNames.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // What the flattening makes of small trees, on both roads.
-#include "Tests/Stylesheets/FlattenRoads.h"
+#include "Tests/Tree/FlattenRoads.h"
 
 #include <gtest/gtest.h>
 
