@@ -81,6 +81,7 @@ void CSQLGrammarLexer::Cleanup()
 {
     m_lstOperations.clear();
     m_lstRules.clear();
+    m_lstQuotedOperands.clear();
     FreeActionsMap(m_mapActions);
 }
 
@@ -242,6 +243,14 @@ void CSQLGrammarLexer::set_Query(const std::string& query, int db)
     m_nLineFeedAt = -1;
 }
 
+void CSQLGrammarLexer::ForgetTexts()
+{
+    m_Extension = CSQLGrammarLexerImplementation();
+    m_Unfinished.reset();
+    for (const SQuotedOperand& operand : m_lstQuotedOperands)
+        *operand.stored = operand.loaded;
+}
+
 int CSQLGrammarLexer::ComputeGeneralStartState(int db)
 {
     const char* name = "SS_GENERAL";
@@ -273,6 +282,7 @@ int CSQLGrammarLexer::GetUVDBNumByParserName(const std::string& name)
 // resolved against the parser that is linked.
 void CSQLGrammarLexer::CompileActions()
 {
+    const bool isNew = m_lstOperations.empty(); // nothing has run since the actions were loaded
     m_lstOperations.clear();
     m_lstRules.assign(static_cast<std::size_t>(yy_end_of_buffer_action) + 1, SRule());
     m_lstTokens.clear();
@@ -291,6 +301,8 @@ void CSQLGrammarLexer::CompileActions()
             operation.keyword = keyword->keyword;
             operation.operands = operands;
             ResolveOperands(operation);
+            if (isNew && !operands->empty() && operands->front().starts_with('"'))
+                m_lstQuotedOperands.push_back({&operands->front(), operands->front()});
             m_lstOperations.push_back(operation);
         }
         rule.count = static_cast<std::uint32_t>(m_lstOperations.size()) - rule.first;

@@ -71,6 +71,9 @@ public:
     void yylvalue(ParserNode** node);
     // Prepares the scan of `query`, a text for the database kind `db`.
     void set_Query(const std::string& query, int db);
+    // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
+    // goes as well and has to be written again.
+    void ForgetTexts();
     // The start condition of the language in general, which counts when the grammar is used for its own
     // database. Returns: its number, -1 if there is none.
     int ComputeGeneralStartState(int db);
@@ -199,8 +202,16 @@ private:
     SResult RunYytext(SOperation& operation, ParserNode& node);
     SResult RunUnknown(SOperation& operation, ParserNode& node);
 
+    // An operand that loses its quotes when its operation runs, as it was loaded.
+    struct SQuotedOperand
+    {
+        std::string* stored = nullptr; // owned by m_mapActions
+        std::string loaded;
+    };
+
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
+    std::vector<SQuotedOperand> m_lstQuotedOperands;
     std::vector<SToken> m_lstTokens;
     std::map<std::string, std::uint32_t> m_mapTokens;
     std::vector<bool> m_lstEofRules; // by rule number

@@ -134,6 +134,12 @@ int CSQLGrammarParser::yyparse()
     return result;
 }
 
+void CSQLGrammarParser::ForgetTexts()
+{
+    m_Extension.ClearErrors();
+    m_Extension.m_bErrDisplayed = false;
+}
+
 int CSQLGrammarParser::yygettoken()
 {
     return yylexerptr->yylex();

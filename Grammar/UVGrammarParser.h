@@ -45,6 +45,9 @@ public:
     // Throws:  std::runtime_error if damaged tables lead the engine astray.
     int yyparse() override;
 
+    // Forgets the errors of all texts before, and which of them were told.
+    void ForgetTexts();
+
     bool HasErrors() const { return !m_Extension.m_mapErrors.empty(); }
     void yyerror(const char* text) override;
     void yyset_last_error(const char* text) override;

@@ -50,6 +50,9 @@ public:
     //                                   the name of the preparation pass in PREPARED_BY, empty if there was
     //                                   none
     //     REPORT_PREPARATION_NOTES "1"  likewise FormatPreparationNotes in the text option PREPARATION_NOTES
+    //     RESTART_POSITIONS "1"         nothing of the texts before shows in this one: it is parsed as by an
+    //                                   object that Load, set_DatabaseInfo and Init have just made ready;
+    //                                   holds for FastParse too
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     int Parse(bool showErrors) override;
 
@@ -123,6 +126,8 @@ protected:
     int ExecuteParsingTool(bool showErrors);
     bool IsPropertiesFile() const;
     void GiveQueryToParser();
+    // Follows RESTART_POSITIONS.
+    void ForgetTexts();
     bool IsOptionSet(const char* name) const;
     int ReportErrors();
     int ReportPreparedLines();

@@ -125,6 +125,7 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "DatabaseInfo or query is empty");
         return UVDB_ERROR;
     }
+    ForgetTexts();
     if (IsForPreparationOnly()) {
         const int prepared = PrepareToParse();
         if (prepared == UVDB_OK)
@@ -216,6 +217,16 @@ int CUVDBSQLParser::PrepareToParse()
     return m_LastError && HasDescription(*m_LastError) ? UVDB_ERROR : UVDB_NO_DATA;
 }
 
+void CUVDBSQLParser::ForgetTexts()
+{
+    if (!m_Lexer || !m_Parser || !IsOptionSet("RESTART_POSITIONS"))
+        return;
+    WriteLexers([](CSQLGrammarLexer& lexer) { lexer.ForgetTexts(); });
+    m_Parser->ForgetTexts();
+    // the scanners' switches went with the texts
+    TakeDatabaseInfo(m_DatabaseInfo);
+}
+
 void CUVDBSQLParser::GiveQueryToParser()
 {
     m_Parser->m_Extension.set_Query(static_cast<const std::string&>(m_Query));
@@ -288,6 +299,7 @@ std::string CUVDBSQLParser::FastParse()
 {
     if (!m_IsConnected)
         return {};
+    ForgetTexts();
     m_Parser->m_Extension.m_lstUnexpected.clear();
     m_Parser->m_Extension.m_lstDiscarded.clear();
     GiveQueryToParser();

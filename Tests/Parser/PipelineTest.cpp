@@ -11,6 +11,40 @@ const std::string kHeader = "<?xml version=\"1.0\" ?>";
 class Pipeline : public ParserTest
 {};
 
+// The second object is a new one for each text; the retry flips the quoting rule of the first.
+TEST_F(Pipeline, RestartedPositionsGiveTheTreesOfANewObject)
+{
+    constexpr const char* kTexts[] = {"print 'a';\n\n print 'b';", "print \"a\";", "use \"a\";", "print ;",
+                                      "print 1; print 2;"};
+    SetOption("OPTION_VARYING_PARSING", "YES");
+    SetOption("PERCENT_AS_COMMENT", "1");
+    using Uses = std::function<std::string(CUVDBSQLParser&, const char*)>;
+    const auto raw = [](CUVDBSQLParser& parser, const char* text) {
+        parser.set_Query(text);
+        return parser.FastParse();
+    };
+    const auto flat = [](CUVDBSQLParser& parser, const char* text) {
+        parser.set_Query(text);
+        parser.Parse(false);
+        return parser.GetParsedXml();
+    };
+    Start();
+    EXPECT_NE(raw(m_Parser, kTexts[0]), raw(m_Parser, kTexts[0])); // what the option is for
+    SetOption("RESTART_POSITIONS", "1");
+    for (const char* const text : kTexts) {
+        SCOPED_TRACE(text);
+        for (const auto& parse : {Uses(raw), Uses(flat)}) {
+            CUVDBSQLParser fresh;
+            fresh.Load(kFixtureGrammar);
+            fresh.set_DatabaseInfo(m_Info);
+            fresh.Init("");
+            EXPECT_EQ(parse(m_Parser, text), parse(fresh, text));
+            EXPECT_EQ(m_Parser.IsParseHasErrors(), fresh.IsParseHasErrors());
+        }
+    }
+    EXPECT_EQ(m_Parser.m_Lexer->m_Extension.m_mapOptions.at("PERCENT_AS_COMMENT"), "1");
+}
+
 TEST_F(Pipeline, CallsOutOfOrderFailAndNothingElse)
 {
     EXPECT_EQ(m_Parser.GetUndefinesTokens(), nullptr);

@@ -590,6 +590,7 @@ TEST(UvparseOptions, AreThoseThatTheLibraryReads)
                                           "REPORT_PREPARED_LINES",
                                           "REPORT_PREPARATION_NOTES",
                                           "PREPARE_ONLY",
+                                          "RESTART_POSITIONS",
                                           "UNEXPECTED_TOKENS",
                                           "LOST_TEXT",
                                           "PREPARED_BY",
