@@ -54,6 +54,8 @@ public:
     //                                   object that Load, set_DatabaseInfo and Init have just made ready;
     //                                   holds for FastParse too
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
+    //     HAND_OVER_RESULT "1"          get_SQLTree gives a tree away instead of copying it, and the object
+    //                                   has none until the next Parse
     int Parse(bool showErrors) override;
 
     // Adds to the map of unexpected tokens of the last Parse. Empty if the parse failed, or the object isn't

@@ -113,6 +113,8 @@ int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
     return GuardEdge([&] {
         if (m_ColoringMode)
             out = WrapInElement("Coloring", m_Result);
+        else if (IsOptionSet("HAND_OVER_RESULT"))
+            out = std::exchange(m_Result, {});
         else
             out = m_Result;
         return UVDB_OK;

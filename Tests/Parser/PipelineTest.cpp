@@ -107,6 +107,19 @@ TEST_F(Pipeline, ResultFollowsTheText)
     }
 }
 
+TEST_F(Pipeline, ResultIsGivenAwayOnceWhereTheHostAsksForThat)
+{
+    Start();
+    Parse("print 1;");
+    const std::string tree = Tree();
+    ASSERT_FALSE(tree.empty());
+    SetOption("HAND_OVER_RESULT", "1");
+    EXPECT_EQ(Tree(), tree);
+    EXPECT_EQ(Tree(), "");
+    ASSERT_EQ(Parse("print 2;"), UVDB_OK);
+    EXPECT_EQ(TreeText(Tree()), "print 2;");
+}
+
 TEST_F(Pipeline, TraceTellsTheSteps)
 {
     Start();

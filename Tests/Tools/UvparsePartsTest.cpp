@@ -591,6 +591,7 @@ TEST(UvparseOptions, AreThoseThatTheLibraryReads)
                                           "REPORT_PREPARATION_NOTES",
                                           "PREPARE_ONLY",
                                           "RESTART_POSITIONS",
+                                          "HAND_OVER_RESULT",
                                           "UNEXPECTED_TOKENS",
                                           "LOST_TEXT",
                                           "PREPARED_BY",
