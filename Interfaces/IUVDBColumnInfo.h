@@ -14,7 +14,8 @@ public:
     virtual int get_ColumnName(char* dst, unsigned long size, unsigned long* length) = 0;
     virtual int set_ColumnName(const char* name) = 0; // a null text changes nothing; UVDB_OK
 
-    // Shares the column's data type, empty if it has none. Returns: UVDB_OK.
+    // Shares the column's data type, empty if it has none.
+    // Returns: UVDB_OK.
     virtual int get_DataType(std::shared_ptr<IUVDBDataTypeInfo>& out) = 0;
 
     virtual int get_DefaultValue(char* dst, unsigned long size, unsigned long* length) = 0;

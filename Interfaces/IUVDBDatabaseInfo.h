@@ -60,8 +60,7 @@ public:
 
     // The case rule of plain identifiers, from the int option "IdentifierCase".
     // Returns: UVDB_NOT_AVAILABLE, with `*out` untouched, when the option isn't there; UVDB_INVALID_ARGUMENT
-    // for
-    //          a null `out`.
+    //          for a null `out`.
     virtual int get_IdentifierCase(long* out) = 0;
 
     virtual int get_IdentifierQuoteChar(char* dst, unsigned long size, unsigned long* length) = 0;
@@ -95,7 +94,8 @@ public:
     virtual int create_new_object(std::shared_ptr<IUVDBObjectInfo>& object, int type) = 0;
 
     // Makes an object by the text of its type, or finds one that a session knows already. With bit 0 of
-    // `flags` it is marked as created for the target. Returns: the object's number.
+    // `flags` it is marked as created for the target.
+    // Returns: the object's number.
     virtual int CreateObject(const char* typeName, const char* schema, const char* name,
                              unsigned short flags) = 0;
 
@@ -120,8 +120,8 @@ public:
     virtual std::vector<double> getFkObjectsID() = 0;
 
     // Runs the plug-in's dependency stylesheet for one object. A null or empty `stylesheet` means the one of
-    // the last call. Returns: UVDB_OK, also without a transformer; UVDB_ERROR if the stylesheet couldn't be
-    // loaded or run.
+    // the last call.
+    // Returns: UVDB_OK, also without a transformer; UVDB_ERROR if the stylesheet couldn't be loaded or run.
     virtual int MakeDepend(const char* stylesheet, int objectId) = 0;
 
     // Shares `list` as all objects of that type, schema and name. Names may be "%".

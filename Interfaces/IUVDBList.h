@@ -14,10 +14,12 @@ public:
     IUVDBList& operator=(const IUVDBList&) = delete;
     virtual ~IUVDBList() = default;
 
-    // Gives the number of items in `count` and 0 in `other`. Returns: UVDB_OK.
+    // Gives the number of items in `count` and 0 in `other`.
+    // Returns: UVDB_OK.
     virtual int get_Count(unsigned long& count, unsigned long& other) = 0;
 
-    // Gives the number of items. Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for a null `length`.
+    // Gives the number of items.
+    // Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for a null `length`.
     virtual int get_Length(long* length) = 0;
 
     // Copies the next item and moves on.
@@ -28,9 +30,11 @@ public:
     // Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for an empty pointer or an object that the list can't hold.
     virtual int Add(std::shared_ptr<IUVDBObject> object) = 0;
 
-    // Removes all items. Returns: UVDB_OK.
+    // Removes all items.
+    // Returns: UVDB_OK.
     virtual int Clear() = 0;
 
-    // Puts the reading position before the first item. Returns: UVDB_OK.
+    // Puts the reading position before the first item.
+    // Returns: UVDB_OK.
     virtual int Reset() = 0;
 };

@@ -34,7 +34,8 @@ public:
     virtual Uve::U8CString get_TypeName() = 0;
 
     // Copy the text; a null one is the empty text. When the option "REPLACE_NON_EN_SYMBOLS" reads "yes",
-    // object and type name go through ReplaceRussSym first. Returns: UVDB_OK.
+    // object and type name go through ReplaceRussSym first.
+    // Returns: UVDB_OK.
     virtual int set_DatabaseName(const char* text) = 0;
     virtual int set_SchemaName(const char* text) = 0;
     virtual int set_ObjectName(const char* text) = 0;
@@ -45,7 +46,8 @@ public:
     // Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for a null `name`.
     virtual int Set_XMLAttributes_attrib(const char* name, const char* value) = 0;
 
-    // Buffer form for one attribute. Returns: also UVDB_NO_DATA when there is no such attribute.
+    // Buffer form for one attribute.
+    // Returns: also UVDB_NO_DATA when there is no such attribute.
     virtual int Get_XMLAttributes_attrib(const char* name, char* dst, unsigned long size,
                                          unsigned long* length) = 0;
 
@@ -60,15 +62,14 @@ public:
     virtual std::set<std::shared_ptr<IUVDBObjectInfo>>& get_RefObjects() = 0;
     virtual std::set<std::shared_ptr<IUVDBObjectInfo>>& get_BackRefObjects() = 0;
 
-    // Removes the edge to `ref`, at both ends. Returns: UVDB_OK, also when there was none;
-    // UVDB_INVALID_ARGUMENT for an empty pointer.
+    // Removes the edge to `ref`, at both ends.
+    // Returns: UVDB_OK, also when there was none; UVDB_INVALID_ARGUMENT for an empty pointer.
     virtual int RefObjects_erase(std::shared_ptr<IUVDBObjectInfo> ref) = 0;
 
     // Adds an edge to `ref`. Two objects never refer to each other: of two opposite edges the one with the
     // smaller weight stays, of equal ones the newer. A weight that is there already never gets smaller.
     // Returns: UVDB_OK, also when nothing was added; UVDB_INVALID_ARGUMENT for an empty pointer; UVDB_ERROR
-    // for an
-    //          object without its self reference.
+    //          for an object without its self reference.
     virtual int RefObjects_insert(std::shared_ptr<IUVDBObjectInfo> ref, int weight) = 0;
 
     // Returns: UVDB_OK; UVDB_NO_DATA, with `weight` untouched, if `ref` isn't referenced or its bool option
@@ -76,7 +77,8 @@ public:
     virtual int RefObjects_GetWeight(std::shared_ptr<IUVDBObjectInfo> ref, int& weight) = 0;
 
     // Removes all edges that start here. Objects share each other through their edges, so this is what lets a
-    // group of them go. Returns: UVDB_OK.
+    // group of them go.
+    // Returns: UVDB_OK.
     virtual int RefObjects_clear() = 0;
 
     // Shares `child` and puts it behind the other children.

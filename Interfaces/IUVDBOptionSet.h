@@ -32,8 +32,7 @@ public:
     // Gives the pointer that was stored under `name`, also when its type differs. The set lends it: what
     // CUVDBOptionWrapper has written lives as long as the set, and a new value is written in its place.
     // Returns: a code of enUVDB_OPTION_RESULT; `*value` is null when there is no such option, and untouched
-    // when
-    //          an argument is refused.
+    //          when an argument is refused.
     virtual int GetOptValue(const char* name, const char* typeName, void** value) = 0;
 
     // Stores the pointer, which must outlive the set. An earlier pointer is forgotten, not released.
@@ -43,7 +42,8 @@ public:
     // Whether there is a value under `name`, of any type.
     virtual bool IsOptionValid(const char* name) = 0;
 
-    // Copies the type key of an option. Returns: false, with `typeName` empty, if there is none.
+    // Copies the type key of an option.
+    // Returns: false, with `typeName` empty, if there is none.
     virtual bool GetOptTypeName(const char* name, Uve::U8CString& typeName) = 0;
 
     // Whether the set holds no value at all.

@@ -31,14 +31,13 @@ public:
     virtual int Load(const char* parserName) = 0;
 
     // Connects what Load made and selects the mode, without regard to case: "-cl" for a coloring map, "-cb"
-    // for comments, anything else for a tree. Comes behind set_DatabaseInfo, whose options it reads. Returns:
-    // UVDB_ERROR if connecting failed.
+    // for comments, anything else for a tree. Comes behind set_DatabaseInfo, whose options it reads.
+    // Returns: UVDB_ERROR if connecting failed.
     virtual int Init(const char* mode) = 0;
 
     // Shares the database info and reads its options. May be called again; the options are read anew.
     // Returns: 1 for an empty pointer; UVDB_INVALID_ARGUMENT if the grammar knows no such kind of database,
-    // and
-    //          the options that follow it stay unread.
+    //          and the options that follow it stay unread.
     virtual int set_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info) = 0;
     virtual int get_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2>& out) = 0;
 
@@ -48,9 +47,10 @@ public:
     // Copies the source text, UTF-8, and empties the result. A null text keeps the earlier one.
     virtual int set_Query(const char* text) = 0;
 
-    // Parses the text and makes the result. Returns: UVDB_NO_DATA if nothing is left of the text to be
-    // parsed; other codes if it failed, and get_LastError then has the message: "out of memory" where that is
-    // what was short, which is no fault of the text.
+    // Parses the text and makes the result.
+    // Returns: UVDB_NO_DATA if nothing is left of the text to be parsed; other codes if it failed, and
+    //          get_LastError then has the message: "out of memory" where that is what was short, which is no
+    //          fault of the text.
     virtual int Parse(bool showErrors) = 0;
 
     // Parses the text without preparing it and gives the tree before it is flattened.
@@ -78,7 +78,8 @@ public:
     // A copy of the result.
     virtual std::string GetParsedXml() = 0;
 
-    // Flattens the result in place. Returns: a negative code if the result is no document.
+    // Flattens the result in place.
+    // Returns: a negative code if the result is no document.
     virtual int ExecuteTree2Serial() = 0;
 
     // Flattens `text` in place, with the options of `info`.

@@ -38,12 +38,13 @@ public:
     // Returns: here UVDB_NOT_SUPPORTED.
     virtual int ExecuteDatabaseQuery(const char* query, Uve::U8CString& result, bool report);
 
-    // Sets the case rule of plain and of quoted identifiers. Returns: UVDB_OK; UVDB_ERROR if the option has a
-    // type that can't hold a number.
+    // Sets the case rule of plain and of quoted identifiers.
+    // Returns: UVDB_OK; UVDB_ERROR if the option has a type that can't hold a number.
     virtual int SetIdentifierCase(long identifierCase);
     virtual int SetQuotedIdentifierCase(long identifierCase);
 
-    // Lets go of an object. Returns: UVDB_ERROR in every case, whether the number was registered or not.
+    // Lets go of an object.
+    // Returns: UVDB_ERROR in every case, whether the number was registered or not.
     virtual int unset_ObjectId(int id);
 
     // The converter belongs to the host and must outlive this object.

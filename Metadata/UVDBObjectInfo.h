@@ -62,8 +62,8 @@ public:
     void add_ConvInfo(const Uve::U8CString& text) override { m_convInfos.push_back(text); }
     std::list<Uve::U8CString>& get_ConvInfos() override { return m_convInfos; }
 
-    // An object without a body is an answer too. Returns: 0 in every case; `text` is empty without the
-    // option.
+    // An object without a body is an answer too.
+    // Returns: 0 in every case; `text` is empty without the option.
     int get_BodyXML_Option(Uve::U8CString& text) override;
 
     // The source text of the object, in buffer form. Returns of the others: UVDB_OK; IsBodyEncrypted gives

@@ -32,7 +32,7 @@ public:
     // would need a grammar. Only Load, FastParse and SetLastError let exceptions pass.
 
     // Returns: UVDB_INVALID_ARGUMENT for a null name. A grammar that can't be loaded leaves the earlier one
-    // in place.
+    //          in place.
     int Load(const char* parserName) override;
     int Init(const char* mode) override;
     int set_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info) override;

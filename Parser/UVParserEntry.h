@@ -7,7 +7,8 @@
 // function that it holds.
 extern "C" {
 
-// Returns: a new parser. Owner: the caller.
+// Returns: a new parser.
+// Owner:   the caller.
 // Throws:  std::bad_alloc.
 IUVDBSQLParser* pluginCreateInstanceIUVDBSQLParser();
 

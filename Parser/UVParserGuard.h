@@ -8,7 +8,8 @@ bool IsMemoryShort() noexcept;
 int TraceCurrentException() noexcept;
 
 // The edge of the library: what an interface operation does runs in here, and no exception passes to the
-// host. Returns: what `operation` returns; UVDB_ERROR, with a line in the trace, if it throws.
+// host.
+// Returns: what `operation` returns; UVDB_ERROR, with a line in the trace, if it throws.
 template <class Operation>
 int GuardEdge(Operation&& operation)
 {

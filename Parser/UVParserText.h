@@ -23,8 +23,8 @@ void ReplaceXmlHeader(Uve::U8CString& text);
 Uve::U8CString WrapInElement(std::string_view name, std::string_view text);
 
 // The lines of `text` around line `lineNumber` (from 1), between markers: the line before, the line and the
-// line behind it, as far as they exist. A text that ends in a line feed has an empty last line. Returns:
-// nothing if there is no such line.
+// line behind it, as far as they exist. A text that ends in a line feed has an empty last line.
+// Returns: nothing if there is no such line.
 std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::string_view text);
 
 // The source lines of a prepared text in runs, one a line: the first prepared line, the source line where it

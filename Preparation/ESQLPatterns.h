@@ -125,8 +125,8 @@ enDollar ClassifyDollar(std::string_view behind, bool isAdjacent = true);
 // The text behind a "$" ends a declare section.
 bool EndsDeclareSection(std::string_view behind);
 
-// The next "exec sql" that isn't in a comment. Returns: `end` is behind the white space that follows it;
-// kNowhere twice if there is none.
+// The next "exec sql" that isn't in a comment.
+// Returns: `end` is behind the white space that follows it; kNowhere twice if there is none.
 SSpan FindExecSql(std::string_view text, std::size_t from, const CComments& comments);
 
 // The statements of both notations, up to and without their ";".

@@ -204,8 +204,8 @@ private:
     }
 
     // Reads as many words as a "$" may need, with what of white space stands between and behind them; two
-    // bytes of it tell as much as all. Returns: what stopped the reading; anything from 0 if nothing more was
-    // wanted.
+    // bytes of it tell as much as all.
+    // Returns: what stopped the reading; anything from 0 if nothing more was wanted.
     int ReadWords(SReader& reader)
     {
         m_Words.clear();

@@ -48,8 +48,9 @@ public:
     std::string WrapVarDeclaration(const std::string& text);
 
     // All hits of an ECMAScript pattern that don't overlap, in order; "." stops at the ends of lines. `flags`
-    // are added to the syntax. Throws: boost::regex_error for a bad pattern, std::runtime_error for a search
-    // that takes too long. The rewrite itself searches by hand.
+    // are added to the syntax.
+    // Throws: boost::regex_error for a bad pattern, std::runtime_error for a search that takes too long. The
+    //         rewrite itself searches by hand.
     static std::vector<smatch_st> RegexSearch_st(const std::string& text, const std::string& pattern,
                                                  boost::regex_constants::syntax_option_type flags = 0);
 

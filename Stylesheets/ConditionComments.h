@@ -20,9 +20,9 @@
 // Resolves the sections of `text` for one conversion. A section stays if its name equals `first`, its second
 // name (if it has one) is "*" or equals `second`, and an item of its list (if it has one) is "*" or equals
 // `third`. Both comments go in any case. An opening that is nothing of the above but begins with "Condition:"
-// drops its section; see FindDeadConditions. Text behind an opening that is never closed stays. Throws:
-// std::runtime_error for an opening inside a section, a closing without an opening, and any other comment of
-//         those characters.
+// drops its section; see FindDeadConditions. Text behind an opening that is never closed stays.
+// Throws: std::runtime_error for an opening inside a section, a closing without an opening, and any other
+//         comment of those characters.
 std::string ProcessGlobalVariables(const std::string& text, const std::string& first,
                                    const std::string& second, const std::string& third);
 

@@ -63,9 +63,10 @@ public:
 class XsltResourceManager
 {
 public:
-    // Registers under the id that the text gives. Owner: shares.
+    // Registers under the id that the text gives.
+    // Owner:  shares.
     // Throws: std::runtime_error if the pointer is null, the number or the id is taken already, or the text
-    // has no id.
+    //         has no id.
     void defineResource(std::shared_ptr<XsltResource> resource);
 
     // The text with all it includes.
@@ -77,9 +78,9 @@ public:
     std::string getResourceName(unsigned int id) const;
 
     // Writes `text`, and in place of each include or import line the inside of the stylesheet that it names.
-    // A stylesheet whose element can't be made out gives nothing. Throws: std::runtime_error for a name that
-    // isn't registered, and for a stylesheet that includes itself, be it
-    //         through others.
+    // A stylesheet whose element can't be made out gives nothing.
+    // Throws: std::runtime_error for a name that isn't registered, and for a stylesheet that includes itself,
+    //         be it through others.
     void importResolve(std::stringstream& out, const std::string& text);
 
     void clear() { m_Resources.clear(); }

@@ -82,10 +82,10 @@ int LoadSubXSLT(std::string& main, const std::string& name);
 // Puts in place of each import and include line of a rule stylesheet the stylesheet that it names, imports of
 // that one included, without its declaration and its outer element. Outside CRS mode the names count from the
 // folder .Precompiled in the base folder. The other three arguments say which conversion is at hand, for
-// files of global variables (a name that contains "GlobalVariables"), see ProcessGlobalVariables. Returns: 0;
-// negative, with `text` as far as whole passes got, if a file is missing or damaged, a line isn't complete,
-//          a name leads out of the base folder, the conditions are at fault, or a stylesheet takes in itself,
-//          more than 100 in a row, or more than 10000 in all. The trace says which.
+// files of global variables (a name that contains "GlobalVariables"), see ProcessGlobalVariables.
+// Returns: 0; negative, with `text` as far as whole passes got, if a file is missing or damaged, a line isn't
+//          complete, a name leads out of the base folder, the conditions are at fault, or a stylesheet takes
+//          in itself, more than 100 in a row, or more than 10000 in all. The trace says which.
 int ImportResolveFile(Uve::U8CString& text, const Uve::U8CString& first, const Uve::U8CString& second,
                       const Uve::U8CString& third);
 

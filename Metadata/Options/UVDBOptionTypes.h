@@ -48,10 +48,12 @@ concept UVDBTextOption = requires(const Uve::U8CString& text, T& value)
 };
 
 // Gives a value to the set, or to the process if it is a set that owns nothing: such a set may lend the
-// pointer as long as it likes. Throws: std::bad_alloc; the value is the caller's then.
+// pointer as long as it likes.
+// Throws: std::bad_alloc; the value is the caller's then.
 void UVDBHandOverOptionValue(IUVDBOptionSet& set, void* value, void (*release)(void*));
 
-// Returns: a new value, zero or empty, which isn't under a name yet. Owner: the set, see above.
+// Returns: a new value, zero or empty, which isn't under a name yet.
+// Owner:   the set, see above.
 template <class T>
 T* UVDBNewOptionValue(IUVDBOptionSet& set)
 {

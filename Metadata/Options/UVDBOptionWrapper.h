@@ -23,11 +23,13 @@ class CUVDBOptionWrapper
 {
 public:
     // Copies the option into `value`, or the process-wide default (GetDefaultsValues) if the set has no such
-    // option. Returns: false, with `value` untouched, if neither is there or it can't be had as a `T`.
+    // option.
+    // Returns: false, with `value` untouched, if neither is there or it can't be had as a `T`.
     template <class T>
     static bool GetOptSetParam(IUVDBOptionSet* set, const std::string& name, T& value);
 
-    // Copies `value` into the option. Returns: 0; -1 if the option has a type that the value can't become.
+    // Copies `value` into the option.
+    // Returns: 0; -1 if the option has a type that the value can't become.
     template <class T>
     static int SetOptSetParam(IUVDBOptionSet* set, const std::string& name, const T& value);
 

@@ -38,8 +38,8 @@ struct SDirectiveLine
 // Decides the conditions in `lines`, of which each holds at least one byte.
 // Only the first directive of a line is looked at, and the text beside it shares its fate. A "," or ";"
 // behind a directive comes back as a line before the next line that is kept. Constructs within one are
-// decided when it closes; one that stays open leaves what is nested in it undecided. Returns: the lines that
-// are left; they borrow what `lines` borrow.
+// decided when it closes; one that stays open leaves what is nested in it undecided.
+// Returns: the lines that are left; they borrow what `lines` borrow.
 std::list<SDirectiveLine> ResolveDirectives(const std::list<SDirectiveLine>& lines);
 
 // Cuts at line feeds; lines without a byte are left out. All of them get `sourceLine`.

@@ -39,7 +39,8 @@ constexpr std::size_t kKeptTexts = 4;
 struct STooMuch
 {};
 
-// Appends to a text, up to a length. Throws: STooMuch beyond it.
+// Appends to a text, up to a length.
+// Throws: STooMuch beyond it.
 class CBoundedOutput
 {
 public:
@@ -241,8 +242,8 @@ void CProgressPass::Split(std::string_view text, std::uint32_t line, bool isFrom
     }
 }
 
-// A text that pieces can borrow for as long as the pass runs, also when they are gone again. Throws:
-// STooMuch.
+// A text that pieces can borrow for as long as the pass runs, also when they are gone again.
+// Throws: STooMuch.
 std::string_view CProgressPass::Keep(std::string text)
 {
     m_KeptLength += text.size();
@@ -251,7 +252,8 @@ std::string_view CProgressPass::Keep(std::string text)
     return m_Texts.emplace_back(std::move(text));
 }
 
-// To be called before a format is filled in. Throws: STooMuch.
+// To be called before a format is filled in.
+// Throws: STooMuch.
 void CProgressPass::CountFormat(std::size_t times, std::string_view format)
 {
     const auto dollars = static_cast<double>(std::ranges::count(format, '$'));
@@ -297,7 +299,8 @@ bool CProgressPass::IsOpen(std::uint32_t opened, std::uint32_t file) const
 }
 
 // Opens the round's file where `parent` is open, once for all matches there.
-// Returns: an index of m_Opened, kAlreadyOpen if it is open there. Throws: STooMuch.
+// Returns: an index of m_Opened, kAlreadyOpen if it is open there.
+// Throws:  STooMuch.
 std::uint32_t CProgressPass::Open(SRound& round, std::uint32_t parent)
 {
     const auto [known, isNew] = round.opened.try_emplace(parent, kAlreadyOpen);
@@ -429,7 +432,8 @@ bool CProgressPass::ReplaceInPlace(SRound& round, const SPiece& replacement)
     return mayJoin;
 }
 
-// Returns: true if a reference may have come together. Throws: STooMuch, with the text as it was.
+// Returns: true if a reference may have come together.
+// Throws:  STooMuch, with the text as it was.
 bool CProgressPass::ReplaceAll(SRound& round, std::vector<SPiece>& replacement)
 {
     std::vector<SPiece> pieces;
@@ -487,7 +491,8 @@ bool CProgressPass::HasReference()
     return false;
 }
 
-// Takes the file of the first reference, the piece at m_First, in. Throws: STooMuch, with the text as it was.
+// Takes the file of the first reference, the piece at m_First, in.
+// Throws: STooMuch, with the text as it was.
 void CProgressPass::RunRound()
 {
     const auto reference = FindProgressReference(m_Pieces[m_First].text, 0);

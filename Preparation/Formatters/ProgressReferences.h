@@ -35,7 +35,7 @@ public:
     explicit CProgressArguments(std::string_view text) : m_Rest(text) {}
 
     // Returns: nothing behind the last argument, and from a name without "=" or a quote without its partner
-    // on.
+    //          on.
     std::optional<SProgressArgument> Next();
 
 private:

@@ -19,8 +19,8 @@ class Compressor
 {
 public:
     // Replaces the file by its archive, and tells standard output of it. Empty files stay, as do those that
-    // couldn't be unpacked again because of their size (more than 1 GiB). Returns: true if the file is an
-    // archive now.
+    // couldn't be unpacked again because of their size (more than 1 GiB).
+    // Returns: true if the file is an archive now.
     static bool Archive(const std::string& path);
 
     // Both take the payload as it stands, without unscrambling: what Archive wrote isn't for them. Unarchive
@@ -30,9 +30,9 @@ public:
 
     // `data` is a whole archive; `out` takes the unpacked file. This is the call for loaders.
     // The size in the header is believed only up to 1040 times the payload and up to 1 GiB; anything else is
-    // a bad header, which gives an empty `out` and 0. Returns: the length unpacked. A damaged payload unpacks
-    // up to the damage, while `out` has the size that the
-    //          header says. `damaged`, if not null, tells whether the header or the payload was bad.
+    // a bad header, which gives an empty `out` and 0.
+    // Returns: the length unpacked. A damaged payload unpacks up to the damage, while `out` has the size that
+    //          the header says. `damaged`, if not null, tells whether the header or the payload was bad.
     static std::size_t ResourceUnarchive(const std::string& data, std::string& out, bool* damaged = nullptr);
 
     // Returns: true if both separators were found. `size` and `unused` are set as far as the header goes,
@@ -63,8 +63,7 @@ public:
     bool Open(const std::string& path) { return Open(path.c_str()); }
 
     // Returns: the bytes read, fewer than `size` only at the end of the file or of its sound part; 0 if not
-    // open;
-    //          negative for a damaged file.
+    //          open; negative for a damaged file.
     int Read(void* buffer, unsigned int size);
 
     // True if what was read so far came from a damaged or truncated stream. The checksum stands at the end:

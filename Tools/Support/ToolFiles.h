@@ -31,7 +31,8 @@ using TTextSink = std::function<void(std::string_view)>;
 class COutputFile
 {
 public:
-    // "-" is the standard output. Throws: CToolFailure.
+    // "-" is the standard output.
+    // Throws: CToolFailure.
     explicit COutputFile(const std::string& path);
     COutputFile(const COutputFile&) = delete;
     COutputFile& operator=(const COutputFile&) = delete;
@@ -52,7 +53,8 @@ private:
     std::string m_Gathered;
 };
 
-// Replaces the file, as COutputFile does. Throws: CToolFailure.
+// Replaces the file, as COutputFile does.
+// Throws: CToolFailure.
 void WriteWholeFile(const std::string& path, std::string_view content);
 
 // Writes to the standard output and flushes it.

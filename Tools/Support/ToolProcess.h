@@ -12,7 +12,7 @@ struct SProgramResult
 };
 
 // Runs `program`, looked up along PATH, without a shell: arguments arrive as they are. It runs in `folder`
-// under the locale "C", with an empty standard input. `logPath` is a scratch file for its output. Throws:
-// CToolFailure if the process can't be made or its output can't be read.
+// under the locale "C", with an empty standard input. `logPath` is a scratch file for its output.
+// Throws: CToolFailure if the process can't be made or its output can't be read.
 SProgramResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
                           const std::string& folder, const std::string& logPath);

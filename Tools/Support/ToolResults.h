@@ -47,10 +47,12 @@ public:
     void Add(std::vector<ToolCell> cells, ToolDetails details = {});
 
     // Writes the rows that were added to the standard output, if there are any. The columns of a table are as
-    // wide as anything written so far. Throws: CToolFailure.
+    // wide as anything written so far.
+    // Throws: CToolFailure.
     void Flush();
 
-    // Writes the rest and the end; the head of TSV is there even without rows. Throws: CToolFailure.
+    // Writes the rest and the end; the head of TSV is there even without rows.
+    // Throws: CToolFailure.
     void End();
 
 private:

@@ -21,7 +21,8 @@ struct SGeneratedFiles
 };
 
 // What the generators said of a grammar that they refused has been written to `messages`; the files are of no
-// use then. Throws: CToolFailure if a generator isn't there or its files can't be read or written.
+// use then.
+// Throws: CToolFailure if a generator isn't there or its files can't be read or written.
 void RunFlex(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
              CToolMessages& messages);
 void RunBison(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,

@@ -11,7 +11,8 @@ class CTableDirectory
 {
 public:
     // Makes an empty sibling of `path` with the folders Lexer and Parser in it. Missing parents of `path` are
-    // made. Throws: CToolFailure, also if `path` holds anything but tables: it is going to be replaced.
+    // made.
+    // Throws: CToolFailure, also if `path` holds anything but tables: it is going to be replaced.
     explicit CTableDirectory(const std::string& path);
 
     // Where to write, with a slash at its end.

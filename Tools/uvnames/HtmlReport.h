@@ -19,10 +19,12 @@ public:
 
     // Throws: CToolFailure.
     void Add(const SName& source, const SConvertedName& converted);
-    // A line that is no name. Throws: CToolFailure.
+    // A line that is no name.
+    // Throws: CToolFailure.
     void AddUnread(const std::string& line);
 
-    // Writes the end; without it there is no file. Throws: CToolFailure.
+    // Writes the end; without it there is no file.
+    // Throws: CToolFailure.
     void End();
 
 private:

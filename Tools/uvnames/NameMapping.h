@@ -46,7 +46,7 @@ bool IsSubObject(long type);
 
 // A line of tab-separated fields: type, server, schema, object, sub, kind. Fields at the end may be missing.
 // Returns: false if the type means nothing, its own field is empty or there are more fields; `error` then
-// says why.
+//          says why.
 bool ReadNameLine(std::string_view line, SName& name, std::string& error);
 
 class CNameMapping

@@ -31,8 +31,8 @@ public:
     // Whether names of the type count at all.
     bool Has(long type) const;
 
-    // Enters the name. Returns: the whole name, in the source, of another object that has it in the schema;
-    // empty if none has.
+    // Enters the name.
+    // Returns: the whole name, in the source, of another object that has it in the schema; empty if none has.
     Uve::U8CString Enter(const SSchemaName& name);
 
 private:

@@ -13,8 +13,8 @@ struct SMappingSheafKey;
 
 namespace uvtypes {
 
-// ReadToolDatabase. Throws: CDatabaseError for names that mean nothing, and for databases without a table of
-// types.
+// ReadToolDatabase.
+// Throws: CDatabaseError for names that mean nothing, and for databases without a table of types.
 SToolDatabase ReadSource(std::string_view text);
 
 // The same for databases without a sheaf of their own.

@@ -68,8 +68,8 @@ bool WriteAllText(const U8CString& path, std::string_view text);
 
 // The whole file as UTF-8, without its byte order mark. A mark decides over `encoding`. An explicit UTF
 // encoding is for files with a mark: without one the bytes in its place are skipped. ENCODING_AUTO and
-// ENCODING_UTF8 end the text at a NUL byte. Throws: std::runtime_error if the file is missing, can't be read,
-// or `encoding` isn't one.
+// ENCODING_UTF8 end the text at a NUL byte.
+// Throws: std::runtime_error if the file is missing, can't be read, or `encoding` isn't one.
 U8CString ReadAllText(const U8CString& path);
 U8CString ReadAllText(const U8CString& path, Encoding encoding);
 

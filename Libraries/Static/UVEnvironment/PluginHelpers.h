@@ -4,7 +4,8 @@
 //     std::shared_ptr<IUVDBSQLParser> parser = PluginHelpers::CreateParser();
 //
 // The operations are templates only so that the other interfaces may stay incomplete; leave the argument
-// alone. Throws: std::runtime_error with the library's name and the reason.
+// alone.
+// Throws: std::runtime_error with the library's name and the reason.
 #pragma once
 
 #include "UVEnvironment/UVEDll.h"

@@ -41,7 +41,8 @@ long long _atoi64(const char* text);
 char* itoa(int value, char* target, int base);
 
 // Makes an empty file with a name of its own in the directory `path` and puts that name into `out`. The name
-// holds at most three characters of `prefix`, and `unique` if it isn't 0. Returns: 1, or 0 with `out` empty.
+// holds at most three characters of `prefix`, and `unique` if it isn't 0.
+// Returns: 1, or 0 with `out` empty.
 unsigned int GetTempFileNameW(const U8CString& path, const U8CString& prefix, unsigned int unique,
                               U8CString& out);
 
@@ -68,7 +69,8 @@ void ClearReadOnlyFlag(const U8CString& path);
 //     key = value
 // Sections and keys are compared without regard to case, the first match counts, blanks around keys and
 // values don't. A value loses one pair of quotes around it, single or double. Behind a value there are no
-// comments. Returns: the length of `result` in bytes. A missing file, section or key gives `defaultValue`.
+// comments.
+// Returns: the length of `result` in bytes. A missing file, section or key gives `defaultValue`.
 std::size_t GetPrivateProfileString(const U8CString& section, const U8CString& key,
                                     const U8CString& defaultValue, U8CString& result, const U8CString& path);
 

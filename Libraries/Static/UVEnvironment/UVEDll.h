@@ -42,14 +42,15 @@ private:
 
 // The loader looks for a bare name in the directories of the system and of whoever calls it, which is this
 // library's host only if the host is the program itself. So what the loader doesn't find is tried beside the
-// program. Throws: std::system_error.
+// program.
+// Throws: std::system_error.
 std::shared_ptr<boost::dll::shared_library> LoadLibrary(const std::string& libraryName);
 
 } // namespace Detail
 
 // Loads `libraryName`, a bare name or a path, and calls the factory behind `symbolName`. The object keeps its
-// library loaded as long as it lives. Throws: std::system_error if the library can't be loaded or lacks the
-// symbol, std::runtime_error if the
+// library loaded as long as it lives.
+// Throws: std::system_error if the library can't be loaded or lacks the symbol, std::runtime_error if the
 //         symbol or the factory answers null, and what the factory throws.
 template <class T>
 std::shared_ptr<T> createInstance(const std::string& libraryName, const std::string& symbolName)

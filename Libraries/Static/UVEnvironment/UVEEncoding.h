@@ -71,9 +71,9 @@ std::vector<SqlWchar> UTF8StringToSqlWchar(std::string_view text);
 namespace UVDB {
 
 // In the form of libxml2's converters: `*outSize` and `*inSize` hold what there is on entry, and what was
-// written and consumed on return. Returns: the bytes written; -1 for a null argument; -2 for malformed input,
-// with the sizes telling what was done
-//          before it. A sequence cut off by the end of the input isn't consumed and is no failure.
+// written and consumed on return.
+// Returns: the bytes written; -1 for a null argument; -2 for malformed input, with the sizes telling what was
+//          done before it. A sequence cut off by the end of the input isn't consumed and is no failure.
 int UTF16LEToUTF8(unsigned char* out, int* outSize, const unsigned char* in, int* inSize);
 int UTF16BEToUTF8(unsigned char* out, int* outSize, const unsigned char* in, int* inSize);
 int UTF8ToUTF16LE(unsigned char* out, int* outSize, const unsigned char* in, int* inSize);
@@ -86,11 +86,11 @@ bool IsUtf8(std::string_view text);
 bool IsValidUTF8(std::string_view text);
 
 // Returns: the byte offset of the first sequence that isn't well-formed, std::string_view::npos if there is
-// none.
+//          none.
 std::size_t FindInvalidUTF8(std::string_view text);
 
 // Copies: the system encoding is UTF-8, so the single-byte side of these holds the same bytes. Appends
-// nothing, replaces `out`.
+//         nothing, replaces `out`.
 void UTF8Toisolat1(std::string_view text, std::string& out);
 void isolat1ToUTF8(std::string_view text, std::string& out);
 void isolat1ToUTF8(std::string_view text, Uve::u8string& out);

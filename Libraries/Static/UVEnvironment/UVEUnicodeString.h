@@ -97,7 +97,8 @@ public:
     int ReverseFindOneOf(const char* set, int start = -1) const noexcept;
 
     // First byte at or after byte `start`, and last character at or before byte `start`, that isn't white
-    // space. Returns: its byte offset.
+    // space.
+    // Returns: its byte offset.
     std::optional<std::size_t> FindNonSpace(std::size_t start = 0) const noexcept;
     std::optional<std::size_t> FindNonSpaceBackwards(std::size_t start = npos) const noexcept;
 
@@ -124,8 +125,8 @@ public:
 
     // The next token at or after character `position`; `delimiters` is a set of characters. Leading
     // delimiters are skipped. `position` moves behind the delimiter that ends the token, or one beyond the
-    // length if none does. Returns: the token; empty with `position` -1 when there is no more. Without
-    // delimiters: everything from
+    // length if none does.
+    // Returns: the token; empty with `position` -1 when there is no more. Without delimiters: everything from
     //          `position` on, which then stays.
     // Throws:  std::out_of_range for a negative `position`.
     U8CString Tokenize(const char* delimiters, int& position) const;

@@ -112,13 +112,13 @@ public:
     XmlNode removeChild(const XmlNode& child) const noexcept;
 
     // What the XPath expression `xpath` selects with this node as context. A bad expression, one without a
-    // node set and one with an unknown prefix select nothing. Returns: the first node of the set. Null too if
-    // that is a namespace declaration.
+    // node set and one with an unknown prefix select nothing.
+    // Returns: the first node of the set. Null too if that is a namespace declaration.
     XmlNode selectNode(const u8string& xpath) const noexcept;
     XmlNode selectNode(const u8string& xpath, const XmlNamespaces& namespaces) const noexcept;
     XmlNode selectNode(const u8string& xpath, const u8string& prefix, const u8string& uri) const noexcept;
-    // Returns: the set, null instead of an empty one. Owner: the caller, xmlXPathFreeNodeSet; the nodes in it
-    // stay with their document.
+    // Returns: the set, null instead of an empty one.
+    // Owner:   the caller, xmlXPathFreeNodeSet; the nodes in it stay with their document.
     [[nodiscard]] _xmlNodeSet* selectNodes(const u8string& xpath) const noexcept;
     [[nodiscard]] _xmlNodeSet* selectNodes(const u8string& xpath,
                                            const XmlNamespaces& namespaces) const noexcept;
@@ -155,7 +155,8 @@ public:
     // Unlinks an attribute of this element and returns it; the caller owns it.
     XmlAttribute removeAttribute(const XmlAttribute& attribute) const noexcept;
 
-    // Appends plain text, whole. Returns: the text node that it is in now.
+    // Appends plain text, whole.
+    // Returns: the text node that it is in now.
     XmlNode createChildText(const u8string& text) const noexcept;
 
     XmlElement prevSiblingElement() const noexcept;
@@ -181,7 +182,9 @@ public:
 
     _xmlDoc* doc() const noexcept;
 
-    // Reads a file or a text. Returns: null for what UVEXmlRead.h refuses. Owner: the caller, xmlFreeDoc.
+    // Reads a file or a text.
+    // Returns: null for what UVEXmlRead.h refuses.
+    // Owner:   the caller, xmlFreeDoc.
     [[nodiscard]] static XmlDocument createDocument(const u8string& path);
     [[nodiscard]] static XmlDocument createDocumentXml(const u8string& xml);
 

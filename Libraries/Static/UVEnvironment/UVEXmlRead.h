@@ -21,7 +21,8 @@ namespace Uve {
 // Safe on several threads at once; a host's own work with libxml2 on another thread is without a loader
 // meanwhile.
 //
-// Owner: the caller, xmlFreeDoc. Throws: std::bad_alloc.
+// Owner:  the caller, xmlFreeDoc.
+// Throws: std::bad_alloc.
 [[nodiscard]] _xmlDoc* ReadXml(const char* data, std::size_t size);
 
 // The same for the file at `path`, but in the encoding that its mark or declaration tells. Null too when it
