@@ -30,8 +30,11 @@ public:
     // Throws: Uve::U8CString with the message, if a table file is missing or bad.
     virtual int Load(const char* parserName) = 0;
 
-    // Connects what Load made and selects the mode, without regard to case: "-cl" for a coloring map, "-cb"
-    // for comments, anything else for a tree. Comes behind set_DatabaseInfo, whose options it reads.
+    // Connects what Load made and selects the mode, without regard to case:
+    //     "-cl"          a coloring map
+    //     "-cb"          comments
+    //     anything else  a tree
+    // Comes after set_DatabaseInfo, whose options it reads.
     // Returns: UVDB_ERROR if connecting failed.
     virtual int Init(const char* mode) = 0;
 

@@ -66,8 +66,9 @@ public:
     // Returns: 0 in every case; `text` is empty without the option.
     int get_BodyXML_Option(Uve::U8CString& text) override;
 
-    // The source text of the object, in buffer form. Returns of the others: UVDB_OK; IsBodyEncrypted gives
-    // UVDB_INVALID_ARGUMENT for a null `out`.
+    // The source text of the object: UTF-8, read in buffer form, copied when it is set.
+    // Returns: as IUVDBObjectInfo's getters and setters; IsBodyEncrypted UVDB_OK, or UVDB_INVALID_ARGUMENT
+    //          for a null `out`.
     virtual int get_Body(char* dst, unsigned long size, unsigned long* length);
     virtual int set_Body(const char* text);
     virtual int IsBodyEncrypted(bool* out);

@@ -2,9 +2,12 @@
 // options and a text from its host, and makes the result. What a host may call, and when, is told at the
 // interface.
 //
-// Its parts, each in a source of its own: the object (UVParserObject), the options (UVParserDatabaseInfo),
-// the way from a text to its result (UVParserPipeline), the flattening of the tree (UVParserFlatten), errors
-// and statistics (UVParserErrors).
+// Its parts, each in a source of its own:
+//     UVParserObject        the object, what it owns
+//     UVParserDatabaseInfo  the options
+//     UVParserPipeline      the way from a text to its result
+//     UVParserFlatten       the flattening of the tree
+//     UVParserErrors        errors and statistics
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
@@ -44,8 +47,7 @@ public:
     //     REPORT_UNEXPECTED_TOKENS "1"  a parse that got as far as the database info leaves the list of
     //                                   FormatUnexpectedTokens there, in the text option UNEXPECTED_TOKENS
     //     REPORT_LOST_TEXT "1"          likewise FormatLostText in the text option LOST_TEXT; FastParse
-    //     leaves
-    //                                   both of these too
+    //                                   leaves both of these too
     //     REPORT_PREPARED_LINES "1"     likewise FormatPreparedLines in the text option PREPARED_LINES, and
     //                                   the name of the preparation pass in PREPARED_BY, empty if there was
     //                                   none

@@ -17,8 +17,8 @@
 //   $select, $open, ...    "EXEC SQL " instead of the "$"
 //   $include, $ifdef, ...  the "$" goes
 //   $int x;                a declare section around it, one for declarations with nothing between them.
-//   Inside
-//                          of a section that is there already, and where no ";" ends it, only the "$" goes.
+//                          Inside of a section that is there already, and where no ";" ends it, only the
+//                          "$" goes.
 //   EXEC SQL ... $x ... ;  ":" instead of the "$"
 //
 // A declaration begins with the name of a type, and what a "$typedef" of the text names is a type too. The

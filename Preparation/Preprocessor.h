@@ -25,8 +25,7 @@ public:
     //   PREPROCESSOR_FUNCTION         the command, see MacroPreprocessorChecker::Command
     //   API_SOURCE_DB                 "ESQLC", in any case of letters: the source has embedded SQL
     //   SOURCE_FORMS                  "FAITHFUL", in any case of letters: embedded SQL is read by the rules
-    //   of
-    //                                 its compiler, see RewriteEmbeddedSqlFaithfully()
+    //                                 of its compiler, see RewriteEmbeddedSqlFaithfully()
     //   DSN                           the first include path
     //   PREPROCESSOR_DEFINITIONS      macros, with ";" between them
     //   PREPROCESSOR_UNDEFINES        names not to be defined, or a file of them; ";" between them

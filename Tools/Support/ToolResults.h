@@ -34,9 +34,11 @@ using ToolCell =
 // What stands below a row: a word and what there is to say.
 using ToolDetails = std::vector<std::pair<std::string, std::string>>;
 
-// A table has its columns aligned under a head, and details on lines of their own. TSV has a head too, cells
-// that are apart by tabs (with \t, \n, \r and \\ for what would break a line), lists parted by "; ", and
-// details in a last column "explain". JSON is an array of one object a line.
+// The three forms:
+//     table  columns aligned under a head, details on lines of their own
+//     TSV    a head too, cells separated by tabs (with \t, \n, \r and \\ for what would break a line), lists
+//            separated by "; ", details in a last column "explain"
+//     JSON   an array of one object a line
 class CToolResults
 {
 public:

@@ -57,7 +57,9 @@ struct SActionStatements
 
 // Reads the body of an action:
 //     body      = "{" { statement [ ";" ] } "}"
-//     statement = word "(" operand { "," operand } ")" | "BEGIN" state ";" | "TOKEN_INDENT_ACTION" |
-//     "yytext[" n "]"
+//     statement = word "(" operand { "," operand } ")"
+//               | "BEGIN" state ";"
+//               | "TOKEN_INDENT_ACTION"
+//               | "yytext[" n "]"
 // Comments and the words that action code needs around strtmp.Format are passed over.
 SActionStatements ReadActionStatements(const SActionCase& action);

@@ -90,7 +90,7 @@ bool IsValidUTF8(std::string_view text);
 std::size_t FindInvalidUTF8(std::string_view text);
 
 // Copies: the system encoding is UTF-8, so the single-byte side of these holds the same bytes. Appends
-//         nothing, replaces `out`.
+// nothing, replaces `out`.
 void UTF8Toisolat1(std::string_view text, std::string& out);
 void isolat1ToUTF8(std::string_view text, std::string& out);
 void isolat1ToUTF8(std::string_view text, Uve::u8string& out);

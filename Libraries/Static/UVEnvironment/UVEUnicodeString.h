@@ -36,8 +36,7 @@ std::vector<UTF8CodepointMatcher> BuildCodepointMatchers(const char* set);
 // position costs the distance between its steps. Hence two rules:
 //  - Even const access isn't safe from two threads at once.
 //  - What changes the text through a std::string& or through a kept pointer, reference or iterator goes
-//  unseen.
-//    Call GetBuffer() after it.
+//    unseen. Call GetBuffer() after it.
 //
 // Operations don't throw, save Tokenize; when memory runs out they end the process.
 class U8CString : public std::string

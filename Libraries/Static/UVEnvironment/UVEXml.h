@@ -10,10 +10,11 @@
 // about in the tree, change it or select from it end the process rather than throw; those that read or give
 // texts may throw std::bad_alloc.
 //
-// Names and values are UTF-8. Note: cut names. createElement, createAttribute and the operations that create
-// and add elements and attributes take as many bytes of a name or value as it has characters, so only ASCII
-// arrives whole: each byte beyond one per character is lost at the end. Everything else takes and gives whole
-// texts.
+// Names and values are UTF-8.
+//
+// Note: cut names. createElement, createAttribute and the operations that create and add elements and
+// attributes take as many bytes of a name or value as it has characters, so only ASCII arrives whole: each
+// byte beyond one per character is lost at the end. Everything else takes and gives whole texts.
 //
 // Adding to a tree. A text added beside a text is joined with it and its own node freed: go on with the node
 // returned. An attribute replaces the one of the same name in its element, which is freed. A node that is

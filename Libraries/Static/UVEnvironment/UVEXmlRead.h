@@ -13,8 +13,7 @@ namespace Uve {
 // - has 0x80000000 bytes or more,
 // - has an element with more than 1000 attributes,
 // - grows by its declarations (entities, parameter entities, default namespaces) beyond 10 MB and ten times
-// its
-//   own size, whether while it is read or when its references are resolved.
+//   its own size, whether while it is read or when its references are resolved.
 //
 // Nothing outside the text is ever loaded: no external entity, no DTD, nothing from the network. Errors are
 // not printed, and the handlers and the loader that a host has set in libxml2 are in place again afterwards.
