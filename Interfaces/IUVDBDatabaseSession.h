@@ -66,7 +66,7 @@ public:
 
     // One query at a time, row by row. Columns count from 0.
     virtual int OpenQuery(const char* query) = 0;
-    virtual int FetchRow() = 0; // UVDB_NO_DATA behind the last row
+    virtual int FetchRow() = 0; // UVDB_NO_DATA after the last row
     virtual int get_FieldCount(unsigned long* count) = 0;
     virtual int get_FieldName(unsigned long index, Uve::U8CString& name) = 0;
     virtual int get_FieldValue(unsigned long index, Uve::U8CString& value) = 0; // UVDB_NOT_AVAILABLE for NULL

@@ -23,7 +23,7 @@ public:
     virtual int get_Length(long* length) = 0;
 
     // Copies the next item and moves on.
-    // Returns: UVDB_OK; UVDB_NO_DATA behind the last item, and then `item` is untouched.
+    // Returns: UVDB_OK; UVDB_NO_DATA after the last item, and then `item` is untouched.
     virtual int get_Next(T& item) = 0;
 
     // Shares `object` and puts it at the end. Whether one object can stand twice is the list's own rule.

@@ -9,7 +9,7 @@
 class IUVDBObject : public IUVDBOptionSet
 {
 public:
-    // The same object behind another interface. Empty if the object is no `T`, if it was never given its self
+    // The same object as another interface. Empty if the object is no `T`, if it was never given its self
     // reference, or if its last owner has let go.
     template <class T>
     std::shared_ptr<T> cast() const

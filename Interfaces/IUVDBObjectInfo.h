@@ -81,7 +81,7 @@ public:
     // Returns: UVDB_OK.
     virtual int RefObjects_clear() = 0;
 
-    // Shares `child` and puts it behind the other children.
+    // Shares `child` and puts it after the other children.
     // Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for an empty pointer.
     virtual int ChildObjects_insert(std::shared_ptr<IUVDBObjectInfo> child) = 0;
     virtual std::vector<std::shared_ptr<IUVDBObjectInfo>>& get_ChildObjects() = 0;

@@ -10,5 +10,5 @@
 int UVDBCopyTextToBuffer(const Uve::U8CString& text, char* dst, unsigned long size, unsigned long* length);
 
 // Overwrites the first byte of four Cyrillic letters by the Latin letter that looks like them: "A", "C", "a",
-// "c". The byte behind it stays where it is, so the text keeps its length, and is no valid UTF-8 any more.
+// "c". The byte after it stays where it is, so the text keeps its length, and is no valid UTF-8 any more.
 void ReplaceRussSym(Uve::U8CString& text);

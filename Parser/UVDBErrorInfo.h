@@ -10,7 +10,7 @@
 #include <map>
 #include <string>
 
-// The error record that crosses the plug-in boundary, behind the interface `Base`. Whoever makes it fills the
+// The error record that crosses the plug-in boundary, as the interface `Base`. Whoever makes it fills the
 // members; a host reads them through the interface.
 template <class Base>
 class CUVDBErrorInfoT : public Base

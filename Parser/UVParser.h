@@ -1,4 +1,4 @@
-// The parser object behind the plug-in entry: it owns the scanner and the parser of one grammar, takes
+// The parser object of the plug-in entry: it owns the scanner and the parser of one grammar, takes
 // options and a text from its host, and makes the result. What a host may call, and when, is told at the
 // interface.
 //
@@ -31,7 +31,7 @@
 class CUVDBSQLParser : public IUVDBSQLParser
 {
 public:
-    // An object that isn't ready (Load missing, or Init behind the last Load) answers UVDB_ERROR where it
+    // An object that isn't ready (Load missing, or Init after the last Load) answers UVDB_ERROR where it
     // would need a grammar. Only Load, FastParse and SetLastError let exceptions pass.
 
     // Returns: UVDB_INVALID_ARGUMENT for a null name. A grammar that can't be loaded leaves the earlier one

@@ -146,7 +146,7 @@ void CUVDBSQLParser::ReadPascalDefines()
         return;
 
     defines.MakeUpper();
-    // Whoever reads the file overlooks what an earlier, longer list left behind this one.
+    // Whoever reads the file overlooks what an earlier, longer list left after this one.
     if (!Uve::File::WriteAllText(kDefinesFile, "DEFINES=" + defines))
         CLogWrapper::WriteTraceF("\nFAILED to write file %s", kDefinesFile);
     int position = 0;

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-// What stands behind the last "." of `path`; nothing if there is no dot.
+// What stands after the last "." of `path`; nothing if there is no dot.
 std::optional<Uve::U8CString> TextBehindLastDot(const Uve::U8CString& path);
 
 // Puts a blank in the place of each zero-width space. Needs no memory.
@@ -16,17 +16,17 @@ void ReplaceZeroWidthSpaces(Uve::U8CString& text);
 
 inline constexpr std::string_view kXmlHeader = "<?xml version=\"1.0\" ?>";
 
-// `text` behind an XML header of its own: one that it has goes, with everything in front of it.
+// `text` after an XML header of its own: one that it has goes, with everything before it.
 void ReplaceXmlHeader(Uve::U8CString& text);
 
 // The text between `<name>` and `</name>`, not escaped.
 Uve::U8CString WrapInElement(std::string_view name, std::string_view text);
 
 // The lines of `text` around line `lineNumber` (from 1), between markers: the line before, the line and the
-// line behind it, as far as they exist. A text that ends in a line feed has an empty last line.
+// line after it, as far as they exist. A text that ends in a line feed has an empty last line.
 // Returns: nothing if there is no such line.
 std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::string_view text);
 
 // The source lines of a prepared text in runs, one a line: the first prepared line, the source line where it
-// begins, and how many lines go on likewise, parted by tabs. Lines count from 1.
+// begins, and how many lines go on likewise, separated by tabs. Lines count from 1.
 Uve::U8CString FormatPreparedLines(const std::vector<std::uint32_t>& sourceLines);

@@ -23,7 +23,7 @@ std::size_t NameEnd(std::string_view text, std::size_t at)
 }
 
 // The places where a declaration may end: a hit is the shortest text up to one of them, but a declaration
-// with braces goes on behind them. Braces inside of braces aren't looked at, so these end at the first "}".
+// with braces goes on after them. Braces inside of braces aren't looked at, so these end at the first "}".
 class CDeclarationEnds
 {
 public:
@@ -33,7 +33,7 @@ public:
           m_LineFeed(text, '\n')
     {}
 
-    // Behind the ";" of the declaration that "$" at `dollar` begins; kNowhere if it begins none.
+    // The place after the ";" of the declaration that "$" at `dollar` begins; kNowhere if it begins none.
     std::size_t Declaration(std::size_t dollar)
     {
         const std::size_t word = SkipSpace(m_Text, dollar + 1);
@@ -74,7 +74,7 @@ public:
         const std::size_t binary = BinaryTypeEnd(m_Text, type);
         if (binary == kNowhere)
             return kNowhere;
-        // more white space has to stand behind the type's own
+        // more white space has to stand after the type's own
         const std::size_t blanks = SkipSpace(m_Text, binary);
         const std::size_t quoted = QuotedEnd(blanks);
         if (quoted != kNowhere && SkipSpace(m_Text, quoted) - quoted > 1)
@@ -118,7 +118,7 @@ private:
             m_TypeEnds[m_TypeCount++] = at;
     }
 
-    // Behind a quoted text at `at` that has white space behind it.
+    // The place after a quoted text at `at` that white space follows.
     std::size_t QuotedEnd(std::size_t at)
     {
         if (at >= m_Text.size() || m_Text[at] != '\'')
@@ -174,7 +174,7 @@ void AddDeclaratorNames(std::string_view text, std::size_t from, std::size_t end
     const std::size_t known = names.size();
     std::string name;
     int depth = 0;
-    bool isPointer = false; // the name is the one behind "(*"
+    bool isPointer = false; // the name is the one after "(*"
     for (std::size_t at = from; at < end; ++at) {
         const char character = text[at];
         if (comments.Contains(at))

@@ -17,7 +17,7 @@ struct SDollarWord
 constexpr auto P = enDollar::Preprocessor;
 constexpr auto S = enDollar::Statement;
 
-// What the "$" in front of a word means. Those of the preprocessor stand right behind it.
+// What the "$" before a word means. Those of the preprocessor stand right after it.
 // clang-format off
 constexpr SDollarWord kDollarWords[] = {
     {"include",    P}, {"define",     P}, {"undef",      P}, {"ifdef",      P}, {"ifndef",     P},
@@ -65,7 +65,7 @@ int CompareName(std::string_view name, std::string_view text, std::size_t at)
     return 0;
 }
 
-// The place behind "begin declare section" or "end declare section"; kNowhere for anything else.
+// The place after "begin declare section" or "end declare section"; kNowhere for anything else.
 std::size_t SectionMarkEnd(std::string_view text, std::size_t at, std::string_view first)
 {
     for (const std::string_view word : {first, std::string_view("declare")}) {
@@ -164,7 +164,7 @@ void CTypeNames::Add(std::vector<std::string> names)
         m_Names.push_back(std::move(name));
     }
     std::ranges::sort(m_Names);
-    // a name behind another that it begins with adds nothing
+    // a name after another that it begins with adds nothing
     const auto isLonger = [](const std::string& first, const std::string& second) {
         return second.starts_with(first);
     };

@@ -15,7 +15,7 @@ constexpr std::size_t kNowhere = std::string_view::npos;
 struct SSpan
 {
     std::size_t from = 0;
-    std::size_t end = 0; // behind the last byte
+    std::size_t end = 0; // after the last byte
 };
 
 inline bool IsSpace(char character)
@@ -37,7 +37,7 @@ inline std::size_t SkipSpace(std::string_view text, std::size_t at)
 
 // `word` is in small letters; the text may be in any.
 bool BeginsWith(std::string_view text, std::size_t at, std::string_view word);
-// The same, and white space stands behind it.
+// The same, and white space follows it.
 bool BeginsWithWord(std::string_view text, std::size_t at, std::string_view word);
 
 // The next place of one character. Questions from ascending places cost no more than one walk over the text.
@@ -107,7 +107,7 @@ bool IsStartingType(std::string_view word);
 // One of those that a declaration with any ending may have.
 bool BeginsWithBuiltInType(std::string_view text, std::size_t at);
 
-// "fixed binary" or "var binary", and white space behind it.
+// "fixed binary" or "var binary", and white space after it.
 // Returns: the place of that white space, or kNowhere.
 std::size_t BinaryTypeEnd(std::string_view text, std::size_t at);
 
@@ -118,15 +118,15 @@ enum class enDollar
     Statement
 };
 
-// What the text behind a "$" makes of it, declarations aside. `isAdjacent` is false if white space between
+// What the text after a "$" makes of it, declarations aside. `isAdjacent` is false if white space between
 // the "$" and `behind` has been passed already.
 enDollar ClassifyDollar(std::string_view behind, bool isAdjacent = true);
 
-// The text behind a "$" ends a declare section.
+// The text after a "$" ends a declare section.
 bool EndsDeclareSection(std::string_view behind);
 
 // The next "exec sql" that isn't in a comment.
-// Returns: `end` is behind the white space that follows it; kNowhere twice if there is none.
+// Returns: `end` is after the white space that follows it; kNowhere twice if there is none.
 SSpan FindExecSql(std::string_view text, std::size_t from, const CComments& comments);
 
 // The statements of both notations, up to and without their ";".
@@ -135,7 +135,7 @@ std::vector<SSpan> FindStatements(std::string_view text, const CComments& commen
 // The declare sections of both notations that have an end.
 std::vector<SSpan> FindDeclareSections(std::string_view text, const CComments& comments);
 
-// Appends the names of one typedef, [from, end) without its ";": of each declarator behind the braces the
+// Appends the names of one typedef, [from, end) without its ";": of each declarator after the braces the
 // last name that isn't in brackets, or the one of a pointer to a function.
 void AddDeclaratorNames(std::string_view text, std::size_t from, std::size_t end, const CComments& comments,
                         std::vector<std::string>& names);
@@ -146,7 +146,7 @@ std::vector<std::string> FindTypeNames(std::string_view text, const CComments& c
 struct SDeclaration
 {
     std::size_t dollar = 0;
-    std::size_t end = 0; // behind its ";"
+    std::size_t end = 0; // after its ";"
     bool isInSection = false;
 };
 
@@ -159,7 +159,7 @@ class CSpanCursor
 public:
     explicit CSpanCursor(const std::vector<SSpan>& spans) : m_Spans(spans) {}
 
-    // The position lies behind the first byte of a span.
+    // The position lies after the first byte of a span.
     bool IsInside(std::size_t at)
     {
         while (m_Current < m_Spans.size() && m_Spans[m_Current].end <= at)

@@ -42,7 +42,7 @@ SPreparedText WrapDeclarations(std::string_view text, const CComments& comments,
 // Replaces the "$" of statements, of preprocessor lines, and of declarations that got no section.
 //
 // What comes out is what a search gives that begins anew, on the changed text, after each replacement of the
-// first hit. A hit depends on nothing but the text behind its "$", up to the next "$" that stays. So a
+// first hit. A hit depends on nothing but the text after its "$", up to the next "$" that stays. So a
 // replacement can make a hit only of the last "$" before it, if white space and names are all that lies
 // between them; and that again of the one before. These wait on a stack, and the others are settled when they
 // are passed.
@@ -118,12 +118,11 @@ private:
     // Small, since a text may be nothing but these.
     struct SDollar
     {
-        std::uint64_t behind : 62 =
-            0; // where the first thing behind it that isn't white space has been found
+        std::uint64_t behind : 62 = 0; // where the first thing after it that isn't white space has been found
         std::uint64_t isSpaced : 1 = 0; // there was white space on the way
         std::uint64_t isInStatement : 1 = 0;
         std::uint32_t ordinal = 0;
-        std::uint32_t nextOrdinal = 0; // of the first "$" at or behind `behind`
+        std::uint32_t nextOrdinal = 0; // of the first "$" at or after `behind`
     };
 
     // Reads the text as the replacements that have been settled make it.
@@ -173,11 +172,11 @@ private:
         }
     }
 
-    // What the "$" means as the text behind it stands. A hit is entered.
+    // What the "$" means as the text after it stands. A hit is entered.
     enResult Settle(SDollar& dollar)
     {
         SReader reader{dollar.behind, dollar.nextOrdinal};
-        // the white space behind the last replacement needn't be walked over again
+        // the white space after the last replacement needn't be walked over again
         if (reader.at < m_Text.size() && m_Text[reader.at] == '$' && reader.ordinal == m_LastHit.ordinal &&
             m_Actions[reader.ordinal] == REMOVE) {
             reader = {m_LastHit.behind, m_LastHit.nextOrdinal};
@@ -203,7 +202,7 @@ private:
         return HIT;
     }
 
-    // Reads as many words as a "$" may need, with what of white space stands between and behind them; two
+    // Reads as many words as a "$" may need, with what of white space stands between and after them; two
     // bytes of it tell as much as all.
     // Returns: what stopped the reading; anything from 0 if nothing more was wanted.
     int ReadWords(SReader& reader)
@@ -289,7 +288,7 @@ private:
     {
         std::size_t from = 0;         // in m_Words
         std::size_t source = 0;       // in the text
-        std::size_t sourceBehind = 0; // in the text, behind the first white space behind the word
+        std::size_t sourceBehind = 0; // in the text, after the first white space after the word
     };
 
     std::string_view m_Text;

@@ -86,7 +86,7 @@ std::size_t LineEnd(std::string_view text, std::size_t at)
     return std::min(text.find('\n', at), text.size());
 }
 
-// Behind the comment at `at`; `at` itself if none begins there. An open one takes the rest.
+// The place after the comment at `at`; `at` itself if none begins there. An open one takes the rest.
 std::size_t BehindBlockComment(std::string_view text, std::size_t at)
 {
     if (!text.substr(at).starts_with("/*"))
@@ -95,8 +95,8 @@ std::size_t BehindBlockComment(std::string_view text, std::size_t at)
     return end == kNowhere ? text.size() : end + 2;
 }
 
-// Behind the comment, string or character of C at `at`; `at` itself if none begins there. A string ends with
-// its line at the latest, unless a backslash makes it go on.
+// The place after the comment, string or character of C at `at`; `at` itself if none begins there. A string
+// ends with its line at the latest, unless a backslash makes it go on.
 std::size_t BehindCLiteral(std::string_view text, std::size_t at)
 {
     const char quote = text[at];

@@ -23,7 +23,7 @@ struct SEmbedded
     enEmbedded kind = enEmbedded::Statement;
     std::size_t from = 0;     // the "$", or the first letter of "exec sql"
     std::size_t behind = 0;   // what follows the mark
-    std::size_t end = 0;      // behind the ";", or at the line's end for a directive without one
+    std::size_t end = 0;      // after the ";", or at the line's end for a directive without one
     bool isDollar = false;    // else "exec sql"
     bool isInSection = false; // between the statements that begin and end a declare section
     bool isClosed = true;     // false: no ";" ends it, and `end` is `behind`
@@ -35,9 +35,9 @@ struct SEmbeddedSource
     std::size_t openSection = std::string_view::npos; // the statement of a declare section that never ends
 };
 
-// A "$" begins a piece where a word follows it and a statement of C may begin: at a line's begin, behind ";",
+// A "$" begins a piece where a word follows it and a statement of C may begin: at a line's begin, after ";",
 // a brace, ")", ":", "else" or "do". It is a declaration if the word is a type: one of those that are always
-// there, one that a typedef before it names, or any word but a statement's with a declarator behind it.
+// there, one that a typedef before it names, or any word but a statement's with a declarator after it.
 SEmbeddedSource ReadEmbeddedSource(std::string_view text);
 
 // The places of the "$" that stand for ":" in the statement [from, end).

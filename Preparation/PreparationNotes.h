@@ -19,7 +19,7 @@ public:
     static constexpr std::size_t kLongestText = 500; // bytes; what is longer is cut
 
     // `line` and `file`: as SPreparationNote has them. Notes of the same text about the same file are one,
-    // with the line of the first and their count behind the text.
+    // with the line of the first and their count after the text.
     void AddWarning(std::string_view text, std::uint32_t line = 0, std::string_view file = {})
     {
         Add(false, text, line, file);
@@ -31,7 +31,7 @@ public:
 
     bool empty() const { return m_Notes.empty(); }
 
-    // Behind the most that there may be stands one that counts the others. The gatherer is empty afterwards.
+    // After the most that there may be stands one that counts the others. The gatherer is empty afterwards.
     std::vector<SPreparationNote> Take();
 
 private:

@@ -103,7 +103,7 @@ struct SFailure
     std::string_view code;
 };
 
-// Takes the number of ": number :", with `colon` the second ":" and text in front of the first.
+// Takes the number of ": number :", with `colon` the second ":" and text before the first.
 bool TakeLineNumber(std::string_view text, std::size_t colon, std::string_view& number)
 {
     std::size_t at = colon;
@@ -121,7 +121,7 @@ bool TakeLineNumber(std::string_view text, std::size_t colon, std::string_view& 
     return true;
 }
 
-// The label begins behind the last ": number :" in front of its end, which may stand in an earlier line.
+// The label begins after the last ": number :" before its end, which may stand in an earlier line.
 bool TakeLabel(std::string_view text, std::size_t lineStart, std::size_t labelEnd, SFailure& failure)
 {
     for (std::size_t label = labelEnd + 1; label-- > lineStart;) {

@@ -76,7 +76,7 @@ private:
 struct SComment
 {
     std::size_t begin = 0;
-    std::size_t end = 0; // behind it
+    std::size_t end = 0; // after it
     std::string_view content;
 };
 

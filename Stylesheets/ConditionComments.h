@@ -6,7 +6,7 @@
 //     name      = letters, digits and "_"
 //     second    = "*" or a name
 //     item      = "*" or a name
-// for example <!--Condition: Alpha/Beta[One; Two]-->. Blanks may stand in front of the words and behind a
+// for example <!--Condition: Alpha/Beta[One; Two]-->. Blanks may stand before the words and after a
 // second name or a list. Case doesn't matter in names and items, it does in the words Condition and End. A
 // comment that holds anything but ASCII letters, digits, "_", white space and :;*/[] is an ordinary one and
 // stays.
@@ -20,7 +20,7 @@
 // Resolves the sections of `text` for one conversion. A section stays if its name equals `first`, its second
 // name (if it has one) is "*" or equals `second`, and an item of its list (if it has one) is "*" or equals
 // `third`. Both comments go in any case. An opening that is nothing of the above but begins with "Condition:"
-// drops its section; see FindDeadConditions. Text behind an opening that is never closed stays.
+// drops its section; see FindDeadConditions. Text after an opening that is never closed stays.
 // Throws: std::runtime_error for an opening inside a section, a closing without an opening, and any other
 //         comment of those characters.
 std::string ProcessGlobalVariables(const std::string& text, const std::string& first,

@@ -34,7 +34,7 @@ bool ReadRuleFile(std::string& out, const std::string& folder, const std::string
     return file && ReadFromFile(out, *file) == UVDB_OK;
 }
 
-// Tries the path as it stands and with "_" behind it.
+// Tries the path as it stands and with "_" after it.
 bool ReadEither(std::string& out, const std::string& folder, const std::string& path)
 {
     return ReadRuleFile(out, folder, path) || ReadRuleFile(out, folder, path + "_");

@@ -4,12 +4,12 @@
 // Compressor.h).
 //
 // A stylesheet is looked for under several names, the first file that opens is taken: with its ending as
-// given (.xslt), with .crs, with .cr, each of them with and without "_" behind it.
+// given (.xslt), with .crs, with .cr, each of them with and without "_" after it.
 //
 // Rule files come from outside. A file that isn't below the base folder, because its name or a link leads out
 // of it, isn't loaded. More than 1 GiB is not read, be it in one file or in all that one stylesheet takes in;
 // an archive whose payload is damaged is refused. An archive with a bad header, which a plain file with a
-// blank in front is too, counts as an empty file. The trace names the file in each case.
+// blank at its start is too, counts as an empty file. The trace names the file in each case.
 #pragma once
 
 #include "Stylesheets/ConditionComments.h"
@@ -31,7 +31,7 @@ public:
     // As if the executable stood in this directory.
     explicit CRuleFiles(const Uve::U8CString& hostDirectory);
 
-    // The folder in front of every name, with a slash at its end.
+    // The folder that names count from, with a slash at its end.
     const std::string& BaseFolder() const { return m_BaseFolder; }
     bool IsCrsMode() const { return m_IsCrsMode; }
 
@@ -62,7 +62,7 @@ bool isCRSmode();
 // Returns: 0; -1, with `out` empty, if it can't be opened or is more than 1 GiB.
 int ReadFromFile(std::string& out, const std::string& path);
 
-// Loads a rule file that is XML, under `name` or with "_" behind it.
+// Loads a rule file that is XML, under `name` or with "_" after it.
 // Returns: 0; -1, with `out` empty, if there is none.
 int LoadXMLFromFile(Uve::U8CString& out, const Uve::U8CString& name);
 
@@ -74,7 +74,7 @@ int LoadXSLTFromFile(std::string& out, const std::string& name);
 // Returns: 0; -1, with `unused` false, if there is none.
 int LoadXSLTFromFileEx(bool& unused, const std::string& name);
 
-// Puts templates of the stylesheet `name` behind the last template of `main`: what stands from its first
+// Puts templates of the stylesheet `name` after the last template of `main`: what stands from its first
 // "<!-- From:" to its last template. Without that mark, or without a template in `main`, nothing happens.
 // Returns: 0; -1 if there is no such stylesheet.
 int LoadSubXSLT(std::string& main, const std::string& name);
@@ -89,7 +89,7 @@ int LoadSubXSLT(std::string& main, const std::string& name);
 int ImportResolveFile(Uve::U8CString& text, const Uve::U8CString& first, const Uve::U8CString& second,
                       const Uve::U8CString& third);
 
-// The same for one kind of line: `tag` is its beginning through the quotation mark in front of the name. What
+// The same for one kind of line: `tag` is its beginning through the quotation mark before the name. What
 // is taken in has both kinds resolved. `text` changes only with 0.
 int ImportResolveFile(Uve::U8CString& text, const Uve::U8CString& tag, const Uve::U8CString& first,
                       const Uve::U8CString& second, const Uve::U8CString& third);

@@ -8,7 +8,7 @@
 
 Uve::U8CString GetProcessName(int pid)
 {
-    // The words of a command line stand in this file with a NUL byte behind each.
+    // The words of a command line stand in this file with a NUL byte after each.
     std::ifstream file("/proc/" + std::to_string(pid) + "/cmdline", std::ios::binary);
     std::array<char, 8192 + 1> commandLine{};
     file.read(commandLine.data(), commandLine.size() - 1);

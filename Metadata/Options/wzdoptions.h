@@ -16,7 +16,7 @@ enum enTEMBRAWZDOPTIONS : int
 #define UVDB_WIZARD_OPTION(name, number, section, key) name = (number),
 #include "Metadata/Options/UVWizardOptionRows.inc"
 #undef UVDB_WIZARD_OPTION
-    WZDOPT_END // one behind the highest number
+    WZDOPT_END // one after the highest number
 };
 
 // Section and key by number; both null for a number without a row.
@@ -38,6 +38,6 @@ UVDB_EXPORT bool IsSectionCommon(const Uve::U8CString& section);
 bool IsAllowedValuePreprocessing(const Uve::U8CString& key);
 
 // What position `index` of the wizard's list of targets and the text `version` ("major.minor") stand for. A
-// position behind the list is the unknown kind, an empty major part an unknown version. A null `info` is left
+// position beyond the list is the unknown kind, an empty major part an unknown version. A null `info` is left
 // alone.
 void GetTargetDbmsInfo(unsigned int index, const Uve::U8CString& version, DB_VERSION_INFO* info);

@@ -56,7 +56,7 @@ class CLineSearch
 {
 public:
     // Where `matches(at)` holds first, from `from` on and before the end of its line. Starts ascend, and the
-    // next one lies behind what was found.
+    // next one lies after what was found.
     template <class Predicate>
     std::size_t Find(std::string_view text, std::size_t from, Predicate matches)
     {

@@ -9,7 +9,7 @@ bool IsBlank(char character)
     return character == ' ' || character == '\t' || character == '\f' || character == '\v';
 }
 
-// The byte behind the run of equal characters that begins at `from`.
+// The byte after the run of equal characters that begins at `from`.
 std::size_t EndOfRun(std::string_view line, std::size_t from)
 {
     std::size_t end = from + 1;

@@ -110,11 +110,11 @@ private:
     const SCobolOptions& m_Options;
     SPreparedText m_Prepared;
     std::string m_Output;
-    std::string_view m_Previous; // the line before, as it stood; empty in front of the first one
+    std::string_view m_Previous; // the line before, as it stood; empty before the first one
 };
 
-// Continuations go to the end of a line that lies behind, with comments in between. They are kept aside and
-// put in at the end, so that the text behind that place isn't moved again and again.
+// Continuations go to the end of an earlier line, with comments in between. They are kept aside and
+// put in at the end, so that the text after that place isn't moved again and again.
 class CFreeForm
 {
 public:
@@ -135,7 +135,7 @@ public:
 private:
     struct SLineEnd
     {
-        std::size_t offset; // in front of the line feed
+        std::size_t offset; // before the line feed
         bool isBlank;       // of nothing but blanks; a continuation may make a comment of it
     };
 

@@ -18,7 +18,7 @@ struct SDirective
 {
     std::string_view text; // from brace to brace
     std::string_view symbol;
-    std::string_view delimiter; // "," or ";" right behind it, or empty
+    std::string_view delimiter; // "," or ";" right after it, or empty
 };
 
 // All parts borrow `line`.
@@ -37,7 +37,7 @@ struct SDirectiveLine
 
 // Decides the conditions in `lines`, of which each holds at least one byte.
 // Only the first directive of a line is looked at, and the text beside it shares its fate. A "," or ";"
-// behind a directive comes back as a line before the next line that is kept. Constructs within one are
+// after a directive comes back as a line before the next line that is kept. Constructs within one are
 // decided when it closes; one that stays open leaves what is nested in it undecided.
 // Returns: the lines that are left; they borrow what `lines` borrow.
 std::list<SDirectiveLine> ResolveDirectives(const std::list<SDirectiveLine>& lines);

@@ -129,7 +129,7 @@ private:
     std::string_view m_Line; // the line that the walk has come to
     std::size_t m_At = 0;
     std::size_t m_Closing =
-        0;               // where the open literal ends, if that is known: behind m_At; npos: not in this line
+        0;               // where the open literal ends, if that is known: after m_At; npos: not in this line
     char m_Quote = '\0'; // that opened the literal; 0 outside
 };
 

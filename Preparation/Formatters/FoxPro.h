@@ -1,4 +1,4 @@
-// FoxPro programs, whose statements go on behind a ";" at the end of a line.
+// FoxPro programs, whose statements go on after a ";" at the end of a line.
 #pragma once
 
 #include "Preparation/PreparedText.h"
@@ -13,9 +13,9 @@ struct SFoxProOptions
 //  - A line that begins with "*" is a comment; it loses its leading white space and is never joined.
 //  - A ";" at the end of a line becomes a blank, and the next line follows. In a literal that the line leaves
 //    open the next line follows directly.
-//  - A ";" in front of "&&" goes, and nothing is joined: the comment ends the statement's line. A ";" at the
+//  - A ";" before "&&" goes, and nothing is joined: the comment ends the statement's line. A ";" at the
 //    end of the text goes too.
-//  - A ";" in front of anything else stays, and the rest of its line with it.
+//  - A ";" before anything else stays, and the rest of its line with it.
 // On a line with a ";" that is no comment, characters beyond ASCII come out as "`", up to the ";" that stays.
 //
 // In the faithful form a ";" at the end joins comments too, and one that isn't at the end is text like any

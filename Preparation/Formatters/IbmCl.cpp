@@ -16,7 +16,7 @@ void DropLastCharacter(std::string& text)
 {
     if (text.empty())
         return;
-    // a character has at most five bytes behind its first one
+    // a character has at most five bytes after its first one
     std::size_t at = text.size() - 1;
     for (int back = 0; back < 5 && at != 0 && Uve::utf8_is_continuation(text[at]); ++back)
         --at;

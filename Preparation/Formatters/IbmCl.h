@@ -9,8 +9,8 @@ struct SIbmClOptions
     bool isFaithful = false; // SOURCE_FORMS is "FAITHFUL"
 };
 
-// Joins the lines of a command: behind a "+" at the end of a line the next one loses its leading white space,
-// behind a "-" it keeps it. A blank behind the sign makes it text. Empty lines vanish, and so does "\r" at
+// Joins the lines of a command: after a "+" at the end of a line the next one loses its leading white space,
+// after a "-" it keeps it. A blank after the sign makes it text. Empty lines vanish, and so does "\r" at
 // the ends of lines; the line feeds at the end stay. Then the last character of the text goes, whatever it
 // is: a text that doesn't end in a line feed loses more than that. A second run takes another one.
 //

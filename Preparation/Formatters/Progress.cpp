@@ -535,7 +535,7 @@ void CProgressPass::Rejoin()
     std::vector<SPiece> pieces;
     pieces.reserve(m_Pieces.size());
     constexpr std::size_t kNone = std::string_view::npos;
-    std::size_t open = kNone; // the piece that holds an open brace with no brace behind it
+    std::size_t open = kNone; // the piece that holds an open brace with no brace after it
     std::size_t openAt = 0;
     for (SPiece piece : m_Pieces) {
         const std::size_t brace = FirstBrace(piece.text);

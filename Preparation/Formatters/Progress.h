@@ -32,7 +32,7 @@ SPreparedText FormatProgress(std::string_view source, const SProgressOptions& op
 // The same by the rules of the language. Each reference has its own arguments: "{1}" is a value by its place,
 // empty if there is none, "{&name}" one by its name in any case of letters, "{0}" the file's name, "{*}" and
 // "{&*}" are all; a "{&name}" without an argument stays. Values and files are taken as they are. In comments,
-// and behind "~", braces mean nothing. A file is looked for by its name as it is written, with "/" for "\\",
+// and after "~", braces mean nothing. A file is looked for by its name as it is written, with "/" for "\\",
 // in the folders of `propath`, and in the directory of the source, there by the last part of its name too. A
 // name that doesn't end in ".i" is one only if there is such a file; otherwise the braces stay. After the
 // bound of the expansion the rest of the source comes as it is.

@@ -34,7 +34,7 @@ class CProgressArguments
 public:
     explicit CProgressArguments(std::string_view text) : m_Rest(text) {}
 
-    // Returns: nothing behind the last argument, and from a name without "=" or a quote without its partner
+    // Returns: nothing after the last argument, and from a name without "=" or a quote without its partner
     //          on.
     std::optional<SProgressArgument> Next();
 

@@ -25,7 +25,7 @@ class CSourceLines
 public:
     explicit CSourceLines(std::string_view source) : m_Rest(source) {}
 
-    // Returns: false, with `line` as it was, behind the last line.
+    // Returns: false, with `line` as it was, after the last line.
     bool Next(SSourceLine& line);
     // The same without lines of no length.
     bool NextFilled(SSourceLine& line);

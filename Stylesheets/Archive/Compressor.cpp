@@ -56,8 +56,8 @@ bool IsClaimCredible(std::size_t size, std::size_t payloadSize)
     return size <= kMaxUnpackedSize && size / kMaxRatio <= payloadSize && size <= payloadSize * kMaxRatio;
 }
 
-// Unpacks the payload behind the header.
-// Returns: the bytes unpacked; `out` has the size of the header, or is empty behind a bad one.
+// Unpacks the payload after the header.
+// Returns: the bytes unpacked; `out` has the size of the header, or is empty after a bad one.
 std::size_t Unpack(const std::string& data, bool isScrambled, std::string& out, bool& damaged)
 {
     unsigned int size = 0;

@@ -1,5 +1,5 @@
 // Packed files. Two forms that have nothing in common but this header: the archive (".crs", one scrambled
-// zlib stream behind a readable header), in which rule files and text files of grammars may be stored, and
+// zlib stream after a readable header), in which rule files and text files of grammars may be stored, and
 // plain gzip, in which the binary tables of grammars are. Sizes are bytes.
 #pragma once
 
@@ -83,7 +83,7 @@ public:
         TooLarge
     };
 
-    // The whole unpacked file, checksum tested. Memory grows with what really unpacks; behind `maxSize` bytes
+    // The whole unpacked file, checksum tested. Memory grows with what really unpacks; after `maxSize` bytes
     // the reading ends. `out` is empty unless Done.
     [[nodiscard]] static enResult ReadWhole(const std::string& path, std::vector<unsigned char>& out,
                                             std::size_t maxSize);

@@ -21,7 +21,7 @@ std::optional<std::uint64_t> ReadNumber(std::string_view text)
     return number;
 }
 
-// The next field of a text parted by separators; `text` keeps what is behind it.
+// The next field of a text between separators; `text` keeps what comes after it.
 std::string_view TakeField(std::string_view& text, char separator)
 {
     const std::size_t end = std::min(text.find(separator), text.size());

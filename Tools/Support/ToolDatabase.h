@@ -16,7 +16,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// What a whole number is that stands alone behind the kind.
+// What a whole number is that stands alone after the kind.
 enum class enLoneNumber
 {
     SubType,

@@ -58,7 +58,7 @@ private:
 void WriteWholeFile(const std::string& path, std::string_view content);
 
 // Writes to the standard output and flushes it.
-// Throws: CToolFailure, for instance on a full disk behind a redirection.
+// Throws: CToolFailure, for instance where a redirection leads to a full disk.
 void WriteStandardOutput(std::string_view content);
 
 // A folder of this process alone, removed with all that is in it when the object goes.

@@ -124,7 +124,7 @@ std::size_t CCellText::WidthOf(char32_t codePoint) const
 std::size_t CCellText::Append(std::string_view text, std::size_t width, std::string& out) const
 {
     std::size_t used = 0;
-    // Where an ellipsis would go: what stands behind is taken back if the text doesn't fit.
+    // Where an ellipsis would go: what stands after it is taken back if the text doesn't fit.
     std::size_t cutSize = out.size();
     std::size_t cutCells = 0;
     while (!text.empty()) {

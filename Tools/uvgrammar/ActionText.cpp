@@ -121,7 +121,7 @@ std::vector<SActionCase> ReadParserActions(std::string_view text)
             hasPlace = true;
         } else if (isOpen && line == "    break;") {
             SActionCase& entry = cases.back();
-            // The place in the generated file stands behind the action.
+            // The place in the generated file stands after the action.
             entry.body = Trimmed(std::string_view(entry.body).substr(0, entry.body.rfind("#line ")));
             isOpen = false;
         } else if (isOpen)
@@ -201,7 +201,7 @@ private:
         }
     }
 
-    // False if nothing sensible can be read behind it.
+    // False if nothing sensible can be read after it.
     bool ReadStatement()
     {
         if (TakePlumbing())

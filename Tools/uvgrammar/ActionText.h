@@ -17,7 +17,7 @@ struct SActionCase
     bool isShared = false; // flex only: the action is that of the next rule, by "|"
 };
 
-// What a source says behind <<EOF>>, for one start condition.
+// What a source says after <<EOF>>, for one start condition.
 struct SEndOfFileAction
 {
     std::string condition;

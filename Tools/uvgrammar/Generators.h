@@ -37,6 +37,6 @@ struct SDefaultReduction
 };
 SDefaultReduction FindDefaultReduction(std::string_view source);
 
-// bison's C text without what would mislead the extractor: the symbols of the rule behind "case 5:", which
+// bison's C text without what would mislead the extractor: the symbols of the rule after "case 5:", which
 // may look like code, bison's own rows in the enumeration of tokens, and the comments there.
 std::string CleanParserText(const std::string& text);

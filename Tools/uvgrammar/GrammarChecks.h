@@ -31,7 +31,7 @@ void CheckParserRules(const CGrammarSource& source, const SGeneratedFiles& files
 
 // The statements of an action, with a message for each that can't be read; compared with the record that the
 // engine will run in its place. Actions come in the order of their rules: `isStored` is true before the
-// first, and false from one on that can't be read, since the records behind it are lost with it.
+// first, and false from one on that can't be read, since the records after it are lost with it.
 SActionStatements CheckAction(const SActionCase& action, const CActionsMap& loaded,
                               const CGrammarSource& source, CToolMessages& messages, bool& isStored);
 

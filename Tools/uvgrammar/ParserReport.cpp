@@ -35,7 +35,7 @@ int NumberAt(std::string_view text)
     return std::atoi(std::string(text.substr(0, text.find_first_not_of(kDigits))).c_str());
 }
 
-// The number in front of `word`, 0 without it.
+// The number before `word`, 0 without it.
 int CountBefore(std::string_view line, std::string_view word)
 {
     const std::size_t at = line.find(word);

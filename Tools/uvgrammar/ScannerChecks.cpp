@@ -186,7 +186,7 @@ private:
             Error(line, "this needs a start condition " + name);
     }
 
-    // True if the operation always makes a token, so that what sorts behind it never runs.
+    // True if the operation always makes a token, so that what sorts after it never runs.
     static bool AlwaysReturns(const SActionStatement& statement)
     {
         switch (statement.keyword->keyword) {

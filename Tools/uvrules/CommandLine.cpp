@@ -94,7 +94,7 @@ NamedTexts SplitPairs(const Texts& texts, const std::string& option, const std::
     return pairs;
 }
 
-// Reads what stands behind the command's name.
+// Reads what stands after the command's name.
 // Returns: true if help is asked for.
 bool ReadCommand(const SCommand& command, int argc, const char* const* argv, SCommandLine& line)
 {

@@ -14,7 +14,7 @@ namespace uvrules {
 std::string PlainContent(const std::string& path, std::string content);
 
 // The three answer the exit code.
-// Throws: CToolFailure for files that can't be read or written. With several files Pack goes on behind it.
+// Throws: CToolFailure for files that can't be read or written. With several files Pack goes on after it.
 int Pack(const SCommandLine& line, CToolMessages& messages);
 int Unpack(const SCommandLine& line, CToolMessages& messages);
 int Show(const SCommandLine& line, CToolMessages& messages);

@@ -107,7 +107,7 @@ long FloatBits(const SMeaning& meaning, const SDataTypeParams& row, const STypeN
     return tellsBits ? static_cast<long>(row.columnSize) : meaning.bits;
 }
 
-// The digits that a text form of `size` characters has behind the second.
+// The digits that a text form of `size` characters has for fractions of a second.
 long FractionOfText(std::uint64_t size, unsigned fields)
 {
     const std::uint64_t plain = (fields & kYear) != 0 ? 19 : 8;

@@ -83,7 +83,7 @@ enToolFormat ReadFormat(const std::string& text)
     return *format;
 }
 
-// Reads what stands behind the command's name.
+// Reads what stands after the command's name.
 // Returns: true if help is asked for.
 bool ReadCommand(const SCommand& command, int argc, const char* const* argv, SCommandLine& line)
 {

@@ -70,7 +70,7 @@ std::vector<std::string> TypesOfTable(DB_VERSION_INFO version)
                     .c_str());
         };
         if (row.columnSizePurpose == UVDB_SIZE_IS_PRECISION && row.isScaleValid) {
-            // Once all digits in front of the point, once as many as possible behind it.
+            // Once all digits before the point, once as many as possible after it.
             add(format(0));
             add(format(static_cast<long>(std::min(row.maxScale, static_cast<std::int64_t>(row.columnSize)))));
         } else {

@@ -62,7 +62,7 @@ bool MakeFileExecutable(const U8CString& path);
 // Returns: bytes, -1 if there is no such file.
 long long GetFileSize(const U8CString& path);
 
-// Writes over the beginning of the file: what a longer file held behind `text` stays. A missing file is made.
+// Writes over the beginning of the file: what a longer file held after `text` stays. A missing file is made.
 // Returns: true if all of it was written.
 bool WriteAllText(const U8CString& path, std::string_view text);
 
@@ -110,7 +110,7 @@ U8CString GetPathOfExe();
 // True if the directory exists afterwards; it is made for its owner alone.
 bool UVMakeDir(const char* path);
 
-// The same with all missing parents; both "/" and "\" part them.
+// The same with all missing parents; both "/" and "\" separate them.
 bool UVMakeFullDir(const char* path);
 
 bool UVFileExists(const char* path);

@@ -6,7 +6,7 @@
 // called as the threads come. The profiler has no locks: it is attached before threads are started.
 //
 // Early text: what the plain forms (WriteLog, WriteLogScreen, WriteTrace, WriteLogFile, WriteProfile) write
-// before a log is attached is kept, and goes to the log as one call in front of the next text of the same
+// before a log is attached is kept, and goes to the log as one call before the next text of the same
 // form. The formatting forms keep nothing: without a log they format nothing and drop the text.
 #pragma once
 
@@ -85,7 +85,7 @@ public:
     static Uve::U8CString GetLogFormatError(const char* format, ...) UV_PRINTF_FORMAT(1, 2);
 
     // A message with its place, as compilers write it: "\nfile(line) : error E0042: text". A null or empty
-    // `file` leaves the text alone behind a line feed, `line` 0 leaves out the line. A type that isn't one
+    // `file` leaves the text alone after a line feed, `line` 0 leaves out the line. A type that isn't one
     // gives an empty text.
     static Uve::U8CString FormMessageString(enTraceMessageType type, const char* file, int line, int code,
                                             const char* text);

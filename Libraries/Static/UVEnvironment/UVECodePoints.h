@@ -82,7 +82,7 @@ constexpr SDecoded DecodeUtf8(const unsigned char* bytes, std::size_t available)
     if (lead < 0x80)
         return {enDecoded::Character, 1, lead};
 
-    // The second byte's range is narrower behind four of the leads: it keeps out overlong forms, surrogates
+    // The second byte's range is narrower after four of the leads: it keeps out overlong forms, surrogates
     // and what lies above the last code point.
     std::size_t length = 0;
     unsigned int lowest = 0x80;

@@ -29,7 +29,7 @@ void CopyPart(char* target, std::string_view part)
     target[length] = '\0';
 }
 
-// Copies `length` bytes of `source` behind the `used` bytes of `target`.
+// Copies `length` bytes of `source` after the `used` bytes of `target`.
 int CopyBounded(char* target, std::size_t size, std::size_t used, const char* source, std::size_t length)
 {
     if (used >= size || length >= size - used) {

@@ -68,13 +68,13 @@ void ClearReadOnlyFlag(const U8CString& path);
 //     [section]
 //     key = value
 // Sections and keys are compared without regard to case, the first match counts, blanks around keys and
-// values don't. A value loses one pair of quotes around it, single or double. Behind a value there are no
+// values don't. A value loses one pair of quotes around it, single or double. After a value there are no
 // comments.
 // Returns: the length of `result` in bytes. A missing file, section or key gives `defaultValue`.
 std::size_t GetPrivateProfileString(const U8CString& section, const U8CString& key,
                                     const U8CString& defaultValue, U8CString& result, const U8CString& path);
 
-// Decimal, or hexadecimal behind "0x", up to the first character that doesn't belong to it; 0 for a value
+// Decimal, or hexadecimal after "0x", up to the first character that doesn't belong to it; 0 for a value
 // that isn't a number.
 int GetPrivateProfileInt(const U8CString& section, const U8CString& key, int defaultValue,
                          const U8CString& path);

@@ -48,7 +48,7 @@ std::shared_ptr<boost::dll::shared_library> LoadLibrary(const std::string& libra
 
 } // namespace Detail
 
-// Loads `libraryName`, a bare name or a path, and calls the factory behind `symbolName`. The object keeps its
+// Loads `libraryName`, a bare name or a path, and calls the factory at `symbolName`. The object keeps its
 // library loaded as long as it lives.
 // Throws: std::system_error if the library can't be loaded or lacks the symbol, std::runtime_error if the
 //         symbol or the factory answers null, and what the factory throws.

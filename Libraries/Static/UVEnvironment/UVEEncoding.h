@@ -63,7 +63,7 @@ U8CString SqlWcharToUTF8String(const SqlWchar* text, long length = -1);
 // Returns: the bytes written without the terminator.
 std::size_t SqlWcharToUTF8Char(const SqlWchar* text, long length, char* out, std::size_t outSize);
 
-// Returns: the units, with one 0 behind them.
+// Returns: the units, with one 0 after them.
 std::vector<SqlWchar> UTF8StringToSqlWchar(std::string_view text);
 
 } // namespace Uve
@@ -114,7 +114,7 @@ int CP1252ToUnicode(int character);
 std::string CP1252ToUnicode(unsigned char character, char fill, int width);
 std::wstring UTF8ToUnicode(int codePoint, wchar_t fill, int width);
 
-// The code points of a text as a list of numbers with a comma behind each, hexadecimal for `base` 16 and
+// The code points of a text as a list of numbers with a comma after each, hexadecimal for `base` 16 and
 // decimal for any other. Back again with the base given; empty pieces are passed over, the narrow form gives
 // UTF-8.
 std::wstring GetUTF8ListFromString(const std::wstring& text, int base);

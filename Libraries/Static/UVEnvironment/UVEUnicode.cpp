@@ -137,7 +137,7 @@ void MapCase(std::string_view text, bool toUpper, bool twoLettersI, Sink& sink)
             sink.Put(source);
         else if (value < Tables::kSpecialCase)
             PutCodePoint(value, sink);
-        else // the full mapping stands behind the simple one
+        else // the full mapping follows the simple one
             for (std::size_t i = value - Tables::kSpecialCase + 1; Tables::specialCases[i] != 0; ++i)
                 PutCodePoint(Tables::specialCases[i], sink);
     }

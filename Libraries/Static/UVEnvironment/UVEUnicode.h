@@ -64,7 +64,7 @@ bool utf8_is_ascii(std::string_view text);
 // Returns: where it stands; `charCount` holds the steps that were left over.
 const char* utf8_advance(const char* text, const char* end, std::size_t& charCount);
 
-// Start of the character in front of `text`, which is above `begin`: back over continuation bytes.
+// Start of the character before `text`, which is above `begin`: back over continuation bytes.
 const char* utf8_previous(const char* begin, const char* text);
 
 // Characters in `text`.
@@ -73,7 +73,7 @@ std::size_t utf8_strlen(std::string_view text);
 // Characters in the first `byteCount` bytes of `text`, or up to its NUL if that comes first or -1 is given.
 std::size_t utf8_strlen(const char* text, std::ptrdiff_t byteCount = -1);
 
-// Characters from `text` to `position`; negative if `position` lies in front of `text`.
+// Characters from `text` to `position`; negative if `position` lies before `text`.
 std::ptrdiff_t utf8_pointer_to_offset(const char* text, const char* position);
 
 // ---- Code points ----

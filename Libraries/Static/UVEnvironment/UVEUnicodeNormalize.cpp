@@ -11,13 +11,13 @@ namespace {
 constexpr char32_t kSyllableBase = 0xAC00;
 constexpr char32_t kLeadingBase = 0x1100;
 constexpr char32_t kVowelBase = 0x1161;
-constexpr char32_t kTrailingBase = 0x11A7; // one in front of the first: 0 is "none"
+constexpr char32_t kTrailingBase = 0x11A7; // one before the first: 0 is "none"
 constexpr char32_t kLeadingCount = 19;
 constexpr char32_t kVowelCount = 21;
 constexpr char32_t kTrailingCount = 28;
 constexpr char32_t kSyllableCount = kLeadingCount * kVowelCount * kTrailingCount;
 
-// The first code point that joins with one in front of it, apart from Hangul.
+// The first code point that joins with one before it, apart from Hangul.
 constexpr char32_t kFirstCombining = 0x300;
 
 // Unsigned: below the base wraps round to a large number.

@@ -32,7 +32,7 @@ const char* WalkTo(const char* at, const char* target, const char* end, std::uin
     return at;
 }
 
-// The character in front of `at`, as long as a walk from the front is sure to pass both of them.
+// The character before `at`, as long as a walk from the front is sure to pass both of them.
 // Returns: its start; null where malformed bytes nearby might lead such a walk past it.
 const char* WalkBack(const char* begin, const char* at)
 {
@@ -86,7 +86,7 @@ std::wstring U8CString::toWide() const
 
 // ---- Positions ----
 
-// A pair beyond the end belongs to an older text: somebody shortened the string behind our back.
+// A pair beyond the end belongs to an older text: somebody shortened the string unseen.
 bool U8CString::IsPositionKnown() const noexcept
 {
     return cached_char_index != 0 && cached_byte_offset <= size();

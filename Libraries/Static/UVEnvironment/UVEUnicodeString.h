@@ -123,7 +123,7 @@ public:
     U8CString Mid(int first, int count) const noexcept;
 
     // The next token at or after character `position`; `delimiters` is a set of characters. Leading
-    // delimiters are skipped. `position` moves behind the delimiter that ends the token, or one beyond the
+    // delimiters are skipped. `position` moves past the delimiter that ends the token, or one beyond the
     // length if none does.
     // Returns: the token; empty with `position` -1 when there is no more. Without delimiters: everything from
     //          `position` on, which then stays.

@@ -75,7 +75,7 @@ std::string_view Utf8Prefix(const char* text, std::size_t charCount)
         return {};
     if (charCount == kNoPosition)
         return text;
-    // No further than needed: the text behind the prefix may be long.
+    // No further than needed: the text after the prefix may be long.
     const std::size_t byteLimit = charCount > kNoPosition / 6 ? kNoPosition : charCount * 6;
     const std::string_view available(text, strnlen(text, byteLimit));
     return available.substr(0, Utf8ByteOffset(available, charCount));

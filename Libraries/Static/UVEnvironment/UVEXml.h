@@ -18,7 +18,7 @@
 //
 // Adding to a tree. A text added beside a text is joined with it and its own node freed: go on with the node
 // returned. An attribute replaces the one of the same name in its element, which is freed. A node that is
-// part of another tree is unlinked there first; its namespace declarations stay behind if they stand above
+// part of another tree is unlinked there first; its namespace declarations stay there if they stand above
 // it. Refused, with a null node: a node added below itself, a document, an attribute where a child belongs
 // and the reverse.
 #pragma once
@@ -97,7 +97,7 @@ public:
     XmlElement createElement(const u8string& name) const noexcept;
     XmlAttribute createAttribute(const u8string& name, const u8string& value) const noexcept;
 
-    // A new element without a namespace; `name`: see "cut names". The last two both put it behind
+    // A new element without a namespace; `name`: see "cut names". The last two both put it after
     // `reference`, which is a child of this node.
     XmlElement createChildElement(const u8string& name) const noexcept;
     XmlElement createChildElementBefore(const u8string& name, const XmlNode& reference) const noexcept;
@@ -196,7 +196,7 @@ public:
     XmlNode copyNode(const XmlNode& node) const noexcept;
 
     // The text of `document` in UTF-8, indented with `format` where elements hold no text; with
-    // `stripDeclaration` from the first character behind the declaration and its line end. Empty for null.
+    // `stripDeclaration` from the first character after the declaration and its line end. Empty for null.
     // Switches libxml2's process-wide blank handling for the length of the call: not beside another thread's
     // XML work.
     static u8string save(const XmlDocument& document, bool stripDeclaration, bool format);

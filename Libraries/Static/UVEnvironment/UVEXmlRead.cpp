@@ -108,7 +108,7 @@ bool SpendOrStop(void* parser, std::uint64_t bytes)
     auto* growth = static_cast<CGrowth*>(context->_private);
     if (growth != nullptr && growth->Spend(bytes))
         return true;
-    // A text that still counts as well-formed has its entities looked up behind the handler's back.
+    // A text that still counts as well-formed has its entities looked up without the handler.
     context->wellFormed = 0;
     xmlStopParser(context);
     return false;
