@@ -11,6 +11,10 @@ class IUVDBErrorInfo;
 
 // A database info with a connection, or with what passes for one. A database plug-in implements it.
 //
+// Calling order: the texts and set_Log, Connect, then queries and objects, Disconnect. A query is OpenQuery,
+// then FetchRow and the fields of the row until there is none, then CloseQuery; one at a time. A session
+// serves one thread at a time.
+//
 // Texts are copied, and a null one is the empty text. Text getters use the buffer form of IUVDBObjectInfo.
 // Operations return UVDB_OK unless they say otherwise; UVDB_ERROR for a failure of the connection, and
 // get_LastError then tells more.
@@ -64,7 +68,7 @@ public:
     // Sets a parameter of the plug-in's catalogue queries.
     virtual int InjectQueryBuilderParam(const char* name, const char* value) = 0;
 
-    // One query at a time, row by row. Columns count from 0.
+    // Columns count from 0. Values are UTF-8, copied.
     virtual int OpenQuery(const char* query) = 0;
     virtual int FetchRow() = 0; // UVDB_NO_DATA after the last row
     virtual int get_FieldCount(unsigned long* count) = 0;

@@ -12,7 +12,8 @@
 
 class IUVDBDatabaseSession;
 
-// The facts of a column as a database tells them; texts that it didn't tell are empty.
+// The facts of a column as a database tells them, in its own words: UTF-8, carried and never interpreted
+// here. Texts that it didn't tell are empty, numbers 0.
 struct SColumnFacts
 {
     Uve::U8CString columnName;
@@ -41,17 +42,26 @@ struct SColumnFacts
     long computed = 0;
 };
 
-// A column, with a data type of the class `TDataType`. Whoever reads it from a database fills its facts.
+// A column, with a data type of the class `TDataType`. A database info makes it (create_new_object, for the
+// type number UVDB_DBO_COLUMN); whoever reads it from a database then fills its facts and sets its data type,
+// and only after that hands it on. Through IUVDBColumnInfo others read the facts, texts in buffer form; of
+// the facts they can change the name and the text of the data type.
+//
+// Nothing throws but for want of memory. No locks: an object belongs to one thread at a time.
 template <class TDataType>
 class CColumnInfoT : public CObjectInfoT<17, IUVDBColumnInfo>
 {
 public:
+    // Shares the session that the column is read on; empty without a connection.
     explicit CColumnInfoT(std::shared_ptr<IUVDBDatabaseSession> session) : m_session(std::move(session)) {}
 
+    // For the reader that fills them. They live as long as the object.
     SColumnFacts& Facts() { return m_facts; }
+    // Shares the data type, which others may have as well; empty until it is set.
     void set_DataType(std::shared_ptr<TDataType> dataType) { m_dataType = std::move(dataType); }
     const std::shared_ptr<IUVDBDatabaseSession>& get_Session() const { return m_session; }
 
+    // The option "ColumnName" stands for a name that is empty, and isn't changed by set_ColumnName.
     int get_ColumnName(char* dst, unsigned long size, unsigned long* length) override
     {
         Uve::U8CString name = m_facts.columnName;
@@ -163,6 +173,7 @@ public:
     }
 
 private:
+    // Returns: UVDB_OK; UVDB_INVALID_ARGUMENT for a null `out`.
     static int GiveNumber(long number, long* out)
     {
         if (!out)

@@ -21,11 +21,20 @@
 // the creation of objects, the case of identifiers. `I` is the interface, `TObject` and `TColumn` the classes
 // of the objects that it makes.
 //
-// Make it by UVDBMakeObject: the objects that it makes refer to it through its self reference.
+// Make it by UVDBMakeObject: the objects that it makes refer to it through its self reference. A deriving
+// class answers what IUVDBDatabaseInfo2 leaves open, and overrides ExecuteDatabaseQuery if it has a database
+// to ask. Texts are UTF-8; results are those of enUVDB_RESULT. Nothing throws but for want of memory, and
+// what a deriving class or a transformer throws. No locks: one thread at a time.
+//
+// Objects. create_new_object makes one by the number of its type: a TColumn for UVDB_DBO_COLUMN, a table for
+// UVDB_DBO_TABLE, a TObject for anything else. Each enters the registry under its option "ObjectID".
 //
 // The registry owns its objects, so an object in it doesn't own the info: its option "DatabaseInfo" only
 // points there, and is emptied when the info dies. GetDatabaseInfo of the object gives a pointer that owns.
 // An object that leaves the registry owns the info from then on.
+//
+// Query results. ExecuteQuery remembers by the text of the query, to the end of the info and without a bound.
+//
 // (The check of destructors doesn't see that the one here overrides that of I.)
 template <class I, class TObject, class TColumn>
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
@@ -34,8 +43,9 @@ class CDatabaseInfoT : public OptionsHost<I>
 public:
     ~CDatabaseInfoT() override;
 
-    // Runs `query` in the database, without any memory. With `report` a failure goes to the log.
-    // Returns: here UVDB_NOT_SUPPORTED.
+    // Runs `query` in the database, past the memory. With `report` a failure goes to the log. ExecuteQuery
+    // calls with an empty `result`, and remembers what a failed query leaves in it, too.
+    // Returns: UVDB_OK, or the code of the failure; here UVDB_NOT_SUPPORTED, with `result` untouched.
     virtual int ExecuteDatabaseQuery(const char* query, Uve::U8CString& result, bool report);
 
     // Sets the case rule of plain and of quoted identifiers.
@@ -43,7 +53,7 @@ public:
     virtual int SetIdentifierCase(long identifierCase);
     virtual int SetQuotedIdentifierCase(long identifierCase);
 
-    // Lets go of an object.
+    // Takes an object out of the registry, which lets go of it.
     // Returns: UVDB_ERROR in every case, whether the number was registered or not.
     virtual int unset_ObjectId(int id);
 

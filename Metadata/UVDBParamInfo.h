@@ -9,8 +9,12 @@
 
 class IUVDBDatabaseSession;
 
-// Values that a session reads of the parameters of procedures and triggers and of the columns of views. A
-// reader derives from the record and fills it; everybody else gets, texts in buffer form.
+// Values that a session reads of the parameters of procedures and triggers and of the columns of views, in
+// the words and numbers of its database. A reader derives from the record and fills it before it hands it on;
+// everybody else gets.
+//
+// Texts come in the buffer form of IUVDBObjectInfo, numbers with UVDB_OK, or UVDB_INVALID_ARGUMENT for a null
+// output argument. What the database didn't tell is an empty text or 0. A record shares its session.
 class CSessionRecord
 {
 public:

@@ -29,10 +29,14 @@ U8CString GetCurrentPath();
 // The program that runs; empty if the system doesn't tell.
 U8CString GetExePath();
 
+// The parts of a path by its text alone, whether or not there is such a file; empty if there is no such part.
+// The directory has no slash at its end, but for the root. The extension begins at the last dot of the name,
+// which isn't one at its start: ".profile" is a name without an extension.
 U8CString GetDirectory(const U8CString& path);
 U8CString GetFileName(const U8CString& path, bool withExtension);
 U8CString GetExtension(const U8CString& path, bool withDot);
 
+// A path is absolute if it begins at the root; the empty one is relative.
 bool IsAbsolute(const U8CString& path);
 bool IsRelative(const U8CString& path);
 
@@ -42,8 +46,8 @@ namespace File {
 
 enum Encoding
 {
-    ENCODING_SYSTEM = 0,
-    ENCODING_AUTO = 1,
+    ENCODING_SYSTEM = 0, // the system's, which is UTF-8: bytes as they stand
+    ENCODING_AUTO = 1,   // by the mark, and UTF-8 without one
     ENCODING_UTF8 = 2,
     ENCODING_UTF16LE = 3,
     ENCODING_UTF16BE = 4,
@@ -57,6 +61,8 @@ bool Exists(const U8CString& path);
 // True if the file is gone afterwards, one that never was included.
 bool Delete(const U8CString& path);
 
+// For its owner, its group and everybody else.
+// Returns: false if the mode couldn't be changed.
 bool MakeFileExecutable(const U8CString& path);
 
 // Returns: bytes, -1 if there is no such file.
@@ -87,6 +93,7 @@ SEncodingMark DetectEncoding(std::istream& stream, Encoding requested);
 
 namespace Directory {
 
+// True for a directory, links to one included.
 bool Exists(const U8CString& path);
 
 // Makes missing parents too. True if the directory exists afterwards.
@@ -113,6 +120,7 @@ bool UVMakeDir(const char* path);
 // The same with all missing parents; both "/" and "\" separate them.
 bool UVMakeFullDir(const char* path);
 
+// File::Exists, Path::GetCurrentPath, Compat::GetUserDirectory and Path::Combine.
 bool UVFileExists(const char* path);
 U8CString UVGetCurrentDir();
 U8CString UVGetUserProfileDir();

@@ -14,6 +14,7 @@ namespace Uve::Compat {
 // Empty if the system doesn't tell.
 U8CString GetCurrentProcessExePath();
 
+// errno, and the system's text for it.
 int GetLastError();
 U8CString GetLastErrorMessage();
 
@@ -21,16 +22,28 @@ U8CString GetLastErrorMessage();
 int stricmp(const char* a, const char* b);
 int _strnicmp(const char* a, const char* b, std::size_t count);
 
+// The bounded copies. `size` is that of the whole target; strcat_s appends to the text that is there,
+// strncpy_s copies `count` bytes at most. memcpy_s fills the target with zeros where it fails.
 int strcpy_s(char* target, std::size_t size, const char* source);
 int strcat_s(char* target, std::size_t size, const char* source);
 int strncpy_s(char* target, std::size_t size, const char* source, std::size_t count);
 int memcpy_s(void* target, std::size_t size, const void* source, std::size_t count);
+
+// Upper case for the letters of ASCII, in place.
+// Returns: 0; EINVAL for a null text or one without a NUL among its `size` bytes, which is emptied.
 int _strupr_s(char* text, std::size_t size);
+
+// Local time. They answer 0, or EINVAL for a null argument or a time that has no date; ctime_s also ERANGE.
 int ctime_s(char* target, std::size_t size, const std::time_t* time);
 int localtime_s(std::tm* target, const std::time_t* time);
+
+// Paths are UTF-8.
+// Returns: fopen_s 0, EINVAL for a null argument, or errno with a null `*file`; fopen null with errno set.
+// Owner:   the caller, fclose.
 int fopen_s(std::FILE** file, const char* path, const char* mode);
 std::FILE* fopen(const char* path, const char* mode);
 
+// As strtoull, strtoll and their like of the C library. _atoi64 reads base 10 and asks for no end.
 unsigned long long _strtoui64(const char* text, char** end, int base);
 long long _strtoi64(const char* text, char** end, int base);
 unsigned long strtoul(const char* text, char** end, int base);
@@ -46,7 +59,9 @@ char* itoa(int value, char* target, int base);
 unsigned int GetTempFileNameW(const U8CString& path, const U8CString& prefix, unsigned int unique,
                               U8CString& out);
 
-// These answer 1, or 0 with `out` empty.
+// Paths of the system: its folder for scratch files, a name in it, the home of the user that runs the
+// process, and the folder that all users share.
+// Returns: 1, or 0 with `out` empty.
 int GetTempPathW(U8CString& out);
 int GetTemporaryFilePath(const U8CString& name, U8CString& out);
 int GetUserDirectory(U8CString& out);
@@ -57,10 +72,17 @@ int GetPublicDirectory(U8CString& out);
 inline constexpr std::size_t kSplitPathSize = 4096;
 void _splitpath(const char* path, char* drive, char* directory, char* name, char* extension);
 
+// Letters and digits of ASCII.
 bool IsCharAlphaNumeric(char character);
+
+// 1 if the descriptor is a terminal, otherwise 0; the descriptor of a stream, -1 for null.
 int _isatty(int file);
 int _fileno(std::FILE* file);
+
+// The number of the active code page: that of UTF-8, 65001.
 unsigned int GetACP();
+
+// Does nothing: files here have no such flag.
 void ClearReadOnlyFlag(const U8CString& path);
 
 // INI files, in any encoding that a byte order mark tells:
