@@ -5,8 +5,10 @@
 
 #include <memory>
 
-// A column of a table or a view. Texts use the buffer form of IUVDBObjectInfo; a text that the database
-// didn't tell is empty.
+// A column of a table or a view, as a database tells of it. Texts use the buffer form of IUVDBObjectInfo and
+// are in the database's own words: each has its own for what a default, an identity or a computed column is.
+// A text that it didn't tell is empty, a number 0. The name and the text of the data type can be set here;
+// the rest is filled by whoever made the column.
 class IUVDBColumnInfo : public IUVDBObjectInfo
 {
 public:

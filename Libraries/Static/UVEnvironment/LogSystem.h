@@ -47,6 +47,8 @@ public:
     static std::shared_ptr<ILog> GetLog();
     static bool HasLog() { return m_HasLog.load(std::memory_order_relaxed); }
 
+    // Each writes by the operation of ILog whose name it begins with. Forms with an F format as printf does;
+    // those with a type put the place before the text, see FormMessageString. A null text is dropped.
     static void WriteLog(const char* text);
     static void WriteLogF(const char* format, ...) UV_PRINTF_FORMAT(1, 2);
     static void WriteLogF(enTraceMessageType type, const char* file, int line, int code, const char* format,
