@@ -43,6 +43,9 @@ public:
 };
 
 // Adds what a connection knows, a registry of objects by number, and a memory of query results.
+//
+// Texts and queries are UTF-8. Types of objects are numbers of enUVDB_DATABASE_OBJECT. The registry shares
+// its objects, and an object in it doesn't keep the info alive. No locks: one thread at a time.
 class IUVDBDatabaseInfo2 : public IUVDBDatabaseInfo
 {
 public:
@@ -99,6 +102,8 @@ public:
     virtual int CreateObject(const char* typeName, const char* schema, const char* name,
                              unsigned short flags) = 0;
 
+    // What these are for is the plug-in's affair. A database info without a connection drops what it is given
+    // and gives null.
     virtual void SetInputStream(std::shared_ptr<std::istream> stream) = 0;
     virtual std::shared_ptr<std::istream> GetInputStream() = 0;
     virtual void SetOutputStream(std::shared_ptr<std::ostream> stream) = 0;
