@@ -8,8 +8,6 @@ set(uv_string_tests
     UnicodeTest.cpp)
 
 # The character database that the tables were generated from, and its test of normalisation.
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
-find_path(UV_UNICODE_DATA_DIR UnicodeData.txt PATHS /usr/share/unicode REQUIRED NO_DEFAULT_PATH)
 set(uv_normalization_test ${CMAKE_CURRENT_BINARY_DIR}/NormalizationTest.txt)
 execute_process(
     COMMAND ${Python3_EXECUTABLE} -c
@@ -19,9 +17,3 @@ execute_process(
 set_source_files_properties(
     UnicodeDataTest.cpp PROPERTIES COMPILE_DEFINITIONS
     "UV_UNICODE_DATA_DIR=\"${UV_UNICODE_DATA_DIR}\";UV_NORMALIZATION_TEST=\"${uv_normalization_test}\"")
-
-add_test(NAME unicode_tables_are_current
-         COMMAND ${Python3_EXECUTABLE}
-                 ${PROJECT_SOURCE_DIR}/Libraries/Static/UVEnvironment/generate_unicode_tables.py
-                 --ucd ${UV_UNICODE_DATA_DIR} --check)
-set_tests_properties(unicode_tables_are_current PROPERTIES SKIP_RETURN_CODE 77)

@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""Writes UVEUnicodeTables.cpp from the files of the Unicode Character Database.
+"""Writes the character tables of the foundation from the files of the Unicode Character Database.
 
-    generate_unicode_tables.py [--ucd DIR] [--check]
+    generate_unicode_tables.py --ucd DIR --release NUMBER OUTPUT
 
-The files are those of Debian's package unicode-data. --check writes nothing; it exits with 1 when the file in the
-tree isn't what would be written, and with 77 when the installed database is of another release than the file, since
-then nothing can be said.
+The files are those of Debian's package unicode-data. Another release than NUMBER is refused: what a name or a text
+becomes must not depend on the machine that built the library.
 """
 
 import argparse
@@ -13,7 +12,6 @@ import pathlib
 import re
 import sys
 
-OUTPUT = pathlib.Path(__file__).with_name("UVEUnicodeTables.cpp")
 CODE_POINTS = 0x110000
 PAGE = 64
 SPECIAL_CASE = 0x1000000
@@ -245,8 +243,7 @@ def generate(database):
     cases = CaseTables(database)
     normalization = NormalizationTables(database)
     out = Writer()
-    out.line("// Written by generate_unicode_tables.py; change that instead.")
-    out.line(f"// Unicode Character Database {database.release}")
+    out.line(f"// Written by generate_unicode_tables.py from release {database.release} of the database.")
     out.line('#include "UVEnvironment/UVEUnicodeTables.h"')
     out.line()
     out.line("// clang-format off")
@@ -278,24 +275,17 @@ def generate(database):
 
 def main():
     options = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    options.add_argument("--ucd", type=pathlib.Path, default="/usr/share/unicode", help="folder of the database")
-    options.add_argument("--check", action="store_true", help="compare instead of writing")
+    options.add_argument("--ucd", type=pathlib.Path, required=True, help="folder of the database")
+    options.add_argument("--release", required=True, help="the release that it must be of")
+    options.add_argument("output", type=pathlib.Path)
     arguments = options.parse_args()
 
     database = Database(arguments.ucd)
-    text = generate(database)
-    if not arguments.check:
-        OUTPUT.write_text(text, encoding="utf-8")
-        return 0
-
-    present = OUTPUT.read_text(encoding="utf-8") if OUTPUT.exists() else ""
-    release = re.search(r"^// Unicode Character Database (\S+)$", present, re.MULTILINE)
-    if release and release.group(1) != database.release:
-        print(f"{OUTPUT.name} is of release {release.group(1)}, {arguments.ucd} of {database.release}: not compared")
-        return 77
-    if present != text:
-        print(f"{OUTPUT.name} differs from what the database gives; run {pathlib.Path(__file__).name}")
+    if database.release != arguments.release:
+        print(f"{arguments.ucd} holds release {database.release} of the Unicode Character Database, and not "
+              f"{arguments.release}; -D UV_UNICODE_DATA_DIR=DIR names a folder with the files of that release")
         return 1
+    arguments.output.write_text(generate(database), encoding="utf-8")
     return 0
 
 
