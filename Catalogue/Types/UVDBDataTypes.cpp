@@ -1,6 +1,7 @@
 #include "Catalogue/Types/UVDBDataTypes.h"
 
 #include "Catalogue/Types/DataTypes/DataTypeRegistry.h"
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/DataTypes/InternalTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "UVEnvironment/LogSystem.h"
@@ -13,9 +14,6 @@
 #include <strings.h>
 
 namespace {
-
-constexpr long kSmallMoney = 58;
-constexpr long kMoney = 59;
 
 constexpr long kSqlVarchar = 12;
 
@@ -282,9 +280,9 @@ long ODBCToUVDBDataType(DB_VERSION_INFO version, long odbcType, const char* name
         return byName;
     const char* const text = name ? name : "";
     if (strcasecmp(text, "SMALLMONEY") == 0)
-        return kSmallMoney;
+        return UVDBRows::SmallMoney;
     if (strcasecmp(text, "MONEY") == 0)
-        return kMoney;
+        return UVDBRows::Money;
     const auto found = std::ranges::find(g_ODBCToUVDBDataType, odbcType, &SODBCToUVDBDataType::odbcType);
     return found != g_ODBCToUVDBDataType.end() ? found->uvdbType : -1;
 }

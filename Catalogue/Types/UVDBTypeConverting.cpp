@@ -1,5 +1,6 @@
 #include "Catalogue/Types/UVDBTypeConverting.h"
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/UVDBTypeFormat.h"
 #include "Catalogue/Types/UVDBTypeMapping.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
@@ -10,15 +11,6 @@
 using Uve::U8CString;
 
 namespace {
-
-constexpr long kVarchar = 1;
-constexpr long kText = 7;
-constexpr long kNumeric = 26;
-constexpr long kSmallInt = 34;
-constexpr long kInteger = 35;
-constexpr long kFloat = 43;
-constexpr long kIntervalYearToMonth = 62;
-constexpr long kIntervalHourToSecond = 71;
 
 // What stands for a type of which nothing is known.
 constexpr unsigned long kUnknownTypeSize = 255;
@@ -116,16 +108,16 @@ STargetType CTypeConversion::ByName(const U8CString& name, long odbcType)
     long mapped = found;
     bool identity = m_Identity;
     if (found == -1) {
-        mapped = kVarchar;
+        mapped = UVDBRows::VarChar;
         numbers.size = kUnknownTypeSize;
         numbers.scale = 0;
         identity = false;
-    } else if (found == kSmallInt && Goes(m_Source, UVDB_DB_4GL_INFORMIX, m_Target, UVDB_DB_MSSQL)) {
-        mapped = kInteger;
+    } else if (found == UVDBRows::SmallInt && Goes(m_Source, UVDB_DB_4GL_INFORMIX, m_Target, UVDB_DB_MSSQL)) {
+        mapped = UVDBRows::Integer;
         Decide(m_Trail, UVDB_TYPE_4GL_SMALLINT);
-    } else if (found == kNumeric && Goes(m_Source, UVDB_DB_POSTGRESQL, m_Target, UVDB_DB_MSSQL) &&
+    } else if (found == UVDBRows::Numeric && Goes(m_Source, UVDB_DB_POSTGRESQL, m_Target, UVDB_DB_MSSQL) &&
                numbers.size == 0 && numbers.scale == 0) {
-        mapped = kFloat;
+        mapped = UVDBRows::Float;
         Decide(m_Trail, UVDB_TYPE_BARE_NUMERIC);
     }
     return Map(mapped, identity);
@@ -147,9 +139,9 @@ void SetIntervalSize(U8CString& name, long uvdbType, STypeNumbers& numbers, STyp
     constexpr unsigned long kHourToFraction = 14;
 
     const unsigned long before = numbers.size;
-    if (uvdbType == kIntervalHourToSecond)
+    if (uvdbType == UVDBRows::IntervalHourToSecond)
         numbers.size = kHourToFraction;
-    else if (uvdbType == kIntervalYearToMonth)
+    else if (uvdbType == UVDBRows::IntervalYearToMonth)
         numbers.size = kYearToMonth;
     else if (uvdbType == -1) {
         if (name == "INTERVAL HOUR() TO FRACTION")
@@ -174,19 +166,19 @@ bool ApplyExceptions(const DB_VERSION_INFO& source, const DB_VERSION_INFO& targe
 {
     const bool isNVarcharMax = IsSameText(name.c_str(), "NVARCHAR(MAX)");
 
-    if (uvdbType == kSmallInt && Goes(source, UVDB_DB_4GL_INFORMIX, target, UVDB_DB_MSSQL)) {
-        uvdbType = kInteger;
+    if (uvdbType == UVDBRows::SmallInt && Goes(source, UVDB_DB_4GL_INFORMIX, target, UVDB_DB_MSSQL)) {
+        uvdbType = UVDBRows::Integer;
         Decide(trail, UVDB_TYPE_4GL_SMALLINT);
         return false;
     }
-    if (uvdbType == kNumeric && numbers.size == 0 && numbers.scale == 0 &&
+    if (uvdbType == UVDBRows::Numeric && numbers.size == 0 && numbers.scale == 0 &&
         Goes(source, UVDB_DB_POSTGRESQL, target, UVDB_DB_MSSQL)) {
-        uvdbType = kFloat;
+        uvdbType = UVDBRows::Float;
         Decide(trail, UVDB_TYPE_BARE_NUMERIC);
         return false;
     }
     if (isNVarcharMax && Goes(source, UVDB_DB_MSSQL, target, UVDB_DB_POSTGRESQL)) {
-        uvdbType = kText;
+        uvdbType = UVDBRows::Text;
         Decide(trail, UVDB_TYPE_NVARCHAR_MAX);
         return false;
     }
@@ -197,7 +189,7 @@ bool ApplyExceptions(const DB_VERSION_INFO& source, const DB_VERSION_INFO& targe
         return true;
     }
     if (target.db == UVDB_DB_POSTGRESQL && IsSameText(name.c_str(), "NUMBER") && type.precision == 0) {
-        uvdbType = kNumeric;
+        uvdbType = UVDBRows::Numeric;
         Decide(trail, UVDB_TYPE_BARE_NUMBER);
         return false;
     }

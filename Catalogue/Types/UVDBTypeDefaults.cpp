@@ -1,4 +1,5 @@
 // What databases assume for the numbers that a type leaves out.
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/UVDBDataTypes.h"
 #include "Catalogue/Types/UVDBTypeText.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
@@ -109,8 +110,6 @@ struct SFloatingDecimal
     bool isPrecisionAllowed; // it floats with a precision alone as well
 };
 
-constexpr long kFloatingType = 137;
-
 // clang-format off
 constexpr SFloatingDecimal kFloatingDecimals[] = {
 //   database               name        precision
@@ -172,7 +171,7 @@ bool FloatsWithoutScale(std::uint64_t db, STypeText& type)
     if (found == std::end(kFloatingDecimals) || type.numbers.hasScale ||
         (type.numbers.hasSize && !found->isPrecisionAllowed))
         return false;
-    type.uvdbType = kFloatingType;
+    type.uvdbType = UVDBRows::DecFloat;
     type.numbers = {};
     return true;
 }

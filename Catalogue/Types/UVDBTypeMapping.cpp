@@ -1,14 +1,12 @@
 #include "Catalogue/Types/UVDBTypeMapping.h"
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <array>
 
 namespace {
-
-constexpr long kVarchar = 1;
-constexpr long kSmallInt = 34;
 
 constexpr std::array<STypeRungs, kInternalTypeLimit> kNoRungs{};
 constexpr SMappingSheaf kEmptySheaf{.rows = {}, .rungs = kNoRungs};
@@ -116,7 +114,7 @@ const SUVDBToDBMSDataType* FindMappingRow(DB_VERSION_INFO version, long uvdbType
 {
     const SMappingSheaf& sheaf = SheafOf(version);
     const SUVDBToDBMSDataType* const row = FindFitting(RowsOfType(sheaf, uvdbType), size, scale);
-    return row ? row : FindFitting(RowsOfType(sheaf, kVarchar), size, 0);
+    return row ? row : FindFitting(RowsOfType(sheaf, UVDBRows::VarChar), size, 0);
 }
 
 const char* UVDBToDBMSDataType2(DB_VERSION_INFO version, long uvdbType, unsigned long size, long, long scale)
@@ -134,7 +132,7 @@ const char* UVDBToDBMSDataType(DB_VERSION_INFO version, long uvdbType, unsigned 
                                long scale, bool identity)
 {
     if (identity && version.db == UVDB_DB_PERVASIVE)
-        return uvdbType == kSmallInt ? "SMALLIDENTITY" : "IDENTITY";
+        return uvdbType == UVDBRows::SmallInt ? "SMALLIDENTITY" : "IDENTITY";
     if (identity && version.db == UVDB_DB_SYBASE)
         return "NUMERIC";
     return UVDBToDBMSDataType2(version, uvdbType, size, precision, scale);
@@ -143,7 +141,7 @@ const char* UVDBToDBMSDataType(DB_VERSION_INFO version, long uvdbType, unsigned 
 const char* GetDefaultDBMSDataType(DB_VERSION_INFO version, long& uvdbType, unsigned long& size,
                                    long& precision, long& scale)
 {
-    uvdbType = kVarchar;
+    uvdbType = UVDBRows::VarChar;
     size = 255;
     precision = 0;
     scale = 0;

@@ -1,5 +1,6 @@
 #include "Catalogue/Types/UVDBTypeText.h"
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/UVDBDataTypes.h"
 #include "Catalogue/Types/UVDBTypeTextAdditions.h"
 #include "Catalogue/Types/UVDBTypeTextName.h"
@@ -208,7 +209,8 @@ bool TakesReserve(DB_VERSION_INFO version, std::string_view name)
 // Types whose parameters are no numbers: what is in a spatial type, the schema of an XML document.
 bool HasOpaqueParameters(const SDataTypeParams& row)
 {
-    constexpr std::int64_t kTypes[] = {106, 107, 108, 110, 111, 138, 139};
+    using namespace UVDBRows;
+    constexpr std::int64_t kTypes[] = {SdoGeometry, Geometry, Geography, Xml, XmlType, Point, Polygon};
     static_assert(std::ranges::is_sorted(kTypes));
     return std::ranges::binary_search(kTypes, row.uvdbType);
 }

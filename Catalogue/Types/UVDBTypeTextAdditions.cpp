@@ -1,5 +1,6 @@
 #include "Catalogue/Types/UVDBTypeTextAdditions.h"
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBKindSet.h"
 
@@ -127,19 +128,19 @@ constexpr SStandInRow kStandIns[] = {
     {kPostgresKin,       "NAME",                       "VARCHAR(63)"},
     {kPostgresKin,       "SERIAL2",                    "SMALLSERIAL"},
     {kPostgresKin,       "INT4[]",                     "INTEGER[]"},
-    {kPostgresKin,       "INTERVAL YEAR",              "INTERVAL()",                 0,     61},
-    {kPostgresKin,       "INTERVAL YEAR TO MONTH",     "INTERVAL()",                 0,     62},
-    {kPostgresKin,       "INTERVAL MONTH",             "INTERVAL()",                 0,     63},
-    {kPostgresKin,       "INTERVAL DAY",               "INTERVAL()",                 0,     64},
-    {kPostgresKin,       "INTERVAL DAY TO HOUR",       "INTERVAL()",                 0,     65},
-    {kPostgresKin,       "INTERVAL DAY TO MINUTE",     "INTERVAL()",                 0,     66},
-    {kPostgresKin,       "INTERVAL DAY TO SECOND",     "INTERVAL()",                 0,     68},
-    {kPostgresKin,       "INTERVAL HOUR",              "INTERVAL()",                 0,     69},
-    {kPostgresKin,       "INTERVAL HOUR TO MINUTE",    "INTERVAL()",                 0,     70},
-    {kPostgresKin,       "INTERVAL HOUR TO SECOND",    "INTERVAL()",                 0,     71},
-    {kPostgresKin,       "INTERVAL MINUTE",            "INTERVAL()",                 0,     72},
-    {kPostgresKin,       "INTERVAL MINUTE TO SECOND",  "INTERVAL()",                 0,     73},
-    {kPostgresKin,       "INTERVAL SECOND",            "INTERVAL()",                 0,     74},
+    {kPostgresKin,       "INTERVAL YEAR",              "INTERVAL()",                 0,     UVDBRows::IntervalYear},
+    {kPostgresKin,       "INTERVAL YEAR TO MONTH",     "INTERVAL()",                 0,     UVDBRows::IntervalYearToMonth},
+    {kPostgresKin,       "INTERVAL MONTH",             "INTERVAL()",                 0,     UVDBRows::IntervalMonth},
+    {kPostgresKin,       "INTERVAL DAY",               "INTERVAL()",                 0,     UVDBRows::IntervalDay},
+    {kPostgresKin,       "INTERVAL DAY TO HOUR",       "INTERVAL()",                 0,     UVDBRows::IntervalDayToHour},
+    {kPostgresKin,       "INTERVAL DAY TO MINUTE",     "INTERVAL()",                 0,     UVDBRows::IntervalDayToMinute},
+    {kPostgresKin,       "INTERVAL DAY TO SECOND",     "INTERVAL()",                 0,     UVDBRows::IntervalDayToFraction},
+    {kPostgresKin,       "INTERVAL HOUR",              "INTERVAL()",                 0,     UVDBRows::IntervalHour},
+    {kPostgresKin,       "INTERVAL HOUR TO MINUTE",    "INTERVAL()",                 0,     UVDBRows::IntervalHourToMinute},
+    {kPostgresKin,       "INTERVAL HOUR TO SECOND",    "INTERVAL()",                 0,     UVDBRows::IntervalHourToSecond},
+    {kPostgresKin,       "INTERVAL MINUTE",            "INTERVAL()",                 0,     UVDBRows::IntervalMinute},
+    {kPostgresKin,       "INTERVAL MINUTE TO SECOND",  "INTERVAL()",                 0,     UVDBRows::IntervalMinuteToSecond},
+    {kPostgresKin,       "INTERVAL SECOND",            "INTERVAL()",                 0,     UVDBRows::IntervalSecond},
     {{UVDB_DB_ORA},      "NVARCHAR",                   "NVARCHAR2"},
     {{UVDB_DB_ORA},      "LONG VARCHAR",               "LONG"},
     {{UVDB_DB_MSSQL},    "NATIONAL TEXT",              "NTEXT"},

@@ -1,5 +1,6 @@
 #include "Tools/uvtypes/Capacity.h"
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/UVDBDataTypes.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBKindSet.h"
@@ -14,8 +15,7 @@ namespace uvtypes {
 
 namespace {
 
-constexpr unsigned kDate = kYear | kMonth | kDay;
-constexpr unsigned kTime = kHour | kMinute | kSecond;
+using namespace UVDBMeaning;
 
 // Dates and times that end early.
 struct SYears
@@ -36,6 +36,24 @@ constexpr SYears kYears[] = {
     {UVDB_DB_MySQL,  "TIMESTAMP",      1970, 2038},
 };
 // clang-format on
+
+// As what another database stores the values.
+enTypeFamily StoredAs(enTypeFamily family)
+{
+    switch (family) {
+    case enTypeFamily::File:
+    case enTypeFamily::RowVersion:
+        return enTypeFamily::Binary;
+    case enTypeFamily::RowNumber:
+        return enTypeFamily::Integer;
+    case enTypeFamily::DecimalFloat:
+        return enTypeFamily::Float;
+    case enTypeFamily::Qualified:
+        return enTypeFamily::DateTime;
+    default:
+        return family;
+    }
+}
 
 void SetIntegerRange(int bits, SCapacity& capacity)
 {
@@ -59,13 +77,13 @@ bool TakesWord(const SDataTypeParams& row, const char* word)
     return std::strstr(row.createParams, word) != nullptr;
 }
 
-void SetNumber(const SMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers,
+void SetNumber(const STypeMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers,
                SCapacity& capacity)
 {
     const auto size = static_cast<long>(numbers.size);
     if (TakesWord(row, "PRECISION") && !TakesWord(row, "LEADING PRECISION") && size > 0) {
         SetDecimalRange(size, numbers.scale, capacity);
-    } else if (meaning.family == enFamily::Integer) {
+    } else if (StoredAs(meaning.family) == enTypeFamily::Integer) {
         SetIntegerRange(meaning.bits, capacity);
         // A name that takes less than its internal type.
         const double limit = std::pow(10.0, static_cast<double>(row.columnSize));
@@ -77,8 +95,8 @@ void SetNumber(const SMeaning& meaning, const SDataTypeParams& row, const STypeN
                (!row.isScaleValid || row.minScale == row.maxScale)) {
         SetDecimalRange(static_cast<long>(row.columnSize), row.maxScale, capacity);
         // Currencies count in 32 or 64 bits.
-        if (meaning.type == 58 || meaning.type == 59) {
-            const int bits = meaning.type == 58 ? 31 : 63;
+        if (row.uvdbType == UVDBRows::SmallMoney || row.uvdbType == UVDBRows::Money) {
+            const int bits = row.uvdbType == UVDBRows::SmallMoney ? 31 : 63;
             capacity.most =
                 std::min(capacity.most, std::ldexp(std::pow(10.0, -static_cast<double>(row.maxScale)), bits));
             capacity.least = -capacity.most;
@@ -93,11 +111,11 @@ long BitsOfDigits(double digits)
 
 constexpr long kDecimalFloat = 137;
 
-long FloatBits(const SMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers)
+long FloatBits(const STypeMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers)
 {
     // Decimal floats count decimal digits.
-    if (meaning.type == kDecimalFloat)
-        return row.columnSize > 0 ? BitsOfDigits(static_cast<double>(row.columnSize)) : meaning.bits;
+    if (meaning.family == enTypeFamily::DecimalFloat)
+        return BitsOfDigits(row.columnSize > 0 ? static_cast<double>(row.columnSize) : meaning.bits);
     if (TakesWord(row, "PRECISION") || TakesWord(row, "LENGTH")) {
         const auto told = static_cast<long>(numbers.size);
         return told == 0 ? meaning.bits : told <= 24 ? 24 : std::max(53L, told);
@@ -114,7 +132,7 @@ long FractionOfText(std::uint64_t size, unsigned fields)
     return size > plain + 1 && size <= plain + 10 ? static_cast<long>(size - plain - 1) : 0;
 }
 
-void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypeParams& row,
+void SetTime(DB_VERSION_INFO version, const STypeMeaning& meaning, const SDataTypeParams& row,
              const STypeText& type, SCapacity& capacity)
 {
     const STypeNumbers& numbers = type.numbers;
@@ -123,7 +141,7 @@ void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypePa
     const bool isMoment = version.db == UVDB_DB_MySQL && std::strcmp(row.name, "TIMESTAMP") == 0;
     capacity.hasZone = meaning.hasZone || isMoment;
     const bool hasSeconds = (meaning.fields & kSecond) != 0;
-    const bool isInterval = meaning.family == enFamily::Interval;
+    const bool isInterval = meaning.family == enTypeFamily::Interval;
     if (!hasSeconds || (isInterval && !row.isScaleValid && !numbers.hasScale))
         capacity.fraction = 0;
     else if (row.isScaleValid)
@@ -140,7 +158,7 @@ void SetTime(DB_VERSION_INFO version, const SMeaning& meaning, const SDataTypePa
             capacity.fields = kDate | kTime;
     }
     // To the minute.
-    if (meaning.type == 52 && row.columnSize > 0 && row.columnSize < 19)
+    if (row.uvdbType == UVDBRows::SmallTimestamp && row.columnSize > 0 && row.columnSize < 19)
         capacity.fields &= ~static_cast<unsigned>(kSecond);
     for (const SYears& years : kYears) {
         if (years.db == version.db && std::strcmp(years.name, row.name) == 0) {
@@ -167,7 +185,7 @@ long FloatingDigits(DB_VERSION_INFO version, const SDataTypeParams& row, const S
 bool IsUnlimitedDecimal(DB_VERSION_INFO version, const STypeText& type)
 {
     constexpr CKindSet kKinds{UVDB_DB_POSTGRESQL, UVDB_DB_ENTERPRISEDB, UVDB_DB_GREENPLUM, UVDB_DB_VPOSTGRES};
-    return type.uvdbType == kDecimalFloat && kKinds.Has(version.db);
+    return type.uvdbType == UVDBRows::DecFloat && kKinds.Has(version.db);
 }
 
 void SetText(DB_VERSION_INFO version, const SDataTypeParams& row, const STypeText& type, SCapacity& capacity)
@@ -192,41 +210,41 @@ SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type)
             : GetUVDBDataTypeParams(type.uvdbType); // a name of a language, that look-ups don't find
     if (row == nullptr)
         return capacity;
-    const SMeaning* const meaning = MeaningOf(static_cast<long>(row->uvdbType));
-    if (meaning == nullptr)
+    const STypeMeaning& meaning = MeaningOfInternalType(row->uvdbType);
+    if (meaning.family == enTypeFamily::Unknown)
         return capacity;
     capacity.hasNumbering = type.hasNumbering;
     if (IsUnlimitedDecimal(version, type)) {
-        capacity.family = enFamily::Decimal;
+        capacity.family = enTypeFamily::Decimal;
         return capacity;
     }
     if (const long digits = FloatingDigits(version, *row, type.numbers); digits > 0) {
-        capacity.family = enFamily::Float;
+        capacity.family = enTypeFamily::Float;
         capacity.floatBits = BitsOfDigits(static_cast<double>(digits));
         capacity.isDecimalFloat = true;
         return capacity;
     }
-    capacity.family = meaning->family;
-    switch (meaning->family) {
-    case enFamily::Integer:
-    case enFamily::Decimal:
-        SetNumber(*meaning, *row, type.numbers, capacity);
+    capacity.family = StoredAs(meaning.family);
+    switch (capacity.family) {
+    case enTypeFamily::Integer:
+    case enTypeFamily::Decimal:
+        SetNumber(meaning, *row, type.numbers, capacity);
         break;
-    case enFamily::Float:
-        capacity.floatBits = FloatBits(*meaning, *row, type.numbers);
-        capacity.isDecimalFloat = meaning->type == kDecimalFloat;
+    case enTypeFamily::Float:
+        capacity.floatBits = FloatBits(meaning, *row, type.numbers);
+        capacity.isDecimalFloat = meaning.family == enTypeFamily::DecimalFloat;
         break;
-    case enFamily::DateTime:
-    case enFamily::Interval:
-        SetTime(version, *meaning, *row, type, capacity);
+    case enTypeFamily::DateTime:
+    case enTypeFamily::Interval:
+        SetTime(version, meaning, *row, type, capacity);
         break;
-    case enFamily::Text:
-    case enFamily::NationalText:
+    case enTypeFamily::Text:
+    case enTypeFamily::NationalText:
         SetText(version, *row, type, capacity);
         break;
     default:
         capacity.length = type.numbers.size > 0 ? type.numbers.size : row->columnSize;
-        if (meaning->family == enFamily::Bits)
+        if (meaning.family == enTypeFamily::Bits)
             capacity.length = std::max<std::uint64_t>(capacity.length, 1);
     }
     return capacity;

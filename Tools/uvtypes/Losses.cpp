@@ -12,37 +12,39 @@ namespace uvtypes {
 
 namespace {
 
+using namespace UVDBMeaning;
+
 // clang-format off
 struct SFamilyName
 {
-    enFamily family;
+    enTypeFamily family;
     const char* name;
 };
 
 constexpr SFamilyName kFamilyNames[] = {
-    {enFamily::Text,         "text"},
-    {enFamily::NationalText, "text"},
-    {enFamily::Binary,       "bytes"},
-    {enFamily::Bits,         "bits"},
-    {enFamily::Integer,      "an integer"},
-    {enFamily::Decimal,      "an exact number"},
-    {enFamily::Float,        "a floating point number"},
-    {enFamily::Boolean,      "a truth value"},
-    {enFamily::DateTime,     "a date or time"},
-    {enFamily::Interval,     "an interval"},
-    {enFamily::Uuid,         "a UUID"},
-    {enFamily::Xml,          "XML"},
-    {enFamily::Json,         "JSON"},
-    {enFamily::Spatial,      "spatial data"},
-    {enFamily::RowId,        "a row's address"},
-    {enFamily::Array,        "an array"},
-    {enFamily::Variant,      "a value of any type"},
-    {enFamily::Hierarchy,    "a place in a hierarchy"},
-    {enFamily::Record,       "a record"},
+    {enTypeFamily::Text,         "text"},
+    {enTypeFamily::NationalText, "text"},
+    {enTypeFamily::Binary,       "bytes"},
+    {enTypeFamily::Bits,         "bits"},
+    {enTypeFamily::Integer,      "an integer"},
+    {enTypeFamily::Decimal,      "an exact number"},
+    {enTypeFamily::Float,        "a floating point number"},
+    {enTypeFamily::Boolean,      "a truth value"},
+    {enTypeFamily::DateTime,     "a date or time"},
+    {enTypeFamily::Interval,     "an interval"},
+    {enTypeFamily::Uuid,         "a UUID"},
+    {enTypeFamily::Xml,          "XML"},
+    {enTypeFamily::Json,         "JSON"},
+    {enTypeFamily::Spatial,      "spatial data"},
+    {enTypeFamily::RowId,        "a row's address"},
+    {enTypeFamily::Array,        "an array"},
+    {enTypeFamily::Variant,      "a value of any type"},
+    {enTypeFamily::Hierarchy,    "a place in a hierarchy"},
+    {enTypeFamily::Record,       "a record"},
 };
 // clang-format on
 
-const char* FamilyName(enFamily family)
+const char* FamilyName(enTypeFamily family)
 {
     const auto* const found =
         std::find_if(std::begin(kFamilyNames), std::end(kFamilyNames),
@@ -50,19 +52,20 @@ const char* FamilyName(enFamily family)
     return found == std::end(kFamilyNames) ? "something unknown" : found->name;
 }
 
-bool IsText(enFamily family)
+bool IsText(enTypeFamily family)
 {
-    return family == enFamily::Text || family == enFamily::NationalText;
+    return family == enTypeFamily::Text || family == enTypeFamily::NationalText;
 }
 
-bool IsNumber(enFamily family)
+bool IsNumber(enTypeFamily family)
 {
-    return family == enFamily::Integer || family == enFamily::Decimal || family == enFamily::Float;
+    return family == enTypeFamily::Integer || family == enTypeFamily::Decimal ||
+           family == enTypeFamily::Float;
 }
 
 std::string LimitText(double limit, const SCapacity& capacity)
 {
-    if (capacity.family == enFamily::Decimal && capacity.wholeDigits > 0)
+    if (capacity.family == enTypeFamily::Decimal && capacity.wholeDigits > 0)
         return std::to_string(capacity.wholeDigits) + " digits before the point";
     char text[40];
     std::snprintf(text, sizeof(text), "%.15g", limit);
@@ -141,13 +144,13 @@ bool StaysExact(const SCapacity& source, const SCapacity& target)
         return source.isBounded && source.fraction == 0 && source.most <= limit;
     // Of what has no limit nobody uses more digits than such a one has.
     const auto digits = static_cast<double>(source.wholeDigits + source.fraction);
-    return !source.isBounded || source.family == enFamily::Integer || std::pow(10.0, digits) <= limit;
+    return !source.isBounded || source.family == enTypeFamily::Integer || std::pow(10.0, digits) <= limit;
 }
 
 void CompareNumbers(const SCapacity& source, const SCapacity& target, Texts& losses)
 {
-    if (source.family == enFamily::Float) {
-        if (target.family != enFamily::Float) {
+    if (source.family == enTypeFamily::Float) {
+        if (target.family != enTypeFamily::Float) {
             // A decimal without bounds holds what a double tells.
             if (target.isBounded)
                 losses.push_back("range: a floating point number there, fixed digits here");
@@ -157,7 +160,7 @@ void CompareNumbers(const SCapacity& source, const SCapacity& target, Texts& los
         }
         return;
     }
-    if (target.family == enFamily::Float) {
+    if (target.family == enTypeFamily::Float) {
         if (!StaysExact(source, target) && target.isDecimalFloat)
             losses.push_back("precision: " + std::to_string(source.wholeDigits + source.fraction) +
                              " digits there, " + DigitsText(target.floatBits) + " here");
@@ -230,20 +233,20 @@ void CompareIntervals(const SCapacity& source, const SCapacity& target, Texts& l
 bool HoldsAll(const SCapacity& source, const SCapacity& target)
 {
     switch (source.family) {
-    case enFamily::Uuid:
-        return (target.family == enFamily::Binary && target.length >= 16) ||
+    case enTypeFamily::Uuid:
+        return (target.family == enTypeFamily::Binary && target.length >= 16) ||
                (IsText(target.family) && target.length >= 32);
-    case enFamily::Boolean:
-        return target.family == enFamily::Bits || target.family == enFamily::Integer ||
-               target.family == enFamily::Decimal;
-    case enFamily::Bits:
-        if (source.length <= 1 && target.family == enFamily::Boolean)
+    case enTypeFamily::Boolean:
+        return target.family == enTypeFamily::Bits || target.family == enTypeFamily::Integer ||
+               target.family == enTypeFamily::Decimal;
+    case enTypeFamily::Bits:
+        if (source.length <= 1 && target.family == enTypeFamily::Boolean)
             return true;
-        if (target.family == enFamily::Integer || target.family == enFamily::Decimal)
+        if (target.family == enTypeFamily::Integer || target.family == enTypeFamily::Decimal)
             return !target.isBounded || target.most + 1 >= std::ldexp(1.0, static_cast<int>(source.length));
-        return target.family == enFamily::Binary &&
+        return target.family == enTypeFamily::Binary &&
                (target.length == 0 || target.length * 8 >= source.length);
-    case enFamily::RowId:
+    case enTypeFamily::RowId:
         return IsText(target.family) && target.length >= source.length;
     default:
         return false;
@@ -255,11 +258,11 @@ bool HoldsAll(const SCapacity& source, const SCapacity& target)
 std::vector<std::string> Losses(const SCapacity& source, DB_VERSION_INFO to, const std::string& target)
 {
     STypeText type = ReadTypeText(to, target);
-    if (type.error.GetLength() > 0 || !type.isKnown || source.family == enFamily::Unknown)
+    if (type.error.GetLength() > 0 || !type.isKnown || source.family == enTypeFamily::Unknown)
         return {};
     CompleteTypeNumbers(to, type);
     const SCapacity here = CapacityOf(to, type);
-    if (here.family == enFamily::Unknown)
+    if (here.family == enTypeFamily::Unknown)
         return {};
 
     Texts losses;
@@ -270,13 +273,13 @@ std::vector<std::string> Losses(const SCapacity& source, DB_VERSION_INFO to, con
     } else if (IsNumber(source.family) && IsNumber(here.family)) {
         CompareNumbers(source, here, losses);
     } else if (source.family == here.family) {
-        if (source.family == enFamily::DateTime)
+        if (source.family == enTypeFamily::DateTime)
             CompareTimes(source, here, losses);
-        else if (source.family == enFamily::Interval)
+        else if (source.family == enTypeFamily::Interval)
             CompareIntervals(source, here, losses);
-        else if (source.family == enFamily::Binary || source.family == enFamily::Bits)
+        else if (source.family == enTypeFamily::Binary || source.family == enTypeFamily::Bits)
             CompareLengths(source.length, here.length, losses);
-    } else if (source.family == enFamily::Bits && here.family == enFamily::Binary) {
+    } else if (source.family == enTypeFamily::Bits && here.family == enTypeFamily::Binary) {
         CompareLengths((source.length + 7) / 8, here.length, losses);
     } else if (!HoldsAll(source, here)) {
         losses.push_back(std::string("family: ") + FamilyName(source.family) + " there, " +

@@ -1,15 +1,17 @@
 #include "Tools/uvtypes/TextTraits.h"
 
+#include "Catalogue/Types/DataTypes/TypeMeaning.h"
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBKindSet.h"
 #include "Catalogue/UVDBRowConditions.h"
-#include "Tools/uvtypes/Meaning.h"
 
 #include <algorithm>
 #include <iterator>
 #include <string_view>
 
 namespace uvtypes {
+
+using UVDBMeaning::enTypeFamily;
 
 namespace {
 
@@ -79,9 +81,9 @@ constexpr STraitsRow kTraits[] = {
 };
 // clang-format on
 
-bool Fits(enTexts texts, enFamily family)
+bool Fits(enTexts texts, enTypeFamily family)
 {
-    return texts == enTexts::All || (texts == enTexts::National) == (family == enFamily::NationalText);
+    return texts == enTexts::All || (texts == enTexts::National) == (family == enTypeFamily::NationalText);
 }
 
 enCharacters CharactersOf(std::string_view characterSet)
@@ -96,8 +98,7 @@ enCharacters CharactersOf(std::string_view characterSet)
 
 STextTraits TextTraitsOf(DB_VERSION_INFO version, const SDataTypeParams& row, const STypeText& type)
 {
-    const SMeaning* const meaning = MeaningOf(static_cast<long>(row.uvdbType));
-    const enFamily family = meaning == nullptr ? enFamily::Unknown : meaning->family;
+    const enTypeFamily family = MeaningOfInternalType(row.uvdbType).family;
     const auto* const found = std::find_if(std::begin(kTraits), std::end(kTraits), [&](const STraitsRow& t) {
         return t.kinds.Has(version.db) && FitsSubType(t.subType, version.subType) && Fits(t.texts, family) &&
                std::string_view(row.name).find(t.word) != std::string_view::npos;

@@ -1,6 +1,7 @@
 #include "Catalogue/Types/DataTypes/InternalTypes.h"
 
-#include "Catalogue/Types/TypeMapping/MappingSheaf.h"
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
+#include "Catalogue/Types/DataTypes/TypeMeaning.h"
 
 #include <array>
 #include <cstddef>
@@ -8,213 +9,84 @@
 
 namespace {
 
-using UVDBRows::Plain;
+using namespace UVDBRows;
 
 // Sizes here have no purpose of their own, not even those of amounts: they count as lengths.
-constexpr SDataTypeParams Amount(std::int64_t type, const char* name, std::uint64_t size,
-                                 std::int64_t minScale, std::int64_t maxScale)
+constexpr SDataTypeParams Named(const char* name, std::uint64_t size = 0)
 {
-    SDataTypeParams row = Plain(type, name, size);
-    row.minScale = minScale;
-    row.maxScale = maxScale;
-    row.isScaleValid = true;
+    return {.name = name, .columnSize = size};
+}
+
+constexpr SDataTypeParams Amount(const char* name, std::uint64_t size, std::int64_t minScale,
+                                 std::int64_t maxScale)
+{
+    return {
+        .name = name, .columnSize = size, .minScale = minScale, .maxScale = maxScale, .isScaleValid = true};
+}
+
+constexpr SDataTypeParams Settled(const char* name, std::uint64_t size)
+{
+    return {.name = name, .columnSize = size, .isPrecScaleFixed = true};
+}
+
+constexpr SDataTypeParams Numbered(std::int64_t type, SDataTypeParams row)
+{
+    row.uvdbType = type;
     return row;
 }
 
-constexpr SDataTypeParams Settled(std::int64_t type, const char* name, std::uint64_t size)
-{
-    SDataTypeParams row = Plain(type, name, size);
-    row.isPrecScaleFixed = true;
-    return row;
-}
-
-// Where a name or a number stands twice, the first row is the answer.
-// clang-format off
 constexpr SDataTypeParams kRows[] = {
-//       type  name                           size  scale
-    Plain  (  0, "CHAR"),
-    Plain  (  1, "VARCHAR"),
-    Plain  (  2, "VARCHAR2"),
-    Plain  (  3, "LVARCHAR"),
-    Plain  (  4, "LONG VARCHAR"),
-    Plain  (  5, "LONG NVARCHAR"),
-    Plain  (  7, "TEXT"),
-    Plain  ( 11, "UNICHAR"),
-    Plain  ( 12, "UNIVARCHAR"),
-    Plain  ( 13, "UNITEXT"),
-    Plain  (  8, "WCHAR"),
-    Plain  (  9, "VARWCHAR"),
-    Plain  ( 10, "LONG VARWCHAR"),
-    Plain  ( 16, "BINARY"),
-    Plain  ( 17, "VARBINARY"),
-    Plain  ( 20, "LONG VARBINARY"),
-    Plain  ( 22, "LONG VARBIT"),
-    Plain  ( 23, "BLOB"),
-    Plain  ( 24, "BFILE"),
-    Plain  (106, "SDO_GEOMETRY",          2147483647),
-    Plain  (107, "GEOMETRY",              2147483647),
-    Plain  ( 25, "DECIMAL"),
-    Plain  ( 26, "NUMERIC"),
-    Plain  ( 14, "NUMBER"),
-    Plain  ( 27, "BIT"),
-    Plain  ( 28, "BOOLEAN"),
-    Plain  ( 33, "TINYINT"),
-    Plain  ( 34, "SMALLINT"),
-    Plain  ( 35, "INTEGER"),
-    Plain  ( 37, "BIGINT"),
-    Plain  ( 36, "INT"),
-    Plain  ( 38, "UTINYINT"),
-    Plain  ( 39, "USMALLINT"),
-    Plain  ( 40, "UINTEGER"),
-    Plain  ( 41, "UBIGINT"),
-    Plain  ( 42, "REAL"),
-    Plain  ( 43, "FLOAT"),
-    Plain  ( 44, "FLOAT BETWEEN"),
-    Plain  ( 45, "SMALLFLT"),
-    Plain  ( 46, "DOUBLE"),
-    Plain  ( 47, "DOUBLE"),
-    Settled(137, "DECFLOAT",                      34),
-    Plain  ( 48, "DATE"),
-    Plain  ( 57, "DATE_ORA"),
-    Plain  ( 49, "TIME"),
-    Plain  ( 50, "BIGTIME"),
-    Plain  ( 51, "BIGDATETIME"),
-    Plain  ( 52, "SMALLTIMESTAMP"),
-    Plain  ( 53, "TIMESTAMP"),
-    Plain  ( 54, "TIMESTAMP WITH TIME ZONE"),
-    Plain  ( 56, "TIME() WITH TIME ZONE"),
-    Plain  (102, "DATETIMEOFFSET"),
-    Amount ( 58, "SMALLMONEY",                    19, 4,  4),
-    Amount ( 59, "MONEY",                         19, 4,  4),
-    Amount ( 60, "MONEY",                         32, 0, 32),
-    Plain  ( 61, "INTERVAL YEAR() TO YEAR"),
-    Plain  ( 62, "INTERVAL YEAR() TO MONTH"),
-    Plain  ( 63, "INTERVAL MONTH() TO MONTH"),
-    Plain  ( 64, "INTERVAL DAY() TO DAY"),
-    Plain  ( 65, "INTERVAL DAY() TO HOUR"),
-    Plain  ( 66, "INTERVAL DAY() TO MINUTE"),
-    Plain  ( 67, "INTERVAL DAY() TO SECOND"),
-    Plain  ( 69, "INTERVAL HOUR() TO HOUR"),
-    Plain  ( 70, "INTERVAL HOUR() TO MINUTE"),
-    Plain  ( 71, "INTERVAL HOUR() TO SECOND"),
-    Plain  ( 72, "INTERVAL MINUTE() TO MINUTE"),
-    Plain  ( 73, "INTERVAL MINUTE() TO SECOND"),
-    Plain  ( 74, "INTERVAL SECOND() TO SECOND"),
-    Plain  ( 75, "DATETIME YEAR TO YEAR"),
-    Plain  ( 76, "DATETIME YEAR TO MONTH"),
-    Plain  ( 77, "DATETIME YEAR TO DAY"),
-    Plain  ( 78, "DATETIME YEAR TO HOUR"),
-    Plain  ( 79, "DATETIME YEAR TO MINUTE"),
-    Plain  ( 80, "DATETIME YEAR TO SECOND"),
-    Plain  ( 81, "DATETIME DAY TO DAY"),
-    Plain  ( 82, "DATETIME HOUR TO HOUR"),
-    Plain  ( 83, "DATETIME HOUR TO MINUTE"),
-    Plain  ( 84, "DATETIME HOUR TO SECOND"),
-    Plain  ( 85, "DATETIME MONTH TO MONTH"),
-    Plain  ( 86, "DATETIME MONTH TO DAY"),
-    Plain  ( 87, "DATETIME YEAR TO FRACTION()"),
-    Plain  ( 88, "DATETIME MONTH TO HOUR"),
-    Plain  ( 89, "DATETIME MONTH TO MINUTE"),
-    Plain  ( 90, "DATETIME MONTH TO SECOND"),
-    Plain  ( 91, "DATETIME MONTH TO FRACTION()"),
-    Plain  ( 92, "DATETIME DAY TO HOUR"),
-    Plain  ( 93, "DATETIME DAY TO MINUTE"),
-    Plain  ( 94, "DATETIME DAY TO SECOND"),
-    Plain  ( 95, "DATETIME DAY TO FRACTION()"),
-    Plain  ( 96, "DATETIME HOUR TO FRACTION()"),
-    Plain  ( 97, "DATETIME MINUTE TO MINUTE"),
-    Plain  ( 98, "DATETIME MINUTE TO SECOND"),
-    Plain  ( 99, "DATETIME MINUTE TO FRACTION()"),
-    Plain  (100, "DATETIME SECOND TO SECOND"),
-    Plain  (101, "DATETIME SECOND TO FRACTION()"),
-    Plain  ( 68, "INTERVAL DAY() TO SECOND()"),
-    Plain  (113, "SMALLSERIAL"),
-    Plain  (114, "INTEGER[]"),
-    Plain  (115, "ARRAY[] OF SMALLINT",     10485760),
-    Plain  (116, "CHARACTER()[]"),
-    Plain  (117, "CHARACTER VARYING()[]"),
-    Plain  (118, "NUMERIC()[]"),
-    Plain  (119, "BIT()[]"),
-    Plain  (120, "BIT VARYING()[]"),
-    Plain  (121, "TIMESTAMP() WITHOUT TIME ZONE[]"),
-    Plain  (122, "TIME() WITHOUT TIME ZONE[]"),
-    Plain  ( 29, "ROWID"),
-    Plain  ( 30, "UROWID"),
-    Plain  (104, "OID"),
-    Plain  (108, "GEOGRAPHY"),
-    Plain  (109, "HIERARCHYID"),
-    Plain  (110, "XML"),
-    Plain  (111, "XMLTYPE"),
-    Plain  (103, "GUID"),
-    Plain  (103, "UUID"),
-    Plain  (105, "VARIANT"),
-    Plain  (112, "ROWVERSION"),
-    Plain  (123, "NUMERIC IDENTITY"),
-    Plain  (124, "GRAPHIC",                    16382),
-    Plain  (125, "CHAR() FOR BIT DATA",        32766),
-    Plain  (126, "VARCHAR() FOR BIT DATA",      32740),
-    Plain  ( 31, "BYTE",                       32000),
-    Plain  ( 32, "VARBYTE",                    32000),
-    Plain  (127, "JSON",                  4294967295),
-    Plain  (128, "JSONB",                 4294967295),
-    Plain  (129, "SERIAL"),
-    Plain  (130, "INTEGER UNSIGNED",              10),
-    Plain  (132, "TINYINT UNSIGNED",              10),
-    Plain  (131, "SMALLINT UNSIGNED",             10),
-    Plain  (133, "MEDIUMINT UNSIGNED",            10),
-    Plain  (134, "BIGINT UNSIGNED",               20),
-    Plain  (135, "BLOB SUB_TYPE TEXT"),
-    Plain  (138, "POINT"),
-    Plain  (139, "POLYGON"),
-    Plain  (136, "LONG"),
-    Plain  (141, "RECORD ID SMALLINT END RECORD"),
+#define UVDB_TYPE(name, number, row, meaning) Numbered(number, row),
+#define UVDB_TYPE_AGAIN(name, row) Numbered(name, row),
+#include "Catalogue/Types/DataTypes/InternalTypes.inc"
+#undef UVDB_TYPE_AGAIN
+#undef UVDB_TYPE
 };
-// clang-format on
 static_assert(std::size(kRows) == 136);
 
 // The first of the rows that stand for one internal type is the answer.
 // clang-format off
 constexpr SODBCToUVDBDataType kOdbcPairs[] = {
 //  ODBC  type
-    {   1,   0},
-    {  12,   1},
-    {  -1,   4},
-    {  -8,   8},
-    {  -9,   9},
-    { -10,  10},
-    {   3,  25},
-    {   2,  26},
-    {   5,  34},
-    {   4,  35},
-    {   7,  42},
-    {   6,  43},
-    {   8,  46},
-    {  -7,  27},
-    {  -6,  33},
-    {  -5,  37},
-    {  -2,  16},
-    {  -3,  17},
-    {  -4,  20},
-    {   9,  48},
-    {  91,  48},
-    {  10,  49},
-    {  92,  49},
-    {  11,  53},
-    {  93,  53},
-    { 101,  61},
-    { 107,  62},
-    { 102,  63},
-    { 103,  64},
-    { 108,  65},
-    { 109,  66},
-    { 110,  67},
-    { 104,  69},
-    { 111,  70},
-    { 112,  71},
-    { 105,  72},
-    { 113,  73},
-    { 106,  74},
-    { -11, 103},
+    {   1, Char},
+    {  12, VarChar},
+    {  -1, LongVarChar},
+    {  -8, WChar},
+    {  -9, VarWChar},
+    { -10, LongVarWChar},
+    {   3, Decimal},
+    {   2, Numeric},
+    {   5, SmallInt},
+    {   4, Integer},
+    {   7, Real},
+    {   6, Float},
+    {   8, Double},
+    {  -7, Bit},
+    {  -6, TinyInt},
+    {  -5, BigInt},
+    {  -2, Binary},
+    {  -3, VarBinary},
+    {  -4, LongVarBinary},
+    {   9, Date},
+    {  91, Date},
+    {  10, Time},
+    {  92, Time},
+    {  11, Timestamp},
+    {  93, Timestamp},
+    { 101, IntervalYear},
+    { 107, IntervalYearToMonth},
+    { 102, IntervalMonth},
+    { 103, IntervalDay},
+    { 108, IntervalDayToHour},
+    { 109, IntervalDayToMinute},
+    { 110, IntervalDayToSecond},
+    { 104, IntervalHour},
+    { 111, IntervalHourToMinute},
+    { 112, IntervalHourToSecond},
+    { 105, IntervalMinute},
+    { 113, IntervalMinuteToSecond},
+    { 106, IntervalSecond},
+    { -11, Guid},
 };
 // clang-format on
 static_assert(std::size(kOdbcPairs) == 39);
@@ -232,6 +104,55 @@ constexpr std::array<std::int16_t, kInternalTypeLimit> CollectFirstRows()
 
 constexpr auto kFirstRows = CollectFirstRows();
 
+namespace Meanings {
+
+using UVDBMeaning::STypeMeaning;
+using enum UVDBMeaning::enTypeFamily;
+using enum UVDBMeaning::enTimeField;
+using UVDBMeaning::kDate;
+using UVDBMeaning::kTime;
+
+constexpr STypeMeaning Is(UVDBMeaning::enTypeFamily family)
+{
+    return {.family = family};
+}
+
+constexpr STypeMeaning Counted(UVDBMeaning::enTypeFamily family, int bits)
+{
+    return {.family = family, .bits = bits};
+}
+
+constexpr STypeMeaning Unsigned(UVDBMeaning::enTypeFamily family, int bits)
+{
+    return {.family = family, .bits = -bits};
+}
+
+constexpr STypeMeaning Timed(UVDBMeaning::enTypeFamily family, unsigned fields)
+{
+    return {.family = family, .fields = fields};
+}
+
+constexpr STypeMeaning Zoned(UVDBMeaning::enTypeFamily family, unsigned fields)
+{
+    return {.family = family, .fields = fields, .hasZone = true};
+}
+
+constexpr std::array<STypeMeaning, kInternalTypeLimit> Collect()
+{
+    std::array<STypeMeaning, kInternalTypeLimit> meanings{};
+#define UVDB_TYPE(name, number, row, meaning) meanings.at(number) = meaning;
+#define UVDB_TYPE_AGAIN(name, row)
+#include "Catalogue/Types/DataTypes/InternalTypes.inc"
+#undef UVDB_TYPE_AGAIN
+#undef UVDB_TYPE
+    return meanings;
+}
+
+constexpr auto kByNumber = Collect();
+constexpr STypeMeaning kNone;
+
+} // namespace Meanings
+
 } // namespace
 
 constinit const std::span<const SDataTypeParams> g_listUVDBDataTypesParams{kRows};
@@ -243,4 +164,11 @@ const SDataTypeParams* FindInternalType(std::int64_t uvdbType)
         return nullptr;
     const std::int16_t row = kFirstRows[static_cast<std::size_t>(uvdbType)];
     return row != kNoRow ? &kRows[row] : nullptr;
+}
+
+const UVDBMeaning::STypeMeaning& MeaningOfInternalType(std::int64_t uvdbType)
+{
+    if (uvdbType < 0 || uvdbType >= static_cast<std::int64_t>(Meanings::kByNumber.size()))
+        return Meanings::kNone;
+    return Meanings::kByNumber[static_cast<std::size_t>(uvdbType)];
 }

@@ -2,6 +2,8 @@
 // rows begin and end. All of it is made by the compiler.
 #pragma once
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -17,9 +19,6 @@ struct SUVDBToDBMSDataType
     std::int64_t maxScale = 0;
     const char* name = ""; // the target's; "()" marks where parameters go
 };
-
-// Internal type numbers are below.
-inline constexpr std::size_t kInternalTypeLimit = 142;
 
 struct STypeRungs
 {

@@ -7,193 +7,77 @@
 
 namespace {
 
+using UVDBMeaning::STypeMeaning;
+using enum UVDBMeaning::enTimeField;
+using UVDBMeaning::kDate;
+using UVDBMeaning::kTime;
 using F = enTypeFamily;
 
-constexpr unsigned kDateFields = kYearField | kMonthField | kDayField;
-constexpr unsigned kTimeFields = kHourField | kMinuteField | kSecondField;
-constexpr unsigned kMonths = kYearField | kMonthField;
+constexpr unsigned kMonths = kYear | kMonth;
 
-constexpr int kUnsigned = -1; // as a factor of the bits
-
-struct SMeaning
+enTypeFamily FamilyOfMoment(unsigned fields)
 {
-    std::int64_t type;
-    enTypeFamily family;
-    int bits = 0; // of integers, negative without a sign; of the significand of floats
-    unsigned fields = 0;
-    bool hasZone = false;
-};
-
-constexpr SMeaning Moment(std::int64_t type, unsigned fields, bool hasZone = false)
-{
-    const F family = (fields & ~kDateFields) == 0   ? F::Date
-                     : (fields & ~kTimeFields) == 0 ? F::Time
-                                                    : F::Timestamp;
-    return {type, family, 0, fields, hasZone};
+    if ((fields & ~kDate) == 0)
+        return F::Date;
+    return (fields & ~kTime) == 0 ? F::Time : F::Timestamp;
 }
 
-constexpr SMeaning Qualified(std::int64_t type, unsigned fields)
+// The families by which types are compared: dates, times and both are told apart, rows are identified in any
+// way.
+enTypeFamily FamilyOf(const STypeMeaning& meaning)
 {
-    return {type, F::Qualified, 0, fields};
-}
-
-constexpr SMeaning Interval(std::int64_t type, unsigned fields)
-{
-    return {type, F::Interval, 0, fields};
-}
-
-// The fields from one to another.
-constexpr unsigned To(unsigned first, unsigned last)
-{
-    return last * 2 - first;
-}
-
-// clang-format off
-constexpr SMeaning kMeanings[] = {
-//   type  family           bits
-    {  0, F::Character},
-    {  1, F::Character},
-    {  2, F::Character},
-    {  3, F::Character},
-    {  4, F::Character},
-    {  5, F::National},
-    {  7, F::Character},
-    {  8, F::National},
-    {  9, F::National},
-    { 10, F::National},
-    { 11, F::National},
-    { 12, F::National},
-    { 13, F::National},
-    { 14, F::Decimal},
-    { 16, F::Binary},
-    { 17, F::Binary},
-    { 20, F::Binary},
-    { 22, F::Bits},
-    { 23, F::Binary},
-    { 24, F::File},
-    { 25, F::Decimal},
-    { 26, F::Decimal},
-    { 27, F::Bits},
-    { 28, F::Boolean},
-    { 29, F::RowIdentity},
-    { 30, F::RowIdentity},
-    { 31, F::Binary},
-    { 32, F::Binary},
-    { 33, F::Integer,          8},
-    { 34, F::Integer,         16},
-    { 35, F::Integer,         32},
-    { 36, F::Integer,         32},
-    { 37, F::Integer,         64},
-    { 38, F::Integer,          8 * kUnsigned},
-    { 39, F::Integer,         16 * kUnsigned},
-    { 40, F::Integer,         32 * kUnsigned},
-    { 41, F::Integer,         64 * kUnsigned},
-    { 42, F::Float,           24},
-    { 43, F::Float,           53},
-    { 44, F::Float,           53},
-    { 45, F::Float,           24},
-    { 46, F::Float,           53},
-    { 47, F::Float,           53},
-    { 58, F::Decimal},
-    { 59, F::Decimal},
-    { 60, F::Decimal},
-    {103, F::Uuid},
-    {104, F::RowIdentity},
-    {105, F::Variant},
-    {106, F::Spatial},
-    {107, F::Spatial},
-    {108, F::Spatial},
-    {109, F::Hierarchy},
-    {110, F::Xml},
-    {111, F::Xml},
-    {112, F::RowIdentity},    // eight bytes that change with the row
-    {113, F::Integer,         16},
-    {114, F::Array},
-    {115, F::Array},
-    {116, F::Array},
-    {117, F::Array},
-    {118, F::Array},
-    {119, F::Array},
-    {120, F::Array},
-    {121, F::Array},
-    {122, F::Array},
-    {123, F::Decimal},
-    {124, F::National},       // two bytes a character
-    {125, F::Binary},
-    {126, F::Binary},
-    {127, F::Json},
-    {128, F::Json},
-    {129, F::Integer,         32},
-    {130, F::Integer,         32 * kUnsigned},
-    {131, F::Integer,         16 * kUnsigned},
-    {132, F::Integer,          8 * kUnsigned},
-    {133, F::Integer,         24 * kUnsigned},
-    {134, F::Integer,         64 * kUnsigned},
-    {135, F::Character},
-    {136, F::Character},
-    {137, F::DecimalFloat,    34},
-    {138, F::Spatial},
-    {139, F::Spatial},
-    {141, F::Record},
-//          type  fields
-    Moment  ( 48, kDateFields),
-    Moment  ( 49, kTimeFields),
-    Moment  ( 50, kTimeFields),
-    Moment  ( 51, kAllFields),
-    Moment  ( 52, kAllFields),
-    Moment  ( 53, kAllFields),
-    Moment  ( 54, kAllFields, true),
-    Moment  ( 56, kTimeFields, true),
-    Moment  ( 57, kAllFields),
-    Moment  (102, kAllFields, true),
-    Qualified( 75, To(kYearField,   kYearField)),
-    Qualified( 76, To(kYearField,   kMonthField)),
-    Qualified( 77, To(kYearField,   kDayField)),
-    Qualified( 78, To(kYearField,   kHourField)),
-    Qualified( 79, To(kYearField,   kMinuteField)),
-    Qualified( 80, To(kYearField,   kSecondField)),
-    Qualified( 81, To(kDayField,    kDayField)),
-    Qualified( 82, To(kHourField,   kHourField)),
-    Qualified( 83, To(kHourField,   kMinuteField)),
-    Qualified( 84, To(kHourField,   kSecondField)),
-    Qualified( 85, To(kMonthField,  kMonthField)),
-    Qualified( 86, To(kMonthField,  kDayField)),
-    Qualified( 87, To(kYearField,   kSecondField)),
-    Qualified( 88, To(kMonthField,  kHourField)),
-    Qualified( 89, To(kMonthField,  kMinuteField)),
-    Qualified( 90, To(kMonthField,  kSecondField)),
-    Qualified( 91, To(kMonthField,  kSecondField)),
-    Qualified( 92, To(kDayField,    kHourField)),
-    Qualified( 93, To(kDayField,    kMinuteField)),
-    Qualified( 94, To(kDayField,    kSecondField)),
-    Qualified( 95, To(kDayField,    kSecondField)),
-    Qualified( 96, To(kHourField,   kSecondField)),
-    Qualified( 97, To(kMinuteField, kMinuteField)),
-    Qualified( 98, To(kMinuteField, kSecondField)),
-    Qualified( 99, To(kMinuteField, kSecondField)),
-    Qualified(100, To(kSecondField, kSecondField)),
-    Qualified(101, To(kSecondField, kSecondField)),
-    Interval( 61, To(kYearField,   kYearField)),
-    Interval( 62, To(kYearField,   kMonthField)),
-    Interval( 63, To(kMonthField,  kMonthField)),
-    Interval( 64, To(kDayField,    kDayField)),
-    Interval( 65, To(kDayField,    kHourField)),
-    Interval( 66, To(kDayField,    kMinuteField)),
-    Interval( 67, To(kDayField,    kSecondField)),
-    Interval( 68, To(kDayField,    kSecondField)),
-    Interval( 69, To(kHourField,   kHourField)),
-    Interval( 70, To(kHourField,   kMinuteField)),
-    Interval( 71, To(kHourField,   kSecondField)),
-    Interval( 72, To(kMinuteField, kMinuteField)),
-    Interval( 73, To(kMinuteField, kSecondField)),
-    Interval( 74, To(kSecondField, kSecondField)),
-};
-// clang-format on
-
-const SMeaning* MeaningOf(std::int64_t uvdbType)
-{
-    const auto* const found = std::ranges::find(kMeanings, uvdbType, &SMeaning::type);
-    return found != std::end(kMeanings) ? found : nullptr;
+    using H = UVDBMeaning::enTypeFamily;
+    switch (meaning.family) {
+    case H::Unknown:
+        return F::Unknown;
+    case H::Text:
+        return F::Character;
+    case H::NationalText:
+        return F::National;
+    case H::Binary:
+        return F::Binary;
+    case H::File:
+        return F::File;
+    case H::Bits:
+        return F::Bits;
+    case H::Integer:
+        return F::Integer;
+    case H::Decimal:
+        return F::Decimal;
+    case H::Float:
+        return F::Float;
+    case H::DecimalFloat:
+        return F::DecimalFloat;
+    case H::Boolean:
+        return F::Boolean;
+    case H::DateTime:
+        return FamilyOfMoment(meaning.fields);
+    case H::Qualified:
+        return F::Qualified;
+    case H::Interval:
+        return F::Interval;
+    case H::Uuid:
+        return F::Uuid;
+    case H::Xml:
+        return F::Xml;
+    case H::Json:
+        return F::Json;
+    case H::Spatial:
+        return F::Spatial;
+    case H::RowId:
+    case H::RowNumber:
+    case H::RowVersion:
+        return F::RowIdentity;
+    case H::Array:
+        return F::Array;
+    case H::Variant:
+        return F::Variant;
+    case H::Hierarchy:
+        return F::Hierarchy;
+    case H::Record:
+        return F::Record;
+    }
+    return F::Unknown;
 }
 
 bool Takes(const SDataTypeParams& row, std::string_view wanted)
@@ -225,10 +109,10 @@ long FullDigits(const STypeCapacity& integer)
     return DigitsOfBits(ValueBits(integer)) - 1;
 }
 
-void SetExact(const SMeaning& meaning, const SDataTypeParams& row, std::uint64_t size, long scale,
+void SetExact(const STypeMeaning& meaning, const SDataTypeParams& row, std::uint64_t size, long scale,
               STypeCapacity& capacity)
 {
-    if (meaning.family == F::Integer && !Takes(row, "PRECISION")) {
+    if (capacity.family == F::Integer && !Takes(row, "PRECISION")) {
         capacity.integerBits = std::abs(meaning.bits);
         capacity.isSigned = meaning.bits > 0;
         // A name for a shorter integer than its internal type.
@@ -257,26 +141,26 @@ void SetExact(const SMeaning& meaning, const SDataTypeParams& row, std::uint64_t
     capacity.length = static_cast<std::uint64_t>(capacity.digits);
 }
 
-void SetFloat(const SMeaning& meaning, const SDataTypeParams& row, std::uint64_t size,
+void SetFloat(const STypeMeaning& meaning, const SDataTypeParams& row, std::uint64_t size,
               STypeCapacity& capacity)
 {
     const bool isTold = row.columnSizePurpose == UVDB_SIZE_IS_PRECISION && size > 0;
     capacity.significand = isTold ? static_cast<long>(size) : meaning.bits;
     // Binary floats have one of two sizes, or a larger one.
-    if (meaning.family == F::Float && capacity.significand < 53)
+    if (capacity.family == F::Float && capacity.significand < 53)
         capacity.significand = capacity.significand <= 24 ? 24 : 53;
-    capacity.length = meaning.family == F::Float ? 24 : 42;
+    capacity.length = capacity.family == F::Float ? 24 : 42;
 }
 
 // The digits behind the second that a text form leaves room for.
-long SecondDigitsOfText(std::uint64_t size, const SMeaning& meaning)
+long SecondDigitsOfText(std::uint64_t size, const STypeMeaning& meaning)
 {
     const auto zone = static_cast<std::uint64_t>(meaning.hasZone ? 6 : 0);
-    const auto plain = static_cast<std::uint64_t>((meaning.fields & kYearField) != 0 ? 19 : 8) + zone;
+    const auto plain = static_cast<std::uint64_t>((meaning.fields & kYear) != 0 ? 19 : 8) + zone;
     return size > plain + 1 && size <= plain + 10 ? static_cast<long>(size - plain) - 1 : 0;
 }
 
-void SetTime(const SMeaning& meaning, const SDataTypeParams& row, long scale, long leadingPrecision,
+void SetTime(const STypeMeaning& meaning, const SDataTypeParams& row, long scale, long leadingPrecision,
              STypeCapacity& capacity)
 {
     constexpr std::uint64_t kToTheMinute = 16;
@@ -286,12 +170,13 @@ void SetTime(const SMeaning& meaning, const SDataTypeParams& row, long scale, lo
     // One type for all intervals.
     if (std::string_view(row.name) == "INTERVAL()")
         capacity.fields = kAllFields;
-    if (meaning.type == 52 && row.columnSize == kToTheMinute)
-        capacity.fields &= ~static_cast<unsigned>(kSecondField);
-    if ((capacity.fields & kSecondField) != 0) {
+    if (row.uvdbType == UVDBRows::SmallTimestamp && row.columnSize == kToTheMinute)
+        capacity.fields &= ~static_cast<unsigned>(kSecond);
+    if ((capacity.fields & kSecond) != 0) {
         capacity.secondDigits = row.isScaleValid ? std::clamp<long>(scale, row.minScale, row.maxScale)
-                                : meaning.family == F::Interval ? 0
-                                                                : SecondDigitsOfText(row.columnSize, meaning);
+                                : capacity.family == F::Interval
+                                    ? 0
+                                    : SecondDigitsOfText(row.columnSize, meaning);
     }
     if (row.isLeadingPrecisionValid)
         capacity.leadingDigits = leadingPrecision;
@@ -428,36 +313,35 @@ const char* FamilyText(enTypeFamily family)
 
 enTypeFamily FamilyOf(std::int64_t uvdbType)
 {
-    const SMeaning* const meaning = MeaningOf(uvdbType);
-    return meaning ? meaning->family : F::Unknown;
+    return FamilyOf(MeaningOfInternalType(uvdbType));
 }
 
 STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long scale, long leadingPrecision)
 {
     STypeCapacity capacity;
-    const SMeaning* const meaning = MeaningOf(row.uvdbType);
-    if (!meaning)
+    const STypeMeaning& meaning = MeaningOfInternalType(row.uvdbType);
+    if (meaning.family == UVDBMeaning::enTypeFamily::Unknown)
         return capacity;
     const bool takesSize = Takes(row, "LENGTH") || Takes(row, "MAX LENGTH") || Takes(row, "PRECISION");
     if (!takesSize || size == 0 || size > row.columnSize)
         size = row.columnSize;
-    capacity.family = meaning->family;
+    capacity.family = FamilyOf(meaning);
     capacity.length = size;
-    switch (meaning->family) {
+    switch (capacity.family) {
     case F::Integer:
     case F::Decimal:
-        SetExact(*meaning, row, size, scale, capacity);
+        SetExact(meaning, row, size, scale, capacity);
         break;
     case F::Float:
     case F::DecimalFloat:
-        SetFloat(*meaning, row, size, capacity);
+        SetFloat(meaning, row, size, capacity);
         break;
     case F::Date:
     case F::Time:
     case F::Timestamp:
     case F::Qualified:
     case F::Interval:
-        SetTime(*meaning, row, scale, leadingPrecision, capacity);
+        SetTime(meaning, row, scale, leadingPrecision, capacity);
         break;
     case F::Bits:
         capacity.length = std::max<std::uint64_t>(size, 1);

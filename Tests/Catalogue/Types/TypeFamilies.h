@@ -1,10 +1,11 @@
-// What the internal types mean, told a second time and apart from all tables and sheaves: the judge in tests
-// that map types from one database to another.
+// What a type with its numbers holds, by the meaning of its internal type and apart from all sheaves: the
+// judge in tests that map types from one database to another.
 //
 // Lengths count characters, bytes or bits as the family does; a byte and a character count the same.
 #pragma once
 
 #include "Catalogue/Types/DataTypes/DataTypeRow.h"
+#include "Catalogue/Types/DataTypes/TypeMeaning.h"
 
 #include <cstdint>
 #include <limits>
@@ -44,17 +45,7 @@ const char* FamilyText(enTypeFamily family);
 // Returns: Unknown for a number that is no internal type.
 enTypeFamily FamilyOf(std::int64_t uvdbType);
 
-// Parts of dates, times and intervals.
-enum enTimeField : unsigned
-{
-    kYearField = 1,
-    kMonthField = 2,
-    kDayField = 4,
-    kHourField = 8,
-    kMinuteField = 16,
-    kSecondField = 32,
-    kAllFields = 63
-};
+inline constexpr unsigned kAllFields = UVDBMeaning::kDate | UVDBMeaning::kTime;
 
 // What one type with its numbers can hold. Only what belongs to the family is set.
 struct STypeCapacity
@@ -68,7 +59,7 @@ struct STypeCapacity
     int integerBits = 0;           // of integers that count in bits
     bool isSigned = true;
     long significand = 0;   // of floats: binary digits, of decimal ones decimal digits
-    unsigned fields = 0;    // of times and intervals: enTimeField
+    unsigned fields = 0;    // of times and intervals: UVDBMeaning::enTimeField
     long secondDigits = 0;  // behind the second
     long leadingDigits = 0; // of an interval's first field; 0: not known
     bool hasZone = false;
