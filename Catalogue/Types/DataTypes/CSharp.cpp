@@ -9,16 +9,16 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SDataTypeParams kRows[] = {
-//  shape type  name      size or digits, leading digits, scale
-    Plain (  0, "CHAR",             1),
-    Plain (  1, "String",  2147483647),
-    Whole ( 36, "int",             10),
-    Plain ( 43, "double"),
-    Whole ( 46, "double",          53),
-    Whole ( 42, "float",           24),
-    Plain ( 26, "decimal"),
-    Scaled( 25, "decimal",         28, 0, 28, ""),
-    Plain ( 28, "bool",             1),
+//  shape  type     name      size or digits, leading digits, scale
+    Plain (Char,    "CHAR",             1),
+    Plain (VarChar, "String",  2147483647),
+    Whole (Int,     "int",             10),
+    Plain (Float,   "double"),
+    Whole (Double,  "double",          53),
+    Whole (Real,    "float",           24),
+    Plain (Numeric, "decimal"),
+    Scaled(Decimal, "decimal",         28, 0, 28, ""),
+    Plain (Boolean, "bool",             1),
 };
 // clang-format on
 static_assert(std::size(kRows) == 9);

@@ -9,19 +9,19 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SDataTypeParams kRows[] = {
-//  shape type  name            size or digits, leading digits, scale
-    Plain(  0, "CHAR",                   1),
-    Plain(  1, "CHAR",          2147483647),
-    Whole( 34, "SHORT",                  5),
-    Whole( 36, "int",                   10),
-    Whole( 36, "INT",                   10),
-    Whole( 46, "DOUBLE",                53),
-    Whole( 37, "LONG",                  19),
-    Whole( 41, "UNSIGNED LONG",         20),
-    Plain( 43, "double"),
-    Whole( 46, "double",                53),
-    Whole( 42, "float",                 24),
-    Plain( 28, "bool",                   1),
+//  shape type      name            size or digits, leading digits, scale
+    Plain(Char,     "CHAR",                   1),
+    Plain(VarChar,  "CHAR",          2147483647),
+    Whole(SmallInt, "SHORT",                  5),
+    Whole(Int,      "int",                   10),
+    Whole(Int,      "INT",                   10),
+    Whole(Double,   "DOUBLE",                53),
+    Whole(BigInt,   "LONG",                  19),
+    Whole(UBigInt,  "UNSIGNED LONG",         20),
+    Plain(Float,    "double"),
+    Whole(Double,   "double",                53),
+    Whole(Real,     "float",                 24),
+    Plain(Boolean,  "bool",                   1),
 };
 // clang-format on
 static_assert(std::size(kRows) == 12);

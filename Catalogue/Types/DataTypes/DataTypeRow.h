@@ -2,6 +2,8 @@
 // it.
 #pragma once
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
+
 #include <cstdint>
 
 // What a size of a row counts.
@@ -35,27 +37,27 @@ namespace UVDBRows {
 
 // A name without parameters. `size` is what its values can take: bytes, characters or, for dates and times,
 // characters of the text form.
-constexpr SDataTypeParams Plain(std::int64_t type, const char* name, std::uint64_t size = 0)
+constexpr SDataTypeParams Plain(enInternalType type, const char* name, std::uint64_t size = 0)
 {
     return {.uvdbType = type, .name = name, .columnSize = size};
 }
 
 // A name with a length.
-constexpr SDataTypeParams Sized(std::int64_t type, const char* name, std::uint64_t size,
+constexpr SDataTypeParams Sized(enInternalType type, const char* name, std::uint64_t size,
                                 const char* createParams = "LENGTH")
 {
     return {.uvdbType = type, .name = name, .columnSize = size, .createParams = createParams};
 }
 
 // A number without parameters: `digits` of precision.
-constexpr SDataTypeParams Whole(std::int64_t type, const char* name, std::uint64_t digits)
+constexpr SDataTypeParams Whole(enInternalType type, const char* name, std::uint64_t digits)
 {
     return {
         .uvdbType = type, .name = name, .columnSize = digits, .columnSizePurpose = UVDB_SIZE_IS_PRECISION};
 }
 
 // A number with a precision of its own, without a scale.
-constexpr SDataTypeParams Precise(std::int64_t type, const char* name, std::uint64_t digits,
+constexpr SDataTypeParams Precise(enInternalType type, const char* name, std::uint64_t digits,
                                   const char* createParams = "PRECISION")
 {
     return {.uvdbType = type,
@@ -66,7 +68,7 @@ constexpr SDataTypeParams Precise(std::int64_t type, const char* name, std::uint
 }
 
 // A number with precision and scale.
-constexpr SDataTypeParams Scaled(std::int64_t type, const char* name, std::uint64_t digits,
+constexpr SDataTypeParams Scaled(enInternalType type, const char* name, std::uint64_t digits,
                                  std::int64_t minScale, std::int64_t maxScale,
                                  const char* createParams = "PRECISION,SCALE")
 {
@@ -81,7 +83,8 @@ constexpr SDataTypeParams Scaled(std::int64_t type, const char* name, std::uint6
 }
 
 // A number whose precision and scale the name implies, such as a currency.
-constexpr SDataTypeParams Fixed(std::int64_t type, const char* name, std::uint64_t digits, std::int64_t scale)
+constexpr SDataTypeParams Fixed(enInternalType type, const char* name, std::uint64_t digits,
+                                std::int64_t scale)
 {
     return {.uvdbType = type,
             .name = name,
@@ -94,7 +97,7 @@ constexpr SDataTypeParams Fixed(std::int64_t type, const char* name, std::uint64
 }
 
 // A time with digits behind the second. `size`: characters of the longest text form.
-constexpr SDataTypeParams Timed(std::int64_t type, const char* name, std::uint64_t size,
+constexpr SDataTypeParams Timed(enInternalType type, const char* name, std::uint64_t size,
                                 std::int64_t minScale, std::int64_t maxScale,
                                 const char* createParams = "SCALE")
 {
@@ -108,7 +111,7 @@ constexpr SDataTypeParams Timed(std::int64_t type, const char* name, std::uint64
 }
 
 // An interval with a leading precision.
-constexpr SDataTypeParams Led(std::int64_t type, const char* name, std::uint64_t size,
+constexpr SDataTypeParams Led(enInternalType type, const char* name, std::uint64_t size,
                               std::int64_t leadingPrecision, const char* createParams = "LEADING PRECISION")
 {
     return {.uvdbType = type,
@@ -120,7 +123,7 @@ constexpr SDataTypeParams Led(std::int64_t type, const char* name, std::uint64_t
 }
 
 // An interval with a leading precision and digits behind the second.
-constexpr SDataTypeParams LedTimed(std::int64_t type, const char* name, std::uint64_t size,
+constexpr SDataTypeParams LedTimed(enInternalType type, const char* name, std::uint64_t size,
                                    std::int64_t leadingPrecision, std::int64_t minScale,
                                    std::int64_t maxScale,
                                    const char* createParams = "LEADING PRECISION;SCALE")

@@ -9,24 +9,24 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SDataTypeParams kRows[] = {
-//  shape type  name           size or digits, leading digits, scale
-    Plain (  0, "CHARACTER",             1),
-    Plain (  1, "String",       2147483647),
-    Plain (  7, "StringBuffer", 2147483647),
-    Whole ( 33, "Byte",                  3),
-    Whole ( 34, "Short",                 5),
-    Whole ( 35, "Integer",              10),
-    Whole ( 37, "Long",                 19),
-    Whole ( 46, "Double",               53),
-    Whole ( 42, "Float",                24),
-    Scaled( 26, "BigDecimal",           38, 0,         38, ""),
-    Scaled( 25, "BigDecimal",   2147483647, 0, 2147483647, ""),
-    Plain ( 28, "Boolean",               1),
-    Plain ( 17, "byte[]",            32767),
-    Plain ( 20, "byte[]",       2147483647),
-    Plain ( 48, "Date",                 10),
-    Timed ( 53, "Timestamp",            29, 9,          9, ""),
-    Plain ( 49, "Time",                  8),
+//  shape  type           name           size or digits, leading digits, scale
+    Plain (Char,          "CHARACTER",             1),
+    Plain (VarChar,       "String",       2147483647),
+    Plain (Text,          "StringBuffer", 2147483647),
+    Whole (TinyInt,       "Byte",                  3),
+    Whole (SmallInt,      "Short",                 5),
+    Whole (Integer,       "Integer",              10),
+    Whole (BigInt,        "Long",                 19),
+    Whole (Double,        "Double",               53),
+    Whole (Real,          "Float",                24),
+    Scaled(Numeric,       "BigDecimal",           38, 0,         38, ""),
+    Scaled(Decimal,       "BigDecimal",   2147483647, 0, 2147483647, ""),
+    Plain (Boolean,       "Boolean",               1),
+    Plain (VarBinary,     "byte[]",            32767),
+    Plain (LongVarBinary, "byte[]",       2147483647),
+    Plain (Date,          "Date",                 10),
+    Timed (Timestamp,     "Timestamp",            29, 9,          9, ""),
+    Plain (Time,          "Time",                  8),
 };
 // clang-format on
 static_assert(std::size(kRows) == 17);

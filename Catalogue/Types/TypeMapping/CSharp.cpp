@@ -9,27 +9,27 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SUVDBToDBMSDataType kRows[] = {
-//    type       size  scale   name
-    Map(  1, 2147483647,         "String"),
-    Map( 25,         28,  0, 28, "decimal"),
-    Map( 26,         28,  0, 28, "decimal"),
-    Map( 14,         28,  0, 28, "decimal"),
-    Map( 27,          1,         "bool"),
-    Map( 27, 2147483647,         "String"),
-    Map( 28,          1,         "bool"),
-    Map( 33,          3,         "int"),
-    Map( 34,          5,         "int"),
-    Map( 35,         10,         "int"),
-    Map( 37,         19,         "decimal"),
-    Map( 36,         10,         "int"),
-    Map( 38,          3,         "int"),
-    Map( 42,         24,         "float"),
-    Map( 43,         53,         "double"),
-    Map( 46,         53,         "double"),
-    Map( 58,         28,  0, 28, "decimal"),
-    Map( 59,         28,  0, 28, "decimal"),
-    Map(113,          5,         "int"),
-    Map(129,         10,         "int"),
+//      type             size  scale   name
+    Map(VarChar,     2147483647,         "String"),
+    Map(Decimal,             28,  0, 28, "decimal"),
+    Map(Numeric,             28,  0, 28, "decimal"),
+    Map(Number,              28,  0, 28, "decimal"),
+    Map(Bit,                  1,         "bool"),
+    Map(Bit,         2147483647,         "String"),
+    Map(Boolean,              1,         "bool"),
+    Map(TinyInt,              3,         "int"),
+    Map(SmallInt,             5,         "int"),
+    Map(Integer,             10,         "int"),
+    Map(BigInt,              19,         "decimal"),
+    Map(Int,                 10,         "int"),
+    Map(UTinyInt,             3,         "int"),
+    Map(Real,                24,         "float"),
+    Map(Float,               53,         "double"),
+    Map(Double,              53,         "double"),
+    Map(SmallMoney,          28,  0, 28, "decimal"),
+    Map(Money,               28,  0, 28, "decimal"),
+    Map(SmallSerial,          5,         "int"),
+    Map(Serial,              10,         "int"),
 };
 // clang-format on
 static_assert(std::size(kRows) == 20);

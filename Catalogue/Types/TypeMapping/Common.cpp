@@ -7,8 +7,8 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SUVDBToDBMSDataType kRows[] = {
-//   type  size  name
-    Map(1, 4000, "VARCHAR"),
+//      type     size  name
+    Map(VarChar, 4000, "VARCHAR"),
 };
 // clang-format on
 static_assert(std::size(kRows) == 1);

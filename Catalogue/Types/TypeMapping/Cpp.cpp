@@ -9,17 +9,17 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SUVDBToDBMSDataType kRows[] = {
-//    type       size  scale   name
-    Map(  1, 2147483647,         "CHAR"),
-    Map( 25,         15,  0, 15, "double"),
-    Map( 26,         15,  0, 15, "double"),
-    Map( 28,          1,         "bool"),
-    Map( 34,          5,         "SHORT"),
-    Map( 35,         10,         "int"),
-    Map( 37,         19,         "LONG"),
-    Map( 42,         24,         "float"),
-    Map( 43,         53,         "double"),
-    Map( 46,         53,         "double"),
+//      type          size  scale   name
+    Map(VarChar,  2147483647,         "CHAR"),
+    Map(Decimal,          15,  0, 15, "double"),
+    Map(Numeric,          15,  0, 15, "double"),
+    Map(Boolean,           1,         "bool"),
+    Map(SmallInt,          5,         "SHORT"),
+    Map(Integer,          10,         "int"),
+    Map(BigInt,           19,         "LONG"),
+    Map(Real,             24,         "float"),
+    Map(Float,            53,         "double"),
+    Map(Double,           53,         "double"),
 };
 // clang-format on
 static_assert(std::size(kRows) == 10);

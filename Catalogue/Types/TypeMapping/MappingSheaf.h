@@ -45,13 +45,13 @@ struct SMappingSheaf
 namespace UVDBRows {
 
 // `size`: the largest length or precision that the name takes for this type.
-constexpr SUVDBToDBMSDataType Map(std::int64_t type, std::uint64_t size, const char* name)
+constexpr SUVDBToDBMSDataType Map(enInternalType type, std::uint64_t size, const char* name)
 {
     return {.uvdbType = type, .columnSize = size, .name = name};
 }
 
 // The same for a scale within bounds.
-constexpr SUVDBToDBMSDataType Map(std::int64_t type, std::uint64_t size, std::int64_t minScale,
+constexpr SUVDBToDBMSDataType Map(enInternalType type, std::uint64_t size, std::int64_t minScale,
                                   std::int64_t maxScale, const char* name)
 {
     return {.uvdbType = type, .columnSize = size, .minScale = minScale, .maxScale = maxScale, .name = name};

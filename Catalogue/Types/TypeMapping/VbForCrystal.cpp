@@ -9,16 +9,16 @@ using namespace UVDBRows;
 
 // clang-format off
 constexpr SUVDBToDBMSDataType kRows[] = {
-//    type       size  scale   name
-    Map(  1, 2147483647,         "String"),
-    Map( 25,         15,  0, 15, "DOUBLE"),
-    Map( 26,         15,  0, 15, "DOUBLE"),
-    Map( 28,          1,         "BOOLEAN"),
-    Map( 34,          5,         "SHORT"),
-    Map( 35,         10,         "INTEGER"),
-    Map( 37,         15,         "DOUBLE"),
-    Map( 43,         53,         "DOUBLE"),
-    Map( 46,         53,         "DOUBLE"),
+//      type          size  scale   name
+    Map(VarChar,  2147483647,         "String"),
+    Map(Decimal,          15,  0, 15, "DOUBLE"),
+    Map(Numeric,          15,  0, 15, "DOUBLE"),
+    Map(Boolean,           1,         "BOOLEAN"),
+    Map(SmallInt,          5,         "SHORT"),
+    Map(Integer,          10,         "INTEGER"),
+    Map(BigInt,           15,         "DOUBLE"),
+    Map(Float,            53,         "DOUBLE"),
+    Map(Double,           53,         "DOUBLE"),
 };
 // clang-format on
 static_assert(std::size(kRows) == 9);

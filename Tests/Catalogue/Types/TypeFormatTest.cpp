@@ -359,12 +359,12 @@ TEST(DataTypeElement, MappingRowsAreDescribedByTheTypeTables)
 {
     using UVDBRows::Map;
     U8CString text = "<";
-    AddDataTypeInfo(Db(UVDB_DB_ORA), Map(25, 38, -84, 127, "NUMBER"), text);
+    AddDataTypeInfo(Db(UVDB_DB_ORA), Map(UVDBRows::Decimal, 38, -84, 127, "NUMBER"), text);
     EXPECT_EQ(text, "<<DataType name=\"NUMBER\" type=\"DECIMAL\" precision=\"38\" minScale=\"-84\""
                     " maxScale=\"127\" fixedPrecScale=\"No\" createParams=\"PRECISION,SCALE\""
                     " completeName=\"NUMBER(38,-84)\"/>");
     text.clear();
-    AddDataTypeInfo(Db(UVDB_DB_ORA), Map(1, 300, "VARCHAR2"), text);
+    AddDataTypeInfo(Db(UVDB_DB_ORA), Map(UVDBRows::VarChar, 300, "VARCHAR2"), text);
     EXPECT_EQ(text, "<DataType name=\"VARCHAR2\" type=\"VARCHAR\" length=\"300\" createParams=\"LENGTH\""
                     " completeName=\"VARCHAR2(300)\"/>");
 }
