@@ -1,4 +1,4 @@
-// Which types of C# carry the internal types; the rest travels as text.
+// The languages of .NET, and scripts of browsers.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,8 +7,9 @@ namespace {
 
 using namespace UVDBRows;
 
+// Which types of C# carry the internal types; the rest travels as text.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kCSharpRows[] = {
 //      type             size  scale   name
     Map(VarChar,     2147483647,         "String"),
     Map(Decimal,             28,  0, 28, "decimal"),
@@ -32,8 +33,20 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(Serial,              10,         "int"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 20);
+static_assert(std::size(kCSharpRows) == 20);
+
+// Which types stand for the internal types in scripts of browsers; the rest travels as text.
+constexpr enInternalType kJavaScriptGone[] = {SmallSerial};
+constexpr auto kJavaScriptRows = Newer<kCSharpRows, kNoRows, kJavaScriptGone>();
+static_assert(std::size(kJavaScriptRows) == 19);
+
+// Which types of .NET stand for the internal types in its scripts and on phones; the rest travels as text.
+constexpr enInternalType kPowerShellGone[] = {SmallMoney, Serial};
+constexpr auto kPowerShellRows = Newer<kJavaScriptRows, kNoRows, kPowerShellGone>();
+static_assert(std::size(kPowerShellRows) == 17);
 
 } // namespace
 
-constinit const SMappingSheaf kCSharpMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kCSharpMapping = MakeMappingSheaf<kCSharpRows>();
+constinit const SMappingSheaf kJavaScriptMapping = MakeMappingSheaf<kJavaScriptRows>();
+constinit const SMappingSheaf kPowerShellMapping = MakeMappingSheaf<kPowerShellRows>();

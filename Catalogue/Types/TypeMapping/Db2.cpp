@@ -1,13 +1,16 @@
-// DB2 for Linux, Unix and Windows. Times with a fraction become timestamps; what DECIMAL can't hold is
-// DECFLOAT, and so is Oracle's NUMBER without a precision, which is known by its size of 0.
+// DB2 on its three platforms.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
+
+#include <iterator>
 
 namespace {
 
 using namespace UVDBRows;
 
+// DB2 for Linux, Unix and Windows. Times with a fraction become timestamps; what DECIMAL can't hold is
+// DECFLOAT, and so is Oracle's NUMBER without a precision, which is known by its size of 0.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kDb2Rows[] = {
 //      type                          size  scale  name
     Map(Char,                          254,        "CHAR"),
     Map(Char,                        32672,        "VARCHAR"),
@@ -81,8 +84,79 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,                 20, 0,  0, "DECIMAL"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 70);
+static_assert(std::size(kDb2Rows) == 70);
+
+// DB2 for z/OS. It has neither truth values nor times with a fraction, so these become numbers and
+// timestamps. Oracle's NUMBER without a precision is known by its size of 0.
+// clang-format off
+constexpr SUVDBToDBMSDataType kDb2ForZChanges[] = {
+//      type                          size  scale  name
+    Map(Char,                          255,        "CHAR"),
+    Map(Char,                        32704,        "VARCHAR"),
+    Map(Char,                   2147483647,        "CLOB"),
+    Map(VarChar,                     32704,        "VARCHAR"),
+    Map(VarChar,                2147483647,        "CLOB"),
+    Map(UniChar,                     16352,        "VARGRAPHIC"),
+    Map(UniVarChar,                  16352,        "VARGRAPHIC"),
+    Map(WChar,                       16352,        "VARGRAPHIC"),
+    Map(WChar,                  1073741823,        "DBCLOB"),
+    Map(VarWChar,                    16352,        "VARGRAPHIC"),
+    Map(VarWChar,               1073741823,        "DBCLOB"),
+    Map(Binary,                        255,        "CHAR() FOR BIT DATA"),
+    Map(Binary,                      32704,        "VARCHAR() FOR BIT DATA"),
+    Map(Binary,                 2147483647,        "BLOB"),
+    Map(VarBinary,                   32704,        "VARCHAR() FOR BIT DATA"),
+    Map(VarBinary,              2147483647,        "BLOB"),
+    Map(Bit,                             1,        "SMALLINT"),
+    Map(Bit,                         32704,        "VARCHAR() FOR BIT DATA"),
+    Map(Boolean,                         1,        "SMALLINT"),
+};
+// clang-format on
+constexpr auto kDb2ForZRows = Newer<kDb2Rows, kDb2ForZChanges>();
+static_assert(std::size(kDb2ForZRows) == 70);
+
+// DB2 for i. Times with a fraction become timestamps.
+// clang-format off
+constexpr SUVDBToDBMSDataType kDb2ForIChanges[] = {
+//      type                          size  scale  name
+    Map(Char,                        32765,        "CHAR"),
+    Map(Char,                   2147483647,        "CLOB"),
+    Map(VarChar,                     32739,        "VARCHAR"),
+    Map(VarChar,                2147483647,        "CLOB"),
+    Map(LongNVarChar,           1073741823,        "DBCLOB"),
+    Map(UniChar,                     16382,        "GRAPHIC"),
+    Map(UniVarChar,                  16369,        "VARGRAPHIC"),
+    Map(WChar,                       16382,        "GRAPHIC"),
+    Map(WChar,                  1073741823,        "DBCLOB"),
+    Map(VarWChar,                    16369,        "VARGRAPHIC"),
+    Map(VarWChar,               1073741823,        "DBCLOB"),
+    Map(Binary,                      32765,        "BINARY"),
+    Map(Binary,                 2147483647,        "BLOB"),
+    Map(VarBinary,                   32739,        "VARBINARY"),
+    Map(VarBinary,              2147483647,        "BLOB"),
+    Map(Decimal,                        63, 0, 63, "DECIMAL"),
+    Map(Numeric,                        63, 0, 63, "NUMERIC"),
+    Map(Number,                         63, 0, 63, "DECIMAL"),
+    Map(Bit,                             1,        "BOOLEAN"),
+    Map(Bit,                         32739,        "VARBINARY"),
+    Map(Bit,                    2147483647,        "BLOB"),
+    Map(FloatBetween,                   53,        "DOUBLE"),
+    Map(Double,                         53,        "DOUBLE"),
+    Map(DecFloat,                       34,        "DOUBLE"),
+    Map(BigTime,                        15, 0,  6, "TIMESTAMP"),
+    Map(MoneyScaled,                    32, 0, 32, "DECIMAL"),
+    Map(RowId,                          40,        "ROWID"),
+    Map(Oid,                            10,        "BIGINT"),
+    Map(Guid,                           36,        "CHAR"),
+    Map(RowVersion,                      8,        "BINARY"),
+    Map(NumericIdentity,                63, 0, 63, "NUMERIC"),
+};
+// clang-format on
+constexpr auto kDb2ForIRows = Newer<kDb2Rows, kDb2ForIChanges>();
+static_assert(std::size(kDb2ForIRows) == 71);
 
 } // namespace
 
-constinit const SMappingSheaf kDb2Mapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kDb2Mapping = MakeMappingSheaf<kDb2Rows>();
+constinit const SMappingSheaf kDb2ForZMapping = MakeMappingSheaf<kDb2ForZRows>();
+constinit const SMappingSheaf kDb2ForIMapping = MakeMappingSheaf<kDb2ForIRows>();

@@ -1,6 +1,4 @@
-// What Informix calls the internal types. Times with digits behind the second are written TO FRACTION, those
-// without TO SECOND. Unsigned integers take the next larger one. Moments without a year or a full day, such
-// as MONTH TO HOUR, become texts.
+// Informix, and those who write types in its terms.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -9,8 +7,11 @@ namespace {
 
 using namespace UVDBRows;
 
+// What Informix calls the internal types. Times with digits behind the second are written TO FRACTION, those
+// without TO SECOND. Unsigned integers take the next larger one. Moments without a year or a full day, such
+// as MONTH TO HOUR, become texts.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kInformixRows[] = {
 //      type                           size  scale  name
     Map(Char,                           32767,        "CHAR"),
     Map(Char,                   4398046511104,        "CLOB"),
@@ -104,8 +105,60 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,                    20, 0,  0, "DECIMAL"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 90);
+static_assert(std::size(kInformixRows) == 90);
+
+// What SeaBase calls the internal types, in Informix's terms. Times with digits behind the second are written
+// TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one. Moments without a year or
+// a full day, such as MONTH TO HOUR, become texts, and so does JSON.
+constexpr enInternalType kSeaBaseGone[] = {UniChar, LongVarBit, FloatBetween, Json};
+constexpr auto kSeaBaseRows = Newer<kInformixRows, kNoRows, kSeaBaseGone>();
+static_assert(std::size(kSeaBaseRows) == 86);
+
+// What variables of Informix 4GL are declared with for the internal types. Times with digits behind the
+// second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
+// Intervals, and moments without a full date or time, become texts.
+// clang-format off
+constexpr SUVDBToDBMSDataType kInformix4GlChanges[] = {
+//      type                           size  scale  name
+    Map(BigInt,                            19,        "INT8"),
+    Map(UInteger,                          10,        "INT8"),
+    Map(IntegerUnsigned,                   10,        "INT8"),
+};
+constexpr enInternalType kInformix4GlGone[] = {
+    UniChar, LongVarBit, Int, FloatBetween, IntervalYear, IntervalYearToMonth, IntervalMonth, IntervalDay,
+    IntervalDayToHour, IntervalDayToMinute, IntervalDayToSecond, IntervalHour, IntervalHourToMinute,
+    IntervalHourToSecond, IntervalMinute, IntervalMinuteToSecond, IntervalSecond, DateTimeYear,
+    DateTimeYearToMonth, DateTimeYearToHour, DateTimeHour, DateTimeHourToMinute, IntervalDayToFraction,
+    RowVersion, NumericIdentity, Json,
+};
+// clang-format on
+constexpr auto kInformix4GlRows = Newer<kInformixRows, kInformix4GlChanges, kInformix4GlGone>();
+static_assert(std::size(kInformix4GlRows) == 61);
+
+// What Accell programs and forms call the internal types, in Informix's terms. Times with digits behind the
+// second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
+// Intervals, and moments without a full date or time, become texts.
+// clang-format off
+constexpr SUVDBToDBMSDataType kAccellChanges[] = {
+//      type                           size  scale  name
+    Map(Text,                   4398046511104,        "CLOB"),
+};
+// clang-format on
+constexpr enInternalType kAccellGone[] = {DateTimeHourToFraction};
+constexpr auto kAccellRows = Newer<kInformix4GlRows, kAccellChanges, kAccellGone>();
+static_assert(std::size(kAccellRows) == 59);
+
+// What programs in 4GL and SAL call the internal types, in Informix's terms. Times with digits behind the
+// second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
+// Intervals, and moments without a full date or time, become texts.
+constexpr enInternalType kGuptaSalGone[] = {DateTimeYearToMinute};
+constexpr auto kGuptaSalRows = Newer<kAccellRows, kNoRows, kGuptaSalGone>();
+static_assert(std::size(kGuptaSalRows) == 58);
 
 } // namespace
 
-constinit const SMappingSheaf kInformixMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kInformixMapping = MakeMappingSheaf<kInformixRows>();
+constinit const SMappingSheaf kSeaBaseMapping = MakeMappingSheaf<kSeaBaseRows>();
+constinit const SMappingSheaf kInformix4GlMapping = MakeMappingSheaf<kInformix4GlRows>();
+constinit const SMappingSheaf kAccellMapping = MakeMappingSheaf<kAccellRows>();
+constinit const SMappingSheaf kGuptaSalMapping = MakeMappingSheaf<kGuptaSalRows>();

@@ -1,4 +1,4 @@
-// InterBase: a NUMERIC of 18 digits is its longest integer. Zones and intervals it has none.
+// InterBase and Firebird.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,9 +7,10 @@ namespace {
 
 using namespace UVDBRows;
 
+// InterBase: a NUMERIC of 18 digits is its longest integer. Zones and intervals it has none.
 // Order is meaning: the rungs of a type climb, and its last rung takes what the others refuse.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kInterBaseRows[] = {
 //      type                          size  scale
     Map(Char,                        32767,        "CHAR"),
     Map(Char,                   2147483647,        "CLOB"),
@@ -69,8 +70,33 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,                 20,        "NUMERIC"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 56);
+static_assert(std::size(kInterBaseRows) == 56);
+
+// Firebird: long text is a BLOB with a sub type. Zones and intervals have no name here.
+// clang-format off
+constexpr SUVDBToDBMSDataType kFirebirdChanges[] = {
+//      type                          size  scale
+    Map(Char,                        32767,        "CHAR"),
+    Map(Char,                   2147483647,        "BLOB SUB_TYPE TEXT"),
+    Map(VarChar,                     32765,        "VARCHAR"),
+    Map(VarChar,                2147483647,        "BLOB SUB_TYPE TEXT"),
+    Map(Text,                   2147483647,        "BLOB SUB_TYPE TEXT"),
+    Map(Decimal,                        38, 0, 38, "DECIMAL"),
+    Map(Numeric,                        38, 0, 38, "NUMERIC"),
+    Map(Number,                         38, 0, 38, "DECIMAL"),
+    Map(Bit,                             1,        "BOOLEAN"),
+    Map(Bit,                         32765,        "VARCHAR"),
+    Map(Bit,                    2147483647,        "BLOB SUB_TYPE TEXT"),
+    Map(BigInt,                         19,        "BIGINT"),
+    Map(UInteger,                       10,        "BIGINT"),
+    Map(DateTimeHourToFraction,         13, 0,  4, "TIME"),
+    Map(IntegerUnsigned,                10,        "BIGINT"),
+};
+// clang-format on
+constexpr auto kFirebirdRows = Newer<kInterBaseRows, kFirebirdChanges>();
+static_assert(std::size(kFirebirdRows) == 57);
 
 } // namespace
 
-constinit const SMappingSheaf kInterBaseMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kInterBaseMapping = MakeMappingSheaf<kInterBaseRows>();
+constinit const SMappingSheaf kFirebirdMapping = MakeMappingSheaf<kFirebirdRows>();

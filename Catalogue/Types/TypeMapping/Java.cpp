@@ -1,4 +1,4 @@
-// Which classes of Java carry the internal types.
+// Java.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,8 +7,9 @@ namespace {
 
 using namespace UVDBRows;
 
+// Which classes of Java carry the internal types.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kJavaRows[] = {
 //      type                  size  scale           name
     Map(VarChar,          2147483647,                 "String"),
     Map(Binary,           2147483647,                 "byte[]"),
@@ -51,8 +52,14 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,           20,  0,          0, "BigDecimal"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 39);
+static_assert(std::size(kJavaRows) == 39);
+
+// Which classes of Java carry the internal types on mobile devices and in embedded libraries.
+constexpr enInternalType kAndroidGone[] = {UInteger, SmallMoney, SmallSerial};
+constexpr auto kAndroidRows = Newer<kJavaRows, kNoRows, kAndroidGone>();
+static_assert(std::size(kAndroidRows) == 36);
 
 } // namespace
 
-constinit const SMappingSheaf kJavaMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kJavaMapping = MakeMappingSheaf<kJavaRows>();
+constinit const SMappingSheaf kAndroidMapping = MakeMappingSheaf<kAndroidRows>();

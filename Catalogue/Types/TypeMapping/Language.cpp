@@ -1,4 +1,4 @@
-// What languages without types of columns, such as COBOL or HTML, write for the internal types.
+// Languages that have no types of columns.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,8 +7,9 @@ namespace {
 
 using namespace UVDBRows;
 
+// What languages without types of columns, such as COBOL or HTML, write for the internal types.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kLanguageRows[] = {
 //      type                        size  scale     name
     Map(Char,                   2147483647,           "CHAR"),
     Map(VarChar,                2147483647,           "VARCHAR"),
@@ -63,8 +64,18 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,                 20,  0,    0, "NUMERIC"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 51);
+static_assert(std::size(kLanguageRows) == 51);
+
+// What scripting languages without types of columns write for the internal types.
+// clang-format off
+constexpr enInternalType kScriptGone[] = {
+    DateTimeYearToSecond, DateTimeYearToFraction, NumericIdentity, MediumIntUnsigned,
+};
+// clang-format on
+constexpr auto kScriptRows = Newer<kLanguageRows, kNoRows, kScriptGone>();
+static_assert(std::size(kScriptRows) == 47);
 
 } // namespace
 
-constinit const SMappingSheaf kLanguageMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kLanguageMapping = MakeMappingSheaf<kLanguageRows>();
+constinit const SMappingSheaf kScriptMapping = MakeMappingSheaf<kScriptRows>();

@@ -1,4 +1,4 @@
-// What the SQL side of Progress databases calls the internal types.
+// Progress, its SQL side and its 4GL side.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,8 +7,9 @@ namespace {
 
 using namespace UVDBRows;
 
+// What the SQL side of Progress databases calls the internal types.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kProgressRows[] = {
 //      type                        size  scale   name
     Map(Char,                         2000,         "CHAR"),
     Map(Char,                        31995,         "VARCHAR"),
@@ -64,8 +65,33 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(BigIntUnsigned,                 20,  0,  0, "DECIMAL"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 52);
+static_assert(std::size(kProgressRows) == 52);
+
+// What the 4GL side of Progress databases calls the internal types.
+// clang-format off
+constexpr SUVDBToDBMSDataType kOpenEdgeChanges[] = {
+//      type                        size  scale   name
+    Map(Char,                        31995,         "CHAR"),
+    Map(Char,                   1073741823,         "LONGCHAR1"),
+    Map(VarChar,                     31995,         "VARCHAR"),
+    Map(VarChar,                1073741823,         "LONGCHAR1"),
+    Map(BigInt,                         19,         "INT64"),
+    Map(UInteger,                       10,         "INT64"),
+    Map(DateOra,                        19,  0,  3, "DATETIME"),
+    Map(SmallTimestamp,                 19,  0,  3, "DATETIME"),
+    Map(Timestamp,                      23,  0,  3, "DATETIME"),
+    Map(TimestampZone,                  23,  0,  3, "DATETIME"),
+    Map(DateTimeOffset,                 23,  0,  3, "DATETIME"),
+    Map(DateTimeYearToSecond,           19,  0,  3, "DATETIME"),
+    Map(DateTimeYearToFraction,         23,  0,  3, "DATETIME"),
+    Map(IntegerUnsigned,                10,         "INT64"),
+};
+// clang-format on
+constexpr enInternalType kOpenEdgeGone[] = {BigDateTime, RowVersion};
+constexpr auto kOpenEdgeRows = Newer<kProgressRows, kOpenEdgeChanges, kOpenEdgeGone>();
+static_assert(std::size(kOpenEdgeRows) == 51);
 
 } // namespace
 
-constinit const SMappingSheaf kProgressMapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kProgressMapping = MakeMappingSheaf<kProgressRows>();
+constinit const SMappingSheaf kOpenEdgeMapping = MakeMappingSheaf<kOpenEdgeRows>();

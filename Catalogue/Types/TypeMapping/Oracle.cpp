@@ -1,12 +1,15 @@
-// Oracle 8: numbers have one type, and so have dates; JSON is text that a check holds to it.
+// Oracle, by release.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
+
+#include <iterator>
 
 namespace {
 
 using namespace UVDBRows;
 
+// Oracle 8: numbers have one type, and so have dates; JSON is text that a check holds to it.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kOracle83Rows[] = {
 //      type                          size  scale     name
     Map(Char,                         2000,           "CHAR"),
     Map(Char,                         4000,           "VARCHAR2"),
@@ -108,8 +111,79 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(Polygon,                2147483647,           "SDO_GEOMETRY"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 98);
+static_assert(std::size(kOracle83Rows) == 98);
+
+// Oracle 9: timestamps, intervals and XMLTYPE are there; floating point numbers are decimal inside.
+// clang-format off
+constexpr SUVDBToDBMSDataType kOracle92Changes[] = {
+//      type                          size  scale     name
+    Map(Float,                         126,           "NUMBER"),
+    Map(FloatBetween,                   53,           "DOUBLE PRECISION"),
+    Map(Double,                        126,           "NUMBER"),
+    Map(Time,                           18,           "DATE"),
+    Map(Time,                           18,   1,   9, "TIMESTAMP"),
+    Map(BigTime,                        29,   0,   9, "TIMESTAMP"),
+    Map(BigDateTime,                    29,   0,   9, "TIMESTAMP"),
+    Map(Timestamp,                      29,   0,   9, "TIMESTAMP"),
+    Map(DateTimeOffset,                 36,   0,   9, "TIMESTAMP() WITH TIME ZONE"),
+    Map(IntervalYear,                   12,           "INTERVAL YEAR() TO MONTH"),
+    Map(IntervalYearToMonth,            12,           "INTERVAL YEAR() TO MONTH"),
+    Map(IntervalMonth,                  12,           "INTERVAL YEAR() TO MONTH"),
+    Map(IntervalDay,                    28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalDayToHour,              28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalDayToMinute,            28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalDayToSecond,            28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalHour,                   28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalHourToMinute,           28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalHourToSecond,           28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalMinute,                 28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalMinuteToSecond,         28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalSecond,                 28,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(DateTimeYearToFraction,         29,   0,   9, "TIMESTAMP"),
+    Map(IntervalDayToFraction,          28,   0,   6, "INTERVAL DAY() TO SECOND"),
+    Map(IntervalDayToFraction,          48,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(IntervalDayToFraction,          49,   0,   6, "INTERVAL DAY TO SECOND"),
+    Map(Xml,                    2147483647,           "XMLTYPE"),
+    Map(XmlType,                2147483647,           "XMLTYPE"),
+    Map(Guid,                           36,           "CHAR"),
+    Map(Json,                   4294967295,           "CLOB"),
+};
+constexpr enInternalType kOracle92Gone[] = {
+    VarChar2, LVarChar, LongVarChar, LongVarBit, SmallFloat, DoubleLong, DateTimeYearToHour,
+    DateTimeYearToMinute, DateTimeHourToSecond, URowId, Oid, JsonB, BlobText,
+};
+// clang-format on
+constexpr auto kOracle92Rows = Newer<kOracle83Rows, kOracle92Changes, kOracle92Gone>();
+static_assert(std::size(kOracle92Rows) == 99);
+
+// Oracle 10 and later: binary floating point numbers too. A NUMBER without a precision is known by its
+// size of 0.
+// clang-format off
+constexpr SUVDBToDBMSDataType kOracle102Changes[] = {
+//      type                          size  scale     name
+    Map(LongVarBit,                   2000,           "RAW"),
+    Map(LongVarBit,             4294967295,           "BLOB"),
+    Map(Real,                           24,           "BINARY_FLOAT"),
+    Map(Float,                          53,           "BINARY_DOUBLE"),
+    Map(FloatBetween,                   53,           "BINARY_DOUBLE"),
+    Map(Double,                          0,           "NUMBER"),
+    Map(Double,                         53,           "BINARY_DOUBLE"),
+    Map(Double,                        126,           "FLOAT"),
+    Map(DecFloat,                        0,           "NUMBER"),
+    Map(DecFloat,                       34,           "DOUBLE PRECISION"),
+    Map(DateTimeYearToMinute,           16,           "DATE"),
+    Map(DateTimeHourToSecond,            8,           "DATE"),
+    Map(IntervalDayToFraction,          28,   0,   6, "INTERVAL DAY() TO SECOND"),
+    Map(IntervalDayToFraction,          49,   0,   9, "INTERVAL DAY() TO SECOND()"),
+    Map(URowId,                       4000,           "UROWID"),
+    Map(Oid,                            10,   0,   0, "NUMBER"),
+};
+// clang-format on
+constexpr auto kOracle102Rows = Newer<kOracle92Rows, kOracle102Changes>();
+static_assert(std::size(kOracle102Rows) == 107);
 
 } // namespace
 
-constinit const SMappingSheaf kOracle83Mapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kOracle83Mapping = MakeMappingSheaf<kOracle83Rows>();
+constinit const SMappingSheaf kOracle92Mapping = MakeMappingSheaf<kOracle92Rows>();
+constinit const SMappingSheaf kOracle102Mapping = MakeMappingSheaf<kOracle102Rows>();

@@ -1,4 +1,4 @@
-// PostgreSQL up to 8.2: no types of its own for UUID, XML and JSON yet.
+// PostgreSQL, by release, and the databases that are built on it.
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 
 #include <iterator>
@@ -7,9 +7,10 @@ namespace {
 
 using namespace UVDBRows;
 
+// PostgreSQL up to 8.2: no types of its own for UUID, XML and JSON yet.
 // Order is meaning: the rungs of a type climb, and its last rung takes what the others refuse.
 // clang-format off
-constexpr SUVDBToDBMSDataType kRows[] = {
+constexpr SUVDBToDBMSDataType kPostgreSql82Rows[] = {
 //      type                          size  scale
     Map(Char,                     10485760,          "CHAR"),
     Map(Char,                   2147483647,          "TEXT"),
@@ -106,8 +107,56 @@ constexpr SUVDBToDBMSDataType kRows[] = {
     Map(Polygon,                1073741823,          "POLYGON"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 93);
+static_assert(std::size(kPostgreSql82Rows) == 93);
+
+// PostgreSQL 8.3 and later, with the types that came since. The database is taken to be UTF-8, where national
+// characters are characters. A NUMERIC without parameters takes the floating decimals of other databases.
+// clang-format off
+constexpr SUVDBToDBMSDataType kPostgreSql84Changes[] = {
+//      type                          size  scale
+    Map(SmallSerial,                     5,          "SMALLSERIAL"),
+    Map(Geography,              1073741823,          "GEOGRAPHY"),
+    Map(Xml,                    1073741823,          "XML"),
+    Map(XmlType,                1073741823,          "XML"),
+    Map(Guid,                           36,          "UUID"),
+    Map(Json,                   1073741823,          "JSON"),
+    Map(JsonB,                   268435455,          "JSONB"),
+};
+// clang-format on
+constexpr auto kPostgreSql84Rows = Newer<kPostgreSql82Rows, kPostgreSql84Changes>();
+static_assert(std::size(kPostgreSql84Rows) == 93);
+
+// The databases built on PostgreSQL that keep its types.
+// clang-format off
+constexpr SUVDBToDBMSDataType kPostgreSqlForkChanges[] = {
+//      type                          size  scale
+    Map(Char,                     10485760,          "CHAR"),
+    Map(Decimal,                      1000, 0, 1000, "DECIMAL"),
+    Map(Number,                       1000, 0, 1000, "DECIMAL"),
+    Map(DecFloat,                       53,          "DOUBLE PRECISION"),
+    Map(SmallSerial,                    10,          "SERIAL"),
+    Map(Oid,                            10,          "BIGINT"),
+    Map(NumericIdentity,                38, 0,   38, "NUMERIC"),
+};
+constexpr enInternalType kPostgreSqlForkGone[] = {
+    UniChar, WChar, SdoGeometry, Geometry, IntervalYear, IntervalMonth, IntervalDay, IntervalDayToHour,
+    IntervalDayToMinute, IntervalHour, IntervalHourToMinute, IntervalHourToSecond, IntervalMinute,
+    IntervalMinuteToSecond, IntervalSecond, DateTimeYearToDay, DateTimeYearToHour, DateTimeYearToMinute,
+    DateTimeHourToMinute, DateTimeHourToSecond, DateTimeHourToFraction, IntegerArray, VarCharArray,
+    Geography, Xml, XmlType, Json, JsonB, Point, Polygon,
+};
+// clang-format on
+constexpr auto kPostgreSqlForkRows = Newer<kPostgreSql84Rows, kPostgreSqlForkChanges, kPostgreSqlForkGone>();
+static_assert(std::size(kPostgreSqlForkRows) == 58);
+
+// EnterpriseDB, by the names that it shares with PostgreSQL.
+constexpr enInternalType kEnterpriseDbGone[] = {Oid};
+constexpr auto kEnterpriseDbRows = Newer<kPostgreSqlForkRows, kNoRows, kEnterpriseDbGone>();
+static_assert(std::size(kEnterpriseDbRows) == 57);
 
 } // namespace
 
-constinit const SMappingSheaf kPostgreSql82Mapping = MakeMappingSheaf<kRows>();
+constinit const SMappingSheaf kPostgreSql82Mapping = MakeMappingSheaf<kPostgreSql82Rows>();
+constinit const SMappingSheaf kPostgreSql84Mapping = MakeMappingSheaf<kPostgreSql84Rows>();
+constinit const SMappingSheaf kPostgreSqlForkMapping = MakeMappingSheaf<kPostgreSqlForkRows>();
+constinit const SMappingSheaf kEnterpriseDbMapping = MakeMappingSheaf<kEnterpriseDbRows>();
