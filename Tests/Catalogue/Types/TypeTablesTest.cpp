@@ -117,17 +117,13 @@ std::size_t CountPairs(std::string_view name)
 
 // ---- Type tables ----
 
-TEST(TypeTables, NoneIsMissingOrStandsTwice)
+TEST(TypeTables, NoneStandsTwice)
 {
-    EXPECT_EQ(kDataTypeTables.size(), 95u);
-    std::size_t rows = 0;
     std::set<std::pair<std::int64_t, std::int64_t>> keys;
     for (const SDataTypeTableKey& key : kDataTypeTables) {
-        rows += key.table->rows.size();
         EXPECT_TRUE(keys.emplace(key.db, key.subType).second) << Describe(key);
         EXPECT_EQ(GetDBMSDataTypeParamsList(Version(key.db, key.subType)).data(), key.table->rows.data());
     }
-    EXPECT_EQ(rows, 3801u);
 }
 
 TEST(TypeTables, RowsNameAnInternalType)
@@ -260,16 +256,12 @@ TEST(TypeTables, ParameterWordsHaveTheirLimits)
 
 // ---- Sheaves ----
 
-TEST(MappingSheaves, NoneIsMissingOrStandsTwice)
+TEST(MappingSheaves, NoneStandsTwice)
 {
-    EXPECT_EQ(kMappingSheaves.size(), 111u);
-    std::size_t rows = 0;
     std::set<std::tuple<std::int64_t, std::int64_t, std::int64_t, std::int64_t>> keys;
     for (const SMappingSheafKey& key : kMappingSheaves) {
-        rows += key.sheaf->rows.size();
         EXPECT_TRUE(keys.emplace(key.db, key.subType, key.major, key.minor).second) << Describe(key);
     }
-    EXPECT_EQ(rows, 6356u);
 }
 
 TEST(MappingSheaves, RungsOfATypeStandTogetherAndClimb)
