@@ -1,23 +1,10 @@
 #include "Preparation/Macro.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace MacroPreprocessorChecker::internal {
 
 namespace {
-
-bool IsWhite(const Token& token)
-{
-    return token.comment || token.SkipWhenNextOrPrev();
-}
-
-// The next significant token of the same logical line, or null.
-const Token* NextOnLine(const Token* token)
-{
-    const Token* const next = NextSignificant(token);
-    return next != nullptr && next->sourceLine == token->sourceLine ? next : nullptr;
-}
 
 // Two "#" side by side.
 bool IsHashHash(const Token* token)
@@ -27,7 +14,7 @@ bool IsHashHash(const Token* token)
 
 } // namespace
 
-Macro::Macro(const Token* hash, FileNames& names) : m_IsDefinedInSource(true), m_Tokens(names)
+Macro::Macro(const Token* hash, TokenStore& store) : m_Tokens(store)
 {
     const Token* const define = StartsDirective(hash) ? NextOnLine(hash) : nullptr;
     const Token* const nameToken =
@@ -36,19 +23,34 @@ Macro::Macro(const Token* hash, FileNames& names) : m_IsDefinedInSource(true), m
         throw Error(hash->location, "bad macro syntax");
 }
 
-Macro::Macro(const std::string& left, const std::string& value, FileNames& names) : m_Tokens(names)
+Macro::Macro(const std::string& left, const std::string& value, TokenStore& store) : m_Tokens(store)
 {
-    TokenList text(names);
+    TokenList text(store);
     ErrorList errors;
     text.readtext(left + ' ' + value, std::string(), errors, false);
     const Token* nameToken = text.first;
-    while (nameToken != nullptr && IsWhite(*nameToken))
+    while (nameToken != nullptr && nameToken->IsWhite())
         nameToken = nameToken->next;
     if (!errors.empty() || nameToken == nullptr || !parseDefine(nameToken))
         throw std::runtime_error("bad macro syntax. macroname=" + left + " value=" + value);
 }
 
-Macro::Macro(enKind kind, FileNames& names) : m_Kind(kind), m_Tokens(names) {}
+Macro::Macro(enKind kind, TokenStore& store) : m_Kind(kind), m_Tokens(store)
+{
+    switch (kind) {
+    case KIND_DEFINED:
+        break;
+    case KIND_FILE:
+        m_Name = "__FILE__";
+        break;
+    case KIND_LINE:
+        m_Name = "__LINE__";
+        break;
+    case KIND_COUNTER:
+        m_Name = "__COUNTER__";
+        break;
+    }
+}
 
 // A "(" right behind the name begins the parameters; a continuation between the two counts as nothing.
 bool Macro::parseDefine(const Token* nameToken)
@@ -57,13 +59,12 @@ bool Macro::parseDefine(const Token* nameToken)
         return false;
     m_Name = nameToken->str;
     const std::uint32_t line = nameToken->sourceLine;
-    std::unordered_map<std::string, int> indexes;
     const Token* token = nameToken->next;
     while (token != nullptr && token->IsNextLineToken())
         token = token->next;
     m_IsFunctionLike = token != nullptr && token->op == '(' && token->sourceLine == line;
     if (m_IsFunctionLike) {
-        token = ParseParameters(token, indexes);
+        token = ParseParameters(token);
         if (token == nullptr)
             return false;
         token = token->next;
@@ -72,48 +73,58 @@ bool Macro::parseDefine(const Token* nameToken)
     }
     CopyReplacement(token, line);
     m_WantsExpanded.resize(m_Parameters.size());
-    BuildParts(indexes);
+    BuildParts();
 
     const Token* end = m_Tokens.last;
-    while (end != nullptr && (IsWhite(*end) || end->op == '{' || end->op == '}'))
+    while (end != nullptr && (end->IsWhite() || end->op == '{' || end->op == '}'))
         end = end->previous;
     m_EndsStatement = end != nullptr && end->op == ';';
     return true;
 }
 
 // Returns: the ")", or null if the parameters aren't well formed.
-const Token* Macro::ParseParameters(const Token* open, std::unordered_map<std::string, int>& indexes)
+const Token* Macro::ParseParameters(const Token* open)
 {
-    const auto add = [&](const std::string& parameter) {
-        m_Parameters.push_back(parameter);
-        return indexes.try_emplace(parameter, static_cast<int>(indexes.size())).second;
-    };
     const Token* token = NextOnLine(open);
     if (token != nullptr && token->op == ')')
         return token;
+    const auto add = [&](std::string_view parameter) {
+        m_Parameters.push_back({parameter, static_cast<int>(m_Parameters.size())});
+    };
     while (token != nullptr) {
         if (token->name) {
-            if (!add(token->str))
-                return nullptr;
+            add(token->str);
             token = NextOnLine(token);
             m_IsVariadic = token != nullptr && token->str == "...";
             if (m_IsVariadic)
                 token = NextOnLine(token);
         } else if (token->str == "...") {
-            if (!add("__VA_ARGS__"))
-                return nullptr;
+            add("__VA_ARGS__");
             m_IsVariadic = true;
             token = NextOnLine(token);
         } else {
             return nullptr;
         }
-        if (token != nullptr && token->op == ')')
-            return token;
+        if (token != nullptr && token->op == ')') {
+            std::ranges::sort(m_Parameters, {}, &SParameter::name);
+            const bool repeats =
+                std::ranges::adjacent_find(m_Parameters, {}, &SParameter::name) != m_Parameters.end();
+            return repeats ? nullptr : token;
+        }
         if (token == nullptr || token->op != ',' || m_IsVariadic)
             return nullptr;
         token = NextOnLine(token);
     }
     return nullptr;
+}
+
+// The index of the parameter that a token names, or -1.
+int Macro::ParameterOf(const Token* token) const
+{
+    if (m_Parameters.empty() || token == nullptr || !token->name)
+        return -1;
+    const auto at = std::ranges::lower_bound(m_Parameters, token->str, {}, &SParameter::name);
+    return at == m_Parameters.end() || at->name != token->str ? -1 : at->index;
 }
 
 // The tokens up to the line's end, without white space around them. A comment may hold line ends, and one of
@@ -122,24 +133,18 @@ void Macro::CopyReplacement(const Token* from, std::uint32_t line)
 {
     for (const Token* token = from; token != nullptr && token->sourceLine == line; token = token->next) {
         if (token->comment) {
-            Location end = token->location;
-            ++end.col;
             if (m_Tokens.last != nullptr && !m_Tokens.last->SkipWhenNextOrPrev())
-                m_Tokens.push_back(new TokenSpaces(token->location, end, token->hidden));
+                m_Tokens.push_back(TOKEN_SPACES, " ", token->location, token->hidden);
         } else if (m_Tokens.last != nullptr || !token->SkipWhenNextOrPrev()) {
-            m_Tokens.push_back(token->getCopy());
+            m_Tokens.push_back(*token);
         }
     }
     while (m_Tokens.last != nullptr && m_Tokens.last->SkipWhenNextOrPrev())
         m_Tokens.deleteToken(m_Tokens.last);
 }
 
-void Macro::BuildParts(const std::unordered_map<std::string, int>& indexes)
+void Macro::BuildParts()
 {
-    const auto parameterOf = [&](const Token* token) {
-        const auto at = token != nullptr && token->name ? indexes.find(token->str) : indexes.end();
-        return at == indexes.end() ? -1 : at->second;
-    };
     bool isBehindHashHash = false;
     for (const Token* token = m_Tokens.first; token != nullptr; token = token->next) {
         if (IsHashHash(token)) {
@@ -155,10 +160,10 @@ void Macro::BuildParts(const std::unordered_map<std::string, int>& indexes)
         }
         if (isBehindHashHash && token->SkipWhenNextOrPrev())
             continue;
-        SMacroPart part{.token = token, .parameter = parameterOf(token)};
+        SMacroPart part{.token = token, .parameter = ParameterOf(token)};
         if (m_IsFunctionLike && token->op == '#') {
             const Token* const operand = NextSignificant(token);
-            part.parameter = parameterOf(operand);
+            part.parameter = ParameterOf(operand);
             part.isStringized = part.parameter >= 0;
             if (part.isStringized)
                 part.token = token = operand;
@@ -186,7 +191,7 @@ std::string Macro::ReplacementText() const
 {
     std::string text;
     for (const Token* token = m_Tokens.first; token != nullptr; token = token->next)
-        if (!IsWhite(*token))
+        if (!token->IsWhite())
             text += token->str;
     return text;
 }

@@ -4,11 +4,12 @@
 #include "Preparation/MacroTokens.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace MacroPreprocessorChecker::internal {
@@ -42,15 +43,15 @@ public:
     class wrongNumberOfParameters : public Error
     {
     public:
-        wrongNumberOfParameters(const Location& where, const std::string& macro)
-            : Error(where, "Wrong number of parameters for macro '" + macro + "'.")
+        wrongNumberOfParameters(const Location& where, std::string_view macro)
+            : Error(where, "Wrong number of parameters for macro '" + std::string(macro) + "'.")
         {}
     };
     class invalidHashHash : public Error
     {
     public:
-        invalidHashHash(const Location& where, const std::string& macro)
-            : Error(where, "Invalid ## usage when expanding '" + macro + "'.")
+        invalidHashHash(const Location& where, std::string_view macro)
+            : Error(where, "Invalid ## usage when expanding '" + std::string(macro) + "'.")
         {}
     };
 
@@ -64,24 +65,23 @@ public:
     };
 
     // From the "#" of a "#define" line, whose tokens are copied. Throws: Error if the line is none.
-    // Borrows `names`, which outlives the macro, as the other constructors do.
-    Macro(const Token* hash, FileNames& names);
+    // Borrows `store`, which outlives the macro, as the other constructors do, and the texts of the tokens.
+    Macro(const Token* hash, TokenStore& store);
 
     // From a text: `left` is NAME or NAME(PARAMETERS), `value` the replacement. Throws: std::runtime_error if
     // it can't be read.
-    Macro(const std::string& left, const std::string& value, FileNames& names);
+    Macro(const std::string& left, const std::string& value, TokenStore& store);
 
     // One of the computed macros.
-    Macro(enKind kind, FileNames& names);
+    Macro(enKind kind, TokenStore& store);
 
     Macro(const Macro&) = delete;
     Macro& operator=(const Macro&) = delete;
 
-    const std::string& Name() const { return m_Name; }
+    std::string_view Name() const { return m_Name; }
     enKind Kind() const { return m_Kind; }
     bool IsFunctionLike() const { return m_IsFunctionLike; }
     bool IsVariadic() const { return m_IsVariadic; }
-    bool IsValueDefinedInSource() const { return m_IsDefinedInSource; }
     std::size_t ParameterCount() const { return m_Parameters.size(); }
     const std::vector<SMacroPart>& Parts() const { return m_Parts; }
 
@@ -105,44 +105,73 @@ public:
     mutable bool isExpanding = false;
 
 private:
-    bool parseDefine(const Token* nameToken);
-    const Token* ParseParameters(const Token* open, std::unordered_map<std::string, int>& indexes);
-    void CopyReplacement(const Token* from, std::uint32_t line);
-    void BuildParts(const std::unordered_map<std::string, int>& indexes);
+    struct SParameter
+    {
+        std::string_view name;
+        int index = 0;
+    };
 
-    std::string m_Name;
+    bool parseDefine(const Token* nameToken);
+    const Token* ParseParameters(const Token* open);
+    int ParameterOf(const Token* token) const;
+    void CopyReplacement(const Token* from, std::uint32_t line);
+    void BuildParts();
+
+    std::string_view m_Name;
     enKind m_Kind = KIND_DEFINED;
     bool m_IsFunctionLike = false;
     bool m_IsVariadic = false;
-    bool m_IsDefinedInSource = false;
     bool m_IsPlain = false;
     bool m_HasOpenHashHash = false;
     bool m_EndsStatement = false;
-    std::vector<std::string> m_Parameters;
+    std::vector<SParameter> m_Parameters; // by name
     std::vector<bool> m_WantsExpanded;
     std::vector<SMacroPart> m_Parts;
     std::vector<SMacroItem> m_PlainItems;
-    TokenList m_Tokens; // the replacement
+    TokenList m_Tokens; // the replacement; its texts are the source's
 };
 
+// The macros that are defined, by the numbers of their names.
 class MacroTable
 {
 public:
-    // Null if the name is no macro.
-    const Macro* Find(const std::string& name) const
+    // Borrows `names`, which outlives the table.
+    explicit MacroTable(NameTable& names) : m_Names(names) {}
+
+    // Null if the token is no macro's name.
+    const Macro* Find(const Token& token) const
     {
-        const auto at = m_Macros.find(name);
-        return at == m_Macros.end() ? nullptr : at->second.get();
+        if (!token.name)
+            return nullptr;
+        // the reader numbers the names of the source; those that a macro makes are looked up
+        const std::uint32_t number = token.nameNumber != 0 ? token.nameNumber : m_Names.Find(token.str);
+        return number < m_Macros.size() ? m_Macros[number].get() : nullptr;
     }
-    void Replace(const std::string& name, std::unique_ptr<Macro> macro) { m_Macros[name] = std::move(macro); }
-    void Add(const std::string& name, std::unique_ptr<Macro> macro)
+    // Replaces an earlier macro of the name.
+    void Replace(std::unique_ptr<Macro> macro) { At(macro->Name()) = std::move(macro); }
+    // Keeps an earlier macro of the name.
+    void Add(std::unique_ptr<Macro> macro)
     {
-        m_Macros.try_emplace(name, std::move(macro));
+        if (std::unique_ptr<const Macro>& known = At(macro->Name()); known == nullptr)
+            known = std::move(macro);
     }
-    void Erase(const std::string& name) { m_Macros.erase(name); }
+    void Erase(std::string_view name)
+    {
+        if (const std::uint32_t number = m_Names.Find(name); number != 0 && number < m_Macros.size())
+            m_Macros[number].reset();
+    }
 
 private:
-    std::unordered_map<std::string, std::unique_ptr<Macro>> m_Macros;
+    std::unique_ptr<const Macro>& At(std::string_view name)
+    {
+        const std::uint32_t number = m_Names.Number(name);
+        if (number >= m_Macros.size())
+            m_Macros.resize(number + 1);
+        return m_Macros[number];
+    }
+
+    NameTable& m_Names;
+    std::vector<std::unique_ptr<const Macro>> m_Macros; // null: not defined
 };
 
 } // namespace MacroPreprocessorChecker::internal

@@ -67,20 +67,20 @@ public:
             if (m_At->str == "defined")
                 Add(IsDefined() ? "1" : "0");
             else if (m_At->str == "sizeof")
-                Add(std::to_string(SizeOf()));
+                Add(m_Result.Keep(std::to_string(SizeOf())));
             else if (m_At->name && !IsOperatorWord(*m_At, m_Result.last))
                 Add("0");
             else if (m_At->number && IsIntegerText(m_At->str))
-                Add(toString(stringToLL(m_At->str)));
+                Add(m_Result.Keep(toString(stringToLL(m_At->str))));
             else if (IsCharacterText(m_At->str))
-                Add(toString(CharacterValue(m_At->str)));
+                Add(m_Result.Keep(toString(CharacterValue(m_At->str))));
             else
                 Add(m_At->str);
         }
     }
 
 private:
-    void Add(std::string text) { m_Result.push_back(new Token(std::move(text), m_At->location)); }
+    void Add(std::string_view text) { m_Result.push_back(text, m_At->location); }
 
     bool GoOn()
     {
@@ -100,7 +100,7 @@ private:
             throw SConditionSyntax();
         if (!m_At->name)
             throw SConditionSyntax();
-        const bool isDefined = m_Macros.Find(m_At->str) != nullptr;
+        const bool isDefined = m_Macros.Find(*m_At) != nullptr;
         if (isOpen && (!GoOn() || m_At->op != ')'))
             throw SConditionSyntax();
         return isDefined;
@@ -145,25 +145,25 @@ private:
 
 bool Checker::EvaluateCondition(SRun& run, const Token& directive, bool& holds)
 {
-    const std::string failure = "failed to evaluate #" + directive.str + " condition";
-    TokenList expanded(files);
-    TokenList condition(files);
+    const std::string failure = "failed to evaluate #" + std::string(directive.str) + " condition";
+    TokenList expanded(store);
+    TokenList condition(store);
     try {
         if (directive.next != nullptr && directive.next->sourceLine == directive.sourceLine)
             run.expander.ExpandLine(directive.next, true,
                                     [&, count = std::size_t{0}](const Token& token) mutable {
                                         if (token.SkipWhenNextOrPrev())
                                             return;
-                                        if (++count > presets.expansionLimit / sizeof(Token))
+                                        if (++count > presets.expansionLimit / MacroExpander::kTokenCost)
                                             throw std::runtime_error("the condition is too long");
-                                        expanded.push_back(token.getCopy());
+                                        expanded.push_back(token);
                                     });
         ConditionBuilder(run.macros, expanded, condition).Build();
         condition.constFold();
     } catch (const SConditionSyntax&) {
-        return FailRun(directive, "Syntax error in #" + directive.str);
+        return FailRun(directive, "Syntax error in #" + std::string(directive.str));
     } catch (const Macro::Error& error) {
-        return FailRun(directive, "failed to expand '#" + directive.str + "', " + error.what());
+        return FailRun(directive, "failed to expand '#" + std::string(directive.str) + "', " + error.what());
     } catch (const std::runtime_error& error) {
         return FailRun(directive, failure + ": " + error.what());
     }

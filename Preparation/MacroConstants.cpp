@@ -87,7 +87,7 @@ void FoldBinary(TokenList& list, Token* from, Fold fold)
             *token, [&] { return stringToLL(left->str); }, [&] { return stringToLL(token->next->str); });
         if (!value)
             continue;
-        left->setstr(toString(*value));
+        left->setstr(list.Keep(toString(*value)));
         list.deleteToken(token->next);
         list.deleteToken(token);
         token = left;
@@ -245,7 +245,7 @@ void TokenList::constFoldUnaryNotPosNeg(Token* from)
             else if (token->op == '-')
                 value = 0 - bits;
             if (value) {
-                token->setstr(toString(FromBits(*value)));
+                token->setstr(Keep(toString(FromBits(*value))));
                 deleteToken(token->next);
             }
         }

@@ -21,12 +21,6 @@ constexpr std::size_t kMostIncludes = 400;
 constexpr std::size_t kLeastEntered = 256;
 constexpr std::size_t kEnteredForExpanded = 4;
 
-const Token* NextOnLine(const Token& token)
-{
-    const Token* const next = NextSignificant(&token);
-    return next != nullptr && next->sourceLine == token.sourceLine ? next : nullptr;
-}
-
 bool IsConditional(std::string_view name)
 {
     return name == "if" || name == "ifdef" || name == "ifndef" || name == "elif" || name == "else" ||
@@ -49,7 +43,7 @@ bool IsHeaderName(std::string_view text)
 
 bool Checker::RunDirective(SRun& run, const Token* hash)
 {
-    const Token* const name = NextOnLine(*hash);
+    const Token* const name = NextOnLine(hash);
     const bool isNamed = name != nullptr && name->name;
     if (isNamed && IsConditional(name->str)) {
         if (!RunConditional(run, *name))
@@ -63,10 +57,10 @@ bool Checker::RunDirective(SRun& run, const Token* hash)
             if (!RunMessage(*name))
                 return false;
         } else if (name->str == "undef") {
-            if (const Token* const macro = NextOnLine(*name))
+            if (const Token* const macro = NextOnLine(name))
                 run.macros.Erase(macro->str);
         } else if (name->str == "pragma") {
-            const Token* const once = NextOnLine(*name);
+            const Token* const once = NextOnLine(name);
             if (once != nullptr && once->str == "once")
                 run.onceFiles.insert(realFilename(run.current.file));
         }
@@ -78,15 +72,13 @@ bool Checker::RunDirective(SRun& run, const Token* hash)
 bool Checker::RunMessage(const Token& directive)
 {
     std::string message;
-    for (const Token* token = NextOnLine(directive); token != nullptr; token = NextOnLine(*token)) {
+    for (const Token* token = NextOnLine(&directive); token != nullptr; token = NextOnLine(token)) {
         if (!message.empty() && IsWordCharacter(message.back()) && IsWordCharacter(token->str.front()))
             message += ' ';
         message += token->str;
     }
     const bool isError = directive.str == "error";
     Report(isError ? ERROR_DIRECTIVE : WARNING_DIRECTIVE, directive.location, std::move(message));
-    if (isError)
-        output->clear();
     return !isError;
 }
 
@@ -94,13 +86,13 @@ bool Checker::RunDefine(SRun& run, const Token* hash)
 {
     std::unique_ptr<Macro> macro;
     try {
-        macro = std::make_unique<Macro>(hash, files);
+        macro = std::make_unique<Macro>(hash, store);
     } catch (const Macro::Error&) {
         return FailRun(*hash, "Failed to parse #define");
     }
-    const std::string name = macro->Name();
+    const std::string name(macro->Name());
     if (!presets.undefines.contains(name))
-        run.macros.Replace(name, std::move(macro));
+        run.macros.Replace(std::move(macro));
     else if (run.undefinesTokens != nullptr)
         run.undefinesTokens->try_emplace(name, macro->ReplacementText());
     AddAllTokensCurrLine(run, !run.isExpanding);
@@ -111,11 +103,11 @@ bool Checker::RunDefine(SRun& run, const Token* hash)
 
 bool Checker::RunConditional(SRun& run, const Token& directive)
 {
-    const std::string& name = directive.str;
+    const std::string_view name = directive.str;
     if (name == "if" || name == "ifdef" || name == "ifndef")
         return OpenConditional(run, directive);
     if (run.conditionals.size() == 1)
-        return FailRun(directive, "#" + name + " without #if");
+        return FailRun(directive, "#" + std::string(name) + " without #if");
     if (name == "endif") {
         run.conditionals.pop_back();
         return true;
@@ -143,10 +135,10 @@ bool Checker::OpenConditional(SRun& run, const Token& directive)
             if (!EvaluateCondition(run, directive, holds))
                 return false;
         } else {
-            const Token* const macro = NextOnLine(directive);
+            const Token* const macro = NextOnLine(&directive);
             if (macro == nullptr || !macro->name)
-                return FailRun(directive, "Syntax error in #" + directive.str);
-            holds = (run.macros.Find(macro->str) != nullptr) == (directive.str == "ifdef");
+                return FailRun(directive, "Syntax error in #" + std::string(directive.str));
+            holds = (run.macros.Find(*macro) != nullptr) == (directive.str == "ifdef");
         }
         opened.state = holds ? SRun::STATE_TRUE : SRun::STATE_ELSE_IS_TRUE;
     }
@@ -158,15 +150,15 @@ bool Checker::OpenConditional(SRun& run, const Token& directive)
 
 bool Checker::RunInclude(SRun& run, const Token& directive)
 {
-    const Token* const name = NextOnLine(directive);
-    std::string header = name == nullptr ? std::string() : name->str;
+    const Token* const name = NextOnLine(&directive);
+    std::string header = name == nullptr ? std::string() : std::string(name->str);
     if (name != nullptr && !IsHeaderName(header)) {
         header.clear();
         try {
             run.expander.ExpandLine(directive.next, false, [&](const Token& token) {
                 const bool isOpen = header.empty() || !IsHeaderName(header);
                 if (token.SkipWhenNextOrPrev() ? isOpen && !header.empty() : isOpen)
-                    header += token.strToFile();
+                    header += token.str;
             });
         } catch (const Macro::Error& error) {
             return FailRun(directive, std::string("failed to expand '#include', ") + error.what());
@@ -205,7 +197,6 @@ bool Checker::EnterHeader(SRun& run, const Location& directive, const std::strin
                "what '" + header + "' and the files before it bring in goes beyond the limit of " +
                    std::to_string(presets.expansionLimit) + " times " + std::to_string(kEnteredForExpanded) +
                    " bytes.");
-        output->clear();
         return false;
     }
     if (!isEntered)

@@ -16,25 +16,33 @@ namespace {
 constexpr std::size_t kStepsForByte = 1;
 constexpr std::size_t kLeastItemSize = 4;
 
+constexpr std::size_t kMostReserved = 16; // arguments
+constexpr std::size_t kMostSpares = 64;   // lists of items
+constexpr std::size_t kLargestSpare = 1024;
+
 bool IsWhite(const SMacroItem& item)
 {
     return item.token->SkipWhenNextOrPrev();
 }
 
+// What white space counts for while it is held, by its kind: however long it is, it isn't copied.
+constexpr std::size_t kHeldWhite[] = {0, 7, 6, 7};
+
+std::size_t HeldSize(const Token& token)
+{
+    return token.SkipWhenNextOrPrev() ? kHeldWhite[token.kind] : std::max(token.str.size(), kLeastItemSize);
+}
+
 // The text is what counts, save for a line's end, which breaks the output into tokens.
 std::size_t GivenSize(const Token& token)
 {
-    if (token.IsNextLineToken())
-        return 2 * sizeof(Token);
-    if (token.SkipWhenNextOrPrev())
-        return static_cast<const TokenSpaces&>(token).raw.size();
-    return std::max<std::size_t>(token.str.size(), 1);
+    return token.IsNextLineToken() ? 2 * MacroExpander::kTokenCost : token.str.size();
 }
 
 } // namespace
 
-MacroExpander::MacroExpander(const MacroTable& macros, FileNames& names, std::size_t limit, Follow follow)
-    : m_Macros(macros), m_Made(names), m_Limit(limit), m_Follow(std::move(follow)), m_Where(names)
+MacroExpander::MacroExpander(const MacroTable& macros, TokenStore& store, std::size_t limit, Follow follow)
+    : m_Macros(macros), m_Store(store), m_Made(store), m_Limit(limit), m_Follow(std::move(follow))
 {}
 
 MacroExpander::~MacroExpander() = default;
@@ -80,6 +88,8 @@ void MacroExpander::Start(Token* from, std::uint32_t line, const Sink& sink)
     m_OnlyLine = line;
     m_Sink = &sink;
     m_Held = 0;
+    m_Made.clear();
+    m_Blank = nullptr;
     m_Jobs.emplace_back();
 }
 
@@ -88,8 +98,6 @@ void MacroExpander::Stop()
     while (!m_Contexts.empty())
         PopContext();
     m_Jobs.clear();
-    m_Made.clear();
-    m_Blank = nullptr;
 }
 
 // ---- Reading ----
@@ -142,7 +150,7 @@ void MacroExpander::ReadItem(SMacroItem item)
         return Emit(item);
     if (!token.name || item.isPainted)
         return Emit(item);
-    const Macro* const macro = m_Macros.Find(token.str);
+    const Macro* const macro = m_Macros.Find(token);
     if (macro == nullptr)
         return Emit(item);
     if (macro->isExpanding)
@@ -191,7 +199,7 @@ void MacroExpander::EmitComputed(const Macro& macro)
 {
     switch (macro.Kind()) {
     case Macro::KIND_FILE:
-        return Emit({Make(escapeString(m_Where.file()))});
+        return Emit({Make(escapeString(m_Store.FileName(m_Where)))});
     case Macro::KIND_LINE:
         return Emit({Make(std::to_string(m_Where.line))});
     default:
@@ -223,7 +231,7 @@ bool MacroExpander::TakeOpenParenthesis()
     if (m_Jobs.size() > 1)
         return false;
     Token* open = m_Source;
-    while (IsSourceToken(open) && (open->comment || open->SkipWhenNextOrPrev()))
+    while (IsSourceToken(open) && open->IsWhite())
         open = m_Follow(*open);
     if (!IsSourceToken(open) || open->op != '(')
         return false;
@@ -244,7 +252,7 @@ bool MacroExpander::NextOfArguments(SMacroItem& item)
         if (context.at != context.end) {
             item = *context.at++;
             if (item.token->name && !item.isPainted) {
-                const Macro* const macro = m_Macros.Find(item.token->str);
+                const Macro* const macro = m_Macros.Find(*item.token);
                 item.isPainted = macro != nullptr && macro->isExpanding;
             }
             return true;
@@ -255,7 +263,7 @@ bool MacroExpander::NextOfArguments(SMacroItem& item)
         return false;
     if (m_Source->sourceLine != m_LastTaken->sourceLine) {
         m_LastTaken = m_Source;
-        if (!m_Source->comment && !m_Source->SkipWhenNextOrPrev()) {
+        if (!m_Source->IsWhite()) {
             item = {MakeBlank()};
             return true;
         }
@@ -272,11 +280,13 @@ MacroExpander::SCall MacroExpander::CollectArguments(const Macro& macro)
 {
     SCall call;
     call.macro = &macro;
-    call.arguments.emplace_back();
+    call.arguments.reserve(std::clamp<std::size_t>(macro.ParameterCount(), 1, kMostReserved));
+    call.arguments.push_back({.items = NewItems()});
     std::size_t depth = 1;
     for (SMacroItem item;;) {
         if (!NextOfArguments(item))
-            throw Macro::Error(m_Where, "no end of the arguments of macro '" + macro.Name() + "'.");
+            throw Macro::Error(m_Where,
+                               "no end of the arguments of macro '" + std::string(macro.Name()) + "'.");
         const char op = item.token->op;
         if (op == '(')
             ++depth;
@@ -284,16 +294,17 @@ MacroExpander::SCall MacroExpander::CollectArguments(const Macro& macro)
             break;
         const bool isRest = macro.IsVariadic() && call.arguments.size() == macro.ParameterCount();
         if (op == ',' && depth == 1 && !isRest) {
-            call.arguments.emplace_back();
+            call.arguments.push_back({.items = NewItems()});
             m_Held += sizeof(Items);
         } else {
-            Append(call.arguments.back(), item);
+            Append(call.arguments.back().items, item);
         }
     }
-    for (Items& argument : call.arguments) {
-        for (auto edge = argument.begin(); edge != argument.end() && IsWhite(*edge); ++edge)
+    for (SArgument& argument : call.arguments) {
+        Items& items = argument.items;
+        for (auto edge = items.begin(); edge != items.end() && IsWhite(*edge); ++edge)
             edge->isEdge = true;
-        for (auto edge = argument.rbegin(); edge != argument.rend() && IsWhite(*edge); ++edge)
+        for (auto edge = items.rbegin(); edge != items.rend() && IsWhite(*edge); ++edge)
             edge->isEdge = true;
     }
     CheckArgumentCount(call);
@@ -306,20 +317,18 @@ void MacroExpander::CheckArgumentCount(SCall& call) const
 {
     const Macro& macro = *call.macro;
     const std::size_t wanted = macro.ParameterCount();
-    if (wanted == 0 && call.arguments.size() == 1 && std::ranges::all_of(call.arguments[0], IsWhite))
+    if (wanted == 0 && call.arguments.size() == 1 && std::ranges::all_of(call.arguments[0].items, IsWhite))
         call.arguments.clear();
     else if (macro.IsVariadic() && call.arguments.size() + 1 == wanted)
         call.arguments.emplace_back();
     if (call.arguments.size() != wanted)
         throw Macro::wrongNumberOfParameters(m_Where, macro.Name());
-    call.expanded.resize(wanted);
-    call.isExpanded.resize(wanted);
 }
 
 bool MacroExpander::HasMacroNames(const Items& items) const
 {
     return std::ranges::any_of(items, [&](const SMacroItem& item) {
-        return item.token->name && !item.isPainted && m_Macros.Find(item.token->str) != nullptr;
+        return item.token->name && !item.isPainted && m_Macros.Find(*item.token) != nullptr;
     });
 }
 
@@ -327,29 +336,34 @@ bool MacroExpander::HasMacroNames(const Items& items) const
 void MacroExpander::ContinueCall(SCall call)
 {
     for (; call.current < call.arguments.size(); ++call.current) {
-        if (!call.macro->WantsExpanded(call.current) || !HasMacroNames(call.arguments[call.current]))
+        const Items& argument = call.arguments[call.current].items;
+        if (!call.macro->WantsExpanded(call.current) || !HasMacroNames(argument))
             continue;
-        const Items& argument = call.arguments[call.current];
         SContext context;
         context.at = argument.data();
         context.end = argument.data() + argument.size();
         SJob job;
         job.firstContext = m_Contexts.size();
+        job.output = NewItems();
         job.call = std::move(call); // its items stay where they are
         m_Contexts.push_back(std::move(context));
         m_Jobs.push_back(std::move(job));
         return;
     }
     PushItems(call.macro, Substitute(call));
+    for (SArgument& argument : call.arguments) {
+        Recycle(std::move(argument.items));
+        Recycle(std::move(argument.expanded));
+    }
 }
 
 void MacroExpander::FinishArgument()
 {
     SJob job = std::move(m_Jobs.back());
     m_Jobs.pop_back();
-    job.call.expanded[job.call.current] = std::move(job.output);
-    job.call.isExpanded[job.call.current] = true;
-    ++job.call.current;
+    SArgument& argument = job.call.arguments[job.call.current++];
+    argument.expanded = std::move(job.output);
+    argument.isExpanded = true;
     ContinueCall(std::move(job.call));
 }
 
@@ -380,6 +394,7 @@ void MacroExpander::PopContext()
 {
     if (m_Contexts.back().macro != nullptr)
         m_Contexts.back().macro->isExpanding = false;
+    Recycle(std::move(m_Contexts.back().own));
     m_Contexts.pop_back();
 }
 
@@ -388,20 +403,21 @@ MacroExpander::Items MacroExpander::Substitute(const SCall& call)
     const Macro& macro = *call.macro;
     if (macro.HasOpenHashHash())
         throw Macro::invalidHashHash(m_Where, macro.Name());
-    Items result;
+    Items result = NewItems();
     const std::vector<SMacroPart>& parts = macro.Parts();
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const SMacroPart& part = parts[i];
         if (part.joinsNext) {
             i = SubstituteJoined(call, i, result);
-        } else if (part.parameter < 0 || part.isStringized) {
-            for (const SMacroItem& item : Operand(call, part))
-                Append(result, item);
+        } else if (part.parameter < 0) {
+            Append(result, {part.token});
         } else {
-            const auto index = static_cast<std::size_t>(part.parameter);
-            const Items& items = call.isExpanded[index] ? call.expanded[index] : call.arguments[index];
-            for (const SMacroItem& item : items)
-                Append(result, item);
+            const SArgument& argument = call.arguments[static_cast<std::size_t>(part.parameter)];
+            if (part.isStringized)
+                Append(result, {expandHash(argument.items)});
+            else
+                for (const SMacroItem& item : argument.isExpanded ? argument.expanded : argument.items)
+                    Append(result, item);
         }
     }
     return result;
@@ -438,7 +454,7 @@ MacroExpander::Items MacroExpander::Operand(const SCall& call, const SMacroPart&
 {
     if (part.parameter < 0)
         return {{part.token}};
-    const Items& argument = call.arguments[static_cast<std::size_t>(part.parameter)];
+    const Items& argument = call.arguments[static_cast<std::size_t>(part.parameter)].items;
     if (part.isStringized)
         return {{expandHash(argument)}};
     const auto from = std::ranges::find_if_not(argument, IsWhite);
@@ -456,10 +472,9 @@ void MacroExpander::Join(const Macro& macro, Items& left, const Items& right)
     left.insert(left.end(), right.begin() + 1, right.end());
 }
 
-const Token* MacroExpander::expandHashHash(const Macro& macro, const std::string& left,
-                                           const std::string& right)
+const Token* MacroExpander::expandHashHash(const Macro& macro, std::string_view left, std::string_view right)
 {
-    std::string text = left + right;
+    std::string text = std::string(left).append(right);
     if (!IsOneToken(text))
         throw Macro::invalidHashHash(m_Where, macro.Name());
     return Make(std::move(text));
@@ -478,7 +493,7 @@ const Token* MacroExpander::expandHash(const Items& argument)
         if (isApart && text.size() > 1)
             text += ' ';
         isApart = false;
-        const std::string& str = item.token->str;
+        const std::string_view str = item.token->str;
         if (!IsStringText(str) && !IsCharacterText(str)) {
             text += str;
             continue;
@@ -497,30 +512,43 @@ const Token* MacroExpander::expandHash(const Items& argument)
 
 const Token* MacroExpander::Make(std::string text)
 {
-    m_Held += text.size() + sizeof(Token);
+    m_Held += text.size() + kTokenCost;
     if (m_Held > m_Limit)
         FailOverLimit();
-    m_Made.push_back(new Token(std::move(text), m_Where));
-    return m_Made.last;
+    return m_Made.push_back(m_Made.Keep(std::move(text)), m_Where);
 }
 
 const Token* MacroExpander::MakeBlank()
 {
-    if (m_Blank == nullptr) {
-        Location end = m_Where;
-        ++end.col;
-        m_Made.push_back(new TokenSpaces(m_Where, end));
-        m_Blank = m_Made.last;
-    }
+    if (m_Blank == nullptr)
+        m_Blank = m_Made.push_back(TOKEN_SPACES, " ", m_Where);
     return m_Blank;
 }
 
 void MacroExpander::Append(Items& items, const SMacroItem& item)
 {
-    m_Held += std::max(item.token->str.size(), kLeastItemSize);
+    m_Held += HeldSize(*item.token);
     if (m_Held > m_Limit)
         FailOverLimit();
     items.push_back(item);
+}
+
+// Lists are made for each call, so their memory is used again, save for that of a few large ones.
+MacroExpander::Items MacroExpander::NewItems()
+{
+    if (m_Spare.empty())
+        return {};
+    Items items = std::move(m_Spare.back());
+    m_Spare.pop_back();
+    return items;
+}
+
+void MacroExpander::Recycle(Items items)
+{
+    if (items.capacity() == 0 || items.capacity() > kLargestSpare || m_Spare.size() == kMostSpares)
+        return;
+    items.clear();
+    m_Spare.push_back(std::move(items));
 }
 
 void MacroExpander::Work()

@@ -16,15 +16,17 @@ namespace MacroPreprocessorChecker::internal {
 class MacroExpander
 {
 public:
-    // Gets the tokens of an expansion, one by one; they live no longer than the call. White space is among
-    // them.
+    // Gets the tokens of an expansion, one by one; they live until the next call. White space is among them.
     using Sink = std::function<void(const Token&)>;
 
     // Gives the token behind one of the source's, null behind the last.
     using Follow = std::function<Token*(const Token&)>;
 
-    // Borrows `macros` and `names`. `limit`: what one call may hold, and what all may give, in bytes.
-    MacroExpander(const MacroTable& macros, FileNames& names, std::size_t limit, Follow follow);
+    // What a token that isn't the source's counts for, in bytes of the limit.
+    static constexpr std::size_t kTokenCost = 96;
+
+    // Borrows `macros` and `store`. `limit`: what one call may hold, and what all may give, in bytes.
+    MacroExpander(const MacroTable& macros, TokenStore& store, std::size_t limit, Follow follow);
     ~MacroExpander();
 
     // Expands the call of a macro at `name`, a name in its list.
@@ -48,13 +50,18 @@ private:
         Items own; // what `at` points into, unless it is somebody else's
     };
 
+    struct SArgument
+    {
+        Items items{};
+        Items expanded{};
+        bool isExpanded = false; // otherwise the items stand for themselves
+    };
+
     // A call whose arguments have been found.
     struct SCall
     {
         const Macro* macro = nullptr;
-        std::vector<Items> arguments;
-        std::vector<Items> expanded; // empty where `isExpanded` isn't set: the argument stands for itself
-        std::vector<bool> isExpanded;
+        std::vector<SArgument> arguments;
         std::size_t current = 0;
     };
 
@@ -92,14 +99,17 @@ private:
     Items Operand(const SCall& call, const SMacroPart& part);
     void Join(const Macro& macro, Items& left, const Items& right);
     const Token* expandHash(const Items& argument);
-    const Token* expandHashHash(const Macro& macro, const std::string& left, const std::string& right);
+    const Token* expandHashHash(const Macro& macro, std::string_view left, std::string_view right);
     const Token* Make(std::string text);
     const Token* MakeBlank();
     void Append(Items& items, const SMacroItem& item);
+    Items NewItems();
+    void Recycle(Items items);
     void Work();
     [[noreturn]] void FailOverLimit() const;
 
     const MacroTable& m_Macros;
+    TokenStore& m_Store;
     TokenList m_Made; // tokens that this call has made
     std::size_t m_Limit;
     Follow m_Follow;
@@ -110,6 +120,7 @@ private:
 
     std::vector<SContext> m_Contexts;
     std::vector<SJob> m_Jobs;
+    std::vector<Items> m_Spare;   // empty, for the memory that they hold
     Token* m_Source = nullptr;    // next token of the source
     Token* m_LastTaken = nullptr; // the one before it
     std::uint32_t m_OnlyLine = 0; // the source ends with this line; 0: with its list

@@ -1,5 +1,6 @@
 // Joining the reader's single characters into operators and floating literals. Only what stands side by side
 // is joined, so the written text never changes.
+#include "Preparation/MacroCharacters.h"
 #include "Preparation/MacroTokens.h"
 
 #include <algorithm>
@@ -10,13 +11,14 @@ namespace MacroPreprocessorChecker::internal {
 
 namespace {
 
-constexpr std::string_view kBeforeEquals = "=!<>+-*/%&|^";
-constexpr std::string_view kDoubled = "|&:<>";
-
-bool IsOneOf(char c, std::string_view set)
-{
-    return c != '\0' && set.find(c) != set.npos;
-}
+constexpr CharacterSet kBeforeEquals{"=!<>+-*/%&|^"};
+constexpr CharacterSet kDoubled{"|&:<>"};
+constexpr CharacterSet kSigns{"+-"};
+constexpr CharacterSet kAngles{"<>"};
+constexpr CharacterSet kExponents{"eEpP"};
+constexpr CharacterSet kQuotes{"\"'"};
+constexpr CharacterSet kTypeEnds{">*&"};
+constexpr CharacterSet kParameterTypeEnds{"&*"};
 
 bool IsHexadecimal(std::string_view number)
 {
@@ -40,16 +42,6 @@ constexpr std::string_view kOperators[] = {
 };
 static_assert(std::ranges::is_sorted(kOperators));
 
-bool IsNameCharacter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '$';
-}
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool BeginsNumber(std::string_view text)
 {
     return IsDigit(text[0]) || (text.size() > 1 && text[0] == '.' && IsDigit(text[1]));
@@ -60,8 +52,8 @@ bool IsNumberText(std::string_view text)
     if (!BeginsNumber(text))
         return false;
     for (std::size_t at = 1; at < text.size(); ++at) {
-        const bool isSign = IsOneOf(text[at], "+-") && IsOneOf(text[at - 1], "eEpP");
-        if (!IsNameCharacter(text[at]) && text[at] != '.' && text[at] != '\'' && !isSign)
+        const bool isSign = kSigns.Has(text[at]) && kExponents.Has(text[at - 1]);
+        if (!kNameCharacters.Has(text[at]) && text[at] != '.' && text[at] != '\'' && !isSign)
             return false;
     }
     return true;
@@ -88,13 +80,22 @@ char NextCharacter(const Token* token)
 
 void TokenList::JoinNext(Token* token)
 {
-    token->setstr(token->str + token->next->str);
+    const std::string_view left = token->str;
+    const std::string_view right = token->next->str;
+    const bool areTogether = left.data() + left.size() == right.data();
+    token->setstr(areTogether ? std::string_view(left.data(), left.size() + right.size())
+                              : m_Store->Keep(std::string(left).append(right)));
     deleteToken(token->next);
 }
 
 // At a "." or a number: takes on what belongs to the same literal.
-void TokenList::JoinFloatingLiteral(Token* token)
+void TokenList::JoinNumberOrPoints(Token* token)
 {
+    if (token->op == '.' && NextCharacter(token) == '.' && NextCharacter(token->next) == '.') {
+        JoinNext(token);
+        JoinNext(token);
+        return;
+    }
     const auto joinWord = [&] {
         if (token->next != nullptr && (token->next->name || token->next->number))
             JoinNext(token);
@@ -109,8 +110,8 @@ void TokenList::JoinFloatingLiteral(Token* token)
         JoinNext(token);
         joinWord();
     }
-    while (EndsInExponent(token->str) && IsOneOf(NextCharacter(token), "+-") &&
-           token->next->next != nullptr && token->next->next->number) {
+    while (EndsInExponent(token->str) && kSigns.Has(NextCharacter(token)) && token->next->next != nullptr &&
+           token->next->next->number) {
         JoinNext(token);
         JoinNext(token);
     }
@@ -119,7 +120,7 @@ void TokenList::JoinFloatingLiteral(Token* token)
 
 bool OperatorScope::IsParameterType(const Token& token) const
 {
-    return IsOneOf(token.op, "&*") && !IsExecutable() && m_Depth > 0 && m_IsBehindType;
+    return kParameterTypeEnds.Has(token.op) && !IsExecutable() && m_Depth > 0 && m_IsBehindType;
 }
 
 void OperatorScope::Pass(const Token& token)
@@ -127,27 +128,28 @@ void OperatorScope::Pass(const Token& token)
     switch (token.op) {
     case '{':
         m_Executable.push_back(IsExecutable() || m_IsBehindParenthesis);
+        m_Depth = 0; // a new statement
         break;
     case '}':
         if (m_Executable.size() > 1)
             m_Executable.pop_back();
+        m_Depth = 0;
+        break;
+    case ';':
+        m_Depth = 0;
         break;
     case '(':
         ++m_Depth;
         break;
     case ')':
         m_Depth -= m_Depth > 0;
+        m_IsBehindParenthesis = true;
         break;
     default:
+        m_IsBehindParenthesis = false;
         break;
     }
-    if (IsOneOf(token.op, ";{}") || (token.op == ':' && m_Depth == 0))
-        m_Depth = 0; // a new statement, or the one behind a label
-    if (!IsOneOf(token.op, ";{}()"))
-        m_IsBehindParenthesis = false;
-    else if (token.op == ')')
-        m_IsBehindParenthesis = true;
-    m_IsBehindType = token.name || token.number || IsOneOf(token.op, ">*&");
+    m_IsBehindType = token.name || token.number || kTypeEnds.Has(token.op);
 }
 
 void TokenList::combineOperators()
@@ -159,26 +161,29 @@ void TokenList::combineOperators()
 void TokenList::combineOperators(Token* from, OperatorScope& scope)
 {
     for (Token* token = from; token != nullptr; token = token->next) {
-        if (token->comment || token->SkipWhenNextOrPrev())
+        if (token->IsWhite())
             continue;
-        const char next = NextCharacter(token);
-        if (token->op == '.' && next == '.' && NextCharacter(token->next) == '.') {
-            JoinNext(token);
-            JoinNext(token);
-        } else if (token->number || token->op == '.') {
-            JoinFloatingLiteral(token);
-        } else if (next == '=' && IsOneOf(token->op, kBeforeEquals)) {
-            if (!scope.IsParameterType(*token))
-                JoinNext(token);
-        } else if (next != '\0' && next == token->op && IsOneOf(next, kDoubled)) {
-            JoinNext(token);
-            if (IsOneOf(next, "<>") && NextCharacter(token) == '=')
-                JoinNext(token);
-        } else if ((token->op == '-' && next == '>') ||
-                   (IsOneOf(token->op, "+-") && next == token->op && scope.IsExecutable())) {
-            JoinNext(token);
-        }
+        if (token->number || token->op == '.')
+            JoinNumberOrPoints(token);
+        else if (token->op != '\0' && NextCharacter(token) != '\0')
+            JoinOperator(token, NextCharacter(token), scope);
         scope.Pass(*token);
+    }
+}
+
+// At a sign before another character.
+void TokenList::JoinOperator(Token* token, char next, const OperatorScope& scope)
+{
+    if (next == '=' && kBeforeEquals.Has(token->op)) {
+        if (!scope.IsParameterType(*token))
+            JoinNext(token);
+    } else if (next == token->op && kDoubled.Has(next)) {
+        JoinNext(token);
+        if (kAngles.Has(next) && NextCharacter(token) == '=')
+            JoinNext(token);
+    } else if ((token->op == '-' && next == '>') ||
+               (kSigns.Has(token->op) && next == token->op && scope.IsExecutable())) {
+        JoinNext(token);
     }
 }
 
@@ -188,7 +193,7 @@ bool IsOneToken(std::string_view text)
         return false;
     if (std::ranges::binary_search(kOperators, text) || IsNumberText(text) || IsOneQuoted(text))
         return true;
-    return !IsDigit(text[0]) && std::ranges::all_of(text, IsNameCharacter);
+    return !IsDigit(text[0]) && std::ranges::all_of(text, [](char c) { return kNameCharacters.Has(c); });
 }
 
 bool WouldJoin(std::string_view left, std::string_view right)
@@ -197,11 +202,11 @@ bool WouldJoin(std::string_view left, std::string_view right)
         return false;
     const char end = left.back();
     const char begin = right.front();
-    if (IsNameCharacter(end) && IsNameCharacter(begin))
+    if (kNameCharacters.Has(end) && kNameCharacters.Has(begin))
         return true;
     if (BeginsNumber(left))
-        return begin == '.' || begin == '\'' || (IsOneOf(begin, "+-") && IsOneOf(end, "eEpP"));
-    if (IsNameCharacter(end) && IsOneOf(begin, "\"'"))
+        return begin == '.' || begin == '\'' || (kSigns.Has(begin) && kExponents.Has(end));
+    if (kNameCharacters.Has(end) && kQuotes.Has(begin))
         return left.size() <= 3; // as long as a prefix of strings may be
     if (end == '.' && (begin == '.' || IsDigit(begin)))
         return true;

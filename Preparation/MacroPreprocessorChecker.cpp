@@ -41,72 +41,61 @@ std::string NoteText(const ErorrOutput& error)
     }
 }
 
-// Writes the tokens of an expansion. A line of them is one token of the output: only its text matters, and an
-// expansion may be long.
+// Writes the tokens of an expansion, apart where they would be read differently otherwise.
 class ExpansionWriter
 {
 public:
-    ExpansionWriter(TokenList& output, const Token& call, std::string& lastText)
-        : m_Output(output), m_Call(call), m_LastText(lastText)
+    // `lastText`: what stands before the call and may run into it; borrowed.
+    ExpansionWriter(TokenWriter& output, const Token& call, std::string_view lastText)
+        : m_Output(output), m_Line(call.sourceLine), m_LastText(lastText)
     {}
 
     void Add(const Token& token)
     {
         if (token.IsNextLineToken()) {
-            Flush();
-            Push(new TokenNewString(m_Call.location));
-            m_LastText.clear();
+            m_Output.EndLine(m_Line);
+            m_LastText = {};
         } else if (token.SkipWhenNextOrPrev()) {
-            m_Text += token.strToFile();
-            m_LastText.clear();
+            m_Output.Write(token.str, m_Line);
+            m_LastText = {};
         } else {
             // outside of functions the reader leaves the characters of "++" apart: what stood together stays
             // so
             const bool stoodTogether = m_Last != nullptr && m_Last->next == &token;
             if (!stoodTogether && WouldJoin(m_LastText, token.str))
-                m_Text += ' ';
-            m_Text += token.str;
+                m_Output.Write(" ", m_Line);
+            m_Output.Write(token.str, m_Line);
             m_LastText = token.str;
         }
         m_Last = &token;
     }
 
-    void Flush()
-    {
-        if (!m_Text.empty())
-            Push(new Token(std::exchange(m_Text, {}), m_Call.location));
-    }
+    std::string_view LastText() const { return m_LastText; }
 
 private:
-    void Push(Token* token)
-    {
-        token->sourceLine = m_Call.sourceLine;
-        m_Output.push_back(token);
-    }
-
-    TokenList& m_Output;
-    const Token& m_Call;
-    std::string& m_LastText;
-    std::string m_Text;
+    TokenWriter& m_Output;
+    std::uint32_t m_Line;
+    std::string_view m_LastText;
     const Token* m_Last = nullptr; // borrowed from the expansion
 };
-
-bool IsWhite(const Token& token)
-{
-    return token.comment || token.SkipWhenNextOrPrev();
-}
 
 // The first significant token of a line, from the line's first token; null if there is none.
 const Token* FirstInk(const Token* token)
 {
     const std::uint32_t line = token->sourceLine;
-    while (token != nullptr && token->sourceLine == line && IsWhite(*token))
+    while (token != nullptr && token->sourceLine == line && token->IsWhite())
         token = token->next;
     return token != nullptr && token->sourceLine == line ? token : nullptr;
 }
 
-// Tokens that are read, and written, at a time.
+// Tokens that are read, and deleted, at a time.
 constexpr std::size_t kPiece = 4096;
+
+// The text as the reader takes it, which the store keeps if it isn't the text itself.
+std::string_view Decoded(TokenStore& store, const std::string& text)
+{
+    return WantsDecoding(text) ? store.Keep(DecodeText(text)) : std::string_view(text);
+}
 
 // The header names of a list's "#include" lines.
 void CollectHeaders(const TokenList& list, std::set<std::string>& names)
@@ -120,7 +109,7 @@ void CollectHeaders(const TokenList& list, std::set<std::string>& names)
         if (name == nullptr || name->sourceLine != token->sourceLine || name->str.size() < 2)
             continue;
         if (name->str.front() == '<' || name->str.front() == '"')
-            names.insert(name->str);
+            names.emplace(name->str);
     }
 }
 
@@ -134,15 +123,15 @@ bool Checker::PreprocessFile(const std::string& filePath, const std::string& tex
     CPreparationNotes unwanted;
     CPreparationNotes& taken = notes != nullptr ? *notes : unwanted;
     result = Uve::U8CString();
-    if (sourceLines != nullptr)
-        sourceLines->clear();
     try {
-        Checker checker(filePath, text, presets, taken);
+        Checker checker(filePath, text, presets, sourceLines, taken);
         const bool isDone = checker.LoadSourceFile() && checker.LoadOtherFiles() &&
                             checker.RunCommand(command, undefinesTokens.get());
         checker.GetErrors(errorText);
         if (isDone)
-            checker.SaveResult(result, sourceLines);
+            result = checker.m_Writer.TakeText();
+        else if (sourceLines != nullptr)
+            sourceLines->clear();
         return isDone;
     } catch (const std::exception& error) {
         errorText += Uve::U8CString(std::string("ERROR!!! std::exception : ") + error.what() + ".\n");
@@ -151,14 +140,16 @@ bool Checker::PreprocessFile(const std::string& filePath, const std::string& tex
         errorText += Uve::U8CString("ERROR!!! some exception.\n");
         taken.AddError("some exception");
     }
+    if (sourceLines != nullptr)
+        sourceLines->clear();
     return false;
 }
 
 Checker::Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values,
-                 CPreparationNotes& notes)
-    : filePath(path), sourceText(source), presets(values), rawTokens(std::make_shared<TokenList>(files)),
-      m_IncludeRoot(values.includeRoot), output(std::make_shared<TokenList>(files)), m_Notes(notes),
-      m_Reader(*rawTokens, sourceText, filePath, errors, false), m_Writer(&m_SourceLines)
+                 std::vector<std::uint32_t>* sourceLines, CPreparationNotes& notes)
+    : filePath(path), presets(values), rawTokens(store), m_IncludeRoot(values.includeRoot), m_Notes(notes),
+      m_Source(Decoded(store, source)), m_Reader(rawTokens, m_Source, filePath, errors, false),
+      m_Writer(sourceLines)
 {}
 
 Checker::~Checker() = default;
@@ -166,11 +157,11 @@ Checker::~Checker() = default;
 bool Checker::LoadSourceFile()
 {
     do {
-        rawTokens->clear();
-        m_HasMore = m_Reader.Read(kPiece);
-        CollectHeaders(*rawTokens, m_MainHeaders);
+        rawTokens.clear();
+        m_HasMore = m_Reader.Skim(kPiece);
+        CollectHeaders(rawTokens, m_MainHeaders);
     } while (m_HasMore);
-    rawTokens->clear();
+    rawTokens.clear();
     m_Reader.Restart();
     return CheckErrorResult();
 }
@@ -252,7 +243,7 @@ bool Checker::LoadHeader(const std::string& path)
     std::ifstream stream;
     if (!OpenHeader(stream, path))
         return false;
-    SHeader header{std::make_shared<TokenList>(files)};
+    SHeader header{std::make_unique<TokenList>(store)};
     std::string text;
     std::array<char, 65536> block;
     do {
@@ -266,10 +257,10 @@ bool Checker::LoadHeader(const std::string& path)
     m_LoadedBytes += text.size();
     header.size = text.size();
     if (m_LoadedBytes > presets.expansionLimit)
-        Report(MISSING_HEADER, Location(files, header.tokens->fileIndex(path)),
+        Report(MISSING_HEADER, Location{header.tokens->fileIndex(path)},
                "the include files are larger than " + std::to_string(presets.expansionLimit) + " bytes.");
     else
-        header.tokens->readtext(text, path, errors, true);
+        header.tokens->readtext(std::move(text), path, errors, true);
     fileData.emplace(path, std::move(header));
     return true;
 }
@@ -282,7 +273,8 @@ void Checker::Report(enErrorType type, const Location& location, std::string mes
 // Empty: the main source.
 std::string Checker::FileOfNote(const Location& location) const
 {
-    return location.file() == filePath ? std::string() : location.file();
+    const std::string& file = store.FileName(location);
+    return file == filePath ? std::string() : file;
 }
 
 void Checker::Warn(const std::string& text, const Location& location)
@@ -298,7 +290,7 @@ bool Checker::CheckErrorResult()
             Warn(note, error.location);
         else
             m_Notes.AddError(note, error.location.line, FileOfNote(error.location));
-        errorText += error.location.file() + " : " + std::to_string(error.location.line) + " : ";
+        errorText += store.FileName(error.location) + " : " + std::to_string(error.location.line) + " : ";
         errorText += kLabels[error.type];
         errorText += error.msg + '\n';
     }
@@ -310,25 +302,17 @@ void Checker::GetErrors(Uve::U8CString& text) const
     text += Uve::U8CString(errorText);
 }
 
-void Checker::SaveResult(Uve::U8CString& result, std::vector<std::uint32_t>* sourceLines)
-{
-    for (const Token* token = output->first; token != nullptr; token = token->next)
-        m_Writer.Write(*token);
-    result = std::move(m_Writer.Text());
-    if (sourceLines != nullptr)
-        *sourceLines = std::move(m_SourceLines);
-}
-
 // ---- The run ----
 
 bool Checker::RunCommand(Command command, UndefinesTokens* undefinesTokens)
 {
-    SRun run(command, files, presets, undefinesTokens,
-             [this](const Token& token) { return Following(token); });
+    SRun run(command, store, presets, undefinesTokens,
+             [this, &run](const Token& token) { return Following(run, token); });
     DefinePresets(run);
+    m_Writer.Reserve(m_Source.size());
     m_HasMore = m_Reader.Read(kPiece);
-    run.conditionals.push_back({SRun::STATE_TRUE, Location(files)});
-    run.positions.push_back({rawTokens->first, filePath});
+    run.conditionals.push_back({SRun::STATE_TRUE, Location()});
+    run.positions.push_back({rawTokens.first, filePath});
     for (const std::string& name : presets.explicitIncludes) {
         const auto header = fileData.find(simplifyPath(name));
         if (header != fileData.end())
@@ -337,7 +321,7 @@ bool Checker::RunCommand(Command command, UndefinesTokens* undefinesTokens)
     const bool isWhole = RunTokens(run);
     for (std::size_t i = 1; isWhole && i < run.conditionals.size(); ++i) {
         const Location& opened = run.conditionals[i].opened;
-        errorText += opened.file() + " : " + std::to_string(opened.line) + " : #endif not found\n";
+        errorText += store.FileName(opened) + " : " + std::to_string(opened.line) + " : #endif not found\n";
         Warn("no #endif closes the condition of line " + std::to_string(opened.line), opened);
     }
     return CheckErrorResult() && isWhole;
@@ -352,13 +336,11 @@ void Checker::DefinePresets(SRun& run)
         if (presets.undefines.contains(preset.substr(0, preset.find_first_of("=("))))
             continue;
         auto macro = std::make_unique<Macro>(preset.substr(0, equals),
-                                             equals == preset.npos ? "1" : preset.substr(equals + 1), files);
-        const std::string name = macro->Name();
-        run.macros.Add(name, std::move(macro));
+                                             equals == preset.npos ? "1" : preset.substr(equals + 1), store);
+        run.macros.Add(std::move(macro));
     }
-    run.macros.Add("__FILE__", std::make_unique<Macro>(Macro::KIND_FILE, files));
-    run.macros.Add("__LINE__", std::make_unique<Macro>(Macro::KIND_LINE, files));
-    run.macros.Add("__COUNTER__", std::make_unique<Macro>(Macro::KIND_COUNTER, files));
+    for (const Macro::enKind kind : {Macro::KIND_FILE, Macro::KIND_LINE, Macro::KIND_COUNTER})
+        run.macros.Add(std::make_unique<Macro>(kind, store));
 }
 
 bool Checker::RunTokens(SRun& run)
@@ -388,7 +370,7 @@ bool Checker::RunLine(SRun& run)
     std::uint32_t line = run.current.token->sourceLine;
     while (run.current.token != nullptr && run.current.token->sourceLine == line) {
         const Token& token = *run.current.token;
-        const Macro* const macro = token.name ? run.macros.Find(token.str) : nullptr;
+        const Macro* const macro = run.macros.Find(token);
         if (macro != nullptr && run.isExpanding) {
             if (!preprocessToken(run, line))
                 return false;
@@ -409,14 +391,14 @@ bool Checker::RunLine(SRun& run)
 bool Checker::preprocessToken(SRun& run, std::uint32_t& line)
 {
     const Token& name = *run.current.token;
-    const Token* const before = output->last;
+    const Token* const before = name.previous;
     if (!run.isBehindExpansion) {
-        const bool isAdjacent = before != nullptr && before->sourceLine == line && !IsWhite(*before);
-        run.lastText = isAdjacent ? before->str : std::string();
+        const bool isAdjacent = before != nullptr && before->sourceLine == line && !before->IsWhite();
+        run.lastText = isAdjacent ? before->str : std::string_view();
     } else if (run.expansionLine != line) {
         run.lastText.clear();
     }
-    ExpansionWriter writer(*output, name, run.lastText);
+    ExpansionWriter writer(m_Writer, name, run.lastText);
     Token* last = nullptr;
     try {
         run.current.token = run.expander.ExpandCall(
@@ -427,54 +409,46 @@ bool Checker::preprocessToken(SRun& run, std::uint32_t& line)
             },
             &last);
     } catch (const Macro::Error& error) {
-        Report(SYNTAX_ERROR, error.location, "failed to expand '" + name.str + "', " + error.what());
+        Report(SYNTAX_ERROR, error.location,
+               "failed to expand '" + std::string(name.str) + "', " + error.what());
         return false;
     }
-    writer.Flush();
+    m_Writer.Flush(); // the tokens of an expansion live until the next
+    run.lastText = std::string(writer.LastText());
     line = last->sourceLine;
     run.expansionLine = line;
     run.isBehindExpansion = !name.hidden;
-    while (run.isBehindExpansion && rawTokens->first != run.current.token)
-        rawTokens->deleteToken(rawTokens->first);
     return true;
 }
 
-// The token behind one of the source's, for which another piece of the main source may have to be read.
-Token* Checker::Following(const Token& token)
+// The token behind one of the source's, for which another piece of the main source may have to be read. What
+// the run has done with makes room for it, but for the token before the current one, which this may have to
+// stand apart from.
+Token* Checker::Following(SRun& run, const Token& token)
 {
-    while (token.next == nullptr && !token.hidden && m_HasMore)
+    while (token.next == nullptr && !token.hidden && m_HasMore) {
+        const Token* const current = run.current.token;
+        if (current->previous != nullptr)
+            rawTokens.DeleteBefore(current->previous);
         m_HasMore = m_Reader.Read(kPiece);
+    }
     return token.next;
 }
 
-// Hands the current token on to the output. The main source is run through once, so its tokens aren't copied.
+// Writes the current token and goes to the next one.
 void Checker::Take(SRun& run)
 {
-    Token* const token = run.current.token;
-    run.current.token = Following(*token);
-    if (token->hidden)
-        return;
-    rawTokens->release(token);
-    if (run.isBehindExpansion && token->sourceLine == run.expansionLine && !IsWhite(*token) &&
-        WouldJoin(run.lastText, token->str)) {
-        Token* const blank = new Token(" ", token->location);
-        blank->sourceLine = token->sourceLine;
-        output->push_back(blank);
+    const Token& token = *run.current.token;
+    if (!token.hidden) {
+        if (run.isBehindExpansion) {
+            if (token.sourceLine == run.expansionLine && !token.IsWhite() &&
+                WouldJoin(run.lastText, token.str))
+                m_Writer.Write(" ", token.sourceLine);
+            run.isBehindExpansion = false;
+        }
+        m_Writer.Write(token);
     }
-    run.isBehindExpansion = false;
-    output->push_back(token);
-    if (++run.unwritten >= kPiece)
-        WriteOutput(run);
-}
-
-// All but the last token, which what follows may have to stand apart from.
-void Checker::WriteOutput(SRun& run)
-{
-    while (output->first != output->last) {
-        m_Writer.Write(*output->first);
-        output->deleteToken(output->first);
-    }
-    run.unwritten = 0;
+    run.current.token = Following(run, token);
 }
 
 // Goes to the next line, which keeps its indentation.
@@ -486,10 +460,7 @@ void Checker::AddAllTokensCurrLine(SRun& run, bool keep)
             Take(run);
             continue;
         }
-        Token* const dropped = run.current.token;
-        run.current.token = Following(*dropped);
-        if (!dropped->hidden)
-            rawTokens->deleteToken(dropped);
+        run.current.token = Following(run, *run.current.token);
     }
 }
 
@@ -498,8 +469,8 @@ void Checker::AddAllTokensCurrLine(SRun& run, bool keep)
 void Checker::KeepStatement(SRun& run, const Macro& macro, const Token& name)
 {
     const Token* following = run.current.token;
-    while (following != nullptr && IsWhite(*following))
-        following = Following(*following);
+    while (following != nullptr && following->IsWhite())
+        following = Following(run, *following);
     const char op = following == nullptr ? '\0' : following->op;
     if (!macro.IsFunctionLike()) {
         if (op != ';')
@@ -519,23 +490,20 @@ void Checker::FollowStatementCall(SRun& run, const Token& taken)
         return;
     run.statementCalls.pop_back();
     const Token* following = run.current.token;
-    while (following != nullptr && IsWhite(*following))
-        following = Following(*following);
+    while (following != nullptr && following->IsWhite())
+        following = Following(run, *following);
     if (following == nullptr || following->op != ';')
         AddSemicolon(taken);
 }
 
 void Checker::AddSemicolon(const Token& before)
 {
-    Token* const semicolon = new Token(";", before.location);
-    semicolon->sourceLine = before.sourceLine;
-    output->push_back(semicolon);
+    m_Writer.Write(";", before.sourceLine);
 }
 
 bool Checker::FailRun(const Token& where, std::string message)
 {
     Report(SYNTAX_ERROR, where.location, std::move(message));
-    output->clear();
     return false;
 }
 

@@ -16,6 +16,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace MacroPreprocessorChecker {
@@ -75,18 +76,17 @@ private:
     struct SRun;
     struct SHeader
     {
-        std::shared_ptr<internal::TokenList> tokens;
+        std::unique_ptr<internal::TokenList> tokens;
         std::size_t size = 0; // bytes of the file
     };
 
     Checker(const std::string& path, const std::string& source, const DefaultPresetValues& values,
-            CPreparationNotes& notes);
+            std::vector<std::uint32_t>* sourceLines, CPreparationNotes& notes);
 
     // The steps, in their order. False ends them.
     bool LoadSourceFile();
     bool LoadOtherFiles();
     bool RunCommand(Command command, UndefinesTokens* undefinesTokens);
-    void SaveResult(Uve::U8CString& result, std::vector<std::uint32_t>* sourceLines);
     void GetErrors(Uve::U8CString& text) const;
 
     // A line of errorText for each record. Returns: true if there is none.
@@ -108,9 +108,8 @@ private:
     bool RunTokens(SRun& run);
     bool RunLine(SRun& run);
     bool preprocessToken(SRun& run, std::uint32_t& line);
-    internal::Token* Following(const internal::Token& token);
+    internal::Token* Following(SRun& run, const internal::Token& token);
     void Take(SRun& run);
-    void WriteOutput(SRun& run);
     void AddAllTokensCurrLine(SRun& run, bool keep);
     void KeepStatement(SRun& run, const internal::Macro& macro, const internal::Token& name);
     void FollowStatementCall(SRun& run, const internal::Token& taken);
@@ -126,15 +125,13 @@ private:
     bool EnterHeader(SRun& run, const internal::Location& directive, const std::string& name);
     bool EvaluateCondition(SRun& run, const internal::Token& directive, bool& holds);
 
-    std::string filePath;
-    std::string sourceText;
-    DefaultPresetValues presets;
-    internal::FileNames files;
-    std::shared_ptr<internal::TokenList> rawTokens;
+    const std::string& filePath;
+    const DefaultPresetValues& presets;
+    internal::TokenStore store;
+    internal::TokenList rawTokens;
     std::map<std::string, SHeader> fileData;
     CIncludeRoot m_IncludeRoot;
     std::set<std::string> m_RefusedHeaders; // outside of the root, or no text
-    std::shared_ptr<internal::TokenList> output;
     internal::ErrorList errors;
     std::string errorText;
     CPreparationNotes& m_Notes;
@@ -142,10 +139,10 @@ private:
 
     // The main source is read piece by piece, once for its messages and include lines, then as the run needs
     // it. What the run has done with is written or dropped.
+    std::string_view m_Source; // decoded
     internal::TokenReader m_Reader;
     bool m_HasMore = false;
     std::set<std::string> m_MainHeaders; // with their quotes or brackets
-    std::vector<std::uint32_t> m_SourceLines;
     internal::TokenWriter m_Writer;
 };
 

@@ -32,10 +32,10 @@ struct Checker::SRun
         std::string file; // a key of fileData, or the main source's path
     };
 
-    SRun(Command command, internal::FileNames& names, const DefaultPresetValues& presets,
+    SRun(Command command, internal::TokenStore& store, const DefaultPresetValues& presets,
          UndefinesTokens* undefined, internal::MacroExpander::Follow follow)
         : isVerbatim(command.value == 0), isExpanding(command.value == 2), undefinesTokens(undefined),
-          expander(macros, names, presets.expansionLimit, std::move(follow))
+          macros(store.names), expander(macros, store, presets.expansionLimit, std::move(follow))
     {}
 
     bool IsLive() const { return conditionals.back().state == STATE_TRUE; }
@@ -51,7 +51,6 @@ struct Checker::SRun
     SPosition current;
     std::set<std::string> onceFiles;
     std::size_t enteredBytes = 0;
-    std::size_t unwritten = 0; // tokens given to the output since it was last written
 
     // Command 2: the text before the next token comes from an expansion, and what it ends with.
     bool isBehindExpansion = false;

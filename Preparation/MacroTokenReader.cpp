@@ -1,36 +1,24 @@
 // From a text to a token list.
 #include "Preparation/MacroTokenReader.h"
 
+#include "Preparation/MacroCharacters.h"
+#include "Preparation/MacroLineDirectives.h"
+
 #include <algorithm>
-#include <array>
 #include <istream>
 #include <iterator>
 #include <limits>
-#include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace MacroPreprocessorChecker::internal {
 
 namespace {
 
-constexpr auto kNameCharacters = [] {
-    std::array<bool, 256> table{};
-    for (int c = 0; c < 256; ++c)
-        table[c] = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-                   c == '$';
-    return table;
-}();
-
-bool IsNameCharacter(char c)
-{
-    return kNameCharacters[static_cast<unsigned char>(c)];
-}
-
-// A control character counts as a blank, a tab and a line end don't.
-bool IsBlank(char c)
-{
-    return c == ' ' || (static_cast<unsigned char>(c) < 32 && c != '\t' && c != '\n');
-}
+// What may need more than a look when a line of code is skimmed: where a line, a comment, a literal begins or
+// a line goes on, and what can't be read.
+constexpr CharacterSet kSkimStops = CharacterSet("\n/\\\"'").AndForeign();
 
 bool IsStringPrefix(std::string_view word)
 {
@@ -42,59 +30,33 @@ bool IsRawStringPrefix(std::string_view word)
     return word == "R" || word == "uR" || word == "UR" || word == "LR" || word == "u8R";
 }
 
-// The characters behind a byte order mark, with "\n" at every line's end. A wide character above 127 becomes
-// the byte 255, which the reader refuses outside comments and strings.
-std::string DecodeText(std::string_view bytes)
-{
-    std::string text;
-    const bool isBigEnd = bytes.starts_with("\xFE\xFF");
-    if (isBigEnd || bytes.starts_with("\xFF\xFE")) {
-        text.reserve(bytes.size() / 2);
-        for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
-            const auto high = static_cast<unsigned char>(bytes[isBigEnd ? at : at + 1]);
-            const auto low = static_cast<unsigned char>(bytes[isBigEnd ? at + 1 : at]);
-            text += high != 0 || low > 127 ? '\xFF' : static_cast<char>(low);
-        }
-    } else {
-        text = bytes.substr(bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0);
-    }
-    std::size_t kept = text.find('\r');
-    if (kept == text.npos)
-        return text;
-    for (std::size_t at = kept; at < text.size(); ++at) {
-        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n')
-            continue;
-        text[kept++] = text[at] == '\r' ? '\n' : text[at];
-    }
-    text.resize(kept);
-    return text;
-}
-
 std::string NoPairMessage(char opening)
 {
     return std::string("No pair for character (") + opening +
            "). Can't process file. File is either invalid or unicode, which is currently not supported.";
 }
 
-} // namespace
-
 // One pass over a decoded text. The line of a token's location is that of its logical line: line ends inside,
 // behind a backslash or in a comment of a directive, are counted in m_InnerLineEnds and made up for at the
 // logical line's end. m_SourceLine counts the same lines without regard to line directives.
-class TokenReader::Cursor
+class CTextCursor
 {
 public:
-    Cursor(TokenList& list, std::string_view text, const std::string& fileName, ErrorList& errors,
-           bool isHidden)
-        : m_List(list), m_Text(text), m_Errors(errors), m_IsHidden(isHidden),
-          m_Location(list.names(), list.fileIndex(fileName))
+    CTextCursor(TokenList& list, std::string_view text, const std::string& fileName, ErrorList& errors,
+                bool isHidden)
+        : m_List(list), m_Text(text), m_Errors(errors),
+          m_IsHidden(isHidden), m_Location{list.fileIndex(fileName)}
     {}
 
-    bool Read(std::size_t count)
+    // `isWhole`: operators are joined, and names get their numbers.
+    bool Read(std::size_t count, bool isWhole)
     {
         Token* const before = m_List.last;
+        m_IsWhole = isWhole;
         m_Count = 0;
         while (m_At < m_Text.size() && (m_Count < count || !MayStop())) {
+            if (m_Line == LINE_CODE && !isWhole && SkimCode())
+                continue;
             if (!ReadToken()) {
                 m_List.clear();
                 m_At = m_Text.size();
@@ -104,7 +66,8 @@ public:
         const bool isEnd = m_At >= m_Text.size();
         if (isEnd)
             EndLine();
-        m_List.combineOperators(before != nullptr ? before->next : m_List.first, m_Scope);
+        if (isWhole)
+            m_List.combineOperators(before != nullptr ? before->next : m_List.first, m_Scope);
         return !isEnd;
     }
 
@@ -142,32 +105,49 @@ private:
         m_Errors.push_back({type, where, std::move(message)});
     }
 
-    void Push(Token* token)
+    Token& Push(enTokenKind kind, std::string_view text)
     {
+        Token* const token = m_List.AppendRaw();
+        token->str = text;
+        token->nameNumber = 0;
         token->sourceLine = m_SourceLine;
-        m_List.push_back(token);
+        token->location = m_Location;
+        token->kind = kind;
+        token->op = '\0';
+        token->comment = token->name = token->number = false;
+        token->hidden = m_IsHidden;
         ++m_Count;
+        return *token;
     }
 
-    // Makes a token that begins at `where`.
-    void Add(std::string text, const Location& where)
+    // Makes a token of a text; what it is shows in the text.
+    void Add(std::string_view text)
     {
-        Token* const token = new Token(std::move(text), where, m_IsHidden);
-        Push(token);
-        if (!token->comment)
-            FollowLine(*token);
+        Token& token = Push(TOKEN_INK, text);
+        token.flags();
+        if (!token.comment)
+            FollowLine(token);
     }
 
-    // Takes the next `length` characters as a token.
-    void Take(std::size_t length)
+    // The next `length` characters. The caller makes a token of them.
+    std::string_view Take(std::size_t length)
     {
-        Add(std::string(m_Text.substr(m_At, length)), m_Location);
-        m_Location.col += static_cast<std::uint32_t>(length);
+        const std::string_view text(m_Text.data() + m_At, length);
         m_At += length;
+        return text;
+    }
+
+    // Makes a token of the next `length` characters.
+    void TakeToken(std::size_t length)
+    {
+        Add(Take(length));
+        m_Location.col += static_cast<std::uint32_t>(length);
     }
 
     void FollowLine(const Token& token)
     {
+        if (m_Line == LINE_CODE)
+            return;
         switch (m_Line) {
         case LINE_EMPTY:
             m_Line = token.op == '#' ? LINE_HASH : LINE_CODE;
@@ -188,56 +168,101 @@ private:
         }
     }
 
+    // Passes over tokens of a code line that nobody who skims asks for. Returns: false if there are none
+    // here.
+    bool SkimCode()
+    {
+        // what stands behind a backslash tells whether the line goes on
+        m_IsSkimming = m_IsSkimming && (m_List.last == nullptr || m_List.last->op != '\\');
+        if (!m_IsSkimming)
+            return false;
+        std::size_t end = m_At;
+        while (end < m_Text.size() && !kSkimStops.Has(m_Text[end]))
+            ++end;
+        if (end < m_Text.size() && (m_Text[end] == '"' || m_Text[end] == '\''))
+            while (end > m_At &&
+                   kNameCharacters.Has(m_Text[end - 1])) // a prefix, or a number with separators
+                --end;
+        m_Location.col += static_cast<std::uint32_t>(end - m_At);
+        return std::exchange(m_At, end) != end;
+    }
+
     // False: reading ends here, with a message.
     bool ReadToken()
     {
         const char c = m_Text[m_At];
-        if (c == '\n') {
+        const enBeginning beginning = BeginningOf(c);
+        if (m_Line == LINE_MESSAGE && beginning != BEGINS_LINE && beginning != BEGINS_BLANKS &&
+            beginning != BEGINS_TABS && beginning != BEGINS_FOREIGN) {
+            ReadMessage();
+            return true;
+        }
+        switch (beginning) {
+        case BEGINS_LINE:
             if (!ContinueLine())
                 EndLine();
             ++m_At;
             return true;
-        }
-        if (c == '\t' || IsBlank(c)) {
-            ReadGap(c == '\t');
+        case BEGINS_BLANKS:
+            ReadBlanks();
             return true;
-        }
-        if (static_cast<unsigned char>(c) > 127) {
+        case BEGINS_TABS:
+            ReadTabs();
+            return true;
+        case BEGINS_FOREIGN:
             Fail(UNHANDLED_CHARACTER, "The code contains unhandled character(s) (character code=" +
                                           std::to_string(static_cast<unsigned char>(c)) +
                                           "). Neither unicode nor extended ascii is supported.");
             return false;
-        }
-        if (m_Line == LINE_MESSAGE) {
-            ReadMessage();
-            return true;
-        }
-        if (IsNameCharacter(c))
-            return ReadNameOrNumber();
-        if (c == '/' && Peek(1) == '/') {
-            ReadLineComment();
-            return true;
-        }
-        if (c == '/' && Peek(1) == '*')
-            return ReadBlockComment();
-        if (c == '"' || c == '\'')
+        case BEGINS_NAME:
+            return ReadName();
+        case BEGINS_NUMBER:
+            return ReadNumber();
+        case BEGINS_QUOTED:
             return ReadQuoted(0);
-        if (c == '<' && m_Line == LINE_INCLUDE)
-            return ReadHeaderName();
-        Take(1);
+        case BEGINS_SLASHED:
+            if (Peek(1) == '*')
+                return ReadBlockComment();
+            if (Peek(1) == '/') {
+                ReadLineComment();
+                return true;
+            }
+            break;
+        case BEGINS_LESS:
+            if (m_Line == LINE_INCLUDE)
+                return ReadHeaderName();
+            break;
+        case BEGINS_SIGN:
+            break;
+        }
+        Token& sign = Push(TOKEN_INK, Take(1));
+        sign.op = c;
+        FollowLine(sign);
+        ++m_Location.col;
         return true;
     }
 
-    void ReadGap(bool isTabs)
+    // Any control character is printed as a blank.
+    void ReadBlanks()
     {
-        const Location start = m_Location;
-        std::size_t end = m_At + 1;
-        while (end < m_Text.size() && (isTabs ? m_Text[end] == '\t' : IsBlank(m_Text[end])))
-            ++end;
-        m_Location.col += static_cast<std::uint32_t>(end - m_At);
-        m_At = end;
-        Push(isTabs ? new TokenTabs(start, m_Location, m_IsHidden)
-                    : new TokenSpaces(start, m_Location, m_IsHidden));
+        bool hasControls = m_Text[m_At] != ' ';
+        std::size_t length = 1;
+        for (; m_At + length < m_Text.size() && BeginningOf(m_Text[m_At + length]) == BEGINS_BLANKS; ++length)
+            hasControls |= m_Text[m_At + length] != ' ';
+        std::string_view text = Take(length);
+        if (hasControls)
+            text = m_List.store().Keep(std::string(length, ' '));
+        Push(TOKEN_SPACES, text);
+        m_Location.col += static_cast<std::uint32_t>(length);
+    }
+
+    void ReadTabs()
+    {
+        std::size_t length = 1;
+        while (m_At + length < m_Text.size() && m_Text[m_At + length] == '\t')
+            ++length;
+        Push(TOKEN_TABS, Take(length));
+        m_Location.col += static_cast<std::uint32_t>(length);
     }
 
     // At a line end: a backslash before it makes the logical line go on.
@@ -251,13 +276,14 @@ private:
             return false;
         if (slash != m_List.last)
             Fail(PORTABILITY, slash->location, "Combination 'backslash space newline' is not portable.");
-        const Location where = slash->location;
+        m_Location = slash->location;
         while (m_List.last != slash)
             m_List.deleteToken(m_List.last);
         m_List.deleteToken(slash);
-        Push(new TokenSlash(where, m_IsHidden));
+        Push(TOKEN_SLASH, "\\\n");
         ++m_InnerLineEnds;
         m_Location.col = 1;
+        m_IsSkimming = true;
         return true;
     }
 
@@ -272,68 +298,33 @@ private:
         m_SourceLine += 1 + m_InnerLineEnds;
         m_InnerLineEnds = 0;
         m_Line = LINE_EMPTY;
+        m_IsSkimming = true;
     }
 
-    // The tokens of the current line as a text, and those of them that a line directive carries.
     void HonourLineDirective(Location& next)
     {
-        const Token* hash = m_List.last;
-        int significant = 0;
-        for (const Token* token = m_List.last; token != nullptr && token->sourceLine == m_SourceLine;
-             token = token->previous) {
-            if (token->comment || token->SkipWhenNextOrPrev())
-                continue;
-            hash = token;
-            if (++significant > 4) // longer than any of them
-                return;
-        }
-        const std::string line = m_List.lastLine(kWholeLine);
-        const Token* const second = NextSignificant(hash);
-        if (line == "# file %str%") {
+        const SLineDirective directive = LineDirectiveOf(m_List);
+        switch (directive.kind) {
+        case SLineDirective::KIND_NONE:
+            break;
+        case SLineDirective::KIND_FILE:
             m_Files.push_back(next);
-            next = Location(m_List.names(), m_List.fileIndex(Unquoted(NextSignificant(second)->str)));
-        } else if (line == "# line %num%") {
-            DirectLine(NextSignificant(second), nullptr, next);
-        } else if (line == "# line %num% %str%") {
-            const Token* const number = NextSignificant(second);
-            DirectLine(number, NextSignificant(number), next);
-        } else if (line == "# %num% %str%") {
-            DirectLine(second, NextSignificant(second), next);
-        } else if (line == "# endfile" && !m_Files.empty()) {
+            next = Location{m_List.fileIndex(*directive.file)};
+            break;
+        case SLineDirective::KIND_LINE: {
+            const std::uint32_t file =
+                directive.file ? m_List.fileIndex(*directive.file) : m_Location.fileIndex;
+            next = m_Location;
+            m_List.lineDirective(file, directive.line, next);
+            break;
+        }
+        case SLineDirective::KIND_END_OF_FILE:
+            if (m_Files.empty())
+                break;
             next = m_Files.back();
             m_Files.pop_back();
+            break;
         }
-    }
-
-    void DirectLine(const Token* number, const Token* name, Location& next)
-    {
-        const long long wanted = stringToLL(number->str);
-        const auto line = static_cast<std::uint32_t>(
-            std::clamp<long long>(wanted, 0, std::numeric_limits<std::int32_t>::max()));
-        const std::uint32_t file =
-            name == nullptr ? m_Location.fileIndex : m_List.fileIndex(FileOfDirective(name->str));
-        Location location = m_Location;
-        m_List.lineDirective(file, line, location);
-        next = location;
-    }
-
-    static std::string Unquoted(const std::string& quoted)
-    {
-        const std::size_t from = quoted.find('"') + 1;
-        return quoted.substr(from, quoted.size() - from - 1);
-    }
-
-    static std::string FileOfDirective(const std::string& quoted)
-    {
-        std::string name = Unquoted(quoted);
-        std::size_t kept = 0;
-        for (std::size_t at = 0; at < name.size(); ++at) {
-            name[kept++] = name[at];
-            if (name[at] == '\\' && at + 1 < name.size() && name[at + 1] == '\\')
-                ++at;
-        }
-        name.resize(kept);
-        return name;
     }
 
     // The rest of the line as it stands; a backslash at its end is left for ContinueLine().
@@ -343,26 +334,41 @@ private:
         std::size_t length = end - m_At;
         if (length > 1 && end < m_Text.size() && m_Text[end - 1] == '\\')
             --length;
-        Take(length);
+        TakeToken(length);
     }
 
-    bool ReadNameOrNumber()
+    bool ReadName()
     {
-        const bool isNumber = m_Text[m_At] >= '0' && m_Text[m_At] <= '9';
         std::size_t end = m_At + 1;
-        while (end < m_Text.size() &&
-               (IsNameCharacter(m_Text[end]) || (isNumber && m_Text[end] == '\'' && end + 1 < m_Text.size() &&
-                                                 IsNameCharacter(m_Text[end + 1]))))
+        while (end < m_Text.size() && kNameCharacters.Has(m_Text[end]))
             ++end;
+        const std::size_t length = end - m_At;
         const char following = end < m_Text.size() ? m_Text[end] : '\0';
         if (following == '"' || following == '\'') {
-            const std::string_view word = m_Text.substr(m_At, end - m_At);
+            const std::string_view word = m_Text.substr(m_At, length);
             if (IsStringPrefix(word))
-                return ReadQuoted(word.size());
+                return ReadQuoted(length);
             if (following == '"' && IsRawStringPrefix(word))
-                return ReadRawString(word.size());
+                return ReadRawString(length);
         }
-        Take(end - m_At);
+        Token& token = Push(TOKEN_INK, Take(length));
+        token.op = length == 1 ? token.str[0] : '\0';
+        token.name = true;
+        if (m_IsWhole)
+            token.nameNumber = m_List.store().names.Number(token.str);
+        FollowLine(token);
+        m_Location.col += static_cast<std::uint32_t>(length);
+        return true;
+    }
+
+    bool ReadNumber()
+    {
+        std::size_t end = m_At + 1;
+        while (end < m_Text.size() &&
+               (kNameCharacters.Has(m_Text[end]) ||
+                (m_Text[end] == '\'' && end + 1 < m_Text.size() && kNameCharacters.Has(m_Text[end + 1]))))
+            ++end;
+        TakeToken(end - m_At);
         return true;
     }
 
@@ -378,7 +384,7 @@ private:
             ++m_InnerLineEnds;
             end = std::min(m_Text.find('\n', end + 1), m_Text.size());
         }
-        Take(end - m_At);
+        TakeToken(end - m_At);
     }
 
     bool ReadBlockComment()
@@ -388,17 +394,20 @@ private:
             Fail(SYNTAX_ERROR, "No end of the comment.");
             return false;
         }
-        std::string text(m_Text.substr(m_At, close + 2 - m_At));
-        const std::uint32_t spliced = RemoveContinuations(text);
+        std::string_view text = m_Text.substr(m_At, close + 2 - m_At);
+        std::uint32_t spliced = 0;
+        if (text.find("\\\n") != text.npos)
+            text = WithoutContinuations(std::string(text), spliced);
         Location end = m_Location;
         end.adjust(text);
         const std::uint32_t lineEnds = end.line - m_Location.line;
-        Add(std::move(text), m_Location);
+        Add(text);
         if (IsDirectiveLine()) {
             m_InnerLineEnds += lineEnds;
             end.line = m_Location.line;
         } else {
             m_SourceLine += lineEnds;
+            m_IsSkimming = m_IsSkimming && lineEnds == 0; // what follows may be a directive
         }
         m_InnerLineEnds += spliced;
         m_Location = end;
@@ -406,13 +415,11 @@ private:
         return true;
     }
 
-    static std::uint32_t RemoveContinuations(std::string& text)
+    // `count` gets how many there were.
+    std::string_view WithoutContinuations(std::string text, std::uint32_t& count)
     {
-        std::size_t kept = text.find("\\\n");
-        if (kept == text.npos)
-            return 0;
-        std::uint32_t count = 0;
-        for (std::size_t at = kept; at < text.size(); ++at) {
+        std::size_t kept = 0;
+        for (std::size_t at = 0; at < text.size(); ++at) {
             if (text[at] == '\\' && at + 1 < text.size() && text[at + 1] == '\n') {
                 ++count;
                 ++at;
@@ -421,43 +428,38 @@ private:
             }
         }
         text.resize(kept);
-        return count;
+        return m_List.store().Keep(std::move(text));
     }
 
-    // Appends a quoted text up to the closing character. False if the line or the text ends before it.
-    bool ReadUntil(std::string& text, char closing)
-    {
-        while (m_At < m_Text.size() && m_Text[m_At] != '\n') {
-            const char c = m_Text[m_At++];
-            if (c == '\\' && m_At < m_Text.size()) {
-                if (m_Text[m_At] == '\n') {
-                    ++m_InnerLineEnds;
-                } else {
-                    text += c;
-                    text += m_Text[m_At];
-                }
-                ++m_At;
-                continue;
-            }
-            text += c;
-            if (c == closing)
-                return true;
-        }
-        return false;
-    }
-
+    // A literal behind a prefix. A line end behind a backslash goes; one of another kind, or the text's end,
+    // can't stand in it.
     bool ReadQuoted(std::size_t prefixLength)
     {
         const char quote = m_Text[m_At + prefixLength];
-        std::string text(m_Text.substr(m_At, prefixLength + 1));
-        m_At += prefixLength + 1;
-        if (!ReadUntil(text, quote)) {
-            Fail(SYNTAX_ERROR, NoPairMessage(quote));
-            return false;
+        std::string spliced; // what stands before the last continuation
+        std::size_t from = m_At;
+        std::size_t at = m_At + prefixLength + 1;
+        for (;; ++at) {
+            if (at >= m_Text.size() || m_Text[at] == '\n') {
+                Fail(SYNTAX_ERROR, NoPairMessage(quote));
+                return false;
+            }
+            if (m_Text[at] == quote)
+                break;
+            if (m_Text[at] != '\\' || at + 1 >= m_Text.size())
+                continue;
+            if (m_Text[++at] == '\n') {
+                ++m_InnerLineEnds;
+                spliced += m_Text.substr(from, at - 1 - from);
+                from = at + 1;
+            }
         }
-        const Location start = m_Location;
+        std::string_view text = m_Text.substr(from, at + 1 - from);
+        if (from != m_At)
+            text = m_List.store().Keep(spliced.append(text));
+        Add(text);
         m_Location.col += static_cast<std::uint32_t>(text.size());
-        Add(std::move(text), start);
+        m_At = at + 1;
         return true;
     }
 
@@ -468,7 +470,7 @@ private:
             Fail(SYNTAX_ERROR, NoPairMessage('<'));
             return false;
         }
-        Take(end + 1 - m_At);
+        TakeToken(end + 1 - m_At);
         return true;
     }
 
@@ -493,19 +495,19 @@ private:
         }
         const std::string_view content = m_Text.substr(parenthesis + 1, end - parenthesis - 1);
         m_InnerLineEnds += static_cast<std::uint32_t>(std::ranges::count(content, '\n'));
-        const std::string prefix(m_Text.substr(m_At, prefixLength - 1));
-        Add(prefix + escapeString(content), m_Location);
+        std::string text(m_Text.substr(m_At, prefixLength - 1));
+        Add(m_List.store().Keep(text.append(escapeString(content))));
         m_At = end + closing.size();
         m_Location.col += static_cast<std::uint32_t>(m_List.last->str.size());
         return true;
     }
 
-    static constexpr std::size_t kWholeLine = 100000;
-
     TokenList& m_List;
     std::string_view m_Text;
     ErrorList& m_Errors;
     bool m_IsHidden;
+    bool m_IsWhole = true;
+    bool m_IsSkimming = true; // nothing on the line so far wants its tokens
     Location m_Location;
     OperatorScope m_Scope;
     std::size_t m_At = 0;
@@ -516,10 +518,17 @@ private:
     std::vector<Location> m_Files; // where "# file" lines came from
 };
 
+} // namespace
+
+class TokenReader::Cursor : public CTextCursor
+{
+public:
+    using CTextCursor::CTextCursor;
+};
+
 TokenReader::TokenReader(TokenList& list, std::string_view text, std::string fileName, ErrorList& errors,
                          bool isHidden)
-    : m_List(list), m_Text(DecodeText(text)), m_FileName(std::move(fileName)), m_Errors(errors),
-      m_IsHidden(isHidden)
+    : m_List(list), m_Text(text), m_FileName(std::move(fileName)), m_Errors(errors), m_IsHidden(isHidden)
 {
     Restart();
 }
@@ -528,7 +537,12 @@ TokenReader::~TokenReader() = default;
 
 bool TokenReader::Read(std::size_t count)
 {
-    return m_Cursor->Read(count);
+    return m_Cursor->Read(count, true);
+}
+
+bool TokenReader::Skim(std::size_t count)
+{
+    return m_Cursor->Read(count, false);
 }
 
 void TokenReader::Restart()
@@ -536,42 +550,17 @@ void TokenReader::Restart()
     m_Cursor = std::make_unique<Cursor>(m_List, m_Text, m_FileName, m_Errors, m_IsHidden);
 }
 
-std::string escapeString(std::string_view text)
-{
-    std::string escaped = "\"";
-    for (const char c : text) {
-        switch (c) {
-        case '\n':
-            escaped += "\\n";
-            break;
-        case '\t':
-            escaped += "\\t";
-            break;
-        case '\\':
-            escaped += "\\\\";
-            break;
-        case '"':
-            escaped += "\\\"";
-            break;
-        default:
-            escaped += c;
-            break;
-        }
-    }
-    escaped += '"';
-    return escaped;
-}
-
 void TokenList::readfile(std::istream& stream, const std::string& fileName, ErrorList& errors, bool isHidden)
 {
-    const std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    readtext(bytes, fileName, errors, isHidden);
+    readtext({std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()}, fileName, errors,
+             isHidden);
 }
 
-void TokenList::readtext(std::string_view text, const std::string& fileName, ErrorList& errors, bool isHidden)
+void TokenList::readtext(std::string text, const std::string& fileName, ErrorList& errors, bool isHidden)
 {
     clear();
-    TokenReader(*this, text, fileName, errors, isHidden).Read(std::numeric_limits<std::size_t>::max());
+    TokenReader(*this, m_Store->Keep(DecodeText(std::move(text))), fileName, errors, isHidden)
+        .Read(std::numeric_limits<std::size_t>::max());
 }
 
 } // namespace MacroPreprocessorChecker::internal

@@ -10,10 +10,20 @@
 
 namespace MacroPreprocessorChecker::internal {
 
+// Brings a text into the form that the reader takes: without a byte order mark, one byte for a character,
+// with
+// "\n" at every line's end. A wide character above 127 becomes the byte 255, which the reader refuses outside
+// of comments and strings.
+std::string DecodeText(std::string bytes);
+
+// Whether DecodeText() would change the text.
+bool WantsDecoding(std::string_view bytes);
+
 class TokenReader
 {
 public:
-    // Borrows `list` and `errors`; the text is copied. `isHidden`: the text is an include file.
+    // Borrows `list`, `errors` and the decoded `text`, which outlives the tokens. `isHidden`: the text is an
+    // include file.
     TokenReader(TokenList& list, std::string_view text, std::string fileName, ErrorList& errors,
                 bool isHidden);
     ~TokenReader();
@@ -23,6 +33,9 @@ public:
     // end of the text, or if it can't be read: then the list is empty, and the reason among the errors.
     bool Read(std::size_t count);
 
+    // The same for who wants messages and directives alone: operators aren't joined, names have no numbers.
+    bool Skim(std::size_t count);
+
     // Begins with the text again.
     void Restart();
 
@@ -30,7 +43,7 @@ private:
     class Cursor;
 
     TokenList& m_List;
-    std::string m_Text;
+    std::string_view m_Text;
     std::string m_FileName;
     ErrorList& m_Errors;
     bool m_IsHidden;

@@ -1,5 +1,7 @@
 #include "Preparation/MacroTokens.h"
 
+#include "Preparation/MacroCharacters.h"
+
 #include <algorithm>
 #include <ostream>
 #include <utility>
@@ -8,34 +10,12 @@ namespace MacroPreprocessorChecker::internal {
 
 namespace {
 
-bool IsLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '$';
-}
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-// What lies between two locations, printed: a line end for each line, then `blank` up to the column.
-std::string PrintedGap(const Location& start, const Location& end, char blank)
-{
-    std::string printed;
-    if (end.line > start.line) {
-        for (std::uint32_t line = start.line; line < end.line; ++line)
-            printed += "\r\n";
-        printed.append(end.col > 1 ? end.col - 1 : 0, blank);
-    } else if (end.line == start.line && end.col > start.col) {
-        printed.append(end.col - start.col, blank);
-    }
-    return printed;
-}
-
 bool HasQuoted(std::string_view text, char quote)
 {
+    if (text.size() < 2 || text.back() != quote)
+        return false;
     const std::size_t from = text.find(quote);
-    if (from == text.npos || text.size() < from + 2 || text.back() != quote)
+    if (text.size() < from + 2)
         return false;
     const std::string_view prefix = text.substr(0, from);
     return prefix.empty() || prefix == "u" || prefix == "U" || prefix == "L" || prefix == "u8";
@@ -57,34 +37,7 @@ void Location::adjust(std::string_view text)
     col = static_cast<std::uint32_t>(text.size() - lastEnd);
 }
 
-const std::string& Location::file() const
-{
-    static const std::string none;
-    return fileIndex < m_Names->size() ? (*m_Names)[fileIndex] : none;
-}
-
 // ---- Token ----
-
-Token::Token(std::string text, const Location& where, bool isHidden)
-    : sourceLine(where.line), location(where), hidden(isHidden), str(std::move(text))
-{
-    flags();
-}
-
-Token::Token(const Token& other)
-    : op(other.op), comment(other.comment), name(other.name), number(other.number),
-      sourceLine(other.sourceLine), location(other.location), hidden(other.hidden), str(other.str)
-{}
-
-Token* Token::getCopy() const
-{
-    return new Token(*this);
-}
-
-std::string Token::strToFile() const
-{
-    return str;
-}
 
 void Token::flags()
 {
@@ -92,75 +45,8 @@ void Token::flags()
     const char second = str.size() < 2 ? '\0' : str[1];
     op = str.size() == 1 ? first : '\0';
     comment = first == '/' && (second == '/' || second == '*');
-    name = IsLetter(first);
+    name = kLetters.Has(first);
     number = IsDigit(first) || (first == '-' && IsDigit(second));
-}
-
-void Token::setstr(std::string text)
-{
-    str = std::move(text);
-    flags();
-}
-
-// ---- White space ----
-
-TokenSpaces::TokenSpaces(const char* text, std::string printed, const Location& start, bool isHidden)
-    : Token(text, start, isHidden), raw(std::move(printed))
-{
-    name = false; // the text only says what it is
-}
-
-TokenSpaces::TokenSpaces(const Location& start, const Location& end, bool isHidden)
-    : TokenSpaces("_SPACE_", PrintedGap(start, end, ' '), start, isHidden)
-{}
-
-Token* TokenSpaces::getCopy() const
-{
-    return new TokenSpaces(*this);
-}
-
-Location TokenSpaces::GapEnd() const
-{
-    Location end = location;
-    end.adjust(raw);
-    return end;
-}
-
-std::uint32_t TokenSpaces::Lines() const
-{
-    return GapEnd().line - location.line;
-}
-
-std::uint32_t TokenSpaces::Columns() const
-{
-    const Location end = GapEnd();
-    return end.line == location.line ? end.col - location.col : end.col - 1;
-}
-
-TokenTabs::TokenTabs(const Location& start, const Location& end, bool isHidden)
-    : TokenSpaces("_TABS_", PrintedGap(start, end, '\t'), start, isHidden)
-{}
-
-Token* TokenTabs::getCopy() const
-{
-    return new TokenTabs(*this);
-}
-
-TokenSlash::TokenSlash(const Location& start, bool isHidden) : TokenSpaces("_SLASH_", "\\\n", start, isHidden)
-{}
-
-Token* TokenSlash::getCopy() const
-{
-    return new TokenSlash(*this);
-}
-
-TokenNewString::TokenNewString(const Location& start, bool isHidden)
-    : TokenSpaces("_NewString_", "\n", start, isHidden)
-{}
-
-Token* TokenNewString::getCopy() const
-{
-    return new TokenNewString(*this);
 }
 
 // ---- Looking around ----
@@ -168,7 +54,7 @@ Token* TokenNewString::getCopy() const
 Token* NextSignificant(const Token* token)
 {
     Token* next = token->next;
-    while (next != nullptr && (next->comment || next->SkipWhenNextOrPrev()))
+    while (next != nullptr && next->IsWhite())
         next = next->next;
     return next;
 }
@@ -176,9 +62,15 @@ Token* NextSignificant(const Token* token)
 Token* PreviousSignificant(const Token* token)
 {
     Token* previous = token->previous;
-    while (previous != nullptr && (previous->comment || previous->SkipWhenNextOrPrev()))
+    while (previous != nullptr && previous->IsWhite())
         previous = previous->previous;
     return previous;
+}
+
+const Token* NextOnLine(const Token* token)
+{
+    const Token* const next = NextSignificant(token);
+    return next != nullptr && next->sourceLine == token->sourceLine ? next : nullptr;
 }
 
 bool StartsDirective(const Token* token)
@@ -201,77 +93,74 @@ bool IsCharacterText(std::string_view text)
 
 // ---- TokenList ----
 
-TokenList::TokenList(FileNames& names) : m_Names(&names) {}
-
-TokenList::TokenList(const TokenList& other) : m_Names(other.m_Names), m_FileIndex(other.m_FileIndex)
-{
-    for (const Token* token = other.first; token != nullptr; token = token->next)
-        push_back(token->getCopy());
-}
-
-TokenList::TokenList(TokenList&& other) noexcept
-    : first(std::exchange(other.first, nullptr)), last(std::exchange(other.last, nullptr)),
-      m_Names(other.m_Names), m_FileIndex(std::move(other.m_FileIndex))
-{}
-
-TokenList& TokenList::operator=(const TokenList& other)
-{
-    if (this != &other)
-        *this = TokenList(other);
-    return *this;
-}
-
-TokenList& TokenList::operator=(TokenList&& other) noexcept
-{
-    if (this != &other) {
-        clear();
-        first = std::exchange(other.first, nullptr);
-        last = std::exchange(other.last, nullptr);
-        m_Names = other.m_Names;
-        m_FileIndex = std::move(other.m_FileIndex);
-    }
-    return *this;
-}
-
-TokenList::~TokenList()
-{
-    clear();
-}
-
 void TokenList::clear()
 {
-    while (first != nullptr)
-        delete std::exchange(first, first->next);
-    last = nullptr;
+    if (first != nullptr)
+        m_Store->pool.Give(first, last);
+    first = last = nullptr;
+    m_Texts.clear();
 }
 
-void TokenList::push_back(Token* token)
+Token* TokenList::push_back(std::string_view text, const Location& where, bool isHidden)
 {
-    token->previous = last;
-    token->next = nullptr;
-    (last != nullptr ? last->next : first) = token;
-    last = token;
-}
-
-Token* TokenList::release(Token* token)
-{
-    (token->previous != nullptr ? token->previous->next : first) = token->next;
-    (token->next != nullptr ? token->next->previous : last) = token->previous;
-    token->previous = token->next = nullptr;
+    Token* const token = AppendRaw();
+    token->nameNumber = 0;
+    token->sourceLine = where.line;
+    token->location = where;
+    token->kind = TOKEN_INK;
+    token->hidden = isHidden;
+    token->setstr(text);
     return token;
+}
+
+Token* TokenList::push_back(enTokenKind kind, std::string_view text, const Location& where, bool isHidden)
+{
+    Token* const token = AppendRaw();
+    token->str = text;
+    token->nameNumber = 0;
+    token->sourceLine = where.line;
+    token->location = where;
+    token->kind = kind;
+    token->op = '\0';
+    token->comment = token->name = token->number = false;
+    token->hidden = isHidden;
+    return token;
+}
+
+Token* TokenList::push_back(const Token& token)
+{
+    Token* const copy = AppendRaw();
+    Token* const previous = copy->previous;
+    *copy = token;
+    copy->previous = previous;
+    copy->next = nullptr;
+    return copy;
 }
 
 void TokenList::deleteToken(Token* token)
 {
-    if (token != nullptr)
-        delete release(token);
+    if (token == nullptr)
+        return;
+    (token->previous != nullptr ? token->previous->next : first) = token->next;
+    (token->next != nullptr ? token->next->previous : last) = token->previous;
+    m_Store->pool.Give(token, token);
+}
+
+void TokenList::DeleteBefore(Token* token)
+{
+    if (token == first)
+        return;
+    m_Store->pool.Give(first, token->previous);
+    first = token;
+    token->previous = nullptr;
 }
 
 std::uint32_t TokenList::fileIndex(const std::string& fileName)
 {
-    const auto [at, isNew] = m_FileIndex.try_emplace(fileName, static_cast<std::uint32_t>(m_Names->size()));
+    FileNames& files = m_Store->files;
+    const auto [at, isNew] = m_FileIndex.try_emplace(fileName, static_cast<std::uint32_t>(files.size()));
     if (isNew)
-        m_Names->push_back(fileName);
+        files.push_back(fileName);
     return at->second;
 }
 
@@ -281,7 +170,7 @@ std::string TokenList::lastLine(std::size_t maxsize) const
     for (const Token* token = last;
          token != nullptr && token->sourceLine == last->sourceLine && tokens.size() < maxsize;
          token = token->previous)
-        if (!token->comment && !token->SkipWhenNextOrPrev())
+        if (!token->IsWhite())
             tokens.push_back(token);
     std::string line;
     for (std::size_t at = tokens.size(); at-- > 0;) {
@@ -315,7 +204,7 @@ std::string TokenList::ToText(std::vector<std::uint32_t>* sourceLines) const
     TokenWriter writer(sourceLines);
     for (const Token* token = first; token != nullptr; token = token->next)
         writer.Write(*token);
-    return std::move(writer.Text());
+    return writer.TakeText();
 }
 
 void TokenList::ToFile(std::ostream& stream, std::vector<std::uint32_t>* sourceLines) const
@@ -332,6 +221,12 @@ TokenWriter::TokenWriter(std::vector<std::uint32_t>* sourceLines) : m_SourceLine
         m_SourceLines->assign(1, m_Line);
 }
 
+std::string TokenWriter::TakeText()
+{
+    Flush();
+    return std::move(m_Text);
+}
+
 void TokenWriter::StartLine()
 {
     if (m_SourceLines != nullptr)
@@ -341,20 +236,20 @@ void TokenWriter::StartLine()
 // Lines are counted as they stand in the text that was read, so that a line directive neither joins lines nor
 // opens a gap of as many lines as it likes. A continuation is a line end of the source; the line end that it
 // becomes in an expansion is one more than the source had.
-void TokenWriter::Write(const Token& token)
+void TokenWriter::GoToLine(std::uint32_t sourceLine)
 {
-    if (token.hidden)
-        return;
-    while (token.sourceLine > m_Line) {
+    Flush();
+    while (sourceLine > m_Line) {
         m_Text += '\n';
         ++m_Line;
         StartLine();
     }
-    const std::string printed = token.strToFile();
-    m_Text += printed;
-    const bool isSourceLine = !token.IsNextLineToken() || token.IsHidenForHuman();
-    for (std::size_t end = printed.find('\n'); end != printed.npos; end = printed.find('\n', end + 1)) {
-        m_Line += isSourceLine;
+}
+
+void TokenWriter::CountLineEnds(std::string_view written)
+{
+    for (std::size_t end = written.find('\n'); end != written.npos; end = written.find('\n', end + 1)) {
+        ++m_Line;
         StartLine();
     }
 }

@@ -1,167 +1,21 @@
-// The token lists that the macro processor works on. White space and line continuations are tokens too, and
-// each token knows what to print, so that a list written back looks like its source apart from what a macro
-// changed. Everything else looks through such tokens by SkipWhenNextOrPrev().
+// The token lists that the macro processor works on: reading, joining operators, folding, writing back.
 #pragma once
 
-#include "Preparation/MacroTokenPool.h"
+#include "Preparation/MacroToken.h"
+#include "Preparation/MacroTokenStore.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <forward_list>
 #include <iosfwd>
-#include <list>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace MacroPreprocessorChecker::internal {
-
-using FileNames = std::vector<std::string>;
-
-// Where a token starts. All tokens of a logical line, one with continued lines, stand on the line where it
-// begins.
-class Location
-{
-public:
-    // Borrows `names`, which outlives the location.
-    explicit Location(const FileNames& names, std::uint32_t file = 0, std::uint32_t firstLine = 1,
-                      std::uint32_t firstColumn = 1)
-        : fileIndex(file), line(firstLine), col(firstColumn), m_Names(&names)
-    {}
-
-    // Moves behind `text`. Line ends are "\n", "\r\n" and "\r".
-    void adjust(std::string_view text);
-
-    bool sameline(const Location& other) const { return line == other.line && fileIndex == other.fileIndex; }
-    bool operator==(const Location& other) const { return sameline(other) && col == other.col; }
-
-    // Empty if the list of names has no such entry.
-    const std::string& file() const;
-
-    std::uint32_t fileIndex;
-    std::uint32_t line; // from 1; line directives move it
-    std::uint32_t col;  // from 1, in bytes
-
-private:
-    const FileNames* m_Names;
-};
-
-class Token
-{
-public:
-    Token(std::string text, const Location& where, bool isHidden = false);
-
-    // Owner: the caller. A copy of the same type, in no list.
-    virtual Token* getCopy() const;
-    virtual ~Token() = default;
-    virtual std::string strToFile() const;
-    virtual bool IsNextLineToken() const { return false; }
-    virtual bool IsHidenForHuman() const { return false; }
-    virtual bool SkipWhenNextOrPrev() const { return false; }
-
-    Token& operator=(const Token&) = delete;
-
-    static void* operator new(std::size_t size) { return CTokenPool::Allocate(size); }
-    static void operator delete(void* memory, std::size_t size) noexcept { CTokenPool::Free(memory, size); }
-
-    // To be called whenever `str` has changed: sets op, comment, name and number.
-    void flags();
-    void setstr(std::string text);
-
-    char op = 0;          // the character, if `str` is one character long
-    bool comment = false; // "//..." or "/*...*/"
-    bool name = false;    // begins with a letter, "_" or "$"
-    bool number = false;  // begins with a digit, or with "-" and a digit
-    // The line of the text itself where the token's logical line begins: line directives don't move it.
-    std::uint32_t sourceLine;
-    Location location;
-    bool hidden; // from an include file: never written
-    Token* previous = nullptr;
-    Token* next = nullptr;
-    std::string str;
-
-protected:
-    Token(const Token& other);
-};
-
-// A run of blanks.
-class TokenSpaces : public Token
-{
-public:
-    // Prints a line end for each line between the two, then the blanks up to the column of `end`.
-    TokenSpaces(const Location& start, const Location& end, bool isHidden = false);
-
-    Token* getCopy() const override;
-    std::string strToFile() const override { return raw; }
-    bool SkipWhenNextOrPrev() const override { return true; }
-
-    Location GapStart() const { return location; }
-    Location GapEnd() const;
-    std::uint32_t Lines() const;
-    std::uint32_t Columns() const;
-
-    std::string raw;
-
-protected:
-    TokenSpaces(const char* text, std::string printed, const Location& start, bool isHidden);
-    TokenSpaces(const TokenSpaces& other) = default;
-};
-
-class TokenTabs : public TokenSpaces
-{
-public:
-    TokenTabs(const Location& start, const Location& end, bool isHidden = false);
-    Token* getCopy() const override;
-};
-
-// A backslash and a line end: the logical line goes on.
-class TokenSlash : public TokenSpaces
-{
-public:
-    explicit TokenSlash(const Location& start, bool isHidden = false);
-    Token* getCopy() const override;
-    bool IsNextLineToken() const override { return true; }
-    bool IsHidenForHuman() const override { return true; }
-};
-
-// What a continuation inside a macro becomes when the macro is expanded: a plain line end.
-class TokenNewString : public TokenSpaces
-{
-public:
-    explicit TokenNewString(const Location& start, bool isHidden = false);
-    Token* getCopy() const override;
-    bool IsNextLineToken() const override { return true; }
-};
-
-enum enErrorType
-{
-    ERROR_DIRECTIVE = 0,
-    WARNING_DIRECTIVE = 1,
-    MISSING_HEADER = 2,
-    INCLUDE_NESTED_TOO_DEEPLY = 3,
-    SYNTAX_ERROR = 4,
-    PORTABILITY = 5,
-    UNHANDLED_CHARACTER = 6,
-    EXPLICIT_INCLUDE_NOT_FOUND = 7
-};
-
-struct ErorrOutput
-{
-    enErrorType type;
-    Location location;
-    std::string msg;
-};
-
-using ErrorList = std::list<ErorrOutput>;
-
-// The next or previous token that isn't white space; comments count as white space here. Null if there is
-// none.
-Token* NextSignificant(const Token* token);
-Token* PreviousSignificant(const Token* token);
-
-// A "#" that is the first significant token of its line.
-bool StartsDirective(const Token* token);
 
 // Where the joining of operators stands: what is told from the tokens behind it. Kept while going forward,
 // since looking back over them at each token would take time in the square of their number.
@@ -184,31 +38,48 @@ private:
     std::size_t m_Depth = 0;            // parentheses open in the statement
 };
 
-// An owning doubly linked list. It stays in the thread that made its tokens.
+// An owning doubly linked list.
 class TokenList
 {
 public:
-    // Borrows `names`, which outlives the list; the lists of a run share it.
-    explicit TokenList(FileNames& names);
-    TokenList(const TokenList& other);
-    TokenList(TokenList&& other) noexcept;
-    TokenList& operator=(const TokenList& other);
-    TokenList& operator=(TokenList&& other) noexcept;
-    ~TokenList();
+    // Borrows `store`, which outlives the list; the lists of a run share it.
+    explicit TokenList(TokenStore& store) : m_Store(&store) {}
+    ~TokenList() { clear(); }
+    TokenList(const TokenList&) = delete;
+    TokenList& operator=(const TokenList&) = delete;
 
     bool empty() const { return first == nullptr; }
+    // Deletes the tokens, and the texts that the list has kept for them.
     void clear();
 
-    // Takes over `token`, which is in no list.
-    void push_back(Token* token);
+    // Appends ink. Borrows `text`, which lives as long as the token.
+    Token* push_back(std::string_view text, const Location& where, bool isHidden = false);
+    // Appends white space of the kind.
+    Token* push_back(enTokenKind kind, std::string_view text, const Location& where, bool isHidden = false);
+    // Appends a copy of a token, with the same text.
+    Token* push_back(const Token& token);
+    // Appends a token of which only the links are set.
+    Token* AppendRaw()
+    {
+        Token* const token = m_Store->pool.Take();
+        token->previous = last;
+        token->next = nullptr;
+        (last != nullptr ? last->next : first) = token;
+        last = token;
+        return token;
+    }
+
+    // Keeps a text that isn't the source's as long as the list's tokens.
+    std::string_view Keep(std::string text) { return m_Texts.emplace_front(std::move(text)); }
+
     void deleteToken(Token* token);
-    // Takes `token` out of the list. Owner: the caller.
-    Token* release(Token* token);
+    // Deletes all tokens before `token`, which is in the list.
+    void DeleteBefore(Token* token);
 
     // Replaces the list by the tokens of a text. The reader's messages are appended to `errors`; one that
     // ends reading leaves the list empty. `isHidden`: the text is an include file.
     void readfile(std::istream& stream, const std::string& fileName, ErrorList& errors, bool isHidden);
-    void readtext(std::string_view text, const std::string& fileName, ErrorList& errors, bool isHidden);
+    void readtext(std::string text, const std::string& fileName, ErrorList& errors, bool isHidden);
 
     // The last tokens of the current line, at most `maxsize`, separated by blanks: "%str%" for a string,
     // "%num%" for a number, anything else as it stands. Comments and white space are left out.
@@ -218,7 +89,7 @@ public:
     // directive that moves the current file by at most 2 lines leaves the list.
     void lineDirective(std::uint32_t fileIndex, std::uint32_t line, Location& location);
 
-    // The index of a name in the list of names, added if this list didn't have it.
+    // The index of a name in the store's list of files, added if this list didn't have it.
     std::uint32_t fileIndex(const std::string& fileName);
 
     // Joins the characters of operators and floating literals that stand side by side.
@@ -235,7 +106,7 @@ public:
     void ToFile(std::ostream& stream, std::vector<std::uint32_t>* sourceLines = nullptr) const;
     std::string ToText(std::vector<std::uint32_t>* sourceLines = nullptr) const;
 
-    FileNames& names() const { return *m_Names; }
+    TokenStore& store() const { return *m_Store; }
 
     Token* first = nullptr;
     Token* last = nullptr;
@@ -250,25 +121,71 @@ private:
     void constFoldLogicalOp(Token* from);
     void constFoldQuestionOp(Token* from);
     void JoinNext(Token* token);
-    void JoinFloatingLiteral(Token* token);
+    void JoinNumberOrPoints(Token* token);
+    void JoinOperator(Token* token, char next, const OperatorScope& scope);
 
-    FileNames* m_Names;
+    TokenStore* m_Store;
+    std::forward_list<std::string> m_Texts;
     std::map<std::string, std::uint32_t> m_FileIndex;
 };
 
-// Writes tokens that aren't hidden, on their lines.
+// Writes tokens that aren't hidden, on their lines. What stood side by side in the source is copied as one
+// piece: most of a source is no macro's.
 class TokenWriter
 {
 public:
     // `sourceLines`: if not null, gets for each written line the line of the source where it begins.
     explicit TokenWriter(std::vector<std::uint32_t>* sourceLines = nullptr);
-    void Write(const Token& token);
-    std::string& Text() { return m_Text; }
+
+    // Makes room for a text of `size` bytes.
+    void Reserve(std::size_t size) { m_Text.reserve(size); }
+
+    // Borrows the token's text until Flush().
+    void Write(const Token& token)
+    {
+        if (token.hidden)
+            return;
+        Write(token.str, token.sourceLine);
+        if (token.comment || token.IsNextLineToken())
+            CountLineEnds(token.str);
+    }
+
+    // Writes a text without line ends for which there is no token, and borrows it as well.
+    void Write(std::string_view text, std::uint32_t sourceLine)
+    {
+        if (sourceLine > m_Line)
+            GoToLine(sourceLine);
+        if (text.data() == m_Pending.data() + m_Pending.size()) {
+            m_Pending = {m_Pending.data(), m_Pending.size() + text.size()};
+        } else {
+            Flush();
+            m_Pending = text;
+        }
+    }
+
+    // Writes a line end that the source doesn't have.
+    void EndLine(std::uint32_t sourceLine)
+    {
+        Write("\n", sourceLine);
+        StartLine();
+    }
+
+    // Ends the borrowing of texts.
+    void Flush()
+    {
+        m_Text += m_Pending;
+        m_Pending = {};
+    }
+
+    std::string TakeText();
 
 private:
+    void GoToLine(std::uint32_t sourceLine);
+    void CountLineEnds(std::string_view written);
     void StartLine();
 
     std::string m_Text;
+    std::string_view m_Pending; // written, but not yet in m_Text
     std::vector<std::uint32_t>* m_SourceLines;
     std::uint32_t m_Line = 1; // of the source
 };
@@ -283,18 +200,5 @@ bool IsIntegerText(std::string_view text);
 
 // Value of a character constant such as 'a', L'\n' or '\x41'. Throws: std::runtime_error if it is empty.
 long long CharacterValue(std::string_view constant);
-
-// `text` with quotes around it, and with backslashes before what a string literal can't hold.
-std::string escapeString(std::string_view text);
-
-// What a "string" or 'character' token is, behind an encoding prefix.
-bool IsStringText(std::string_view text);
-bool IsCharacterText(std::string_view text);
-
-// A text that the reader takes as one name, number, string or operator.
-bool IsOneToken(std::string_view text);
-
-// Two texts that would be read differently if nothing stood between them.
-bool WouldJoin(std::string_view left, std::string_view right);
 
 } // namespace MacroPreprocessorChecker::internal

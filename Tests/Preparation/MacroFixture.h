@@ -46,7 +46,7 @@ inline std::vector<std::string> MacroTokens(const MacroPreprocessorChecker::inte
     std::vector<std::string> texts;
     for (const auto* token = list.first; token != nullptr; token = token->next)
         if (!token->SkipWhenNextOrPrev())
-            texts.push_back(token->str);
+            texts.emplace_back(token->str);
     return texts;
 }
 
