@@ -71,20 +71,31 @@ bool IsOneQuoted(std::string_view text)
     return at + 1 == text.size();
 }
 
+// The token that begins where this one ends: nothing stands between the two, no line end either.
+Token* Adjacent(const Token* token)
+{
+    Token* const next = token->next;
+    return next != nullptr && next->str.data() == token->str.data() + token->str.size() ? next : nullptr;
+}
+
+// The adjacent token, if it is one character.
 char NextCharacter(const Token* token)
 {
-    return token->next == nullptr ? '\0' : token->next->op;
+    const Token* const next = Adjacent(token);
+    return next == nullptr ? '\0' : next->op;
+}
+
+bool IsNumber(const Token* token)
+{
+    return token != nullptr && token->number;
 }
 
 } // namespace
 
+// Takes in the adjacent token.
 void TokenList::JoinNext(Token* token)
 {
-    const std::string_view left = token->str;
-    const std::string_view right = token->next->str;
-    const bool areTogether = left.data() + left.size() == right.data();
-    token->setstr(areTogether ? std::string_view(left.data(), left.size() + right.size())
-                              : m_Store->Keep(std::string(left).append(right)));
+    token->setstr({token->str.data(), token->str.size() + token->next->str.size()});
     deleteToken(token->next);
 }
 
@@ -97,11 +108,12 @@ void TokenList::JoinNumberOrPoints(Token* token)
         return;
     }
     const auto joinWord = [&] {
-        if (token->next != nullptr && (token->next->name || token->next->number))
+        const Token* const next = Adjacent(token);
+        if (next != nullptr && (next->name || next->number))
             JoinNext(token);
     };
     if (token->op == '.') {
-        if (token->next == nullptr || !token->next->number)
+        if (!IsNumber(Adjacent(token)))
             return;
         // ".5" is a number although it doesn't begin with a digit
         JoinNext(token);
@@ -110,8 +122,8 @@ void TokenList::JoinNumberOrPoints(Token* token)
         JoinNext(token);
         joinWord();
     }
-    while (EndsInExponent(token->str) && kSigns.Has(NextCharacter(token)) && token->next->next != nullptr &&
-           token->next->next->number) {
+    while (EndsInExponent(token->str) && kSigns.Has(NextCharacter(token)) &&
+           IsNumber(Adjacent(token->next))) {
         JoinNext(token);
         JoinNext(token);
     }

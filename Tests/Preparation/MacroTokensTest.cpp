@@ -55,6 +55,9 @@ const STokensCase kTokens[] = {
     {"void f(int &=g); h() { a &= b; }",
      {"void", "f", "(", "int", "&", "=", "g", ")", ";", "h", "(", ")", "{", "a", "&=", "b", ";", "}"}},
     {"int a *= 2;", {"int", "a", "*=", "2", ";"}},
+    // over a line's end nothing is joined
+    {"a &\n&b.\n.\n.c", {"a", "&", "&", "b", ".", ".", ".", "c"}},
+    {"2.\nB 2\n.5 1e\n+1 .\n5", {"2.", "B", "2", ".5", "1e", "+", "1", ".", "5"}},
 };
 
 TEST(MacroTokens, TextsAreCutIntoTokens)
@@ -154,6 +157,7 @@ constexpr const char* kKept[] = {
     "#line 7 \"x.y\"\na\n#line 1000000000\nb\n# file \"z\"\nc\n# endfile\nd",
     "\\\n# \\\n if 1\n#endif",
     "#error don't \\\n  do \"this\nx",
+    "default:\n::a = 1.\n+2 <\n<\n=b",
 };
 
 TEST(MacroTokens, SourcesComeBackAsTheyAre)
