@@ -88,8 +88,8 @@ const Token* FirstInk(const Token* token)
     return token != nullptr && token->sourceLine == line ? token : nullptr;
 }
 
-// Tokens that are read, and deleted, at a time.
-constexpr std::size_t kPiece = 4096;
+// Tokens that are read, and deleted, at a time: those of a piece stay in the processor's first cache.
+constexpr std::size_t kPiece = 512;
 
 // The text as the reader takes it, which the store keeps if it isn't the text itself.
 std::string_view Decoded(TokenStore& store, const std::string& text)
