@@ -1,5 +1,5 @@
-// A table of what names became, by a text that is cut in two: where a name stands, and what it is. Several
-// records may stand under one text.
+// A table of what names became: by the place where a name stands and the text that it is. Several records, of
+// different types, may stand under one text.
 //
 // Names come table by table, so what stands in one place is kept together: a search among a million names
 // then touches memory that the one before has touched. Records are many and small; their texts lie behind
@@ -20,8 +20,8 @@ public:
     struct SContent
     {
         unsigned long reasons = 0;
-        int type = -1;
-        int number = 0;
+        int type = -1;     // of the record
+        int pathType = -1; // of the path that leads to it
     };
 
     // Valid until the next change of the table.

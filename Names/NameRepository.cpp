@@ -5,7 +5,9 @@
 #include "Names/NameSpaceRows.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <functional>
 #include <limits>
 #include <string>
 #include <utility>
@@ -34,12 +36,6 @@ bool IsAsciiLower(char byte)
     return byte >= 'a' && byte <= 'z';
 }
 
-void AppendNumber(int number, std::string& text)
-{
-    char digits[std::numeric_limits<int>::digits10 + 3];
-    text.append(digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr);
-}
-
 void AppendUpper(const Uve::U8CString& name, std::string& text)
 {
     if (std::ranges::any_of(name, [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; })) {
@@ -56,62 +52,41 @@ void AppendUpper(const Uve::U8CString& name, std::string& text)
     }
 }
 
-// Writes the text of a path.
-// Returns: where the number of its last type stands in it.
-std::size_t WriteKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names, bool foldsCase,
-                     std::string_view prefix, std::string& text)
+void AppendName(const Uve::U8CString& name, bool foldsCase, std::string& text)
 {
-    text.clear();
-    std::size_t lastTypeAt = 0;
-    const std::size_t count = std::min(path.size(), names.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        text += "_/";
-        lastTypeAt = text.size();
-        AppendNumber(path[i], text);
-        text += "/_";
-        if (foldsCase)
-            AppendUpper(names[i], text);
-        else
-            text += names[i];
-    }
-    if (!prefix.empty()) {
-        text += '|';
-        text += prefix;
-    }
-    return lastTypeAt;
+    if (foldsCase)
+        AppendUpper(name, text);
+    else
+        text += name;
 }
 
-struct SNumberPlace
-{
-    std::size_t at = std::string_view::npos;
-    std::size_t length = 0;
-    int number = 0;
-};
+// Note: places
+// A place is the number of types above an object, then each of these types with the size of its name and the
+// name, then the prefix. Numbers are as the machine has them.
+using PlaceNumber = std::int32_t;
 
-// Note: stems. The last number of the text between "_/" and "/_", spelled as a path spells it: without zeros
-// in front.
-SNumberPlace FindLastNumber(std::string_view text)
+void AppendPlaceNumber(std::size_t number, std::string& place)
 {
-    constexpr std::size_t kMaxDigits = std::numeric_limits<int>::digits10;
-    for (std::size_t end = text.rfind("/_"); end != std::string_view::npos && end > 0;
-         end = text.rfind("/_", end - 1)) {
-        std::size_t at = end;
-        while (at > 0 && text[at - 1] >= '0' && text[at - 1] <= '9')
-            --at;
-        const std::size_t digitCount = end - at;
-        if (digitCount == 0 || digitCount > kMaxDigits)
-            continue;
-        const bool isNegative = at > 0 && text[at - 1] == '-';
-        if (text[at] == '0' && (digitCount > 1 || isNegative))
-            continue;
-        at -= isNegative ? 1 : 0;
-        if (at < 2 || text.substr(at - 2, 2) != "_/")
-            continue;
-        SNumberPlace place{at, end - at, 0};
-        std::from_chars(text.data() + at, text.data() + end, place.number);
-        return place;
+    const auto value = static_cast<PlaceNumber>(number);
+    place.append(reinterpret_cast<const char*>(&value), sizeof(value));
+}
+
+PlaceNumber TakePlaceNumber(std::string_view& place)
+{
+    PlaceNumber value = 0;
+    std::memcpy(&value, place.data(), sizeof(value));
+    place.remove_prefix(sizeof(value));
+    return value;
+}
+
+bool HasType(std::string_view place, int type)
+{
+    for (PlaceNumber left = TakePlaceNumber(place); left > 0; --left) {
+        if (TakePlaceNumber(place) == type)
+            return true;
+        place.remove_prefix(static_cast<std::size_t>(TakePlaceNumber(place)));
     }
-    return {};
+    return false;
 }
 
 } // namespace
@@ -123,6 +98,12 @@ void updateHashValue(CObjects& object)
     text += object.name;
     text += std::to_string(object.type);
     object.hashValue = std::hash<std::string>{}(text);
+}
+
+std::size_t SNameKeyHash::operator()(const SNameKey& key) const noexcept
+{
+    const std::hash<std::string_view> hash;
+    return hash(key.place) * 31 + hash(key.name) + static_cast<std::size_t>(key.type);
 }
 
 bool ContainsLower(const Uve::U8CString& text)
@@ -166,9 +147,44 @@ void Repositary2::Init(DB_VERSION_INFO version, int quotedCase, bool isOpenEdge)
 int Repositary2::GetValidKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                              Uve::U8CString& key, std::string_view prefix, std::size_t length) const
 {
-    WriteKey(path, names, FoldsCase(), prefix.substr(0, length), m_KeyText);
-    key = m_KeyText;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(path.size(), names.size()); ++i) {
+        text += "_/" + std::to_string(path[i]) + "/_";
+        AppendName(names[i], FoldsCase(), text);
+    }
+    if (const std::string_view cut = prefix.substr(0, length); !cut.empty())
+        text.append(1, '|').append(cut);
+    key = std::move(text);
     return 1;
+}
+
+// See the note on places. `prefix` is cut already.
+void Repositary2::WriteKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
+                           std::string_view prefix, SNameKey& key) const
+{
+    const std::size_t above = path.size() - 1;
+    key.place.clear();
+    AppendPlaceNumber(above, key.place);
+    for (std::size_t i = 0; i < above; ++i) {
+        AppendPlaceNumber(static_cast<std::size_t>(path[i]), key.place);
+        const std::size_t sizeAt = key.place.size();
+        AppendPlaceNumber(0, key.place);
+        AppendName(names[i], FoldsCase(), key.place);
+        const auto size = static_cast<PlaceNumber>(key.place.size() - sizeAt - sizeof(PlaceNumber));
+        std::memcpy(key.place.data() + sizeAt, &size, sizeof(size));
+    }
+    key.place += prefix;
+    key.type = path.back();
+    key.name.clear();
+    AppendName(names.back(), FoldsCase(), key.name);
+}
+
+SNameKey Repositary2::MakeKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
+                              std::string_view prefix) const
+{
+    SNameKey key;
+    WriteKey(path, names, prefix, key);
+    return key;
 }
 
 CObjectTypeSet Repositary2::FindGroup(int type) const
@@ -185,21 +201,6 @@ std::set<int> Repositary2::GetGroup(int type) const
     return types;
 }
 
-Repositary2::SKey Repositary2::CutKey(std::string_view text)
-{
-    const SNumberPlace place = FindLastNumber(text);
-    if (place.at == std::string_view::npos)
-        return {{}, text, 0};
-    return {text.substr(0, place.at), text.substr(place.at + place.length), place.number};
-}
-
-const CNameRecords::SRecord* Repositary2::FindKey(const SKey& key) const
-{
-    return m_Records.FindIf(key.front, key.back, [&key](const CNameRecords::SRecord& record) {
-        return record.content.number == key.number;
-    });
-}
-
 const CNameRecords::SRecord* Repositary2::Find(const std::vector<int>& path,
                                                const std::vector<Uve::U8CString>& names,
                                                std::string_view prefix) const
@@ -211,26 +212,13 @@ const CNameRecords::SRecord* Repositary2::Find(const std::vector<int>& path,
     if (types.IsEmpty())
         return nullptr;
 
-    const std::size_t lastTypeAt = WriteKey(path, names, FoldsCase(), prefix, m_KeyText);
+    WriteKey(path, names, prefix, m_Key);
     const CNameRecords::SRecord* found = nullptr;
-    if (const SKey key = CutKey(m_KeyText); key.front.size() == lastTypeAt) {
-        m_Records.FindIf(key.front, key.back, [&](const CNameRecords::SRecord& record) {
-            const int number = record.content.number;
-            if (types.Has(number) && (!found || number < found->content.number))
-                found = &record;
-            return false;
-        });
-        return found;
-    }
-    // A name holds a number that looks like a type.
-    const std::size_t lastTypeEnd = m_KeyText.find('/', lastTypeAt);
-    types.ForEach([&](int type) {
-        if (found)
-            return;
-        std::string tried = m_KeyText.substr(0, lastTypeAt);
-        AppendNumber(type, tried);
-        tried.append(m_KeyText, lastTypeEnd);
-        found = FindKey(CutKey(tried));
+    m_Records.FindIf(m_Key.place, m_Key.name, [&](const CNameRecords::SRecord& record) {
+        const int type = record.content.pathType;
+        if (types.Has(type) && (!found || type < found->content.pathType))
+            found = &record;
+        return false;
     });
     return found;
 }
@@ -259,23 +247,19 @@ bool Repositary2::SetObject(const std::vector<int>& path, const std::vector<Uve:
 {
     if (path.empty() || path.size() != names.size())
         return false;
-    WriteKey(path, names, FoldsCase(), prefix.substr(0, length), m_KeyText);
-    const SKey key = CutKey(m_KeyText);
-    if (FindKey(key))
+    WriteKey(path, names, prefix.substr(0, length), m_Key);
+    const auto isSame = [&](const CNameRecords::SRecord& known) {
+        return known.content.pathType == m_Key.type;
+    };
+    if (m_Records.FindIf(m_Key.place, m_Key.name, isSame))
         return false;
-    m_Records.Add(key.front, key.back, record.name, {record.reasons, record.type, key.number});
+    m_Records.Add(m_Key.place, m_Key.name, record.name, {record.reasons, record.type, m_Key.type});
     return true;
 }
 
 void Repositary2::RemoveRecords(int type)
 {
-    std::string wanted = "_/";
-    AppendNumber(type, wanted);
-    wanted += "/_";
-    // Between both parts of a key nothing is found that would take in some of its number.
-    m_Records.RemoveIf([&](std::string_view front, const CNameRecords::SRecord& record) {
-        return (!front.empty() && record.content.number == type) ||
-               front.find(wanted) != std::string_view::npos ||
-               record.Text().find(wanted) != std::string_view::npos;
+    m_Records.RemoveIf([type](std::string_view place, const CNameRecords::SRecord& record) {
+        return record.content.pathType == type || HasType(place, type);
     });
 }

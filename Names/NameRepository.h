@@ -64,6 +64,21 @@ struct CObjectsHash
     std::size_t operator()(const CObjects& object) const noexcept { return object.hashValue; }
 };
 
+// What an object is known by. Types of one group that share place and name are found together.
+struct SNameKey
+{
+    std::string place; // the types and names above it, and the prefix, in a form that keeps them apart
+    int type = -1;
+    std::string name; // as the case rule has it
+
+    bool operator==(const SNameKey&) const = default;
+};
+
+struct SNameKeyHash
+{
+    std::size_t operator()(const SNameKey& key) const noexcept;
+};
+
 // Whether there is a lower-case letter among the ASCII characters.
 bool ContainsLower(const Uve::U8CString& text);
 
@@ -104,7 +119,12 @@ public:
     bool IsOpenEdge() const { return m_IsOpenEdge; }
     const CDatabaseStructure& GetStructure() const { return m_Structure; }
 
-    // Writes the text under which a path is known: "_/36/_dbo_/0/_orders|prefix".
+    // The key of a path, which has a name for each of its types and at least one. Paths with equal keys are
+    // one object.
+    SNameKey MakeKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
+                     std::string_view prefix) const;
+
+    // Writes a path as a text for people: "_/36/_dbo_/0/_orders|prefix". Two paths may have the same.
     // Returns: 1.
     int GetValidKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                     Uve::U8CString& key, std::string_view prefix = {}, std::size_t length = 0) const;
@@ -128,35 +148,19 @@ public:
     bool SetObject(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                    const CConvertedName& record, std::string_view prefix = {}, std::size_t length = 0);
 
-    // Forgets every record with `type` anywhere in its path (strictly: with "_/type/_" in its key).
+    // Forgets every record with `type` anywhere in its path.
     void RemoveRecords(int type);
 
     std::size_t GetCount() const { return m_Records.GetCount(); }
 
 private:
-    // Note: stems
-    // A look-up tries a whole group of types, which would be a dozen keys that differ in one number. So a
-    // record stands under its key without that number, the last one in the text, and the types that share
-    // the rest of the key are found together. The number is searched in the text and not taken from the path:
-    // a name may hold such a number too, and two paths with one key are one entry.
-
-    // A key in its parts: what is in front of the number, the number, what is behind it. A key without a
-    // number has nothing in front and the number 0; no other key begins so.
-    struct SKey
-    {
-        std::string_view front;
-        std::string_view back;
-        int number = 0;
-    };
-
     bool FoldsCase() const
     {
         return m_QuotedCase == kCaseInsensitive || m_IdentifierCase == kCaseInsensitive;
     }
-    // Borrows `text`.
-    static SKey CutKey(std::string_view text);
+    void WriteKey(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
+                  std::string_view prefix, SNameKey& key) const;
     CObjectTypeSet FindGroup(int type) const;
-    const CNameRecords::SRecord* FindKey(const SKey& key) const;
     const CNameRecords::SRecord* Find(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                                       std::string_view prefix) const;
 
@@ -166,5 +170,5 @@ private:
     int m_QuotedCase = 3;
     int m_IdentifierCase = 3;
     bool m_IsOpenEdge = false;
-    mutable std::string m_KeyText; // room for the key of the call at hand
+    mutable SNameKey m_Key; // room for the key of the call at hand
 };

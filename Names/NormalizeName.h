@@ -276,7 +276,7 @@ private:
 
     // The last number that a name of the target was given, by its key: a thousand names that are equal after
     // the cut would otherwise each try all the numbers before. Cleared whenever the target forgets names.
-    std::unordered_map<std::string, int> m_LastNumbers;
+    std::unordered_map<SNameKey, int, SNameKeyHash> m_LastNumbers;
 };
 
 // Bits of the mode of PrepareSingleObjectName.

@@ -169,9 +169,9 @@ CNormalizeName::SFreeName CNormalizeName::CFreeNameSearch::Run(std::vector<Uve::
     if (IsFree(key))
         return {std::move(parts), std::move(key)};
 
-    Uve::U8CString keyText;
-    m_Normaliser.m_TargetNames.GetValidKey(m_Path, key, keyText, m_Prefix, m_Prefix.size());
-    int& number = m_Normaliser.m_LastNumbers.try_emplace(std::move(keyText), 1).first->second;
+    int& number =
+        m_Normaliser.m_LastNumbers.try_emplace(m_Normaliser.m_TargetNames.MakeKey(m_Path, key, m_Prefix), 1)
+            .first->second;
 
     const long limit = m_Normaliser.m_IsTrimming
                            ? GetDBMSMaxIdentifierSize(static_cast<unsigned long>(m_Type), m_Target, "")

@@ -79,19 +79,22 @@ CNormalizeName::NormalizeParts(const std::vector<int>& path, const std::vector<U
     const int type = path.back();
     const bool isRemembered = type != UVDB_DBO_ALIAS;
     std::vector<int> sourcePath = TranslatePath(path);
-    std::string sourcePrefix(prefix);
+    const std::vector<Uve::U8CString>* sourceNames = &names;
+    std::vector<Uve::U8CString> namesOutsideGroups;
 
     CConvertedName record;
     const auto isKnown = [&] {
-        return m_SourceNames.GetObjectStr(sourcePath, names, record, sourcePrefix, sourcePrefix.size());
+        return m_SourceNames.GetObjectStr(sourcePath, *sourceNames, record, prefix, prefix.size());
     };
     const auto isKnownOutsideGroups = [&] {
         if (!m_SourceNames.GetGroup(type).empty())
             return false;
-        // The source finds no type that it has no name space for. It stands among the labels, which every
-        // database has, in a space of its own; with its number, so that it is forgotten with its type.
-        sourcePath.back() = UVDB_DBO_LABEL;
-        sourcePrefix += "_/" + std::to_string(type) + "/_";
+        // The source finds no type that it has no name space for. It stands as a label, which every database
+        // has, below an object of its type without a name: so it is forgotten with its type.
+        sourcePath.push_back(UVDB_DBO_LABEL);
+        namesOutsideGroups = names;
+        namesOutsideGroups.emplace(namesOutsideGroups.end() - 1);
+        sourceNames = &namesOutsideGroups;
         return isKnown();
     };
     if (isRemembered && (isKnown() || isKnownOutsideGroups())) {
@@ -115,7 +118,7 @@ CNormalizeName::NormalizeParts(const std::vector<int>& path, const std::vector<U
         parts = std::move(free.parts);
         record.name = JoinParts(parts);
         m_TargetNames.SetObject(path, free.key, record, prefix, prefix.size());
-        m_SourceNames.SetObject(sourcePath, names, record, sourcePrefix, sourcePrefix.size());
+        m_SourceNames.SetObject(sourcePath, *sourceNames, record, prefix, prefix.size());
     }
     flags |= record.reasons;
     return parts;

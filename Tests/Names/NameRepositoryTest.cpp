@@ -208,9 +208,10 @@ TEST(NameRepository, RemovingATypeForgetsWhatStandsBelowIt)
     repository.SetObject({kSchema, kProcedure}, {"s", "p"}, {"procedure"});
     repository.SetObject({kSchema, kProcedure, kVariable}, {"s", "p", "v"}, {"variable"});
     repository.SetObject({kSchema, kTable}, {"s", "t"}, {"table"});
-    repository.SetObject({kSchema, kTable}, {"s", "t_/6/_"}, {"named like a procedure"});
+    repository.SetObject({kSchema, kTable}, {"s", "t_/6/_"}, {"named like a key"});
     repository.RemoveRecords(kProcedure);
-    EXPECT_EQ(repository.GetCount(), 1u);
+    EXPECT_EQ(repository.GetCount(), 2u);
+    EXPECT_EQ(NameOf(repository, {kSchema, kTable}, {"s", "t_/6/_"}), "named like a key");
     EXPECT_EQ(NameOf(repository, {kSchema, kTable}, {"s", "t"}), "table");
     EXPECT_TRUE(repository.SetObject({kSchema, kProcedure}, {"s", "p"}, {"again"}));
 
@@ -280,27 +281,37 @@ public:
 
     void Remove(int type)
     {
-        Uve::U8CString wanted;
-        wanted.Format("_/%d/_", type);
-        std::erase_if(m_Records,
-                      [&](const auto& entry) { return entry.first.find(wanted) != std::string::npos; });
+        std::erase_if(m_Records, [&](const auto& entry) {
+            return std::ranges::find(entry.first.path, type) != entry.first.path.end();
+        });
     }
 
     std::size_t GetCount() const { return m_Records.size(); }
 
 private:
-    Uve::U8CString Key(const Path& path, const Names& names, std::string_view prefix) const
+    struct SKey
     {
-        Uve::U8CString key;
-        m_Rules.GetValidKey(path, names, key, prefix, prefix.size());
+        Path path;
+        std::vector<std::string> names;
+        std::string prefix;
+
+        auto operator<=>(const SKey&) const = default;
+    };
+
+    SKey Key(const Path& path, const Names& names, std::string_view prefix) const
+    {
+        const bool foldsCase = m_Rules.GetQuotedCase() == Repositary2::kCaseInsensitive;
+        SKey key{path, {}, std::string(prefix)};
+        for (Uve::U8CString name : names)
+            key.names.push_back(foldsCase ? name.MakeUpper() : name);
         return key;
     }
 
     const Repositary2& m_Rules;
-    std::map<Uve::U8CString, CConvertedName> m_Records;
+    std::map<SKey, CConvertedName> m_Records;
 };
 
-// Few names and few types, so that paths meet; names that look like parts of keys, so that keys meet too.
+// Few names and few types, so that paths meet; names that look like parts of keys, which must not meet.
 TEST(NameRepository, AnswersLikeAPlainMapOfWholeKeys)
 {
     const Names names{"a",
