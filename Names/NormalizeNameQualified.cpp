@@ -307,6 +307,30 @@ void CNormalizeName::SQualifiedCall::Report()
     entry.type = static_cast<int>(type);
 }
 
+int CNormalizeName::SQualifiedCall::Run(bool keepsBlanks)
+{
+    if (IsDone())
+        return UVDB_OK;
+    ReadOptions();
+    PrepareParts();
+    MakeReportKey();
+    normaliser.m_IsKeepingBlanks = keepsBlanks;
+    ChoosePath();
+    if (LacksTable())
+        return kNoTable;
+    RunBefore();
+    Convert();
+    ClearSchema();
+    JoinSchema();
+    ApplyTemporarySchema();
+    ApplyOutSchema();
+    FinishSchema();
+    RunAfter();
+    QuoteForTarget();
+    Report();
+    return UVDB_OK;
+}
+
 int CNormalizeName::NormalizeQualifiedIdentifier(unsigned long type, Uve::U8CString& server,
                                                  Uve::U8CString& schema, Uve::U8CString& object,
                                                  Uve::U8CString& sub, const Uve::U8CString& prefix,
@@ -316,34 +340,13 @@ int CNormalizeName::NormalizeQualifiedIdentifier(unsigned long type, Uve::U8CStr
     m_SourceSchema = schema;
     SQualifiedCall call{*this, type,   server,   schema,        schema,       object,
                         sub,   prefix, kindText, isServerGiven, isSchemaGiven};
-    const auto giveBack = [&] {
-        server = std::move(call.server);
-        schema = std::move(call.schema);
-        object = std::move(call.object);
-        sub = std::move(call.sub);
-        return UVDB_OK;
-    };
-
-    if (call.IsDone())
-        return giveBack();
-    call.ReadOptions();
-    call.PrepareParts();
-    call.MakeReportKey();
-    m_IsKeepingBlanks = keepBlanks != 0;
-    call.ChoosePath();
-    if (call.LacksTable())
-        return kNoTable;
-    call.RunBefore();
-    call.Convert();
-    call.ClearSchema();
-    call.JoinSchema();
-    call.ApplyTemporarySchema();
-    call.ApplyOutSchema();
-    call.FinishSchema();
-    call.RunAfter();
-    call.QuoteForTarget();
-    call.Report();
-    return giveBack();
+    if (const int result = call.Run(keepBlanks != 0); result != UVDB_OK)
+        return result;
+    server = std::move(call.server);
+    schema = std::move(call.schema);
+    object = std::move(call.object);
+    sub = std::move(call.sub);
+    return UVDB_OK;
 }
 
 int CNormalizeName::NormalizeName(unsigned long type, Uve::U8CString& server, Uve::U8CString& schema,
