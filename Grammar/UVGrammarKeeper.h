@@ -53,14 +53,15 @@ public:
     // Returns: 0, or -1 if it can't be opened or written.
     static int WriteToFile(const std::string& content, const char* path);
 
-    // Reads the table at `path`, plain or gzip. T is int or unsigned int.
+    // Reads the table at `path`, plain or gzip. T is int or unsigned int. `checksum`, if not null, takes the
+    // CRC-32 of count and entries as they are stored unpacked.
     // Returns: the entries, `count` of them; null with `count` 0 if the file can't be opened.
     // Owner:   the caller, delete[].
     // Throws:  U8CString with the line for the log, if the file is damaged or shorter than it claims. Memory
     // grows
     //          with what the file really holds.
     template <class T>
-    static T* GetBinaryTableFromFile(const char* path, std::size_t& count);
+    static T* GetBinaryTableFromFile(const char* path, std::size_t& count, std::uint32_t* checksum = nullptr);
 
     // Adds the records of an action text to `actions`; a later record with the same number replaces an
     // earlier one. An unknown keyword ends the reading with a line in the trace: its record and all behind it
@@ -156,9 +157,11 @@ private:
     static int SaveParserDefinesToFile(const std::string& text, const std::string& path, std::string& out);
 };
 
-extern template int* UVDBGrammarKeeper::GetBinaryTableFromFile<int>(const char* path, std::size_t& count);
-extern template unsigned int* UVDBGrammarKeeper::GetBinaryTableFromFile<unsigned int>(const char* path,
-                                                                                      std::size_t& count);
+extern template int* UVDBGrammarKeeper::GetBinaryTableFromFile<int>(const char* path, std::size_t& count,
+                                                                    std::uint32_t* checksum);
+extern template unsigned int*
+UVDBGrammarKeeper::GetBinaryTableFromFile<unsigned int>(const char* path, std::size_t& count,
+                                                        std::uint32_t* checksum);
 extern template std::vector<int> UVDBGrammarKeeper::GetFileTable<int>(std::string_view text);
 extern template std::vector<unsigned int>
 UVDBGrammarKeeper::GetFileTable<unsigned int>(std::string_view text);

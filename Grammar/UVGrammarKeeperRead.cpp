@@ -1,8 +1,11 @@
 #include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarTableFile.h"
 #include "Stylesheets/Archive/Compressor.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEUnicodeString.h"
+
+#include <zlib.h>
 
 #include <algorithm>
 #include <bit>
@@ -115,7 +118,11 @@ public:
             else if (!ReadOperations(*operations))
                 return;
 
-            COperationsMap*& record = actions[static_cast<int>(std::strtol(number.c_str(), nullptr, 10))];
+            // records ascend as a rule, so the place is at the end
+            COperationsMap*& record =
+                actions
+                    .try_emplace(actions.end(), static_cast<int>(std::strtol(number.c_str(), nullptr, 10)))
+                    ->second;
             FreeOperations(record);
             record = operations.release();
         }
@@ -265,10 +272,17 @@ int UVDBGrammarKeeper::ReadFromFile(std::string& content, const char* path)
 //     table = count { entry }      each 4 bytes, little-endian; `count` of them
 // for example 02 00 00 00  01 00 00 00  ff ff ff ff for the entries 1 and -1.
 template <class T>
-T* UVDBGrammarKeeper::GetBinaryTableFromFile(const char* path, std::size_t& count)
+T* UVDBGrammarKeeper::GetBinaryTableFromFile(const char* path, std::size_t& count, std::uint32_t* checksum)
 {
     static_assert(sizeof(T) == 4 && std::endian::native == std::endian::little);
     count = 0;
+    std::unique_ptr<T[]> packed;
+    std::uint32_t packedChecksum = 0;
+    if (ReadPackedTable(path, packed, count, packedChecksum)) {
+        if (checksum)
+            *checksum = packedChecksum;
+        return packed.release();
+    }
     ZFile file;
     if (!file.Open(path))
         return nullptr;
@@ -307,12 +321,20 @@ T* UVDBGrammarKeeper::GetBinaryTableFromFile(const char* path, std::size_t& coun
     if (file.Failed())
         ThrowBadTable(path);
     count = claimed;
+    if (checksum) {
+        const auto ofCount = crc32_z(0, reinterpret_cast<const Bytef*>(&claimed), sizeof claimed);
+        const auto* const bytes = reinterpret_cast<const Bytef*>(entries.get());
+        *checksum =
+            static_cast<std::uint32_t>(claimed == 0 ? ofCount : crc32_z(ofCount, bytes, claimed * sizeof(T)));
+    }
     return entries.release();
 }
 
-template int* UVDBGrammarKeeper::GetBinaryTableFromFile<int>(const char* path, std::size_t& count);
+template int* UVDBGrammarKeeper::GetBinaryTableFromFile<int>(const char* path, std::size_t& count,
+                                                             std::uint32_t* checksum);
 template unsigned int* UVDBGrammarKeeper::GetBinaryTableFromFile<unsigned int>(const char* path,
-                                                                               std::size_t& count);
+                                                                               std::size_t& count,
+                                                                               std::uint32_t* checksum);
 
 void UVDBGrammarKeeper::CreateActionsMap(const std::string& text, CActionsMap& actions)
 {

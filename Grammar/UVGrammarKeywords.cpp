@@ -1,6 +1,7 @@
 #include "Grammar/UVGrammarKeywords.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <iterator>
 
@@ -23,7 +24,7 @@ constexpr SGrammarKeyword Neither(const char* name, int operands, enGrammarKeywo
     return {name, operands, keyword, false, false, roles};
 }
 
-// Order is meaning: by the bytes of the word, for the look-up and for the order of the enumerators.
+// Order is meaning: by the bytes of the word, which is the order of the enumerators.
 // clang-format off
 constexpr SGrammarKeyword kKeywords[] = {
     //      word                                operands  enumerator                     roles
@@ -76,14 +77,42 @@ constexpr bool IsInOrder()
 static_assert(std::size(kKeywords) == kGrammarKeywordCount);
 static_assert(IsInOrder(), "words ascend, stand at their enumerator and have one role for each operand");
 
+// Loading a language looks thousands of words up, so each word has a slot of its own.
+constexpr std::size_t kSlots = 64;
+
+constexpr std::size_t SlotOf(std::string_view word)
+{
+    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(word[at]); };
+    return (word.size() * 31 + byte(0) * 14u + byte(word.size() - 1) + byte(word.size() / 2) * 3u) % kSlots;
+}
+
+struct SSlot
+{
+    std::string_view word;
+    const SGrammarKeyword* keyword = nullptr;
+};
+
+constexpr std::array<SSlot, kSlots> FillSlots()
+{
+    std::array<SSlot, kSlots> slots{};
+    for (const SGrammarKeyword& keyword : kKeywords)
+        slots[SlotOf(keyword.name)] = {keyword.name, &keyword};
+    return slots;
+}
+
+constexpr std::array<SSlot, kSlots> kWords = FillSlots();
+static_assert(std::ranges::count_if(kWords, [](const SSlot& slot) { return slot.keyword != nullptr; }) ==
+                  kGrammarKeywordCount,
+              "no two words share a slot");
+
 } // namespace
 
 const SGrammarKeyword* FindGrammarKeyword(std::string_view word)
 {
-    const auto* const found = std::lower_bound(
-        std::begin(kKeywords), std::end(kKeywords), word,
-        [](const SGrammarKeyword& row, std::string_view wanted) { return row.name < wanted; });
-    return found != std::end(kKeywords) && found->name == word ? found : nullptr;
+    if (word.empty())
+        return nullptr;
+    const SSlot& slot = kWords[SlotOf(word)];
+    return slot.word == word ? slot.keyword : nullptr;
 }
 
 const SGrammarKeyword& GetGrammarKeyword(enGrammarKeyword keyword)

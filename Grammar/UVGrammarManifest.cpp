@@ -41,11 +41,6 @@ SFileList FilesOf(std::string_view part)
     return files;
 }
 
-std::uint32_t Crc(std::uint32_t before, const void* bytes, std::size_t size)
-{
-    return static_cast<std::uint32_t>(crc32_z(before, static_cast<const Bytef*>(bytes), size));
-}
-
 std::string Shown(const STableFacts& facts)
 {
     constexpr char kDigits[] = "0123456789abcdef";
@@ -149,22 +144,10 @@ private:
 
 STableFacts FactsOfText(std::string_view content)
 {
-    return {content.size(), Crc(0, content.data(), content.size()),
+    const auto* const bytes = reinterpret_cast<const Bytef*>(content.data());
+    return {content.size(), static_cast<std::uint32_t>(crc32_z(0, bytes, content.size())),
             static_cast<std::size_t>(std::count(content.begin(), content.end(), '\n'))};
 }
-
-template <class T>
-STableFacts FactsOfTable(const STable<T>& table)
-{
-    const auto count = static_cast<std::uint32_t>(table.count);
-    const std::uint32_t ofCount = Crc(0, &count, sizeof count);
-    const std::size_t bytes = table.count * sizeof(T);
-    return {sizeof count + bytes, bytes == 0 ? ofCount : Crc(ofCount, table.values.get(), bytes),
-            table.count};
-}
-
-template STableFacts FactsOfTable<int>(const STable<int>& table);
-template STableFacts FactsOfTable<unsigned>(const STable<unsigned>& table);
 
 CTableFolder::CTableFolder(const std::string& directory) : m_Directory(directory)
 {
@@ -198,17 +181,22 @@ std::string CTableFolder::ReadText(const char* name) const
 }
 
 template <class T>
-void CTableFolder::ReadTable(const char* name, STable<T>& table) const
+STableFacts CTableFolder::ReadTable(const char* name, STable<T>& table) const
 {
     const std::string path = GetDatFilePath(m_Directory, m_Directory, name);
-    table.values.reset(UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count));
+    STableFacts facts;
+    table.values.reset(
+        UVDBGrammarKeeper::GetBinaryTableFromFile<T>(path.c_str(), table.count, &facts.checksum));
     if (!table.values)
         RefuseTable(m_Directory, name, std::strerror(errno));
-    Compare(name, FactsOfTable(table));
+    facts.bytes = sizeof(std::uint32_t) + table.count * sizeof(T);
+    facts.records = table.count;
+    Compare(name, facts);
+    return facts;
 }
 
-template void CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
-template void CTableFolder::ReadTable<unsigned>(const char* name, STable<unsigned>& table) const;
+template STableFacts CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
+template STableFacts CTableFolder::ReadTable<unsigned>(const char* name, STable<unsigned>& table) const;
 
 std::string ComposeManifest(const std::string& directory, const std::string& language)
 {
@@ -224,8 +212,7 @@ std::string ComposeManifest(const std::string& directory, const std::string& lan
             add(name, FactsOfText(folder.ReadText(name.c_str())));
         for (const std::string& name : files.tables) {
             STable<int> table;
-            folder.ReadTable(name.c_str(), table);
-            add(name, FactsOfTable(table));
+            add(name, folder.ReadTable(name.c_str(), table));
         }
     }
     return manifest;

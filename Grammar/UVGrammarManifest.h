@@ -25,9 +25,6 @@ struct STableFacts
 };
 
 STableFacts FactsOfText(std::string_view content);
-// T is int or unsigned int. The count that the file begins with belongs to its bytes, not to its records.
-template <class T>
-STableFacts FactsOfTable(const STable<T>& table);
 
 // The table files of one part of a language, as they are stored, each compared with the manifest while it is
 // read.
@@ -42,9 +39,11 @@ public:
     // Throws: Uve::U8CString with the line for the log, if it isn't there, damaged, or not what the manifest
     // says.
     std::string ReadText(const char* name) const;
-    // Throws: as ReadText; also if the file can't be opened.
+    // T is int or unsigned int.
+    // Returns: what the file holds. The count that it begins with belongs to its bytes, not to its records.
+    // Throws:  as ReadText; also if the file can't be opened.
     template <class T>
-    void ReadTable(const char* name, STable<T>& table) const;
+    STableFacts ReadTable(const char* name, STable<T>& table) const;
 
 private:
     void Compare(const char* name, const STableFacts& found) const;
@@ -58,7 +57,6 @@ private:
 // Throws: Uve::U8CString with the line for the log if a table isn't there or damaged.
 std::string ComposeManifest(const std::string& directory, const std::string& language);
 
-extern template STableFacts FactsOfTable<int>(const STable<int>& table);
-extern template STableFacts FactsOfTable<unsigned>(const STable<unsigned>& table);
-extern template void CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
-extern template void CTableFolder::ReadTable<unsigned>(const char* name, STable<unsigned>& table) const;
+extern template STableFacts CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
+extern template STableFacts CTableFolder::ReadTable<unsigned>(const char* name,
+                                                              STable<unsigned>& table) const;

@@ -114,7 +114,7 @@ void CheckOperations(const CTextLines& lines, std::string_view line, enMachine m
 void CheckActionText(const std::string& directory, const std::string& text, enMachine machine)
 {
     CTextLines lines(directory, "actions.dat", text, kWhiteSpace);
-    std::set<std::string_view> numbers;
+    std::set<int> numbers;
     std::string_view line;
     while (lines.Next(line)) {
         line.remove_prefix(line.find_first_not_of(kWhiteSpace));
@@ -122,7 +122,11 @@ void CheckActionText(const std::string& directory, const std::string& text, enMa
         line.remove_prefix(number.size());
         if (!IsNumber(number) || number.front() == '0' || !line.starts_with(' '))
             lines.Refuse("it doesn't begin with the number of a rule");
-        if (!numbers.insert(number).second)
+        int rule = 0;
+        std::from_chars(number.data(), number.data() + number.size(), rule);
+        const std::size_t known = numbers.size();
+        numbers.insert(numbers.end(), rule); // where ascending numbers go
+        if (numbers.size() == known)
             lines.Refuse("a second record of rule " + std::string(number));
         line.remove_prefix(1);
         // the reader takes one blank and a line feed for an empty record, and goes on to the next line after

@@ -5,9 +5,11 @@ set(uv_keeper_sources
     UVGrammarKeeperWrite.cpp
     UVGrammarKeeperWriteActions.cpp
     UVGrammarKeywords.cpp
+    UVGrammarTableFile.cpp
 )
 set(uv_keeper_headers
     UVGrammarKeeper.h
     UVGrammarKeeperText.h
     UVGrammarKeywords.h
+    UVGrammarTableFile.h
 )

@@ -1,6 +1,7 @@
 #include "Grammar/Runtime/ParserTables.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 #include <vector>
@@ -25,19 +26,19 @@ public:
         m_isStart.resize(slots + static_cast<std::size_t>(-m_least));
         for (std::size_t row = 0; row < bases.count; ++row)
             if (counts(bases[row]))
-                m_isStart[static_cast<std::size_t>(bases[row] - m_least)] = true;
+                m_isStart[static_cast<std::size_t>(bases[row] - m_least)] = 1;
     }
 
     bool Has(long base) const
     {
         const long index = base - m_least;
         return index >= 0 && static_cast<std::size_t>(index) < m_isStart.size() &&
-               m_isStart[static_cast<std::size_t>(index)];
+               m_isStart[static_cast<std::size_t>(index)] != 0;
     }
 
 private:
     int m_least = 0;
-    std::vector<bool> m_isStart;
+    std::vector<std::uint8_t> m_isStart;
 };
 
 } // namespace
@@ -121,11 +122,14 @@ void CParserTables::Validate(const std::string& directory) const
     const CRowStarts gotoRows(pgoto, kNoMark, table.count);
     for (std::size_t slot = 0; slot < table.count; ++slot) {
         const int value = table[slot];
+        // nobody's, or a state, which is right as an action and as a next state
+        if (check[slot] < 0 || (value > 0 && value < states))
+            continue;
         const long base = static_cast<long>(slot) - check[slot];
-        if (check[slot] >= 0 && check[slot] < ntokens && actionRows.Has(base) &&
+        if (check[slot] < ntokens && actionRows.Has(base) &&
             (value >= states || value <= -rules || value == 0))
             refuse("table.dat", "action " + std::to_string(value) + " in slot " + std::to_string(slot));
-        if (check[slot] >= 0 && check[slot] < states && gotoRows.Has(base) && (value < 0 || value >= states))
+        if (check[slot] < states && gotoRows.Has(base) && (value < 0 || value >= states))
             refuse("table.dat", "next state " + std::to_string(value) + " in slot " + std::to_string(slot));
     }
     if (StartSymbol() < 0)

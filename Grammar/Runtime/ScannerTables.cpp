@@ -3,12 +3,11 @@
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
 constexpr std::size_t kBytes = 256;
-constexpr std::uint16_t kUnset = 0xffff;
+constexpr std::uint16_t kUnset = 0; // no transition leads to state 0
 constexpr std::size_t kMostStates = 0xfffe;
 constexpr int kMostRules = 0x1fff; // the bits above mark trailing contexts in the accept list
 constexpr int kTrailingMask = 0x2000;
@@ -84,12 +83,58 @@ void CScannerTables::CheckAcceptList(const std::string& directory) const
     }
 }
 
-// Every state's row, written out: the next state for each byte.
-std::vector<std::uint16_t> CScannerTables::ResolveRows(const std::string& directory) const
+// Bytes for which every row has the same entries of its own share a class.
+void CScannerTables::FoldClasses()
+{
+    // A slot of chk says whose it is, so one pass over the slots meets every entry of every row, for each
+    // byte in the same order of rows.
+    const auto forEachOwn = [&](const auto& take) {
+        for (std::size_t slot = 0; slot < chk.count; ++slot) {
+            const auto state = static_cast<std::size_t>(chk[slot]); // a negative one is too large
+            if (state == 0 || state >= base.count)
+                continue;
+            const std::size_t byte = slot - static_cast<std::size_t>(base[state]);
+            if (byte < kBytes)
+                take(slot, state, byte);
+        }
+    };
+    // a first guess by a checksum over each byte's entries, then the proof
+    std::array<std::uint64_t, kBytes> checksum{};
+    std::array<std::size_t, kBytes> entries{};
+    forEachOwn([&](std::size_t slot, std::size_t state, std::size_t byte) {
+        const std::uint64_t entry =
+            static_cast<std::uint64_t>(state) << 32 | static_cast<std::uint32_t>(nxt[slot]);
+        checksum[byte] = checksum[byte] * 0x9E3779B97F4A7C15u + entry + 1;
+        ++entries[byte];
+    });
+    std::array<std::size_t, kBytes> leader{};
+    for (std::size_t byte = 0; byte < kBytes; ++byte)
+        while (checksum[leader[byte]] != checksum[byte] || entries[leader[byte]] != entries[byte])
+            ++leader[byte];
+    std::array<bool, kBytes> isAlone{};
+    forEachOwn([&](std::size_t slot, std::size_t state, std::size_t byte) {
+        const std::size_t same = static_cast<std::size_t>(base[state]) + leader[byte];
+        if (chk[same] != chk[slot] || nxt[same] != nxt[slot])
+            isAlone[byte] = true;
+    });
+
+    m_leaders.clear();
+    for (std::size_t byte = 0; byte < kBytes; ++byte) {
+        const bool isNew = isAlone[byte] || leader[byte] == byte;
+        m_classOf[byte] = isNew ? static_cast<std::uint8_t>(m_leaders.size()) : m_classOf[leader[byte]];
+        if (isNew)
+            m_leaders.push_back(static_cast<std::uint8_t>(byte));
+    }
+    for (m_classBits = 0; (std::size_t{1} << m_classBits) < m_leaders.size(); ++m_classBits) {
+    }
+}
+
+// Every state's row, written out: the next state for each class of bytes.
+void CScannerTables::ResolveRows(const std::string& directory)
 {
     const std::size_t states = base.count;
     const int lastNext = LastState() + 1;
-    std::vector<std::uint16_t> rows(states * kBytes, kUnset);
+    m_next.assign(states << m_classBits, 0);
     enum : std::uint8_t
     {
         New,
@@ -108,21 +153,22 @@ std::vector<std::uint16_t> CScannerTables::ResolveRows(const std::string& direct
                             "the defaults of state " + std::to_string(first) + " run in a circle");
             mark[index] = Open;
             chain.push_back(state);
-            std::uint16_t* const row = &rows[index * kBytes];
+            std::uint16_t* const row = &m_next[index << m_classBits];
             const int* const check = &chk.values[static_cast<std::size_t>(base[index])];
             const int* const next = &nxt.values[static_cast<std::size_t>(base[index])];
             std::size_t own = 0;
-            for (std::size_t byte = 0; byte < kBytes; ++byte) {
+            for (std::size_t column = 0; column < m_leaders.size(); ++column) {
+                const std::uint8_t byte = m_leaders[column];
                 if (check[byte] != state)
                     continue;
                 if (next[byte] < 1 || next[byte] > lastNext)
                     RefuseTable(directory, "nxt.dat",
                                 "next state " + std::to_string(next[byte]) + " of state " +
                                     std::to_string(state) + " is outside 1.." + std::to_string(lastNext));
-                row[byte] = static_cast<std::uint16_t>(next[byte]);
+                row[column] = static_cast<std::uint16_t>(next[byte]);
                 ++own;
             }
-            if (own == kBytes) {
+            if (own == m_leaders.size()) {
                 mark[index] = Done;
                 chain.pop_back();
                 break;
@@ -133,27 +179,25 @@ std::vector<std::uint16_t> CScannerTables::ResolveRows(const std::string& direct
                             "default " + std::to_string(state) + " of state " + std::to_string(chain.back()));
         }
         // and down again, each row completed by its default's
-        while (!chain.empty()) {
+        for (; !chain.empty(); chain.pop_back()) {
             const auto index = static_cast<std::size_t>(chain.back());
-            std::uint16_t* const row = &rows[index * kBytes];
-            const std::uint16_t* const fallback = &rows[static_cast<std::size_t>(def[index]) * kBytes];
-            for (std::size_t byte = 0; byte < kBytes; ++byte)
-                row[byte] = row[byte] == kUnset ? fallback[byte] : row[byte];
+            std::uint16_t* const row = &m_next[index << m_classBits];
+            const std::uint16_t* const fallback =
+                &m_next[static_cast<std::size_t>(def[index]) << m_classBits];
+            for (std::size_t column = 0; column < m_leaders.size(); ++column)
+                row[column] = row[column] == kUnset ? fallback[column] : row[column];
             mark[index] = Done;
-            chain.pop_back();
         }
     }
-    return rows;
 }
 
 // A scanner that backs up finds a rule at the latest behind the first byte: the generator adds one for any
 // byte.
-void CScannerTables::CheckFirstStep(const std::string& directory,
-                                    const std::vector<std::uint16_t>& rows) const
+void CScannerTables::CheckFirstStep(const std::string& directory) const
 {
     for (int state = 1; state <= 2 * StartConditions(); ++state)
-        for (std::size_t byte = 0; byte < kBytes; ++byte) {
-            const std::size_t next = rows[static_cast<std::size_t>(state) * kBytes + byte];
+        for (const std::uint8_t byte : m_leaders) {
+            const auto next = static_cast<std::size_t>(Next(state, byte));
             if (accept[next] < 1 || accept[next] >= accept[next + 1])
                 RefuseTable(directory, "accept.dat",
                             "no rule behind byte " + std::to_string(byte) + " of start state " +
@@ -164,15 +208,20 @@ void CScannerTables::CheckFirstStep(const std::string& directory,
 // Two NUL bytes end every buffer. From every state the first leads to the one that accepts the end, and
 // nothing else leads there or accepts it; on the second the walk stops. So the end is never missed, and text
 // never taken for it.
-void CScannerTables::CheckEndOfBuffer(const std::string& directory,
-                                      const std::vector<std::uint16_t>& rows) const
+void CScannerTables::CheckEndOfBuffer(const std::string& directory) const
 {
     const auto endOfBuffer = static_cast<int>(rule_can_match_eol.count);
     const auto jamState = static_cast<std::size_t>(LastState()) + 1;
-    const std::size_t endState = rows[kBytes];
+    const auto endState = static_cast<std::size_t>(Next(1, 0));
+    // One byte speaks for its class, but NUL for itself alone.
+    std::vector<std::uint8_t> bytes = m_leaders;
+    const auto besideNul = std::find(m_classOf.begin() + 1, m_classOf.end(), m_classOf[0]);
+    if (besideNul != m_classOf.end())
+        bytes.push_back(static_cast<std::uint8_t>(besideNul - m_classOf.begin()));
+    std::sort(bytes.begin(), bytes.end());
     for (std::size_t state = 1; state <= jamState; ++state) {
-        for (std::size_t byte = 0; byte < kBytes; ++byte) {
-            const std::size_t next = rows[state * kBytes + byte];
+        for (const std::uint8_t byte : bytes) {
+            const auto next = static_cast<std::size_t>(Next(static_cast<int>(state), byte));
             const bool isRight =
                 state == endState && byte == 0 ? next == jamState : (next == endState) == (byte == 0);
             if (!isRight)
@@ -198,45 +247,6 @@ void CScannerTables::CheckEndOfBuffer(const std::string& directory,
     }
 }
 
-void CScannerTables::FoldClasses(const std::vector<std::uint16_t>& rows)
-{
-    const std::size_t states = static_cast<std::size_t>(LastState()) + 2;
-    // a first guess by a checksum over each byte's column, then the proof
-    std::array<std::uint64_t, kBytes> checksum{};
-    for (std::size_t state = 1; state < states; ++state)
-        for (std::size_t byte = 0; byte < kBytes; ++byte)
-            checksum[byte] = checksum[byte] * 0x9E3779B97F4A7C15u + rows[state * kBytes + byte] + 1;
-    std::array<std::size_t, kBytes> leader{};
-    std::vector<std::size_t> leaders;
-    const auto isSameColumn = [&](std::size_t left, std::size_t right) {
-        for (std::size_t state = 1; state < states; ++state)
-            if (rows[state * kBytes + left] != rows[state * kBytes + right])
-                return false;
-        return true;
-    };
-    for (std::size_t byte = 0; byte < kBytes; ++byte) {
-        const auto same = std::find_if(leaders.begin(), leaders.end(), [&](std::size_t other) {
-            return checksum[other] == checksum[byte] && isSameColumn(other, byte);
-        });
-        if (same == leaders.end()) {
-            leader[byte] = leaders.size();
-            leaders.push_back(byte);
-        } else
-            leader[byte] = static_cast<std::size_t>(same - leaders.begin());
-        m_classOf[byte] = static_cast<std::uint8_t>(leader[byte]);
-    }
-    for (m_classBits = 0; (std::size_t{1} << m_classBits) < leaders.size(); ++m_classBits) {
-    }
-    m_next.assign(states << m_classBits, 0);
-    m_isJam.assign(states, 0);
-    const int jamBase = base[states - 1];
-    for (std::size_t state = 1; state < states; ++state) {
-        for (std::size_t column = 0; column < leaders.size(); ++column)
-            m_next[(state << m_classBits) + column] = rows[state * kBytes + leaders[column]];
-        m_isJam[state] = base[state] == jamBase;
-    }
-}
-
 void CScannerTables::Compile(const std::string& directory, int startConditions)
 {
     CheckSizes(directory);
@@ -246,10 +256,16 @@ void CScannerTables::Compile(const std::string& directory, int startConditions)
                         " states");
     m_nStartConditions = startConditions;
     CheckAcceptList(directory);
-    const std::vector<std::uint16_t> rows = ResolveRows(directory);
-    CheckFirstStep(directory, rows);
-    CheckEndOfBuffer(directory, rows);
-    FoldClasses(rows);
+    FoldClasses();
+    ResolveRows(directory);
+    CheckFirstStep(directory);
+    CheckEndOfBuffer(directory);
+    // the states behind the last one have lent their rows to others, and nothing leads to them
+    const std::size_t states = static_cast<std::size_t>(LastState()) + 2;
+    m_next.resize(states << m_classBits);
+    m_isJam.assign(states, 0);
+    for (std::size_t state = 1; state < states; ++state)
+        m_isJam[state] = base[state] == base[states - 1];
 }
 
 void CScannerTables::DropCompiled()

@@ -22,9 +22,9 @@ struct STable
 // Note: compiled transitions
 // The tables come compressed: a state's row lies somewhere in chk and nxt, mixed with others, and what isn't
 // there is looked up in the row of its default state, and so on. Compile follows these chains once for every
-// state and byte, which at the same time proves that the walk never leaves the tables. What it found is kept
-// as a plain matrix of states and byte classes (bytes that no state tells apart share a class), so that a
-// step of the scanner is one load.
+// state, which at the same time proves that the walk never leaves the tables. What it found is kept as a
+// plain matrix of states and byte classes (bytes that no state tells apart share a class), so that a step of
+// the scanner is one load.
 class CScannerTables
 {
 public:
@@ -53,14 +53,15 @@ public:
 private:
     void CheckSizes(const std::string& directory) const;
     void CheckAcceptList(const std::string& directory) const;
-    void CheckFirstStep(const std::string& directory, const std::vector<std::uint16_t>& rows) const;
-    void CheckEndOfBuffer(const std::string& directory, const std::vector<std::uint16_t>& rows) const;
-    std::vector<std::uint16_t> ResolveRows(const std::string& directory) const;
-    void FoldClasses(const std::vector<std::uint16_t>& rows);
+    void CheckFirstStep(const std::string& directory) const;
+    void CheckEndOfBuffer(const std::string& directory) const;
+    void FoldClasses();
+    void ResolveRows(const std::string& directory);
 
     std::vector<std::uint16_t> m_next;
     std::vector<std::uint8_t> m_isJam;
     std::array<std::uint8_t, 256> m_classOf{};
+    std::vector<std::uint8_t> m_leaders; // the first byte of each class
     unsigned m_classBits = 8;
     int m_nStartConditions = 0;
 };

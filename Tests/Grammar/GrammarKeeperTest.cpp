@@ -1,4 +1,5 @@
 #include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarManifest.h"
 #include "Stylesheets/Archive/Compressor.h"
 #include "Tests/Grammar/GrammarKeeperFiles.h"
 #include "UVEnvironment/UVEUnicodeString.h"
@@ -204,6 +205,52 @@ TEST(BinaryTable, PlainAndPackedReadAlikeAndCountsAreDistrusted)
                 EXPECT_EQ(entries, c.entries);
             }
         }
+    }
+}
+
+// Members that no writer of tables makes, and single members with one damaged byte. The header's bytes 4 to 9
+// say nothing of the content.
+TEST(BinaryTable, AnyGzipFileIsReadRightOrRefused)
+{
+    const CScratchFolder folder;
+    const std::vector<int> entries = {1, -1, 70000};
+    const std::string content = TableBytes(3, entries);
+    const auto pack = [&](std::string_view bytes) {
+        const std::string path = folder.Path() + "pack.dat";
+        CompressBinary(path, bytes.data(), static_cast<unsigned>(bytes.size()));
+        std::string packed;
+        EXPECT_EQ(UVDBGrammarKeeper::ReadFromFile(packed, path.c_str()), 0);
+        return packed;
+    };
+    const std::string packed = pack(content);
+    std::string named = packed;
+    named[3] = 8;
+    named.insert(10, std::string("name") + '\0');
+    const auto isRead = [&](const std::string& bytes) {
+        std::vector<int> found;
+        const bool isSound = ReadTable(folder.Write("table.dat", bytes), found) == enOutcome::Read;
+        EXPECT_TRUE(!isSound || found == entries);
+        return isSound;
+    };
+    EXPECT_TRUE(isRead(packed));
+    EXPECT_TRUE(isRead(named));
+    EXPECT_TRUE(isRead(packed + "behind"));
+    EXPECT_TRUE(
+        isRead(pack(std::string_view(content).substr(0, 6)) + pack(std::string_view(content).substr(6))));
+    for (std::size_t at = 2; at < packed.size(); ++at) {
+        SCOPED_TRACE(at);
+        std::string damaged = packed;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+        EXPECT_EQ(isRead(damaged), at >= 4 && at < 10);
+        EXPECT_FALSE(isRead(packed.substr(0, at)));
+    }
+
+    std::size_t count = 0;
+    std::uint32_t checksum = 0;
+    for (const std::string& bytes : {content, packed, named}) {
+        const std::string path = folder.Write("table.dat", bytes);
+        delete[] UVDBGrammarKeeper::GetBinaryTableFromFile<int>(path.c_str(), count, &checksum);
+        EXPECT_EQ(checksum, FactsOfText(content).checksum);
     }
 }
 
