@@ -1,5 +1,6 @@
 #include "Grammar/UVGrammarParser.h"
 
+#include "Grammar/Runtime/yyBisonDriver.h"
 #include "Grammar/UVGrammarTables.h"
 #include "UVEnvironment/LogSystem.h"
 
@@ -140,6 +141,11 @@ void CSQLGrammarParser::ForgetTexts()
     m_Extension.m_bErrDisplayed = false;
 }
 
+int CSQLGrammarParser::yywork()
+{
+    return yydrive(*this);
+}
+
 int CSQLGrammarParser::yygettoken()
 {
     return yylexerptr->yylex();
@@ -164,39 +170,9 @@ void CSQLGrammarParser::yyinitdebug(const std::string& directory)
     yydebug = 1;
 }
 
-void CSQLGrammarParser::yylvaltostack()
-{
-    auto* const top = static_cast<ParserNode*>(yyvsp) + 1;
-    top->MoveFrom(*static_cast<ParserNode*>(yylval));
-    yyvsp = top;
-}
-
-void CSQLGrammarParser::yyvaltostack()
-{
-    auto* const top = static_cast<ParserNode*>(yyvsp) + 1;
-    top->MoveFrom(*static_cast<ParserNode*>(yyval));
-    yyvsp = top;
-}
-
-void CSQLGrammarParser::yystacktoval(int index)
-{
-    auto& value = *static_cast<ParserNode*>(yyval);
-    // an empty rule has no first symbol; what lies above the top belongs to somebody else
-    if (index > 0)
-        static_cast<ParserNodeValue&>(value) = ParserNodeValue();
-    else
-        value.MoveFrom(StackEntry(index));
-}
-
 void CSQLGrammarParser::yyshift_attributes(std::size_t index)
 {
     yyvsp = static_cast<ParserNode*>(yyvs) + index;
-}
-
-void CSQLGrammarParser::yypop_attributes(int count)
-{
-    yyvsp = static_cast<ParserNode*>(yyvsp) - count;
-    yyssp -= count;
 }
 
 void CSQLGrammarParser::yycopy_attributes(void* to, const void* from, std::size_t count)

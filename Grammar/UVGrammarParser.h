@@ -54,11 +54,24 @@ public:
     // Opens `directory`/ParserDebug.out as the debug stream; an empty one does nothing.
     void yyinitdebug(const std::string& directory);
 
-    void yylvaltostack() override;
-    void yyvaltostack() override;
-    void yystacktoval(int index) override;
+    int yywork() override;
+    void yylvaltostack() override { Push(yylval); }
+    void yyvaltostack() override { Push(yyval); }
+    void yystacktoval(int index) override
+    {
+        auto& value = *static_cast<ParserNode*>(yyval);
+        // an empty rule has no first symbol; what lies above the top belongs to somebody else
+        if (index > 0)
+            static_cast<ParserNodeValue&>(value) = ParserNodeValue();
+        else
+            value.MoveFrom(StackEntry(index));
+    }
     void yyshift_attributes(std::size_t index) override;
-    void yypop_attributes(int count) override;
+    void yypop_attributes(int count) override
+    {
+        yyvsp = static_cast<ParserNode*>(yyvsp) - count;
+        yyssp -= count;
+    }
     void yycopy_attributes(void* to, const void* from, std::size_t count) override;
     void* yynewattribute(std::size_t count) override;
     void yydeleteattribute(void* values) override;
@@ -108,6 +121,12 @@ private:
     void CleanUp();
     void CompileActions();
     ParserNode& StackEntry(int index) { return static_cast<ParserNode*>(yyvsp)[index]; }
+    void Push(const void* value)
+    {
+        auto* const top = static_cast<ParserNode*>(yyvsp) + 1;
+        top->MoveFrom(*static_cast<const ParserNode*>(value));
+        yyvsp = top;
+    }
     void CreateNodeExt(const SOperation& operation);
     void CreateErrorNodeExt(const SOperation& operation);
     void CreateNode(ParserNodeValue& node, const ParserNode& child, SJoin& join, bool show);

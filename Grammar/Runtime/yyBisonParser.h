@@ -27,6 +27,10 @@ public:
 protected:
     static constexpr int kErrorToken = 1;
 
+    // The main loop over the operations of `self`, which is this object: yyBisonDriver.h has it.
+    template <class Parser>
+    int yydrive(Parser& self);
+
 private:
     // What the tables order in a state: a state to go to, or a rule to reduce by.
     struct SStep
@@ -40,7 +44,9 @@ private:
         int number;
     };
 
-    SStep NextStep(int state);
+    template <class Parser>
+    SStep NextStep(Parser& self, int state);
     int GotoState(int rule) const;
-    bool ShiftErrorToken(int& state);
+    template <class Parser>
+    bool ShiftErrorToken(Parser& self, int& state);
 };
