@@ -1,6 +1,7 @@
 #include "Grammar/UVGrammarLexer.h"
 
 #include "Catalogue/UVDBParserNames.h"
+#include "Grammar/Runtime/yyFlexDriver.h"
 #include "Grammar/UVGrammarParser.h"
 #include "Grammar/UVGrammarTables.h"
 #include "UVEnvironment/LogSystem.h"
@@ -133,7 +134,7 @@ int CSQLGrammarLexer::yycreate()
 int CSQLGrammarLexer::yylex()
 {
     if (m_Extension.m_dequePseudoTokens.empty())
-        return yyFlexLexer::yylex();
+        return yydrive(*this);
     ParserNode* node = &m_LocalNode;
     yylvalue(&node);
     const int token = PseudoTokenAction(m_Extension.m_dequePseudoTokens.back(), *node);
@@ -141,22 +142,19 @@ int CSQLGrammarLexer::yylex()
     return token;
 }
 
+void CSQLGrammarLexer::yymatch()
+{
+    yywalk(*this);
+}
+
+void CSQLGrammarLexer::yyfindrule(int& act)
+{
+    yybackup(*this, act);
+}
+
 void CSQLGrammarLexer::yyinputbuffer()
 {
     yyscan_string(m_Extension.m_strQuery.c_str());
-}
-
-void CSQLGrammarLexer::yyincrementchar(int n)
-{
-    // at the end the scanner walks both NULs behind the text and gives one back: the count stops one past the
-    // end
-    const int most = std::max(m_Extension.m_nQueryLength + 1, m_Extension.m_nChar);
-    m_Extension.m_nChar = n > most - m_Extension.m_nChar ? most : m_Extension.m_nChar + n;
-}
-
-void CSQLGrammarLexer::yydecrementchar(int n)
-{
-    m_Extension.m_nChar -= n;
 }
 
 int CSQLGrammarLexer::yybegin(int state)
@@ -175,7 +173,7 @@ int CSQLGrammarLexer::yybegin(int state)
     return coded;
 }
 
-bool CSQLGrammarLexer::yycheck_state_eof(int act)
+bool CSQLGrammarLexer::IsEndOfText(int act)
 {
     const bool isEnd =
         static_cast<std::size_t>(act) < m_lstEofRules.size() && m_lstEofRules[static_cast<std::size_t>(act)];
@@ -191,7 +189,7 @@ bool CSQLGrammarLexer::yycheck_state_eof(int act)
 void CSQLGrammarLexer::NoteEnd()
 {
     const int firstRule = yy_end_of_buffer_action + 1;
-    const int condition = (yy_start - 1) / 2;
+    const int condition = yystart_condition();
     if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||
         m_mapActions.lower_bound(firstRule) == m_mapActions.end() ||
         m_mapActions.contains(firstRule + condition))

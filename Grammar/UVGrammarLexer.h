@@ -6,6 +6,7 @@
 #include "Grammar/UVGrammarKeeper.h"
 #include "Grammar/UVGrammarLexerImplementation.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <optional>
@@ -61,9 +62,21 @@ public:
     int yybegin(int state) override;
     int yylex() override;
     void yyinputbuffer() override;
-    void yyincrementchar(int n) override;
-    void yydecrementchar(int n) override;
-    bool yycheck_state_eof(int act) override;
+    void yymatch() override;
+    void yyfindrule(int& act) override;
+    void yyincrementchar(int n) override
+    {
+        // at the end the scanner walks both NULs behind the text and gives one back: the count stops one past
+        // the end
+        const int most = std::max(m_Extension.m_nQueryLength + 1, m_Extension.m_nChar);
+        m_Extension.m_nChar = n > most - m_Extension.m_nChar ? most : m_Extension.m_nChar + n;
+    }
+    void yydecrementchar(int n) override { m_Extension.m_nChar -= n; }
+    bool yycheck_state_eof(int act) override
+    {
+        // no such rule has a smaller number than the end of the buffer
+        return act >= yy_end_of_buffer_action && IsEndOfText(act);
+    }
     int yyaction(int act) override;
     void yyerror(const char* text) override;
 
@@ -151,6 +164,7 @@ private:
     void ResolveOperands(SOperation& operation);
     std::uint32_t CompileToken(const std::string& name);
     void FindEofRules();
+    bool IsEndOfText(int act);
     void NoteEnd();
 
     SResult Token(std::uint32_t token, int color, ParserNode& node);

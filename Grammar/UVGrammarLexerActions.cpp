@@ -361,7 +361,7 @@ bool CSQLGrammarLexer::ConditionalTokenAction(const std::string& condition, cons
 {
     if (condition == "STATE") {
         const int state = value == kStartStateName ? m_Extension.m_nStartState : m_mapStartConditions[value];
-        return (yy_start - 1) / 2 == state;
+        return yystart_condition() == state;
     }
     const auto saved = m_Extension.m_mapConditions.find(condition);
     if (saved == m_Extension.m_mapConditions.end() || saved->second != yytext)

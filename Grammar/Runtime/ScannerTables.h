@@ -43,12 +43,23 @@ public:
     // Goes back to the compressed walk, which gives the same result more slowly.
     void DropCompiled();
 
-    int Next(int state, unsigned char byte) const
+    // The compiled form for a loop that walks over it. Good as long as the tables.
+    struct SWalk
     {
-        return m_next[(static_cast<std::size_t>(state) << m_classBits) + m_classOf[byte]];
-    }
-    // True if nothing leads on from `state`: the walk ends there.
-    bool IsJam(int state) const { return m_isJam[static_cast<std::size_t>(state)] != 0; }
+        const std::uint16_t* next;
+        const std::uint8_t* isJam;
+        const std::uint8_t* classOf;
+        unsigned classBits;
+
+        int Next(int state, unsigned char byte) const
+        {
+            return next[(static_cast<std::size_t>(state) << classBits) + classOf[byte]];
+        }
+        // True if nothing leads on from `state`: the walk ends there.
+        bool IsJam(int state) const { return isJam[static_cast<std::size_t>(state)] != 0; }
+    };
+    SWalk Walk() const { return {m_next.data(), m_isJam.data(), m_classOf.data(), m_classBits}; }
+    int Next(int state, unsigned char byte) const { return Walk().Next(state, byte); }
 
 private:
     void CheckSizes(const std::string& directory) const;

@@ -71,13 +71,10 @@ void yyLexer::yyinit_locals()
     yy_match_length = 0;
     yy_hold_char = 0;
     yy_c_buf_p = nullptr;
-    yy_full_match = nullptr;
     yy_did_buffer_switch_on_eof = 0;
     yy_state_ptr = nullptr;
     yy_lp = 0;
     yy_looking_for_trail_begin = 0;
-    yy_full_lp = 0;
-    yy_full_state = nullptr;
     yy_action_returns = 0;
     yy_action_failed = 0;
 }
@@ -98,7 +95,6 @@ void yyLexer::yycleanup()
     yy_state_ptr = yy_state_buf;
     yy_text_size = yy_text_initial_size;
     yy_looking_for_trail_begin = 0;
-    yy_full_state = nullptr;
     yyleng = 0;
     yyoldleng = 0;
     yy_init = 0;
@@ -222,14 +218,14 @@ int yyLexer::yystep(int state, unsigned char byte) const
 
 int yyLexer::yyget_previous_state()
 {
-    int state = yy_start + yyat_bol();
+    int state = yystart_state();
     yy_state_ptr = yy_state_buf;
     *yy_state_ptr++ = state;
     for (const char* cp = yytext_ptr; cp < yy_c_buf_p; ++cp) {
         if (*cp)
             state = yystep(state, static_cast<unsigned char>(*cp));
         else
-            state = static_cast<std::size_t>(state) <= yy_last_dfa ? yy_NUL_trans[state] : 0;
+            state = yynul_state(state);
         // a NUL that no rule knows leads to the jam state, which nothing leads out of
         if (state == 0)
             state = static_cast<int>(yy_last_dfa) + 1;
@@ -259,7 +255,6 @@ bool yyLexer::yytext_relocate(int size)
     if (size < yyleng || (yy_text_max_size > 0 && size > yy_text_max_size))
         return false;
     const std::ptrdiff_t states = yy_state_ptr - yy_state_buf;
-    const std::ptrdiff_t fullStates = yy_full_state ? yy_full_state - yy_state_buf : 0;
     if (size <= yy_text_initial_size) {
         std::memcpy(yy_text_initial.get(), yytext, static_cast<std::size_t>(yyleng) + 1);
         std::memmove(yy_state_initial.get(), yy_state_buf, static_cast<std::size_t>(states) * sizeof(int));
@@ -290,8 +285,6 @@ bool yyLexer::yytext_relocate(int size)
         yy_state_buf = stateBuffer;
     }
     yy_state_ptr = yy_state_buf + states;
-    if (yy_full_state)
-        yy_full_state = yy_state_buf + fullStates;
     yy_text_size = size;
     return true;
 }

@@ -20,8 +20,14 @@ struct yybuffer_state
     int yy_at_bol = 1;                  // the next match starts at the beginning of a line
     int yy_bs_lineno = 1;
     int yy_bs_column = 0;
-    int yy_fill_buffer = 0;   // can be refilled from the stream
-    int yy_buffer_status = 0; // 0 new, 1 normal, 2 end of file pending
+    int yy_fill_buffer = 0; // can be refilled from the stream
+    enum : int
+    {
+        kNew,
+        kNormal,
+        kEofPending
+    };
+    int yy_buffer_status = kNew;
 };
 
 // The table-driven scanner without its language: the state, the buffers and the tables. What depends on the
@@ -139,6 +145,10 @@ protected:
     template <class T>
     using CMemory = std::unique_ptr<T[], SFree>;
 
+    // A rule in the accept list that has a trailing context is marked, and so is the end of its head.
+    static constexpr int kTrailingMask = 0x2000;
+    static constexpr int kTrailingHeadMask = 0x4000;
+
     enum enRefill
     {
         Continue,
@@ -158,7 +168,16 @@ protected:
     // Returns: false if the text may not grow any more.
     bool yycheck_for_overflow(int n) { return n < yy_text_size || yygrow_text(n); }
     bool yytext_relocate(int size);
+
+    // What the tables say.
+    int yystart_condition() const { return (yy_start - 1) / 2; }
+    int yystart_state() { return yy_start + yyat_bol(); }
     int yystep(int state, unsigned char byte) const;
+    // Where a NUL of the text itself leads; 0 if no rule knows it.
+    int yynul_state(int state) const
+    {
+        return static_cast<std::size_t>(state) <= yy_last_dfa ? yy_NUL_trans[state] : 0;
+    }
 
     std::FILE* yyin = nullptr;
     std::FILE* yyout = nullptr;
@@ -175,14 +194,11 @@ protected:
     int yy_match_length = 0; // bytes walked since yylex was entered
     char yy_hold_char = 0;   // the byte that the NUL behind the match has replaced
     char* yy_c_buf_p = nullptr;
-    char* yy_full_match = nullptr;
     int yy_did_buffer_switch_on_eof = 0;
     int* yy_state_buf = nullptr; // states of the current match
     int* yy_state_ptr = nullptr; // one behind the last
     int yy_lp = 0;
     int yy_looking_for_trail_begin = 0;
-    int yy_full_lp = 0;
-    int* yy_full_state = nullptr;
     int yy_text_size = 0; // of yytext; the state buffer has twice as many slots
     int yy_text_initial_size = 0;
     int yy_text_max_size = 0; // 0: none
@@ -203,6 +219,7 @@ protected:
 
 private:
     bool yygrow_text(int n);
+    enRefill yyrefill_buffer(int kept);
     int yyread_stream(char* into, int most);
 
     CMemory<char> yy_text_initial, yy_text_grown;

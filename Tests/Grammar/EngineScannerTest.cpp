@@ -396,6 +396,70 @@ TEST(ScannerBuffers, OnlyTextWithTwoNulsIsScannedInPlace)
     EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "3:b", "1: "}));
 }
 
+// Whatever an action does to the buffer, the match that it was called for can still be read.
+TEST(ScannerBuffers, TheMatchStaysWhenTheBufferIsTouched)
+{
+    char other[] = {'b', ' ', 0, 0};
+    const std::function<void(CPlainScanner&)> touches[] = {
+        [](CPlainScanner& scanner) { scanner.yyinput(); },
+        [](CPlainScanner& scanner) { scanner.PushBack('x'); },
+        [&](CPlainScanner& scanner) { scanner.yyscan_buffer(other, 4); },
+        [](CPlainScanner& scanner) { scanner.yypush_buffer_state(scanner.yycreate_buffer(nullptr, 10)); },
+        [](CPlainScanner& scanner) { scanner.yyflush_buffer(scanner.yycurrent_buffer()); },
+        [](CPlainScanner& scanner) { scanner.yypop_buffer_state(); },
+    };
+    for (const auto& touch : touches) {
+        CPlainScanner scanner("Nesting", 1, "; abcdef ghi");
+        bool isTouched = false;
+        scanner.m_onMatch = [&] {
+            if (isTouched || scanner.yyleng != 6)
+                return;
+            isTouched = true;
+            touch(scanner);
+            EXPECT_STREQ(scanner.yytext, "abcdef");
+            throw std::runtime_error("enough");
+        };
+        EXPECT_THROW(scanner.Matches(), std::runtime_error);
+        EXPECT_TRUE(isTouched);
+    }
+}
+
+// A derived scanner's own steps are called, once for each match.
+class CWatchedScanner : public CPlainScanner
+{
+public:
+    using CPlainScanner::CPlainScanner;
+    void yymatch() override
+    {
+        ++m_walks;
+        CPlainScanner::yymatch();
+    }
+    void yyfindrule(int& act) override
+    {
+        CPlainScanner::yyfindrule(act);
+        m_rules += std::to_string(act) + ' ';
+    }
+    void yyinitialize() override
+    {
+        ++m_starts;
+        CPlainScanner::yyinitialize();
+    }
+
+    int m_walks = 0;
+    int m_starts = 0;
+    std::string m_rules;
+};
+
+TEST(ScannerDriver, StepsOfADerivedClassAreCalled)
+{
+    CWatchedScanner scanner("Tiny", 2, "ab a");
+    EXPECT_EQ(scanner.Matches(), (Matches{"2:a", "3:b", "1: ", "2:a"}));
+    EXPECT_EQ(scanner.m_walks, 5); // the last is over the end of the buffer, which is rule 9
+    EXPECT_EQ(scanner.m_starts, 1);
+    EXPECT_EQ(scanner.m_rules, "2 3 1 2 9 ");
+    EXPECT_EQ(scanner.m_char, 5); // one of the two NULs is given back
+}
+
 // In front of what was read from a stream there is room for as much as its buffer takes.
 TEST(ScannerBuffers, AStreamTakesMoreBackThanItGave)
 {
