@@ -191,13 +191,13 @@ void CSQLGrammarParser::yydeleteattribute(void* values)
     delete[] static_cast<ParserNode*>(values);
 }
 
-void CSQLGrammarParser::yyaction(int rule)
+void CSQLGrammarParser::TraceEmptyAction(int rule)
 {
-    const SRule& actions = m_lstRules[static_cast<std::size_t>(rule)];
-    if (!actions.isKnown) {
-        CLogWrapper::WriteTraceF("\nUVGrammarParser: Empty action: %d", rule);
-        return;
-    }
+    CLogWrapper::WriteTraceF("\nUVGrammarParser: Empty action: %d", rule);
+}
+
+void CSQLGrammarParser::RunActions(const SRule& actions)
+{
     const SOperation* const first = m_lstOperations.data() + actions.first;
     for (const SOperation* operation = first; operation != first + actions.count; ++operation) {
         switch (operation->keyword) {

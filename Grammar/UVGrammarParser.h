@@ -5,6 +5,7 @@
 #include "Grammar/Runtime/yyFlexLexer.h"
 #include "Grammar/UVGrammarKeeper.h"
 #include "Grammar/UVGrammarParserImplementation.h"
+#include "UVEnvironment/LogSystem.h"
 
 #include <map>
 #include <string>
@@ -75,7 +76,14 @@ public:
     void yycopy_attributes(void* to, const void* from, std::size_t count) override;
     void* yynewattribute(std::size_t count) override;
     void yydeleteattribute(void* values) override;
-    void yyaction(int rule) override;
+    void yyaction(int rule) override
+    {
+        const SRule& actions = m_lstRules[static_cast<std::size_t>(rule)];
+        if (actions.count != 0)
+            RunActions(actions);
+        else if (!actions.isKnown && CLogWrapper::HasLog())
+            TraceEmptyAction(rule);
+    }
     int yygettoken() override;
     void yysyntaxerror() override;
     void yyrecovery(bool isReported) override;
@@ -119,6 +127,8 @@ private:
     };
 
     void CleanUp();
+    void RunActions(const SRule& actions);
+    static void TraceEmptyAction(int rule);
     void CompileActions();
     ParserNode& StackEntry(int index) { return static_cast<ParserNode*>(yyvsp)[index]; }
     void Push(const void* value)
