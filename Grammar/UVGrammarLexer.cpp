@@ -154,7 +154,7 @@ void CSQLGrammarLexer::yyfindrule(int& act)
 
 void CSQLGrammarLexer::yyinputbuffer()
 {
-    yyscan_string(m_Extension.m_strQuery.c_str());
+    m_pQueryBuffer = yyscan_string(m_Extension.m_strQuery.c_str());
 }
 
 int CSQLGrammarLexer::yybegin(int state)

@@ -173,7 +173,13 @@ private:
     int ColumnOfMatch();
     int LineFeedBefore(int from);
     void AddColoring(int color, int from, int to);
-    void ReplaceText(std::string_view text);
+    // The match stands in the query at `start` as it stands in yytext.
+    bool IsMatchAt(int start) const
+    {
+        return yytext == yytext_ptr && yycurrent_buffer() == m_pQueryBuffer &&
+               !m_pQueryBuffer->yy_is_changed && start >= 0 &&
+               static_cast<std::size_t>(start) == yymatch_offset();
+    }
 
     int ResolveNamed(const std::string& condition) const;
     int ResolveBegin(const std::string& condition) const;
@@ -240,6 +246,7 @@ private:
     CSQLGrammarParser* m_pGrammarParser = nullptr; // m_pParser, if it is one
     ParserNode m_LocalNode;                        // takes the tokens when there is no parser
     bool m_bColoringWanted = true;
+    const yybuffer_state* m_pQueryBuffer = nullptr; // holds a copy of the query
     // The last answer of LineFeedBefore: a scan that went back asks for the same line over and over.
     int m_nLineFeedFrom = -1;
     int m_nLineFeedAt = -1;

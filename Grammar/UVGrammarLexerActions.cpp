@@ -80,10 +80,14 @@ const std::array<CSQLGrammarLexer::Handler, kGrammarKeywordCount> CSQLGrammarLex
 
 int CSQLGrammarLexer::yyaction(int act)
 {
+    const SRule& rule = m_lstRules[static_cast<std::size_t>(act)];
+    if (rule.count == 0) {
+        yy_action_returns = 0;
+        return 0;
+    }
     yy_action_returns = 1;
     ParserNode* node = &m_LocalNode;
     yylvalue(&node);
-    const SRule& rule = m_lstRules[static_cast<std::size_t>(act)];
     SOperation* const first = m_lstOperations.data() + rule.first;
     for (SOperation* operation = first; operation != first + rule.count; ++operation) {
         const Handler handler = kHandlers[static_cast<std::size_t>(operation->keyword)];
@@ -270,7 +274,7 @@ CSQLGrammarLexer::SResult CSQLGrammarLexer::RunColoring(SOperation& operation, P
 CSQLGrammarLexer::SResult CSQLGrammarLexer::RunStrcpy(SOperation& operation, ParserNode&)
 {
     const std::string_view quoted = (*operation.operands)[1];
-    ReplaceText(quoted.size() > 1 ? quoted.substr(1, quoted.size() - 2) : std::string_view());
+    yyreplace_text(quoted.size() > 1 ? quoted.substr(1, quoted.size() - 2) : std::string_view());
     return {};
 }
 

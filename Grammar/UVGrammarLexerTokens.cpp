@@ -41,7 +41,7 @@ int CSQLGrammarLexer::TokenActionE(const std::string& name, int color, ParserNod
 int CSQLGrammarLexer::CpyTokenAction(const std::string& name, const std::string& text, ParserNode& node)
 {
     const auto length = static_cast<int>(std::strlen(yytext));
-    ReplaceText(text);
+    yyreplace_text(text);
     const SToken& token = m_lstTokens[CompileToken(name)];
     MakeToken(token.element, 0, length, false, node);
     return TokenNumber(token.name);
@@ -67,7 +67,10 @@ void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, b
 {
     const int pos = ColumnOfMatch();
     const int start = m_Extension.m_nChar - yyleng;
-    const std::string_view text = isPseudo ? std::string_view() : std::string_view(yytext);
+    const bool isMatch = !isPseudo && IsMatchAt(start);
+    const std::string_view text = isMatch    ? std::string_view(yytext, static_cast<std::size_t>(yyleng))
+                                  : isPseudo ? std::string_view()
+                                             : std::string_view(yytext);
     static_cast<ParserNodeValue&>(node) = ParserNodeValue();
     node.m_nStart = start;
     node.m_nLength = length > 0 ? length : static_cast<int>(text.size());
@@ -75,9 +78,9 @@ void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, b
     if (m_pGrammarParser) {
         CFragmentPool& pool = m_pGrammarParser->Fragments();
         const std::string_view query = m_Extension.m_strQuery;
-        // An action may have put another text in the place of the match.
-        const bool isSource = start >= 0 && static_cast<std::size_t>(start) <= query.size() &&
-                              query.substr(static_cast<std::size_t>(start), text.size()) == text;
+        // an action may have put another text in the place of the match
+        const bool isSource = isMatch || (start >= 0 && static_cast<std::size_t>(start) <= query.size() &&
+                                          query.substr(static_cast<std::size_t>(start), text.size()) == text);
         node.m_pFirst = isSource ? pool.NewToken(element, static_cast<std::uint32_t>(start),
                                                  static_cast<std::uint32_t>(text.size()), node.m_nLine, pos)
                                  : pool.NewTokenText(element, text, node.m_nLine, pos);
@@ -138,14 +141,6 @@ void CSQLGrammarLexer::AddColoring(int color, int from, int to)
     }
     at[-1] = '\n';
     m_Extension.m_strColoring.append(line.data(), static_cast<std::size_t>(at - line.data()));
-}
-
-void CSQLGrammarLexer::ReplaceText(std::string_view text)
-{
-    if (text.size() >= static_cast<std::size_t>(yy_text_size))
-        yytext_relocate(static_cast<int>(text.size()) + 1);
-    std::memcpy(yytext, text.data(), text.size());
-    yytext[text.size()] = 0;
 }
 
 bool CSQLGrammarLexer::TokenActionIndentation(ParserNode& node, int& out)

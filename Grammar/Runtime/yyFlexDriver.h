@@ -70,44 +70,40 @@ inline void yyFlexLexer::yybegin_match()
     *yy_state_ptr++ = yy_current_state;
 }
 
-// Walks at least one byte.
+// Walks at least one byte, from state to state as `next` says, while `leadsOn`.
+template <class Next, class LeadsOn>
+void yyFlexLexer::yyfollow(const Next& next, const LeadsOn& leadsOn)
+{
+    char* const from = yy_cp;
+    char* cp = from;
+    int state = yy_current_state;
+    int* states = yy_state_ptr;
+    int room = yy_text_size - yy_match_length;
+    do {
+        state = next(state, static_cast<unsigned char>(*cp));
+        if (--room <= 0) [[unlikely]]
+            room = yymake_room(yy_match_length + static_cast<int>(cp - from) + 1, states);
+        *states++ = state;
+        ++cp;
+    } while (leadsOn(state));
+    yy_match_length += static_cast<int>(cp - from);
+    yy_current_state = state;
+    yy_state_ptr = states;
+    yy_cp = cp;
+}
+
 template <class Scanner>
 void yyFlexLexer::yywalk(Scanner& self)
 {
-    char* const from = yy_cp;
-    const auto run = [&](const auto& next, const auto& leadsOn) {
-        int state = yy_current_state;
-        char* cp = from;
-        int* states = yy_state_ptr;
-        int room = yy_text_size - yy_match_length; // what was walked since the last token counts as well
-        do {
-            state = next(state, static_cast<unsigned char>(*cp));
-            if (--room <= 0) [[unlikely]] {
-                const int walked = yy_match_length + static_cast<int>(cp - from) + 1;
-                yy_state_ptr = states;
-                if (!yycheck_for_overflow(walked))
-                    self.yyfatal_error("yylex text buffer overflow");
-                states = yy_state_ptr;
-                room = yy_text_size > walked ? yy_text_size - walked : yy_text_size;
-            }
-            *states++ = state;
-            ++cp;
-        } while (leadsOn(state));
-        yy_current_state = state;
-        yy_state_ptr = states;
-        yy_cp = cp;
-    };
-    if (m_spTables->IsCompiled()) {
+    const char* const from = yy_cp;
+    if (m_spTables->IsCompiled()) [[likely]] {
         const CScannerTables::SWalk walk = m_spTables->Walk();
-        run([&](int state, unsigned char byte) { return walk.Next(state, byte); },
-            [&](int state) { return !walk.IsJam(state); });
+        yyfollow([&](int state, unsigned char byte) { return walk.Next(state, byte); },
+                 [&](int state) { return !walk.IsJam(state); });
     } else {
-        run([&](int state, unsigned char byte) { return yystep(state, byte); },
-            [&](int state) { return yy_base[state] != yy_jam_base; });
+        yywalk_compressed();
     }
-    const auto walked = static_cast<int>(yy_cp - from);
-    yy_match_length += walked;
-    self.yyincrementchar(walked);
+    self.yyincrementchar(static_cast<int>(yy_cp - from));
 }
 
 // Leaves the walk's last state, and finds the rule of the match.
@@ -115,43 +111,48 @@ template <class Scanner>
 int yyFlexLexer::yytake_match(Scanner& self)
 {
     yy_current_state = *--yy_state_ptr;
-    yy_lp = yy_accept[yy_current_state];
+    yy_lp = yyfirst_rule(yy_current_state);
     int act = 0;
     self.yyfindrule(act);
     yybefore_action();
-    if (act != yy_end_of_buffer_action && yy_rule_can_match_eol[act])
+    if (act != yy_end_of_buffer_action && yycan_match_eol(act))
         yylineno += static_cast<int>(std::count(yytext, yytext + yyleng, '\n'));
     return act;
+}
+
+// Whether the current state ends the match, by the entries of its accept list from yy_lp on; `act` is the
+// rule then. An entry that is the end of a head counts for the rule alone whose context has been met.
+inline bool yyFlexLexer::yyaccepts(int& act)
+{
+    for (; yy_lp != 0 && yy_lp < yyend_of_rules(yy_current_state); ++yy_lp) {
+        act = yyrule_at(yy_lp);
+        if (yy_looking_for_trail_begin != 0 || (act & kTrailingHeadMask) != 0) {
+            if (act == yy_looking_for_trail_begin) {
+                yy_looking_for_trail_begin = 0;
+                act &= ~kTrailingHeadMask;
+                return true;
+            }
+        } else if ((act & kTrailingMask) != 0) {
+            yy_looking_for_trail_begin = (act & ~kTrailingMask) | kTrailingHeadMask;
+        } else {
+            return true;
+        }
+    }
+    return false;
 }
 
 template <class Scanner>
 void yyFlexLexer::yybackup(Scanner& self, int& act)
 {
     int given = 0;
-    for (;;) {
-        if (yy_lp && yy_lp < yy_accept[yy_current_state + 1]) {
-            act = yy_acclist[yy_lp];
-            if (act & kTrailingHeadMask || yy_looking_for_trail_begin) {
-                if (act == yy_looking_for_trail_begin) {
-                    yy_looking_for_trail_begin = 0;
-                    act &= ~kTrailingHeadMask;
-                    break;
-                }
-            } else if (act & kTrailingMask) {
-                yy_looking_for_trail_begin = (act & ~kTrailingMask) | kTrailingHeadMask;
-            } else {
-                break;
-            }
-            ++yy_lp;
-            continue;
-        }
+    while (!yyaccepts(act)) {
         if (yy_state_ptr == yy_state_buf)
             throw std::runtime_error("the scanner's tables have no rule for the text");
         ++given;
         yy_current_state = *--yy_state_ptr;
-        yy_lp = yy_accept[yy_current_state];
+        yy_lp = yyfirst_rule(yy_current_state);
     }
-    if (given) {
+    if (given > 0) {
         yy_cp -= given;
         self.yydecrementchar(given);
     }

@@ -1,7 +1,5 @@
 #include "Grammar/Runtime/yyFlexDriver.h"
 
-#include <cstring>
-
 namespace {
 
 // An action may match nothing and switch the start condition, but not without end.
@@ -22,6 +20,21 @@ void yyFlexLexer::yymatch()
 void yyFlexLexer::yyfindrule(int& act)
 {
     yybackup(*this, act);
+}
+
+void yyFlexLexer::yywalk_compressed()
+{
+    yyfollow([this](int state, unsigned char byte) { return yystep(state, byte); },
+             [this](int state) { return yy_base[state] != yy_jam_base; });
+}
+
+int yyFlexLexer::yymake_room(int walked, int*& states)
+{
+    yy_state_ptr = states;
+    if (!yycheck_for_overflow(walked))
+        yyfatal_error("yylex text buffer overflow");
+    states = yy_state_ptr;
+    return yy_text_size > walked ? yy_text_size - walked : yy_text_size;
 }
 
 // The match ran into the NULs behind the text, or into a NUL inside it.
@@ -72,8 +85,7 @@ void yyFlexLexer::yyshow_last_match()
         return;
     const yybuffer_state* const buffer = yycurrent_buffer();
     const int length = std::min(yyoldleng, buffer->yy_buf_size);
-    std::memcpy(yytext, buffer->yy_ch_buf + buffer->yy_buf_size - length,
-                static_cast<std::size_t>(length) + 1);
+    yyset_text({buffer->yy_ch_buf + buffer->yy_buf_size - length, static_cast<std::size_t>(length)});
 }
 
 void yyFlexLexer::yycheck_progress()

@@ -33,8 +33,15 @@ private:
     };
 
     void yybegin_match();
+    template <class Next, class LeadsOn>
+    void yyfollow(const Next& next, const LeadsOn& leadsOn);
+    void yywalk_compressed();
+    // `walked` is what was walked since the last token. The state buffer may move: `states` moves along.
+    // Returns: how much further the walk may go before it has to ask again.
+    int yymake_room(int walked, int*& states);
     template <class Scanner>
     int yytake_match(Scanner& self);
+    bool yyaccepts(int& act);
     enStep yyend_of_buffer(int& act);
     void yyshow_last_match();
     void yycheck_progress();

@@ -16,11 +16,6 @@ std::size_t StateSlots(int textSize)
     return static_cast<std::size_t>(textSize) * 2 + 2;
 }
 
-std::size_t TextBytes(int textSize)
-{
-    return static_cast<std::size_t>(textSize) + 2;
-}
-
 } // namespace
 
 yyLexer::yyLexer() = default;
@@ -35,12 +30,9 @@ int yyLexer::yycreate()
     // a scanner that is linked again starts over
     yyLexer::yycleanup();
     yy_text_size = yy_text_initial_size;
-    yy_text_initial.reset(static_cast<char*>(std::malloc(TextBytes(yy_text_size))));
     yy_state_initial.reset(static_cast<int*>(std::malloc(StateSlots(yy_text_size) * sizeof(int))));
-    if (!yy_text_initial || !yy_state_initial)
+    if (!yy_state_initial)
         return 0;
-    yytext = yy_text_initial.get();
-    yytext[0] = 0;
     yy_state_buf = yy_state_initial.get();
     yy_state_ptr = yy_state_buf;
     return 1;
@@ -81,16 +73,14 @@ void yyLexer::yyinit_locals()
 
 void yyLexer::yycleanup()
 {
+    m_textCopy.clear();
+    yytext = m_textCopy.data();
     while (yycurrent_buffer()) {
         yydelete_buffer(yycurrent_buffer());
         yycurrent_buffer_lvalue() = nullptr;
         yypop_buffer_state();
     }
-    yy_text_grown.reset();
     yy_state_grown.reset();
-    yytext = yy_text_initial.get();
-    if (yytext)
-        yytext[0] = 0;
     yy_state_buf = yy_state_initial.get();
     yy_state_ptr = yy_state_buf;
     yy_text_size = yy_text_initial_size;
@@ -140,7 +130,6 @@ void yyLexer::yydestroy()
     yy_buffer_stack.reset();
     yy_buffer_stack_top = 0;
     yy_buffer_stack_max = 0;
-    yy_text_initial.reset();
     yy_state_initial.reset();
     yytext = nullptr;
     yy_state_buf = nullptr;
@@ -193,15 +182,25 @@ std::size_t yyLexer::yymatch_offset() const
     return buffer && yytext_ptr ? static_cast<std::size_t>(yytext_ptr - buffer->yy_ch_buf) : 0;
 }
 
-void yyLexer::yybefore_action()
+void yyLexer::yyset_text(std::string_view text)
 {
-    yytext_ptr = yy_bp;
-    yyoldleng = yyleng;
-    yyleng = static_cast<int>(yy_cp - yy_bp);
-    yy_hold_char = *yy_cp;
-    *yy_cp = 0;
-    std::memcpy(yytext, yytext_ptr, static_cast<std::size_t>(yyleng) + 1);
-    yy_c_buf_p = yy_cp;
+    m_textCopy = text;
+    yytext = m_textCopy.data();
+}
+
+void yyLexer::yykeep_text()
+{
+    if (yytext && yytext != m_textCopy.data())
+        yyset_text({yytext, static_cast<std::size_t>(yyleng)});
+}
+
+void yyLexer::yyreplace_text(std::string_view text)
+{
+    yykeep_text();
+    m_textCopy.resize(std::max(static_cast<std::size_t>(yyleng), text.size() + 1));
+    yytext = m_textCopy.data();
+    std::copy(text.begin(), text.end(), yytext);
+    yytext[text.size()] = 0;
 }
 
 int yyLexer::yystep(int state, unsigned char byte) const
@@ -256,31 +255,19 @@ bool yyLexer::yytext_relocate(int size)
         return false;
     const std::ptrdiff_t states = yy_state_ptr - yy_state_buf;
     if (size <= yy_text_initial_size) {
-        std::memcpy(yy_text_initial.get(), yytext, static_cast<std::size_t>(yyleng) + 1);
         std::memmove(yy_state_initial.get(), yy_state_buf, static_cast<std::size_t>(states) * sizeof(int));
-        yytext = yy_text_initial.get();
         yy_state_buf = yy_state_initial.get();
-        yy_text_grown.reset();
         yy_state_grown.reset();
     } else {
-        const bool hadGrown = static_cast<bool>(yy_text_grown);
+        const bool hadGrown = static_cast<bool>(yy_state_grown);
         // realloc moves large blocks without touching them
-        auto* const text = static_cast<char*>(std::realloc(yy_text_grown.get(), TextBytes(size)));
-        if (!text)
-            return false;
-        (void)yy_text_grown.release();
-        yy_text_grown.reset(text);
-        if (!hadGrown)
-            std::memcpy(text, yytext, static_cast<std::size_t>(yyleng) + 1);
-        yytext = text;
         auto* const stateBuffer =
             static_cast<int*>(std::realloc(yy_state_grown.get(), StateSlots(size) * sizeof(int)));
         if (!stateBuffer)
             return false;
-        const bool hadStates = static_cast<bool>(yy_state_grown);
         (void)yy_state_grown.release();
         yy_state_grown.reset(stateBuffer);
-        if (!hadStates)
+        if (!hadGrown)
             std::memcpy(stateBuffer, yy_state_buf, static_cast<std::size_t>(states) * sizeof(int));
         yy_state_buf = stateBuffer;
     }
@@ -305,5 +292,5 @@ void yyLexer::yyless(int n)
     yy_c_buf_p = yy_cp;
     yy_hold_char = *yy_cp;
     *yy_cp = 0;
-    std::memcpy(yytext, yytext_ptr, static_cast<std::size_t>(yyleng) + 1);
+    yytext = yytext_ptr;
 }

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string>
+#include <string_view>
 
 // One input buffer of a scanner. Sizes and positions are bytes.
 struct yybuffer_state
@@ -28,13 +30,12 @@ struct yybuffer_state
         kEofPending
     };
     int yy_buffer_status = kNew;
+    int yy_is_changed = 0; // yyunput has written into the text
 };
 
 // The table-driven scanner without its language: the state, the buffers and the tables. What depends on the
-// grammar is a virtual operation; the walk over the tables is added by yyFlexLexer.
-//
-// The machine is a DFA over bytes that remembers the states of the current match, so that it can back up to
-// the longest prefix that some rule accepts, and inside it to the end of a rule's trailing context.
+// grammar is a virtual operation. How the machine works tells the note in yyFlexDriver.h; yyFlexLexer adds
+// it.
 class yyLexer
 {
 public:
@@ -43,8 +44,8 @@ public:
     yyLexer& operator=(const yyLexer&) = delete;
     virtual ~yyLexer();
 
-    // Allocates the match text and the state buffer at their initial size. Call once, after the tables are
-    // there. Returns: 1, or 0 if memory is short.
+    // Allocates the state buffer at its initial size. Call once, after the tables are there.
+    // Returns: 1, or 0 if memory is short.
     virtual int yycreate();
     // Switches to start condition `state`.
     // Returns: its coded form.
@@ -97,16 +98,20 @@ public:
     // Pushes one byte back in front of the match.
     void yyunput(int c, char* bp);
 
-    void yyrestart(std::FILE* stream);
+    // Buffers may nest: the one on top is scanned, and where it was left the one below goes on.
     void yyswitch_to_buffer(yybuffer_state* buffer);
     void yypush_buffer_state(yybuffer_state* buffer);
     void yypop_buffer_state();
-    yybuffer_state* yycreate_buffer(std::FILE* stream, int size);
     void yydelete_buffer(yybuffer_state* buffer);
-    void yyinit_buffer(yybuffer_state* buffer, std::FILE* stream);
-    void yyflush_buffer(yybuffer_state* buffer);
     void yyload_buffer_state();
     void yyensure_buffer_stack();
+
+    // Buffers that are read from a stream, for scanners that have one (yyLexerStreams.cpp). This system has
+    // none. Owner: the scanner closes its streams.
+    void yyrestart(std::FILE* stream);
+    yybuffer_state* yycreate_buffer(std::FILE* stream, int size);
+    void yyinit_buffer(yybuffer_state* buffer, std::FILE* stream);
+    void yyflush_buffer(yybuffer_state* buffer);
 
     int yyget_lineno() const { return yylineno; }
     std::FILE* yyget_in() const { return yyin; }
@@ -129,11 +134,13 @@ public:
     // Byte offset of the match in the buffer.
     std::size_t yymatch_offset() const;
 
-    int yylineno = 1;       // from 1
-    char* yytext = nullptr; // the current match, NUL-terminated
-    int yyleng = 0;         // bytes in it
-    int yyoldleng = 0;      // bytes in the match before
-    int yy_start = 0;       // start condition in coded form: 2 * condition + 1
+    int yylineno = 1; // from 1
+    // The current match, NUL-terminated. It stands in the buffer, where the NUL holds the place of a byte;
+    // what touches the buffer between two matches makes a copy first.
+    char* yytext = nullptr;
+    int yyleng = 0;    // bytes in it
+    int yyoldleng = 0; // bytes in the match before
+    int yy_start = 0;  // start condition in coded form: 2 * condition + 1
     int yy_action_returns = 0;
     int yy_action_failed = 0;
 
@@ -156,7 +163,22 @@ protected:
         LastMatch
     };
 
-    void yybefore_action();
+    // Ends the match at the scan position.
+    void yybefore_action()
+    {
+        yytext_ptr = yy_bp;
+        yytext = yytext_ptr;
+        yyoldleng = yyleng;
+        yyleng = static_cast<int>(yy_cp - yy_bp);
+        yy_hold_char = *yy_cp;
+        *yy_cp = 0;
+        yy_c_buf_p = yy_cp;
+    }
+    // Makes yytext a text of its own, outside of the buffer.
+    void yyset_text(std::string_view text);
+    void yykeep_text();
+    // Writes `text` over the match, as a copy over an array: what it doesn't reach stays.
+    void yyreplace_text(std::string_view text);
     void yyrule_setup()
     {
         if (yyleng > 0)
@@ -173,6 +195,12 @@ protected:
     int yystart_condition() const { return (yy_start - 1) / 2; }
     int yystart_state() { return yy_start + yyat_bol(); }
     int yystep(int state, unsigned char byte) const;
+    // The rules that a state accepts are a part of the accept list: from the first entry, 0 for none, to the
+    // end.
+    int yyfirst_rule(int state) const { return yy_accept[state]; }
+    int yyend_of_rules(int state) const { return yy_accept[state + 1]; }
+    int yyrule_at(int entry) const { return yy_acclist[entry]; }
+    bool yycan_match_eol(int rule) const { return yy_rule_can_match_eol[rule] != 0; }
     // Where a NUL of the text itself leads; 0 if no rule knows it.
     int yynul_state(int state) const
     {
@@ -199,7 +227,8 @@ protected:
     int* yy_state_ptr = nullptr; // one behind the last
     int yy_lp = 0;
     int yy_looking_for_trail_begin = 0;
-    int yy_text_size = 0; // of yytext; the state buffer has twice as many slots
+    int yy_text_size =
+        0; // the longest match that there is room for; the state buffer has twice as many slots
     int yy_text_initial_size = 0;
     int yy_text_max_size = 0; // 0: none
     int yy_end_of_buffer_action = 0;
@@ -222,6 +251,6 @@ private:
     enRefill yyrefill_buffer(int kept);
     int yyread_stream(char* into, int most);
 
-    CMemory<char> yy_text_initial, yy_text_grown;
+    std::string m_textCopy; // of a match that doesn't stand in the buffer
     CMemory<int> yy_state_initial, yy_state_grown;
 };

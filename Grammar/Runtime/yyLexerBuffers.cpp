@@ -54,6 +54,7 @@ void yyLexer::yyswitch_to_buffer(yybuffer_state* buffer)
     if (yycurrent_buffer() == buffer)
         return;
     if (yybuffer_state* const current = yycurrent_buffer()) {
+        yykeep_text();
         *yy_c_buf_p = yy_hold_char;
         current->yy_buf_pos = yy_c_buf_p;
         current->yy_n_chars = yy_n_chars;
@@ -69,6 +70,7 @@ void yyLexer::yypush_buffer_state(yybuffer_state* buffer)
         return;
     yyensure_buffer_stack();
     if (yybuffer_state* const current = yycurrent_buffer()) {
+        yykeep_text();
         *yy_c_buf_p = yy_hold_char;
         current->yy_buf_pos = yy_c_buf_p;
         current->yy_n_chars = yy_n_chars;
@@ -99,8 +101,10 @@ void yyLexer::yydelete_buffer(yybuffer_state* buffer)
 {
     if (!buffer)
         return;
-    if (buffer == yycurrent_buffer())
+    if (buffer == yycurrent_buffer()) {
+        yykeep_text();
         yycurrent_buffer_lvalue() = nullptr;
+    }
     if (buffer->yy_is_our_buffer)
         std::free(buffer->yy_ch_buf);
     delete buffer;
@@ -143,9 +147,11 @@ yyLexer::enRefill yyLexer::yyget_next_buffer()
 
 void yyLexer::yyunput(int c, char* bp)
 {
+    yykeep_text();
     char* cp = yy_c_buf_p;
     *cp = yy_hold_char;
     yybuffer_state* const buffer = yycurrent_buffer();
+    buffer->yy_is_changed = 1;
     if (cp < buffer->yy_ch_buf + 2) {
         // make room at the front by moving the text to the end of the buffer
         const int count = yy_n_chars + 2;
@@ -168,6 +174,7 @@ void yyLexer::yyunput(int c, char* bp)
 
 int yyLexer::yyinput()
 {
+    yykeep_text();
     *yy_c_buf_p = yy_hold_char;
     if (*yy_c_buf_p == 0) {
         const yybuffer_state* const buffer = yycurrent_buffer();

@@ -53,6 +53,8 @@ void yyLexer::yyflush_buffer(yybuffer_state* buffer)
 {
     if (!buffer)
         return;
+    if (buffer == yycurrent_buffer())
+        yykeep_text();
     buffer->yy_n_chars = 0;
     buffer->yy_ch_buf[0] = 0;
     buffer->yy_ch_buf[1] = 0;
