@@ -27,40 +27,109 @@ namespace boost::program_options {
 class variables_map;
 }
 
-// The scanner of one language: the table-driven scanner with the tables of a grammar folder, and an
-// interpreter for what a generated scanner would have in its rule actions. A token becomes a ParserNode whose
-// text is one XML element.
+// The scanner of one language: the table-driven scanner over the tables of a grammar folder, and an
+// interpreter for what a generated scanner would have in its rule actions. A match becomes a token, which is
+// a ParserNode that covers the match and whose text is one XML element.
 //
-// Life: yytables once, yycreate once, then per text set_Query and yylex until 0. One object serves one scan
-// at a time. Without a parser (coloring) tokens have a fixed number that isn't 0, and only the coloring text
-// comes out.
+//     CSQLGrammarLexer lexer("PostgreSQL", false);    // reads the tables
+//     lexer.yycreate(&parser);                        // and resolves their names against the parser
+//     lexer.m_Extension.m_bMSSQLQID = false;          // switches stay until they are written again
+//     lexer.set_Query(text, UVDB_DB_POSTGRESQL);      // then yylex, by the parser, until it answers 0
+//
+// Without a parser, for coloring, every token has the same number, which isn't 0, and what comes out is the
+// text m_Extension.m_strColoring. One object serves one scan at a time. Positions and lengths are bytes of
+// the query, lines count from 1.
 class CSQLGrammarLexer final : public yyFlexLexer
 {
 public:
-    // Without tables; call yytables, or ShareTables.
+    // ---- The grammar ----
+
+    // Without tables: yytables or ShareTables come next.
     CSQLGrammarLexer();
-    // Throws: Uve::U8CString with the line for the log if a table file is missing or bad.
+    // Throws: as yytables.
     CSQLGrammarLexer(const char* parserName, bool isPatternVersion);
-    // The out-of-process tool's parameters.
+    // The out-of-process tool's parameters: DBNAME and PATTERNVER name the grammar, the others fill
+    // m_Extension. Throws: as yytables; boost::bad_any_cast for a parameter that is missing or of another
+    // type.
     explicit CSQLGrammarLexer(const boost::program_options::variables_map& parameters);
     ~CSQLGrammarLexer() override;
 
-    // Throws: as the constructor.
+    // Reads and proves the tables of the folder `parserName`, below Grammar or, with `isPatternVersion`,
+    // below Grammar.CR. Throws: Uve::U8CString with the line for the log if a file is missing, damaged or
+    // can't be proved.
     void yytables(const char* parserName, bool isPatternVersion);
-    // Takes the grammar of another lexer, its name included; its own is released.
+    // Takes the grammar of another lexer, its name included; its own is released. The tables are shared, the
+    // actions copied.
     // Throws: std::bad_alloc; the grammar is the earlier one then.
     void ShareTables(const CSQLGrammarLexer& other);
 
-    void Initialize() { m_pParser = nullptr; }
-    // Links the parser.
+    // Links the parser that takes the tokens: call after the tables are there, and again after other ones.
     // Borrows: the parser, until another is linked.
     // Returns: 1; 0 for null or if memory is short.
     int yycreate(yyBisonParser* parser);
-    // Without a parser.
+    // The same without a parser.
     int yycreate() override;
+    // Forgets the parser.
+    void Initialize() { m_pParser = nullptr; }
+
+    // Returns: the database number of a grammar, 60 with a line in the trace for an unknown name.
+    static int GetUVDBNumByParserName(const std::string& name);
+
+    // ---- A text ----
+
+    // Prepares the scan of `query`, a text for the database kind `db`, from its first byte. What texts leave
+    // beyond their end stays: see CSQLGrammarLexerImplementation::clean.
+    // Copies: the query.
+    void set_Query(const std::string& query, int db);
+    // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
+    // goes as well and has to be written again.
+    void ForgetTexts();
+    // The next token, in the parser's lookahead value.
+    // Returns: the parser's number of it, 0 at the end of the text; what the action interpreter still owes
+    // comes
+    //          before the next match.
+    // Throws:  as yyFlexLexer; std::out_of_range if an action begins a start condition that isn't there.
+    int yylex() override;
+    // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
+    // reads it.
+    void set_ColoringWanted(bool on) { m_bColoringWanted = on; }
+
+    // Goes on in start condition `state`, by its number.
+    // Returns: its coded form.
+    // Throws:  std::out_of_range if the tables have no such condition.
+    int SetState(int state) { return yybegin(state); }
+    // The start condition of the language in general, which counts when the grammar is used for its own
+    // database.
+    // Returns: its number, -1 if there is none.
+    int ComputeGeneralStartState(int db);
+    // What the last scan left open. Nothing before its end, nor with tables that don't tell where a text may
+    // end (see the note on where a text may end).
+    const std::optional<SUnfinishedText>& Unfinished() const { return m_Unfinished; }
+
+    // ---- Tokens ----
+
+    // Each fills `node` with the current match as token "T" + name.
+    // Returns: the parser's number of it; 0 for a name that the parser doesn't know, which ends the text for
+    // it.
+    int TokenAction(const std::string& name, ParserNode& node);
+    // With a color for the coloring text.
+    int TokenActionE(const std::string& name, int color, ParserNode& node);
+    // With `text` in the place of the match, whose length it keeps.
+    int CpyTokenAction(const std::string& name, const std::string& text, ParserNode& node);
+    // With neither text nor length.
+    int PseudoTokenAction(const std::string& name, ParserNode& node);
+    // The token for a change of indentation, if the current match (the white space of a line) is one. Several
+    // levels that close at once are owed to the parser, as pseudo tokens.
+    // Returns: true with the token in `out`.
+    bool TokenActionIndentation(ParserNode& node, int& out);
+    // The node alone, by its whole name. `length` above 0 overrides that of the text.
+    ParserNode CreateToken(const std::string& name, int color, int length, bool isPseudo);
+    // Hands out the parser's lookahead value; leaves `node` alone without a parser.
+    void yylvalue(ParserNode** node);
+
+    // ---- What the machine asks for, see yyLexer ----
 
     int yybegin(int state) override;
-    int yylex() override;
     void yyinputbuffer() override;
     void yymatch() override;
     void yyfindrule(int& act) override;
@@ -78,47 +147,17 @@ public:
         return act >= yy_end_of_buffer_action && IsEndOfText(act);
     }
     int yyaction(int act) override;
+    // To the parser; without one to the trace.
     void yyerror(const char* text) override;
 
-    // Hands out the parser's lookahead value; leaves `node` alone without a parser.
-    void yylvalue(ParserNode** node);
-    // Prepares the scan of `query`, a text for the database kind `db`.
-    void set_Query(const std::string& query, int db);
-    // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
-    // goes as well and has to be written again.
-    void ForgetTexts();
-    // The start condition of the language in general, which counts when the grammar is used for its own
-    // database. Returns: its number, -1 if there is none.
-    int ComputeGeneralStartState(int db);
-    // Returns: the database number of a grammar, 60 for an unknown name.
-    static int GetUVDBNumByParserName(const std::string& name);
-    int SetState(int state) { return yybegin(state); }
-    // What the last scan left open. Nothing before its end, nor with tables that don't tell where a text may
-    // end (see the note on where a text may end).
-    const std::optional<SUnfinishedText>& Unfinished() const { return m_Unfinished; }
-    // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
-    // reads it.
-    void set_ColoringWanted(bool on) { m_bColoringWanted = on; }
+    // ---- Open members, which the front door writes ----
 
-    // Each fills `node` with the current match as token "T" + name.
-    // Returns: the parser's number of it; 0 for a name that the parser doesn't know.
-    int TokenAction(const std::string& name, ParserNode& node);
-    int TokenActionE(const std::string& name, int color, ParserNode& node);
-    int CpyTokenAction(const std::string& name, const std::string& text, ParserNode& node);
-    int PseudoTokenAction(const std::string& name, ParserNode& node);
-    // The token for a change of indentation, if the current match (the white space of a line) is one.
-    // Returns: true with the token in `out`.
-    bool TokenActionIndentation(ParserNode& node, int& out);
-
-    // `length` above 0 overrides that of the text. A pseudo token has neither text nor length.
-    ParserNode CreateToken(const std::string& name, int color, int length, bool isPseudo);
-
-    std::map<std::string, int> m_mapStartConditions;
+    std::map<std::string, int> m_mapStartConditions; // name to number; an unknown name that is begun gets 0
     CSQLGrammarLexerImplementation m_Extension;
     yyBisonParser* m_pParser = nullptr; // borrowed
-    std::string m_strParserName;
+    std::string m_strParserName;        // the grammar's folder
     bool m_bPatternVersion = false;
-    int m_nDBVersionMajor = 0;
+    int m_nDBVersionMajor = 0; // of the database that the texts are for
     int m_nDBVersionMinor = 0;
     CActionsMap m_mapActions;
 
