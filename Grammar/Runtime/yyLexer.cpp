@@ -176,12 +176,6 @@ void yyLexer::yyset_jambase(std::size_t count)
     yy_jam_base = yy_base[yy_last_dfa + 1];
 }
 
-std::size_t yyLexer::yymatch_offset() const
-{
-    const yybuffer_state* const buffer = yycurrent_buffer();
-    return buffer && yytext_ptr ? static_cast<std::size_t>(yytext_ptr - buffer->yy_ch_buf) : 0;
-}
-
 void yyLexer::yyset_text(std::string_view text)
 {
     m_textCopy = text;

@@ -34,8 +34,8 @@ struct yybuffer_state
 };
 
 // The table-driven scanner without its language: the state, the buffers and the tables. What depends on the
-// grammar is a virtual operation. How the machine works tells the note in yyFlexDriver.h; yyFlexLexer adds
-// it.
+// grammar is a virtual operation. The machine is in yyFlexLexer; the note in yyFlexDriver.h tells how it
+// works.
 class yyLexer
 {
 public:
@@ -106,8 +106,8 @@ public:
     void yyload_buffer_state();
     void yyensure_buffer_stack();
 
-    // Buffers that are read from a stream, for scanners that have one (yyLexerStreams.cpp). This system has
-    // none. Owner: the scanner closes its streams.
+    // Buffers that are read from a stream, for scanners that have one (yyLexerStreams.cpp). None in this
+    // system has. Owner: the scanner closes its streams.
     void yyrestart(std::FILE* stream);
     yybuffer_state* yycreate_buffer(std::FILE* stream, int size);
     void yyinit_buffer(yybuffer_state* buffer, std::FILE* stream);
@@ -132,7 +132,11 @@ public:
     }
     int yywrap() const { return 1; }
     // Byte offset of the match in the buffer.
-    std::size_t yymatch_offset() const;
+    std::size_t yymatch_offset() const
+    {
+        const yybuffer_state* const buffer = yycurrent_buffer();
+        return buffer && yytext_ptr ? static_cast<std::size_t>(yytext_ptr - buffer->yy_ch_buf) : 0;
+    }
 
     int yylineno = 1; // from 1
     // The current match, NUL-terminated. It stands in the buffer, where the NUL holds the place of a byte;
@@ -174,8 +178,9 @@ protected:
         *yy_cp = 0;
         yy_c_buf_p = yy_cp;
     }
-    // Makes yytext a text of its own, outside of the buffer.
+    // Makes `text` the match, outside of the buffer.
     void yyset_text(std::string_view text);
+    // Takes the match out of the buffer, before that is touched.
     void yykeep_text();
     // Writes `text` over the match, as a copy over an array: what it doesn't reach stays.
     void yyreplace_text(std::string_view text);
@@ -227,8 +232,7 @@ protected:
     int* yy_state_ptr = nullptr; // one behind the last
     int yy_lp = 0;
     int yy_looking_for_trail_begin = 0;
-    int yy_text_size =
-        0; // the longest match that there is room for; the state buffer has twice as many slots
+    int yy_text_size = 0; // bytes that may be walked for a match; the state buffer has twice as many slots
     int yy_text_initial_size = 0;
     int yy_text_max_size = 0; // 0: none
     int yy_end_of_buffer_action = 0;
