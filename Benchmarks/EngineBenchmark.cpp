@@ -37,7 +37,7 @@ void Scan(benchmark::State& state)
         while (lexer.yylex() != 0) {
         }
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(Scan)->Arg(300)->Arg(30000);
 
@@ -54,7 +54,7 @@ void Parse(benchmark::State& state)
         lexer.set_Query(text, kPostgreSql);
         benchmark::DoNotOptimize(parser.yyparse());
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(Parse)->Arg(300)->Arg(30000);
 

@@ -19,7 +19,7 @@ void FindByRisingIndex(benchmark::State& state)
             ++found;
         benchmark::DoNotOptimize(found);
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(FindByRisingIndex)->Arg(1000)->Arg(100000);
 
@@ -30,7 +30,7 @@ void ValidateUtf8(benchmark::State& state)
         text += "select name from customers where city = 'Köln';\n";
     for (auto _ : state)
         benchmark::DoNotOptimize(UVDB::IsValidUTF8(text));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(ValidateUtf8);
 

@@ -97,7 +97,7 @@ void NormalizeNames(benchmark::State& state, DB_VERSION_INFO from, DB_VERSION_IN
         }
         state.ResumeTiming();
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * names.size()));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(names.size()));
 }
 BENCHMARK_CAPTURE(NormalizeNames, OracleToPostgreSql, kOracle, kPostgreSql)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(NormalizeNames, SqlServerToOracle, kSqlServer, kOracle)->Unit(benchmark::kMillisecond);
@@ -143,7 +143,7 @@ void NormalizeManyNames(benchmark::State& state)
         state.SetIterationTime(growth.seconds);
         bytes = growth.bytes;
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * count));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(count));
     state.counters["bytes_per_name"] = static_cast<double>(bytes) / static_cast<double>(count);
 }
 BENCHMARK(NormalizeManyNames)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);

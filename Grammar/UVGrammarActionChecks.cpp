@@ -70,7 +70,7 @@ std::vector<std::string> BegunConditions(enGrammarKeyword keyword, const Operand
         return {operands[1], operands[2]};
     case ActionByOption: {
         std::vector<std::string> begun;
-        for (const std::size_t action : {1, 3})
+        for (const std::size_t action : {1u, 3u})
             if (operands[action] == "BEGIN")
                 begun.push_back(operands[action + 1]);
         return begun;
@@ -110,12 +110,12 @@ std::vector<std::string> MadeTokens(enGrammarKeyword keyword, const Operands& op
         break;
     }
     case ActionByOption:
-        for (const std::size_t action : {1, 3})
+        for (const std::size_t action : {1u, 3u})
             if (operands[action] != "BEGIN")
                 tokens.push_back(operands[action + 1]);
         break;
     case ConditionalTokenAction:
-        for (const std::size_t word : {2, 3})
+        for (const std::size_t word : {2u, 3u})
             if (operands[word] != "NO_ACTION")
                 tokens.push_back(operands[word]);
         break;

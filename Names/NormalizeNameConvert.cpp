@@ -126,7 +126,7 @@ Uve::U8CString CutName(const Uve::U8CString& name, std::size_t keptBytes, long l
         std::size_t from = rest.size() - room;
         while (from < rest.size() && IsContinuation(rest[from]))
             ++from;
-        rest.erase(0, from);
+        rest.erase(0u, from);
     } else {
         std::size_t end = room;
         while (end > 0 && IsContinuation(rest[end]))
@@ -399,7 +399,7 @@ Uve::U8CString CNormalizeName::TrimVariablePrefix(Uve::U8CString name) const
 {
     const Uve::U8CString prefix = DBMSVariablePrefix(m_SourceVersion);
     if (!prefix.empty() && name.starts_with(prefix))
-        name.erase(0, prefix.size());
+        name.erase(0u, prefix.size());
     return name;
 }
 

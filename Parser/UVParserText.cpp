@@ -63,7 +63,8 @@ Uve::U8CString WrapInElement(std::string_view name, std::string_view text)
 {
     Uve::U8CString element;
     element.reserve(text.size() + 2 * name.size() + 5);
-    element.append(1, '<').append(name).append(1, '>').append(text).append("</").append(name).append(1, '>');
+    element.append(1u, '<').append(name).append(1u, '>').append(text).append("</").append(name).append(1u,
+                                                                                                       '>');
     return element;
 }
 

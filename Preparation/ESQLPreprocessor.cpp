@@ -64,7 +64,7 @@ public:
             SDollar dollar;
             dollar.ordinal = static_cast<std::uint32_t>(ordinal);
             dollar.nextOrdinal = dollar.ordinal + 1;
-            dollar.behind = at + 1;
+            dollar.behind = (at + 1) & kOffsets;
             dollar.isInStatement = statement.IsInside(at);
             switch (Settle(dollar)) {
             case HIT:
@@ -124,6 +124,7 @@ private:
         std::uint32_t ordinal = 0;
         std::uint32_t nextOrdinal = 0; // of the first "$" at or after `behind`
     };
+    static constexpr std::uint64_t kOffsets = ~std::uint64_t{0} >> 2;
 
     // Reads the text as the replacements that have been settled make it.
     struct SReader
@@ -188,7 +189,7 @@ private:
             Pass(reader);
             next = Peek(reader);
         }
-        dollar.behind = reader.at;
+        dollar.behind = reader.at & kOffsets;
         dollar.nextOrdinal = reader.ordinal;
         if (next < 0)
             return next == kDollar ? OPEN : NO_HIT;

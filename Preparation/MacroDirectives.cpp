@@ -107,7 +107,7 @@ bool Checker::RunConditional(SRun& run, const Token& directive)
     if (name == "if" || name == "ifdef" || name == "ifndef")
         return OpenConditional(run, directive);
     if (run.conditionals.size() == 1)
-        return FailRun(directive, "#" + std::string(name) + " without #if");
+        return FailRun(directive, std::string("#").append(name) + " without #if");
     if (name == "endif") {
         run.conditionals.pop_back();
         return true;

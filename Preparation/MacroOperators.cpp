@@ -67,7 +67,7 @@ bool IsOneQuoted(std::string_view text)
     const char quote = text.back();
     std::size_t at = text.find(quote) + 1;
     while (at < text.size() && text[at] != quote)
-        at += text[at] == '\\' ? 2 : 1;
+        at += text[at] == '\\' ? 2u : 1u;
     return at + 1 == text.size();
 }
 

@@ -184,6 +184,6 @@ int CRuleFiles::AddTemplates(std::string& main, const std::string& name) const
         subEnd < subBegin)
         return UVDB_OK;
     main.insert(mainEnd + kTemplateEnd.size(),
-                "\n" + sub.substr(subBegin, subEnd + kTemplateEnd.size() - subBegin));
+                std::string("\n").append(sub, subBegin, subEnd + kTemplateEnd.size() - subBegin));
     return UVDB_OK;
 }

@@ -540,7 +540,7 @@ void ForEachPiece(std::string_view run, enRun kind, Sink&& sink)
         }
         ++at;
         if (c == '\r') {
-            at += at < run.size() && run[at] == '\n' ? 1 : 0;
+            at += at < run.size() && run[at] == '\n' ? 1u : 0u;
             c = '\n';
         }
         if (Is(c, kBlank) && kind == enRun::Value)

@@ -14,10 +14,8 @@ endif()
 
 # Flags that all code of the project is compiled with.
 add_library(uv_flags INTERFACE)
-target_compile_options(uv_flags INTERFACE -Wall -Wextra -Wshadow $<$<BOOL:${UV_WERROR}>:-Werror>)
-# GCC 12 sees overlaps inside std::string's operator+, and null pointers behind c_str(), that can't be.
-target_compile_options(uv_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-                       $<$<CXX_COMPILER_ID:GNU>:-Wno-format-overflow>)
+target_compile_options(uv_flags INTERFACE -Wall -Wextra -Wshadow -Wconversion -Wsign-conversion
+                       -Wold-style-cast $<$<BOOL:${UV_WERROR}>:-Werror>)
 target_include_directories(uv_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/Libraries/Static)
 if(UV_SANITIZE)
     target_compile_options(uv_flags INTERFACE -fsanitize=${UV_SANITIZE} -fno-omit-frame-pointer

@@ -307,11 +307,11 @@ namespace UVDBTypeText {
 std::string Quoted(std::string_view text)
 {
     if (text.size() <= kShownBytes)
-        return "\"" + std::string(text) + "\"";
+        return std::string("\"").append(text).append("\"");
     std::size_t end = kShownBytes;
     while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
         --end;
-    return "\"" + std::string(text.substr(0, end)) + "...\"";
+    return std::string("\"").append(text.substr(0, end)).append("...\"");
 }
 
 std::string_view Trimmed(std::string_view text)

@@ -136,13 +136,13 @@ TEST(U8String, ChangesAnswerLikeAStringOfCodePoints)
                     const auto model = [&] { return std::u32string(text); };
                     ASSERT_EQ(Changed([&] { return own().replace(at, count, utf8.c_str()); }),
                               Expected([&] { return model().replace(at, count, added); }));
-                    ASSERT_EQ(Changed([&] { return own().insert(at, utf8.c_str(), 1); }),
+                    ASSERT_EQ(Changed([&] { return own().insert(at, utf8.c_str(), 1u); }),
                               Expected([&] { return model().insert(at, added.substr(0, 1)); }));
                     ASSERT_EQ(Changed([&] { return own().erase(at, count); }),
                               Expected([&] { return model().erase(at, count); }));
                     ASSERT_EQ(Changed([&] { return own().append(subject, at, count); }),
                               Expected([&] { return model().append(text, at, count); }));
-                    ASSERT_EQ(Changed([&] { return own().insert(at, 2, U'\u00E9'); }),
+                    ASSERT_EQ(Changed([&] { return own().insert(at, 2u, U'\u00E9'); }),
                               Expected([&] { return model().insert(at, 2, U'\u00E9'); }));
                 }
             }

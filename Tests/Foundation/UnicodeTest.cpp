@@ -164,7 +164,7 @@ TEST(Unicode, WhatHasNoLetterIsItsOwnCase)
     EXPECT_LT(utf8_collate("a", "b"), 0);
     EXPECT_EQ(utf8_collate(nullptr, "a"), 0);
     for (const char32_t blank :
-         {0x1680, 0x180E, 0x2000, 0x2006, 0x2008, 0x200A, 0x2028, 0x2029, 0x205F, 0x3000})
+         {0x1680u, 0x180Eu, 0x2000u, 0x2006u, 0x2008u, 0x200Au, 0x2028u, 0x2029u, 0x205Fu, 0x3000u})
         EXPECT_TRUE(u8char::iswspace(blank) && !UChar::isspace(blank)) << static_cast<unsigned long>(blank);
     EXPECT_FALSE(u8char::iswspace(8199) || u8char::iswspace(0xA0)); // blanks that don't break
 }

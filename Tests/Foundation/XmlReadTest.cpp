@@ -148,7 +148,7 @@ TEST(XmlRead, WhatGrowsBeyondMeasureIsRefused)
 TEST(XmlRead, GrowthIsRefusedFromTheLimitOn)
 {
     const std::string entity(99'980, 'x');
-    for (const std::size_t filler : {0, 1'000'000}) {
+    for (const std::size_t filler : {0u, 1'000'000u}) {
         SCOPED_TRACE(filler);
         const auto document = [&](std::size_t references) {
             return WithDtd("<!ENTITY e '" + entity + "'>",

@@ -79,7 +79,7 @@ void Drive(CNameHost& host, int type, std::string_view line)
     Require(host.Normalize(type, again, kindText) == result);
     Require(first == again);
     Require(first.Text().size() <= limit);
-    for (const unsigned long mode : {0, 1, 2, 4, 8, 16})
+    for (const unsigned long mode : {0UL, 1UL, 2UL, 4UL, 8UL, 16UL})
         Require(host.normaliser.PrepareObjectName(name.object.c_str(), host.target, mode).size() <= limit);
 }
 

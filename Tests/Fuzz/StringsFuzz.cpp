@@ -116,7 +116,8 @@ void DriveU8Strings(const std::string& text, const std::string& needle, std::siz
     const std::size_t place = std::min(first, subject.length());
     subject.insert(place, needle);
     const Uve::u8string added(needle);
-    subject.replace(std::min(second, subject.length()), first, added, 0, std::min(second, added.length()));
+    subject.replace(std::min(second, subject.length()), first, added, std::size_t{0},
+                    std::min(second, added.length()));
     subject.erase(std::min(place, subject.length()), second);
     subject.uppercase();
     subject.normalize();

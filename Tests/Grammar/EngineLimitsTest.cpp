@@ -32,7 +32,8 @@ SParseOutcome ParseClean(const std::string& grammar, const std::string& text)
 
 TEST(EngineLimits, MatchesGrowPastTheFirstTextSize)
 {
-    for (const std::size_t length : {198, 199, 200, 201, 202, 399, 400, 401, 799, 800, 801, 100000}) {
+    for (const std::size_t length :
+         {198u, 199u, 200u, 201u, 202u, 399u, 400u, 401u, 799u, 800u, 801u, 100000u}) {
         SCOPED_TRACE(length);
         const std::string word = Repeated("a", length);
         ParseClean("Nesting", word + ";");
@@ -52,7 +53,8 @@ TEST(EngineLimits, MatchesGrowPastTheFirstTextSize)
 TEST(EngineLimits, StacksGrowWithTheNesting)
 {
     // the states of the start and the list's beginning lie below the brackets
-    for (const std::size_t depth : {195, 196, 197, 198, 199, 200, 395, 396, 397, 398, 399, 400, 1000}) {
+    for (const std::size_t depth :
+         {195u, 196u, 197u, 198u, 199u, 200u, 395u, 396u, 397u, 398u, 399u, 400u, 1000u}) {
         SCOPED_TRACE(depth);
         const std::string text = Repeated("(", depth) + "a" + Repeated(")", depth) + ";";
         const SParseOutcome outcome = ParseClean("Nesting", text);

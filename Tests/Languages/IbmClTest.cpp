@@ -243,7 +243,7 @@ TEST(IbmCl, ACommentWithoutItsEndTakesTheRest)
 // A list of a few statements comes to the flattening in another form than a long one.
 TEST(IbmCl, FlattenedStatementsHaveOneShape)
 {
-    for (const std::size_t count : {1, 7, 9, 70, 600}) {
+    for (const std::size_t count : {1u, 7u, 9u, 70u, 600u}) {
         SCOPED_TRACE(count);
         const std::string text =
             Repeated("A: CALL B /* c */\nD /* e */\nF: /* g */\n)\nH: ) /* i */\n", count) + "J";

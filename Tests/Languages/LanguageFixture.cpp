@@ -299,7 +299,7 @@ std::size_t DepthOf(const std::string& xml)
 {
     std::size_t depth = 0, deepest = 0;
     for (std::size_t at = xml.find('<'); at != std::string::npos; at = xml.find('<', at + 1)) {
-        depth += xml[at + 1] == '/' ? -1 : 1;
+        depth = xml[at + 1] == '/' ? depth - 1 : depth + 1;
         deepest = std::max(deepest, depth);
     }
     return deepest;

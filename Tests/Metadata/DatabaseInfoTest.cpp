@@ -115,7 +115,7 @@ TEST(DatabaseInfo, ObjectsInTheRegistryDontKeepTheInfoAlive)
 TEST(DatabaseInfo, CreatedObjectCarriesItsNameAndType)
 {
     const auto info = MakeInfo();
-    for (const unsigned short flags : {0, 1, 2, 3}) {
+    for (unsigned short flags = 0; flags < 4; ++flags) {
         SCOPED_TRACE(flags);
         const int number = info->CreateObject("StoredProcedure", "s", "p", flags);
         std::shared_ptr<IUVDBObjectInfo> object;

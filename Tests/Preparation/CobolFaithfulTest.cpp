@@ -231,7 +231,7 @@ TEST_F(CobolCompiler, AnyContinuationIsReadAlike)
     int judged = 0;
     for (int i = 0; i != 400; ++i) {
         std::string source = "       A.\n";
-        for (unsigned left = 2 + random() % 5; left != 0; --left)
+        for (auto left = 2 + random() % 5; left != 0; --left)
             source += lines[random() % lines.size()] + '\n';
         source += "       Z.\n";
         // what the compiler refuses has no meaning to keep

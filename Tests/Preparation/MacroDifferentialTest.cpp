@@ -71,7 +71,7 @@ std::vector<std::string> CTokens(std::string_view text)
         const char quote = text[end - 1];
         if (quote == '"' || quote == '\'') {
             while (end < text.size() && text[end] != quote)
-                end += text[end] == '\\' ? 2 : 1;
+                end += text[end] == '\\' ? 2u : 1u;
             end = std::min(end + 1, text.size());
         } else if (end == at + 1) {
             for (const std::string_view sign : operators)
@@ -160,6 +160,11 @@ private:
         bool isVariadic = false;
     };
 
+    template <class T>
+    const T& AnyOf(const std::vector<T>& values)
+    {
+        return values[static_cast<std::size_t>(Below(static_cast<int>(values.size())))];
+    }
     int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_Random); }
     template <std::size_t N>
     std::string OneOf(const char* const (&texts)[N])
@@ -203,8 +208,9 @@ private:
             macro.isVariadic = macro.parameters > 0 && Below(4) == 0;
             line += '(';
             for (int i = 0; i < macro.parameters; ++i)
-                line += (i > 0 ? ", " : "") +
-                        (macro.isVariadic && i + 1 == macro.parameters ? std::string("...") : parameters[i]);
+                line += (i > 0 ? ", " : "") + (macro.isVariadic && i + 1 == macro.parameters
+                                                   ? std::string("...")
+                                                   : parameters[static_cast<std::size_t>(i)]);
             line += ')';
             if (macro.isVariadic)
                 parameters.back() = "__VA_ARGS__";
@@ -221,10 +227,10 @@ private:
         const int pieces = Below(6);
         for (int i = 0; i < pieces; ++i) {
             if (!parameters.empty() && Below(4) == 0) {
-                body += '#' + parameters[Below(static_cast<int>(parameters.size()))] + ' ';
+                body += '#' + AnyOf(parameters) + ' ';
             } else if (!parameters.empty() && Below(4) == 0) {
-                body += OneOf({"p", "q", "A", "f"}) + (Below(2) == 0 ? "##" : " ## ") +
-                        parameters[Below(static_cast<int>(parameters.size()))] + ' ';
+                body +=
+                    OneOf({"p", "q", "A", "f"}) + (Below(2) == 0 ? "##" : " ## ") + AnyOf(parameters) + ' ';
             } else {
                 body += Text(1, parameters);
             }
@@ -240,9 +246,9 @@ private:
         for (int i = 0; i < pieces; ++i) {
             const int kind = Below(12);
             if (kind < 5 && !m_Macros.empty())
-                text += Use(m_Macros[Below(static_cast<int>(m_Macros.size()))], parameters, depth);
+                text += Use(AnyOf(m_Macros), parameters, depth);
             else if (kind < 8 && !parameters.empty())
-                text += parameters[Below(static_cast<int>(parameters.size()))];
+                text += AnyOf(parameters);
             else
                 text += OneOf({"v", "w", "1", "0x1f", "25e3", "\"s\\n\"", " 'c'", "+", "-", "(v)", "*", "<<",
                                "A", "f"});

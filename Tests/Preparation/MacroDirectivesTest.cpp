@@ -56,7 +56,7 @@ TEST(MacroDirectives, WhatStandsInFrontChangesNothing)
     for (int command = 0; command < 3; ++command) {
         const SMacroRun expected = RunMacros(command, source);
         ASSERT_TRUE(expected.isDone) << expected.errors;
-        for (int front = 380; front < 530; ++front) {
+        for (std::size_t front = 380; front < 530; ++front) {
             SCOPED_TRACE(testing::Message() << "command " << command << ", " << front << " tokens in front");
             std::string ahead(front, '!'); // each is a token
             for (std::size_t at = 99; at < ahead.size(); at += 100)

@@ -186,7 +186,7 @@ TEST(MacroTokens, PiecesGiveTheTokensOfTheWhole)
     text.erase(text.find("\xEF\xBB\xBF"), 3);
     const SRead whole(text);
     ASSERT_TRUE(whole.errors.empty());
-    for (const std::size_t count : {1, 2, 3, 7}) {
+    for (const std::size_t count : {1u, 2u, 3u, 7u}) {
         SCOPED_TRACE(count);
         SRead pieces("");
         TokenReader reader(pieces.list, text, "a.c", pieces.errors, false);
@@ -220,7 +220,7 @@ TEST(MacroTokens, SkimmingTellsWhatReadingTells)
                                 "c"};
     for (const std::string front : fronts)
         for (const std::string end : ends)
-            for (const std::size_t count : {1, 1000}) {
+            for (const std::size_t count : {1U, 1000U}) {
                 const std::string text = "z;\n" + front + end + "\n#error d\n";
                 SCOPED_TRACE(text);
                 const SRead read(text);

@@ -220,8 +220,10 @@ private:
     static std::string ExpressionSymbol(const std::string& expression)
     {
         std::string symbol = "X_";
-        for (const unsigned char c : expression)
-            symbol += std::isalnum(c) ? std::string(1, static_cast<char>(c)) : std::to_string(c);
+        for (const char c : expression) {
+            const auto code = static_cast<unsigned char>(c);
+            symbol += std::isalnum(code) ? std::string(1, c) : std::to_string(code);
+        }
         return symbol.substr(0, 120);
     }
 

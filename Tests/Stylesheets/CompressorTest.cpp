@@ -287,7 +287,7 @@ TEST_F(Archive, GzipDamageReachesTheReader)
     std::vector<unsigned char> whole;
     // The two bytes of the magic number tell gzip from plain; behind them every truncation shows.
     for (std::size_t size = 2; size < packed.size();
-         size += size < 20 || size + 20 > packed.size() ? 1 : 997) {
+         size += size < 20 || size + 20 > packed.size() ? 1u : 997u) {
         Write(packed.substr(0, size));
         EXPECT_EQ(ZFile::ReadWhole(path, whole, 1u << 20), ZFile::enResult::Damaged) << size;
         ZFile file;

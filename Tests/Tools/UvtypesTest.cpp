@@ -105,7 +105,7 @@ TEST_F(Uvtypes, StandardInputIsReadToItsEnd)
     EXPECT_EQ(rows[0][0], "NUMBER(5)");
     EXPECT_EQ(rows[1][0], "varchar2( 10 )");
     EXPECT_EQ(rows[1][3], "VARCHAR(10)");
-    for (const std::size_t unknown : {2, 3, 4, 5})
+    for (const std::size_t unknown : {2u, 3u, 4u, 5u})
         EXPECT_EQ(rows[unknown].at(1), "unknown");
     EXPECT_EQ(rows[2][0], "NOSUCH");
     EXPECT_EQ(rows[5][0], "\xEF\xBF\xBD") << "no byte that isn't UTF-8 goes out";

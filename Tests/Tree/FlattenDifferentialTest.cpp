@@ -113,7 +113,7 @@ TEST(FlattenDifferential, LargeRandomTrees)
     const std::uint64_t seed = NumberFromEnvironment("UV_FLATTEN_SEED", 1);
     std::cout << "seed " << seed << '\n';
     CTreeGenerator generator{CChoices(seed)};
-    for (const std::size_t elements : {1000, 3000, 10000, 10000}) {
+    for (const std::size_t elements : {1000u, 3000u, 10000u, 10000u}) {
         SCOPED_TRACE(testing::Message() << "seed " << seed << ", " << elements << " elements");
         ASSERT_TRUE(ExpectSame(generator.LargeTree(elements), true));
     }
@@ -192,7 +192,7 @@ std::string FlatList(std::size_t items)
 // stylesheet does as far as its depth is allowed to go, and gives nothing beyond.
 TEST(FlattenDifferential, ListsOfAnyLength)
 {
-    for (const std::size_t items : {1, 2, 8000, 13000, 14000, 39000, 1000000})
+    for (const std::size_t items : {1u, 2u, 8000u, 13000u, 14000u, 39000u, 1000000u})
         for (const bool isLeftRecursive : {true, false}) {
             SCOPED_TRACE(testing::Message() << items << (isLeftRecursive ? ", left" : ", right"));
             const std::string tree = ListTree("list", items, isLeftRecursive);
@@ -297,7 +297,7 @@ TEST(FlattenDifferential, DelimitersThatMultiply)
 // The same depth without a list: elements that nest on purpose.
 TEST(FlattenDifferential, NestingOfAnyDepth)
 {
-    for (const std::size_t depth : {1000, 1000000}) {
+    for (const std::size_t depth : {1000u, 1000000u}) {
         SCOPED_TRACE(depth);
         std::string tree;
         for (std::size_t i = 0; i < depth; ++i)

@@ -208,7 +208,8 @@ private:
             return true;
         const std::string word = TakeWord();
         if (word.empty()) {
-            Problem("'" + std::string(m_Text.substr(m_At, m_Text.find_first_of(kWhiteSpace, m_At) - m_At)) +
+            const std::size_t end = m_Text.find_first_of(kWhiteSpace, m_At);
+            Problem(std::string("'").append(m_Text.substr(m_At, end - m_At)) +
                     "' is not a statement of the action language");
             return false;
         }

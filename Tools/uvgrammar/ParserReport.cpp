@@ -19,7 +19,7 @@ std::vector<std::string> SplitSymbols(std::string_view text)
         const char quote = text[at];
         if (quote == '"' || quote == '\'') {
             while (end < text.size() && text[end] != quote)
-                end += text[end] == '\\' ? 2 : 1;
+                end += text[end] == '\\' ? 2u : 1u;
             ++end;
         } else
             end = text.find(' ', at);

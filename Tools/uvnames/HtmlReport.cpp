@@ -86,7 +86,7 @@ void CHtmlReport::AddRow(const std::vector<std::string>& cells, const std::vecto
         texts.append(texts.empty() ? "" : ", ").append(reason);
     }
     const bool isSame = reasons.front() == kUnchanged;
-    m_UnchangedCount += isSame || reasons.front() == kQuoted ? 1 : 0;
+    m_UnchangedCount += isSame || reasons.front() == kQuoted ? 1u : 0u;
     std::string row = "<tr data-reasons=\"" + MarkupText(values) + (isSame ? "\" class=\"same\">" : "\">");
     for (const std::string& cell : cells)
         row += Cell(&cell == &cells.front() ? "" : " class=\"name\"", cell);

@@ -225,7 +225,7 @@ std::size_t CountStatements(std::string_view tree)
             delimiters = isStart ? delimiters + 1 : delimiters - std::min<std::size_t>(delimiters, 1);
         } else if (isStart && depth > 0 && delimiters == 0 && !isDecided) {
             isDecided = IsToken(markup.name) || markup.name == kLostStatement;
-            count += IsToken(markup.name) ? 1 : 0;
+            count += IsToken(markup.name) ? 1u : 0u;
         }
     }
     return count;

@@ -44,7 +44,8 @@ struct SStringOutput
 template <bool kBigEndian>
 unsigned int Unit16(const unsigned char* bytes)
 {
-    return kBigEndian ? bytes[0] << 8 | bytes[1] : bytes[1] << 8 | bytes[0];
+    const unsigned int high = bytes[kBigEndian ? 0 : 1];
+    return high << 8 | bytes[kBigEndian ? 1 : 0];
 }
 
 template <bool kBigEndian>

@@ -67,7 +67,7 @@ public:
     U8CString& operator=(std::string&& text) { return assign(std::move(text)); }
     U8CString& operator=(const char* text) { return assign(text ? text : ""); }
     U8CString& operator=(std::string_view text) { return assign(text); }
-    U8CString& operator=(char character) { return assign(1, character); }
+    U8CString& operator=(char character) { return assign(size_type{1}, character); }
     U8CString& operator=(std::initializer_list<char> characters) { return assign(characters); }
 
     std::wstring toWide() const;

@@ -56,7 +56,7 @@ TEST(IdentifierCharacters, BesideLettersAndDigitsEachKindHasItsOwn)
 TEST(IdentifierCharacters, LettersStandAnywhereAndDigitsOnlyInside)
 {
     for (std::uint64_t db = 0; db < 140; ++db)
-        for (const unsigned long type : {0, 17, 42}) {
+        for (const unsigned long type : {0u, 17u, 42u}) {
             SCOPED_TRACE(testing::Message() << db << ' ' << type);
             const DB_VERSION_INFO version{.db = db};
             for (const char c : {'a', 'Z'}) {
