@@ -25,17 +25,6 @@ void DefineResources(XsltResourceManager& resources)
         resources.defineResource(std::make_shared<CUVDBSQLParserXslt>(id));
 }
 
-// The stylesheet that FlattenTree does the work of.
-bool IsEmbeddedStylesheet(const std::string& stylesheet)
-{
-    static const std::string embedded = [] {
-        XsltResourceManager resources;
-        DefineResources(resources);
-        return resources.getResource(ResourceManager::kTree2Serial);
-    }();
-    return stylesheet == embedded;
-}
-
 bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info)
 {
     Uve::U8CString isForced;
@@ -84,8 +73,9 @@ int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve
                             std::string_view declaration, bool isPlain)
 {
     return GuardMemory([&] {
-        const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
-        if (!IsStylesheetForced(info) && IsEmbeddedStylesheet(stylesheet)) {
+        // The flattener does the work of the stylesheet. Putting that one together takes longer than a small
+        // parse.
+        if (m_ResourcesDefined && !IsStylesheetForced(info)) {
             if (isPlain)
                 return static_cast<int>(FlattenTreeInPlace(xml, declaration) ? UVDB_OK : UVDB_ERROR);
             std::string flattened;
@@ -94,6 +84,7 @@ int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve
                 return static_cast<int>(UVDB_OK);
             }
         }
+        const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
         Uve::XslTransform transform(stylesheet.data(), stylesheet.size());
         xmlDoc* const document = transform.apply(xml.data(), xml.size());
         if (document == nullptr) {

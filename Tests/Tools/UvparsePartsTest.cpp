@@ -592,6 +592,7 @@ TEST(UvparseOptions, AreThoseThatTheLibraryReads)
                                           "PREPARE_ONLY",
                                           "RESTART_POSITIONS",
                                           "HAND_OVER_RESULT",
+                                          "RESTART_POSITIONS",
                                           "UNEXPECTED_TOKENS",
                                           "LOST_TEXT",
                                           "PREPARED_BY",

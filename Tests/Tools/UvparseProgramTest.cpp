@@ -207,16 +207,34 @@ TEST_F(UvparseProgram, UnexpectedTokensAreShownInTheirPlace)
 
 TEST_F(UvparseProgram, TextsDoNotInfluenceEachOther)
 {
+    // One object reads them all, whatever the one before has left: errors, quotes that don't close, another
+    // rule for quotes, nothing at all.
     Put("a.sql", kScript);
     Put("bad.sql", "select from from;\n");
+    Put("quoted.sql", "create table \"a b\" (c int);\nselect \"x\" from from \"y\";\n");
+    Put("open.sql", "select 'never closed\n");
+    Put("empty.sql", "");
     Put("b.sql", "select 1, 2 as b;");
-    for (const std::string mode : {"", "--raw "}) {
+    for (const std::string mode :
+         {"", "--raw ", "--color ", "--stat --verify ", "-o OPTION_VARYING_PARSING=YES ",
+          "-o ORVA_CHILD=true ", "-o ANSI_QUOTED_IDENTIFIERS=No "}) {
         SCOPED_TRACE(mode);
-        const std::string alone =
-            Run(mode + "a.sql").out + Run(mode + "bad.sql").out + Run(mode + "b.sql").out;
-        const SRunResult together = Run(mode + "a.sql bad.sql b.sql");
+        std::string files;
+        std::string trees;
+        std::string messages;
+        for (const char* file :
+             {"a.sql", "bad.sql", "quoted.sql", "open.sql", "empty.sql", "b.sql", "a.sql"}) {
+            files.append(file).append(1, ' ');
+            const SRunResult alone = Run(mode + file);
+            trees += alone.out;
+            messages += alone.err;
+        }
+        const SRunResult together = Run(mode + files);
         EXPECT_EQ(together.code, 1);
-        EXPECT_EQ(together.out, alone);
+        EXPECT_EQ(together.out, trees);
+        if (mode.find("--stat") == std::string::npos) { // which tells the speed
+            EXPECT_EQ(together.err, messages);
+        }
     }
 }
 

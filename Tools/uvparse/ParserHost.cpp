@@ -107,6 +107,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARATION_NOTES", "1");
     SetTextOption(m_DatabaseInfo, "HAND_OVER_RESULT", "1");
+    SetTextOption(m_DatabaseInfo, "RESTART_POSITIONS", "1");
     if (settings.mode == enMode::Preparation)
         SetTextOption(m_DatabaseInfo, "PREPARE_ONLY", "1");
 
@@ -138,11 +139,6 @@ void CParserHost::Load()
 
 SParseResult CParserHost::Parse(const std::string& text, const std::string& path)
 {
-    // Column positions in the tree count on from the text before, unless the tables are loaded anew.
-    if (m_IsUsed)
-        Load();
-    m_IsUsed = true;
-
     SetTextOption(m_ConvertingObject, "FilePath", path);
     for (const char* report : {kUnexpectedTokens, kLostText, kPreparedBy, kPreparedLines, kPreparationNotes})
         SetTextOption(m_DatabaseInfo, report, "");

@@ -70,14 +70,16 @@ public:
     CParserHost(const CParserHost&) = delete;
     CParserHost& operator=(const CParserHost&) = delete;
 
-    // `path` becomes the option FilePath of the object being converted.
-    // Throws: std::runtime_error if the tables can't be loaded any more, std::bad_alloc if memory is short.
+    // Each text gets what it would get from a host of its own. `path` becomes the option FilePath of the
+    // object being converted.
+    // Throws: std::bad_alloc if memory is short; the host is of no use then.
     SParseResult Parse(const std::string& text, const std::string& path);
 
     // Parses the text of the last Parse once more, as that one has prepared it, and gives its raw tree.
     SParseResult ParseRaw();
 
-    double GetLoadSeconds() const { return m_LoadSeconds; }
+    // What loading took; nothing when asked again, for a text that found the tables loaded.
+    double TakeLoadSeconds() { return std::exchange(m_LoadSeconds, 0); }
 
 private:
     void Load();
@@ -92,7 +94,6 @@ private:
     std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
     std::shared_ptr<IUVDBSQLParser> m_Parser;
     double m_LoadSeconds = 0;
-    bool m_IsUsed = false;
 };
 
 } // namespace uvparse

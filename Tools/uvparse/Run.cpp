@@ -39,6 +39,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// A longer text's parser goes with it: what it took for its work would stay until the end of the run. Loading
+// the tables anew is nothing beside such a parse.
+constexpr std::size_t kLongText = std::size_t{1} << 22;
+
 long Milliseconds(double seconds)
 {
     return std::lround(seconds * 1000);
@@ -98,6 +102,7 @@ private:
                    double readSeconds);
     void PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
                      double readSeconds);
+    const SLanguage& LanguageOf(const std::string& path);
     CParserHost& HostOf(const SLanguage& language, enMode mode);
     std::string PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
                              const SParseResult& result);
@@ -107,7 +112,7 @@ private:
     void Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
                 CParserHost& host);
     void TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark);
-    void TellTime(const std::string& path, const CParserHost& host, double readSeconds, const char* work,
+    void TellTime(const std::string& path, CParserHost& host, double readSeconds, const char* work,
                   double workSeconds, Clock::time_point writing);
     std::string OutputOf(const std::string& path) const;
     void WriteResult(const std::string& path, const std::string& result);
@@ -120,6 +125,7 @@ private:
     CToolMessages& m_Messages;
     CLanguageChoice m_Languages;
     std::shared_ptr<CTraceFile> m_Trace;
+    std::map<std::string, SLanguage> m_Chosen; // by the extension of files
     // One parser object each.
     std::map<std::pair<std::string, enMode>, std::unique_ptr<CParserHost>> m_Hosts;
     std::map<std::string, std::string> m_OutputPaths; // by file
@@ -192,6 +198,17 @@ void CRun::NameOutputs()
         if (failed)
             throw CToolFailure(folder + ": " + failed.message());
     }
+}
+
+// The extension is all that the choice sees of a file.
+const SLanguage& CRun::LanguageOf(const std::string& path)
+{
+    const std::string extension = std::filesystem::path(path).extension().string();
+    auto chosen = m_Chosen.find(extension);
+    if (chosen == m_Chosen.end())
+        chosen =
+            m_Chosen.emplace(extension, m_Languages.Choose(m_Line.language, m_Line.database, path)).first;
+    return chosen->second;
 }
 
 CParserHost& CRun::HostOf(const SLanguage& language, enMode mode)
@@ -385,12 +402,12 @@ void CRun::WritePrepared(const std::string& path, const std::string& text, const
     file.Close();
 }
 
-void CRun::TellTime(const std::string& path, const CParserHost& host, double readSeconds, const char* work,
+void CRun::TellTime(const std::string& path, CParserHost& host, double readSeconds, const char* work,
                     double workSeconds, Clock::time_point writing)
 {
     if (!m_Line.isTime)
         return;
-    Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.GetLoadSeconds())) + " ms, read " +
+    Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.TakeLoadSeconds())) + " ms, read " +
                               std::to_string(Milliseconds(readSeconds)) + " ms, " + work + ' ' +
                               std::to_string(Milliseconds(workSeconds)) + " ms, write " +
                               std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
@@ -453,7 +470,7 @@ void CRun::PrepareFile(const SLanguage& language, const std::string& path, const
 
 void CRun::RunFile(const std::string& path)
 {
-    const SLanguage language = m_Languages.Choose(m_Line.language, m_Line.database, path);
+    const SLanguage& language = LanguageOf(path);
     const Clock::time_point start = Clock::now();
     std::string text = ReadSourceText(path, {m_Line.encoding, m_Line.recordLength});
     // The preparation takes the last character, whatever it is.
@@ -464,6 +481,8 @@ void CRun::RunFile(const std::string& path)
         PrepareFile(language, path, text, readSeconds);
     else
         ParseFile(language, path, text, readSeconds);
+    if (text.size() > kLongText)
+        m_Hosts.clear();
 }
 
 int CRun::Run()
