@@ -4,6 +4,15 @@
 
 namespace uvparse {
 
+namespace {
+
+bool EndsName(char c)
+{
+    return c == '>' || c == ' ' || c == '/' || c == '\t' || c == '\n' || c == '\r';
+}
+
+} // namespace
+
 bool CMarkupScanner::Next(SMarkup& markup)
 {
     if (IsAtEnd())
@@ -42,7 +51,9 @@ bool CMarkupScanner::ReadTag(SMarkup& markup)
     const std::string_view text = m_Tree.substr(m_Offset, end + 1 - m_Offset);
     const bool isEnd = text[1] == '/';
     const std::size_t nameBegin = isEnd ? 2 : 1;
-    const std::size_t nameEnd = text.find_first_of(" \t\r\n/>", nameBegin);
+    std::size_t nameEnd = nameBegin;
+    while (!EndsName(text[nameEnd]))
+        ++nameEnd;
     if (nameEnd == nameBegin)
         return false;
     markup.kind = isEnd ? enMarkup::End : text[text.size() - 2] == '/' ? enMarkup::Empty : enMarkup::Start;

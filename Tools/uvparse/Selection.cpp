@@ -1,5 +1,6 @@
 #include "Tools/uvparse/Selection.h"
 
+#include "Tools/uvparse/CompactTree.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "UVEnvironment/UVEXmlRead.h"
 
@@ -151,17 +152,21 @@ private:
     TOwner<xmlBuffer> m_Buffer;
 };
 
+void WriteLine(std::string_view prefix, std::string_view text, bool isPretty, const TTextSink& sink)
+{
+    sink(prefix);
+    if (!isPretty || WritePretty(text, sink))
+        sink(text);
+    sink("\n");
+}
+
 void WriteNodes(xmlDoc* document, xmlNodeSet* nodes, const SSelectionLook& look, const TTextSink& sink)
 {
     CNodeWriter writer(document);
     for (int i = 0; i < xmlXPathNodeSetGetLength(nodes); ++i) {
         xmlNode* const node = xmlXPathNodeSetItem(nodes, i);
-        const std::string_view text = writer.Write(node);
-        sink(look.prefix);
         const bool hasElements = node->type == XML_ELEMENT_NODE || node->type == XML_DOCUMENT_NODE;
-        if (!look.isPretty || !hasElements || WritePretty(text, sink))
-            sink(text);
-        sink("\n");
+        WriteLine(look.prefix, writer.Write(node), look.isPretty && hasElements, sink);
     }
 }
 
@@ -211,9 +216,33 @@ private:
     TOwner<xmlXPathCompExpr> m_Compiled;
 };
 
-CSelector::CSelector(std::string expression)
-    : m_Text(std::move(expression)), m_Expression(std::make_unique<CExpression>(m_Text))
+// A node that was found, where it stands in the tree's text.
+struct CSelector::SFound
 {
+    const char* begin;
+    const char* end; // null for a divided element
+    xmlElementType type;
+
+    // The document stands before its root, which begins where it does.
+    auto Place() const { return std::pair(begin, type == XML_DOCUMENT_NODE ? 0 : 1); }
+};
+
+struct CSelector::SResult
+{
+    enPart ended = enPart::None; // None: the result is there
+    std::vector<SFound> nodes;   // in document order
+    bool isWrittenTheSame = true;
+    bool isValue = false; // the expression doesn't select nodes
+    std::string value;
+    bool isTrue = false;
+};
+
+CSelector::CSelector(std::string expression, std::size_t partSize)
+    : m_Text(std::move(expression)), m_Scope(ScopeOfPath(m_Text)), m_PartSize(partSize),
+      m_Expression(std::make_unique<CExpression>(m_Text))
+{
+    if (m_Scope.isDivisible && !m_Scope.counted.empty())
+        m_Counted = std::make_unique<CExpression>(m_Scope.counted);
     // Unknown names and wrong types come out only when the expression is at work: here, before any file is
     // read.
     const TOwner<xmlDoc> document(xmlNewDoc(nullptr));
@@ -223,11 +252,91 @@ CSelector::CSelector(std::string expression)
 
 CSelector::~CSelector() = default;
 
+// A part size of 0 takes the tree as a whole.
+CSelector::SResult CSelector::Search(std::string_view tree, std::size_t partSize) const
+{
+    SResult found;
+    std::size_t count = 0; // of nodes that are told by their number alone
+    const bool isCounting = partSize > 0 && m_Counted;
+    const CExpression& expression = isCounting ? *m_Counted : *m_Expression;
+    CCompactTree parts(tree, m_Scope, partSize);
+    while ((found.ended = parts.Next()) == enPart::Made) {
+        const TOwner<xmlXPathObject> result = expression.Evaluate(parts.GetDocument(), m_Text);
+        if (result->type != XPATH_NODESET) {
+            const TOwner<xmlChar> text(xmlXPathCastToString(result.get()));
+            found.value = View(text.get());
+            found.isTrue = xmlXPathCastToBoolean(result.get()) != 0;
+            found.isValue = true;
+            continue;
+        }
+        for (int i = 0; i < xmlXPathNodeSetGetLength(result->nodesetval); ++i) {
+            const xmlNode* const node = xmlXPathNodeSetItem(result->nodesetval, i);
+            if (isCounting && !parts.IsShared(node))
+                ++count;
+            else
+                found.nodes.push_back({parts.BeginOf(node), parts.EndOf(node), node->type});
+        }
+    }
+    if (found.ended != enPart::None)
+        return found;
+    found.isWrittenTheSame = parts.IsWrittenTheSame();
+
+    // A divided element is found in each part that has something of it, and has its end in the last one
+    // alone.
+    const auto isBefore = [](const SFound& left, const SFound& right) {
+        return left.Place() < right.Place();
+    };
+    const auto isSame = [](const SFound& left, const SFound& right) { return left.Place() == right.Place(); };
+    if (!std::ranges::is_sorted(found.nodes, isBefore))
+        std::ranges::sort(found.nodes, isBefore);
+    found.nodes.erase(std::unique(found.nodes.begin(), found.nodes.end(), isSame), found.nodes.end());
+    for (SFound& node : found.nodes)
+        if (node.end == nullptr)
+            node.end = parts.EndOfDivided(node.begin);
+    if (isCounting) {
+        const TOwner<xmlChar> text(
+            xmlXPathCastNumberToString(static_cast<double>(count + found.nodes.size())));
+        found.value = View(text.get());
+        found.isTrue = count + found.nodes.size() > 0;
+        found.nodes.clear();
+        found.isValue = true;
+    } else if (!found.isValue) {
+        found.isTrue = !found.nodes.empty();
+    }
+    return found;
+}
+
 bool CSelector::Write(std::string_view tree, const std::string& name, const SSelectionLook& look,
                       const TTextSink& sink) const
 {
     if (tree.empty())
         return false;
+    if (m_Scope.needsNamespaces)
+        return WriteFromDocument(tree, name, look, sink);
+    SResult found = Search(tree, m_Scope.isDivisible ? m_PartSize : 0);
+    if (found.ended == enPart::TooLarge)
+        found = Search(tree, 0);
+    if (found.ended != enPart::None)
+        return WriteFromDocument(tree, name, look, sink);
+
+    if (found.isValue)
+        WriteLine(look.prefix, found.value, false, sink);
+    for (const SFound& node : found.nodes) {
+        const std::string_view text(node.begin, static_cast<std::size_t>(node.end - node.begin));
+        const bool isPretty =
+            look.isPretty && (node.type == XML_ELEMENT_NODE || node.type == XML_DOCUMENT_NODE);
+        if (found.isWrittenTheSame)
+            WriteLine(look.prefix, text, isPretty, sink);
+        else
+            WriteLine(look.prefix, AsWritten(text, node.type == XML_ATTRIBUTE_NODE), isPretty, sink);
+    }
+    return found.isTrue;
+}
+
+// For trees that aren't plain, and for expressions that look at what plain ones don't have.
+bool CSelector::WriteFromDocument(std::string_view tree, const std::string& name, const SSelectionLook& look,
+                                  const TTextSink& sink) const
+{
     const TOwner<xmlDoc> document(Uve::ReadXml(tree.data(), tree.size()));
     if (!document)
         throw CToolFailure(name + ": --xpath can't read the tree: it is not well-formed, or too large");
@@ -243,9 +352,7 @@ bool CSelector::Write(std::string_view tree, const std::string& name, const SSel
         WriteNodes(document.get(), result->nodesetval, look, sink);
     } else {
         const TOwner<xmlChar> text(xmlXPathCastToString(result.get()));
-        sink(look.prefix);
-        sink(View(text.get()));
-        sink("\n");
+        WriteLine(look.prefix, View(text.get()), false, sink);
     }
     return xmlXPathCastToBoolean(result.get()) != 0;
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvparse/PathScope.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,8 +20,10 @@ struct SSelectionLook
 class CSelector
 {
 public:
+    // `partSize`: bytes of a tree's text, a large tree is searched in parts of this size where the expression
+    // allows that.
     // Throws: CToolFailure with the place in `expression` at which it makes no sense.
-    explicit CSelector(std::string expression);
+    explicit CSelector(std::string expression, std::size_t partSize = std::size_t{1} << 18);
     ~CSelector();
 
     CSelector(const CSelector&) = delete;
@@ -34,9 +38,18 @@ public:
 
 private:
     class CExpression;
+    struct SFound;
+    struct SResult;
+
+    SResult Search(std::string_view tree, std::size_t partSize) const;
+    bool WriteFromDocument(std::string_view tree, const std::string& name, const SSelectionLook& look,
+                           const TTextSink& sink) const;
 
     std::string m_Text;
+    SPathScope m_Scope;
+    std::size_t m_PartSize;
     std::unique_ptr<CExpression> m_Expression;
+    std::unique_ptr<CExpression> m_Counted; // the path, where the expression is the number of its nodes
 };
 
 } // namespace uvparse

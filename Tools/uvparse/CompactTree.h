@@ -1,0 +1,118 @@
+// The text of a tree as documents for libxml2 to search, part by part or as a whole. They are made straight
+// from the text, take no more than a search needs and are good for nothing else: nothing in them may be
+// changed or freed.
+#pragma once
+
+#include "Tools/uvparse/MarkupScanner.h"
+#include "Tools/uvparse/NodeArena.h"
+#include "Tools/uvparse/PathScope.h"
+
+#include <libxml/tree.h>
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace uvparse {
+
+// The text of a node in the words in which libxml2 writes it, of one that stands in a plain tree. `isValue`:
+// it is an attribute.
+std::string AsWritten(std::string_view text, bool isValue);
+
+enum class enPart
+{
+    Made,
+    None,     // the tree is at its end
+    NotPlain, // markup that is not of the plain kind stands in the tree, or isn't well-formed
+    TooLarge  // an element was divided that the scope wants whole; without division it can be
+};
+
+class CCompactTree
+{
+public:
+    // Plain is what trees are made of: elements, attributes in double quotes, text, the five entities and
+    // character references, with single blanks between attributes. Comments, namespaces, CDATA sections and
+    // control characters are not.
+    // `partSize`: bytes of text that a part has at least; 0: the whole is one part. Borrows all arguments.
+    CCompactTree(std::string_view tree, const SPathScope& scope, std::size_t partSize);
+    ~CCompactTree();
+
+    CCompactTree(const CCompactTree&) = delete;
+    CCompactTree& operator=(const CCompactTree&) = delete;
+
+    // Makes the next part; the one before is gone.
+    enPart Next();
+
+    // Of the part.
+    xmlDoc* GetDocument() const { return m_Document.get(); }
+
+    // Where a node of the part stands in the tree's text; the document, where its root does. Null for the end
+    // of an element that the part doesn't have whole.
+    const char* BeginOf(const xmlNode* node) const;
+    const char* EndOf(const xmlNode* node) const;
+    // Whether it is a divided element, its attribute or the document. Other parts may have it too.
+    bool IsShared(const xmlNode* node) const;
+
+    // Of a divided element. Only when all parts were made.
+    const char* EndOfDivided(const char* begin) const { return m_DividedEnds.at(begin); }
+
+    // Whether all that was read stands there in the words in which libxml2 writes it.
+    bool IsWrittenTheSame() const { return m_IsWrittenTheSame; }
+
+private:
+    struct SFreeDocument
+    {
+        void operator()(xmlDoc* document) const;
+    };
+
+    struct SOpenElement
+    {
+        std::string_view tag; // the opening one
+        std::string_view name;
+        xmlNode* node = nullptr;
+        bool isDivided = false;
+        bool isWanted = false;    // whole
+        bool holdsWanted = false; // a child that wants its parent whole
+    };
+
+    void BeginPart();
+    bool MayDivide() const;
+    bool TakeTag(const SMarkup& markup);
+    bool TakeEnd(const SMarkup& markup);
+    bool TakeText(std::string_view text);
+    xmlNode* AddElement(const SMarkup& markup);
+    bool AddAttributes(xmlNode* element, std::string_view attributes);
+    void AddNode(xmlNode* node);
+    xmlNode* MakeNode(xmlElementType type, const char* begin, const char* name);
+    bool Unescape(std::string_view text, bool isValue);
+    const char* NameOf(std::string_view name);
+    xmlNode* ValueOf(std::string_view text);
+
+    std::string_view m_Tree;
+    const SPathScope& m_Scope;
+    std::unordered_set<std::string_view> m_Undivided;
+    std::unordered_set<std::string_view> m_UndividedParents;
+    std::size_t m_PartSize;
+    CMarkupScanner m_Scanner;
+    const char* m_PartBegin = nullptr; // what begins before was open already
+    CNodeArena m_Nodes;
+    CNodeArena m_Names;
+    std::unordered_map<std::string_view, const char*> m_NameTable;
+    std::vector<xmlNode*> m_Values; // of attributes, by a hash of their text
+    std::unique_ptr<xmlDoc, SFreeDocument> m_Document;
+    std::vector<SOpenElement> m_Open;
+    std::map<const char*, const char*> m_DividedEnds; // of divided elements, by where they begin
+    std::ptrdiff_t m_Order = 0;
+    bool m_HasRoot = false;
+    bool m_IsTooLarge = false;
+    bool m_IsWrittenTheSame = true;
+    std::vector<const char*> m_AttributeNames; // of the element at hand
+    std::string m_Unescaped;
+};
+
+} // namespace uvparse
