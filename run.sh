@@ -23,7 +23,7 @@ if [ ! -f "$out/build.ninja" ]; then
         launcher=(-D CMAKE_C_COMPILER_LAUNCHER=ccache -D CMAKE_CXX_COMPILER_LAUNCHER=ccache)
     fi
     echo "run.sh: first build, this takes some minutes" >&2
-    if ! (cd "$top" && cmake --preset release "${launcher[@]}") >"$out/configure.log" 2>&1; then
+    if ! (cd "$top" && cmake --preset release -D UV_BENCHMARKS=OFF "${launcher[@]}") >"$out/configure.log" 2>&1; then
         cat "$out/configure.log" >&2
         exit 2
     fi

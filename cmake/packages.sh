@@ -9,12 +9,12 @@ set -euo pipefail
 build=(
     g++ cmake lld ninja-build flex bison python3 unicode-data
     libboost-dev libboost-filesystem-dev libboost-program-options-dev libboost-regex-dev libboost-system-dev
-    libxml2-dev libxslt1-dev zlib1g-dev libpcre3-dev libutfcpp-dev nlohmann-json3-dev
-    libbenchmark-dev
+    libxml2-dev libxslt1-dev zlib1g-dev libpcre3-dev nlohmann-json3-dev
 )
 test=(
     binutils strace
-    libecpg-dev libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
+    fp-compiler gnucobol3
+    libbenchmark-dev libecpg-dev libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
     clang clang-format clang-tidy libclang-rt-14-dev llvm
     mariadb-client-core mariadb-server-core postgresql sqlite3
 )

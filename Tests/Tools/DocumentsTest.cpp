@@ -190,4 +190,62 @@ TEST(Documents, NamesWorkWhenFollowedToTheLetter)
     Follow("NamesExample.md", {"uvnames"}, 6);
 }
 
+// The sources of a benchmark program, which this build may have without the program.
+std::string SourcesOfBenchmark(const std::string& program)
+{
+    const fs::path folder = fs::path(UV_SOURCE_DIR) / "Benchmarks";
+    const std::string lists = ReadWholeFile((folder / "CMakeLists.txt").string());
+    const std::size_t at = lists.find("add_executable(" + program);
+    if (at == std::string::npos)
+        return {};
+    std::string sources;
+    for (const auto& entry : fs::directory_iterator(folder))
+        if (entry.is_regular_file() &&
+            lists.substr(at, lists.find(')', at) - at).find(entry.path().filename()) != std::string::npos)
+            sources += ReadWholeFile(entry.path().string());
+    return sources;
+}
+
+// Commands of the page on performance stand in lines of four blanks, or between backquotes.
+TEST(Documents, CommandsThatMeasureAreOnesThatRun)
+{
+    const std::string text = ReadWholeFile(UV_SOURCE_DIR "/Documentation/Performance.md");
+    int programs = 0;
+    const std::string folder = "build/release/bin/";
+    for (std::size_t at = text.find(folder); at != std::string::npos; at = text.find(folder, at + 1)) {
+        std::istringstream words(text.substr(at, text.find_first_of("`\n", at) - at));
+        std::string word;
+        words >> word;
+        SCOPED_TRACE(word);
+        const std::string sources = SourcesOfBenchmark(word.substr(folder.size()));
+        EXPECT_FALSE(sources.empty());
+        while (words >> word) {
+            const std::string filter = "--benchmark_filter=";
+            if (word.starts_with(filter)) {
+                std::string names = word.substr(filter.size());
+                std::erase(names, '\'');
+                std::istringstream list(names);
+                for (std::string name; std::getline(list, name, '|');)
+                    EXPECT_NE(sources.find(name), std::string::npos) << name;
+            } else if (word.starts_with("--")) {
+                EXPECT_NE(sources.find('"' + word + '"'), std::string::npos) << word;
+            }
+        }
+        ++programs;
+    }
+    EXPECT_EQ(programs, 7);
+
+    const std::string sizes = "1M 10M 100M";
+    const std::size_t begin = text.find("    for size in " + sizes);
+    ASSERT_NE(begin, std::string::npos);
+    std::string command = text.substr(begin, text.find('\n', begin) - begin);
+    command.replace(command.find(sizes), sizes.size(), "2K");
+    const CTemporaryFolder place(UV_BIN_DIR "/../documents-test-");
+    fs::create_directory(place.Path() + "/build");
+    fs::create_directory_symlink(UV_SOURCE_DIR "/Benchmarks", place.Path() + "/Benchmarks");
+    const SRun run = Shell("cd '" + place.Path() + "' && " + command);
+    EXPECT_EQ(run.status, 0) << run.output;
+    EXPECT_GE(fs::file_size(place.Path() + "/build/2K.sql"), 2000u);
+}
+
 } // namespace
