@@ -20,64 +20,58 @@ constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLA
 class CTreeTextReader
 {
 public:
-    explicit CTreeTextReader(std::string_view tree) : m_Tree(tree)
-    {
-        // Behind the declaration and behind the root there may be line feeds, which are no content.
-        const auto skipBlanks = [&] {
-            m_Offset = std::min(m_Tree.find_first_not_of(kBlanks, m_Offset), m_Tree.size());
-        };
-        m_Tree = m_Tree.substr(0, m_Tree.find_last_not_of(kBlanks) + 1);
-        skipBlanks();
-        if (m_Tree.substr(m_Offset).starts_with("<?xml") && SkipMarkup())
-            skipBlanks();
-    }
+    // Before and after the root there may be line feeds, which are no content.
+    explicit CTreeTextReader(std::string_view tree)
+        : m_Tree(tree.substr(0, tree.find_last_not_of(kBlanks) + 1)), m_Scanner(m_Tree)
+    {}
 
     // The next piece, never empty before the end; valid until the next call.
     // Returns: false at the end, or where the tree isn't well-formed.
     bool Next(std::string_view& piece)
     {
-        while (m_Offset < m_Tree.size()) {
-            m_PieceOffset = m_Offset;
-            switch (m_Tree[m_Offset]) {
-            case '<':
-                if (!SkipMarkup())
-                    return false;
-                break;
-            case '&':
-                return ReadEntity(piece);
-            default: {
-                const std::size_t end = std::min(m_Tree.find_first_of("<&", m_Offset), m_Tree.size());
-                piece = m_Tree.substr(m_Offset, end - m_Offset);
-                m_Offset = end;
-                return true;
-            }
-            }
-        }
-        m_PieceOffset = m_Offset;
-        return false;
+        while (m_Text.empty())
+            if (!ReadText())
+                return false;
+        m_PieceOffset = OffsetOf(m_Text);
+        if (m_Text.front() == '&')
+            return ReadEntity(piece);
+        piece = m_Text.substr(0, m_Text.find('&'));
+        m_Text.remove_prefix(piece.size());
+        return true;
     }
 
-    bool IsAtEnd() const { return m_Offset == m_Tree.size(); }
+    bool IsAtEnd() const { return m_Text.empty() && m_Scanner.IsAtEnd(); }
     std::size_t GetPieceOffset() const { return m_PieceOffset; }
 
 private:
-    bool SkipMarkup()
+    std::size_t OffsetOf(std::string_view part) const
     {
-        const std::string_view rest = m_Tree.substr(m_Offset);
-        const std::string_view close = rest.starts_with("<!--") ? "-->" : rest.starts_with("<?") ? "?>" : ">";
-        const std::size_t end = rest.find(close);
-        if (end == std::string_view::npos)
+        return static_cast<std::size_t>(part.data() - m_Tree.data());
+    }
+
+    // Passes over one piece of markup.
+    bool ReadText()
+    {
+        SMarkup markup;
+        if (!m_Scanner.Next(markup)) {
+            m_PieceOffset = m_Scanner.GetOffset();
             return false;
-        m_Offset += end + close.size();
+        }
+        if (markup.kind == enMarkup::Text) {
+            m_Text = markup.text;
+            if (!m_HasRoot)
+                m_Text.remove_prefix(std::min(m_Text.find_first_not_of(kBlanks), m_Text.size()));
+        }
+        m_HasRoot = m_HasRoot || (markup.kind != enMarkup::Other && markup.kind != enMarkup::Text);
         return true;
     }
 
     bool ReadEntity(std::string_view& piece)
     {
-        const std::size_t end = m_Tree.find(';', m_Offset);
+        const std::size_t end = m_Text.find(';');
         if (end == std::string_view::npos)
             return false;
-        const std::string_view name = m_Tree.substr(m_Offset + 1, end - m_Offset - 1);
+        const std::string_view name = m_Text.substr(1, end - 1);
         if (name == "amp")
             piece = "&";
         else if (name == "lt")
@@ -90,7 +84,7 @@ private:
             piece = "\"";
         else if (!ReadCharacterReference(name, piece))
             return false;
-        m_Offset = end + 1;
+        m_Text.remove_prefix(end + 1);
         return true;
     }
 
@@ -112,7 +106,9 @@ private:
     }
 
     std::string_view m_Tree;
-    std::size_t m_Offset = 0;
+    CMarkupScanner m_Scanner;
+    std::string_view m_Text; // what is left of the text between two tags
+    bool m_HasRoot = false;
     std::size_t m_PieceOffset = 0;
     char m_Sequence[4] = {};
 };
