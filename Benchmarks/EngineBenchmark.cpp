@@ -16,8 +16,8 @@ std::string Script(std::size_t statements)
 {
     const char* const kinds[] = {
         "INSERT INTO orders (id, name, total) VALUES (1, 'light & copper', 12.50), (2, 'o''brien', NULL);\n",
-        "SELECT a.id, count(*) FROM orders a LEFT JOIN customers b ON a.id = b.id WHERE b.name IS NOT NULL "
-        "GROUP BY a.id;\n",
+        ("SELECT a.id, count(*) FROM orders a LEFT JOIN customers b ON a.id = b.id WHERE b.name IS NOT NULL "
+         "GROUP BY a.id;\n"),
         "CREATE TABLE t (id integer PRIMARY KEY, name varchar(80) NOT NULL); -- a table\n",
     };
     std::string text;

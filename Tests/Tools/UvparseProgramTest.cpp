@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -222,15 +223,17 @@ TEST_F(UvparseProgram, TextsDoNotInfluenceEachOther)
         std::string files;
         std::string trees;
         std::string messages;
+        int worst = 0;
         for (const char* file :
              {"a.sql", "bad.sql", "quoted.sql", "open.sql", "empty.sql", "b.sql", "a.sql"}) {
             files.append(file).append(1, ' ');
             const SRunResult alone = Run(mode + file);
             trees += alone.out;
             messages += alone.err;
+            worst = std::max(worst, alone.code);
         }
         const SRunResult together = Run(mode + files);
-        EXPECT_EQ(together.code, 1);
+        EXPECT_EQ(together.code, worst);
         EXPECT_EQ(together.out, trees);
         if (mode.find("--stat") == std::string::npos) { // which tells the speed
             EXPECT_EQ(together.err, messages);

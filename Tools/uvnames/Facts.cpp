@@ -49,7 +49,7 @@ NameFacts FactsOf(const SToolDatabase& database)
     }
     facts.emplace_back("longest temporary Table",
                        static_cast<std::int64_t>(GetDBMSMaxIdentifierSize(UVDB_DBO_TABLE, version, "temp")));
-    for (const enUVDB_DATABASE_OBJECT type : {UVDB_DBO_COLUMN, UVDB_DBO_VARIABLE}) {
+    for (const auto type : {std::uint64_t{UVDB_DBO_COLUMN}, std::uint64_t{UVDB_DBO_VARIABLE}}) {
         const std::string of = type == UVDB_DBO_COLUMN ? "" : " of a Variable";
         facts.emplace_back("marks inside" + of, AllowedMarks([&](char c) {
                                return IsDBMSNotAllowedChar(version, type, c, "", false);
