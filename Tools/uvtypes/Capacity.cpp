@@ -109,8 +109,6 @@ long BitsOfDigits(double digits)
     return static_cast<long>(std::ceil(digits * std::log2(10.0)));
 }
 
-constexpr long kDecimalFloat = 137;
-
 long FloatBits(const STypeMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers)
 {
     // Decimal floats count decimal digits.
