@@ -54,7 +54,7 @@ public:
     }
 
     // Without the copy that a host gets.
-    std::size_t ResultSize() const { return m_Result.size(); }
+    std::size_t ResultSize() { return m_Result.Text().size(); }
 };
 
 SMeasure EngineScan(const std::string& text)
@@ -123,11 +123,11 @@ SMeasure Flatten(const std::string& text)
         return parser.FastParse();
     }();
     SMeasure measure;
-    std::string tree = raw;
+    std::string flat;
     const auto start = std::chrono::steady_clock::now();
-    const bool isFlattened = FlattenTreeInPlace(tree);
+    const bool isFlattened = FlattenTree(raw, flat);
     measure.seconds = Seconds(start);
-    measure.output = isFlattened ? tree.size() : 0;
+    measure.output = isFlattened ? flat.size() : 0;
     return measure;
 }
 

@@ -249,6 +249,12 @@ void CSQLGrammarLexer::ForgetTexts()
         *operand.stored = operand.loaded;
 }
 
+void CSQLGrammarLexer::DropQuery()
+{
+    yycleanup();
+    m_Extension.m_strQuery = {};
+}
+
 int CSQLGrammarLexer::ComputeGeneralStartState(int db)
 {
     const char* name = "SS_GENERAL";

@@ -84,6 +84,8 @@ public:
     // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
     // goes as well and has to be written again.
     void ForgetTexts();
+    // After the scan: gives the memory of the text back. Of the text only Unfinished tells anything then.
+    void DropQuery();
     // The next token, in the parser's lookahead value.
     // Returns: the parser's number of it, 0 at the end of the text; what the action interpreter still owes
     // comes

@@ -75,7 +75,7 @@ void CSQLGrammarParser::CompileActions()
     const std::size_t rules = m_spTables->Rules();
     m_lstOperations.clear();
     m_lstRules.assign(rules, SRule());
-    m_Fragments.Names().Intern(kRootName);
+    m_nRootElement = m_Fragments.Names().Intern(kRootName);
     for (const auto& [number, operations] : m_mapActions) {
         if (number < 0 || static_cast<std::size_t>(number) >= rules || !operations)
             continue; // no rule of the tables ever asks for it
@@ -120,17 +120,30 @@ int CSQLGrammarParser::yycreate(yyFlexLexer* lexer)
     return yyParser::yycreate();
 }
 
+void CSQLGrammarParser::ReleaseTree()
+{
+    m_Tree = {};
+    m_Fragments.Release();
+}
+
 int CSQLGrammarParser::yyparse()
 {
-    // whatever becomes of the parse, its fragments go with it
+    // whatever becomes of the parse, its fragments go with it, unless they are the result
     struct SRelease
     {
-        CFragmentPool& pool;
-        ~SRelease() { pool.Release(); }
-    } const release{m_Fragments};
+        CSQLGrammarParser& parser;
+        bool isTree = false;
+        ~SRelease()
+        {
+            if (!isTree)
+                parser.ReleaseTree();
+        }
+    } release{*this};
+    ReleaseTree();
     const int result = yyBisonParser::yyparse();
+    release.isTree = result == 0 && m_Tree;
     // the tree ends in a node named SQL, which every grammar's start symbol makes
-    if (result == 0 && m_Extension.m_strParsedXml.empty())
+    if (result == 0 && !m_Tree && m_Extension.m_strParsedXml.empty())
         throw std::runtime_error("the parser's tables accept a text without a tree");
     return result;
 }

@@ -5,6 +5,7 @@
 #include "Grammar/Runtime/yyFlexLexer.h"
 #include "Grammar/UVGrammarKeeper.h"
 #include "Grammar/UVGrammarParserImplementation.h"
+#include "Tree/FragmentTree.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <map>
@@ -42,12 +43,20 @@ public:
     // Returns: 1; 0 for null or if memory is short.
     int yycreate(yyFlexLexer* lexer);
 
-    // Returns: 0 with the tree in m_Extension.m_strParsedXml; 1 or 2 without one.
+    // Returns: 0 with the tree in m_Extension.m_strParsedXml, or in Tree(); 1 or 2 without one.
     // Throws:  std::runtime_error if damaged tables lead the engine astray.
     int yyparse() override;
 
     // Forgets the errors of all texts before, and which of them were told.
     void ForgetTexts();
+
+    // From the next yyparse on, whether the tree stays in fragments, if flattening takes it as it is: no text
+    // is made of it then.
+    void set_FragmentsWanted(bool on) { m_bFragmentsWanted = on; }
+    // The last yyparse's tree as fragments, if there is one. It lasts until the next yyparse or the next
+    // query.
+    const SFragmentTree& Tree() const { return m_Tree; }
+    void ReleaseTree();
 
     bool HasErrors() const { return !m_Extension.m_mapErrors.empty(); }
     void yyerror(const char* text) override;
@@ -151,6 +160,9 @@ private:
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
     CFragmentPool m_Fragments;
+    SFragmentTree m_Tree;
+    bool m_bFragmentsWanted = false;
+    std::uint32_t m_nRootElement = 0;
 };
 
 // Writes to standard error, but only in the parser tool's own process.

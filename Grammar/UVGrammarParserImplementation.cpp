@@ -8,7 +8,6 @@ void CSQLGrammarParserImplementation::set_Query(std::string query)
     m_strLastError.clear();
     m_strParsedXml.clear();
     m_strParsedXml.shrink_to_fit();
-    m_bPlainTree = false;
     m_strQuery = std::move(query);
     m_lstLineEnds.clear();
     m_bLineEndsKnown = false;

@@ -56,7 +56,6 @@ public:
 
     std::string m_strLastError;
     std::string m_strParsedXml;
-    bool m_bPlainTree = false; // FlattenTreeInPlace can take the tree: names and characters are of its form
     std::string m_strQuery;
     bool m_bDevelopmentMode = false;
     bool m_bShowErrors = true; // errors go to the log, not only to the trace

@@ -1,5 +1,4 @@
 #include "Grammar/UVGrammarParser.h"
-#include "Tree/TreeEvents.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -7,10 +6,6 @@
 // How a reduction makes its node.
 
 namespace {
-
-constexpr std::string_view kRootOpen = "<SQL>";
-constexpr std::string_view kRootClose = "</SQL>";
-constexpr std::size_t kRootRoom = 128; // root tags and the two elements of outer space
 
 // A node that starts nowhere yet.
 ParserNodeValue NewNode()
@@ -100,28 +95,32 @@ void CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& chil
     }
 }
 
-// The tree is complete: what stands before and behind it goes around it, and the fragments become text.
+// The tree is complete: what stands before and after it goes around it, and unless the fragments are wanted,
+// or if they aren't of the form that flattening takes, they become text.
 void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
 {
     const std::string_view query = m_Extension.m_strQuery;
     const auto end = static_cast<std::size_t>(std::max(root.m_nStart + root.m_nLength, 0));
     if (end > query.size())
         throw std::out_of_range("the tree ends behind the text");
-    const std::string_view lead =
-        query.substr(0, root.m_nStart >= 1 ? static_cast<std::size_t>(root.m_nStart) : 0);
-    const std::string_view tail = query.substr(end);
+    const auto lead = static_cast<std::uint32_t>(std::max(root.m_nStart, 0));
+    const auto outer = [&](std::size_t from, std::size_t length) {
+        return m_Fragments.NewSpace(static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(length));
+    };
+    ParserNodeValue whole = NewNode();
+    Append(whole, m_Fragments.NewTag(enFragment::Open, m_nRootElement));
+    Append(whole, outer(0, lead));
+    SpliceFragments(m_Fragments, whole.m_pFirst, whole.m_pLast, root.m_pFirst, root.m_pLast);
+    Append(whole, outer(end, query.size() - end));
+    Append(whole, m_Fragments.NewTag(enFragment::Close, m_nRootElement));
 
-    std::string& xml = m_Extension.m_strParsedXml;
-    xml.clear();
-    xml.reserve(MeasureFragments(m_Fragments, query) + kRootRoom);
-    xml += kRootOpen;
-    WriteSpaceElement(lead, xml);
-    WriteFragments(m_Fragments, root.m_pFirst, query, xml);
-    WriteSpaceElement(tail, xml);
-    xml += kRootClose;
-    const auto& texts = m_Fragments.Texts();
-    m_Extension.m_bPlainTree = m_Fragments.Names().AreTreeNames() && IsTreeText(query) &&
-                               std::all_of(texts.begin(), texts.end(), IsTreeText);
+    m_Tree = {};
+    m_Extension.m_strParsedXml.clear();
+    const SFragmentTree tree{&m_Fragments, whole.m_pFirst, query};
+    if (m_bFragmentsWanted && MarkTree(tree))
+        m_Tree = tree;
+    else
+        WriteTree(tree, m_Extension.m_strParsedXml);
     // a rule above the root sees a node without text
     root.m_pFirst = kNoFragment;
     root.m_pLast = kNoFragment;

@@ -14,6 +14,7 @@
 #include "Grammar/UVGrammarParser.h"
 #include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
+#include "Parser/ParseResult.h"
 #include "Parser/UVParserGuard.h"
 #include "Preparation/PreparedText.h"
 #include "Preparation/Preprocessor.h"
@@ -119,10 +120,14 @@ protected:
     int ExecuteParsingColoring(bool showErrors);
     int FlattenResult();
     void DefineStylesheets();
+    // Whether `info` asks for the stylesheet itself.
+    static bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info);
+    // Whether the flattener does the work of the stylesheet.
+    bool IsFlattenedNatively(const std::shared_ptr<IUVDBDatabaseInfo2>& info) const;
     // `declaration` saves the result a shift by the difference of the declarations; the stylesheet knows its
-    // own one alone. `isPlain`: FlattenTreeInPlace takes `xml` for certain.
+    // own one alone.
     int Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                std::string_view declaration, bool isPlain);
+                std::string_view declaration);
     bool IsForPreparationOnly() const;
     void replaceXmlHeader();
     // The text itself as the result, for sources that no grammar reads.
@@ -154,8 +159,7 @@ protected:
     std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
     std::shared_ptr<IUVDBErrorInfo> m_LastError;
     Uve::U8CString m_Query; // rewritten in place by the preparation
-    Uve::U8CString m_Result;
-    bool m_IsResultPlain = false; // it is a tree as the parser made it, and flattening takes it
+    CParseResult m_Result;
     bool m_ColoringMode = false;
     bool m_CommentMode = false;
     std::shared_ptr<ILog> m_Log;

@@ -25,14 +25,6 @@ void DefineResources(XsltResourceManager& resources)
         resources.defineResource(std::make_shared<CUVDBSQLParserXslt>(id));
 }
 
-bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info)
-{
-    Uve::U8CString isForced;
-    if (info)
-        CUVDBOptionWrapper::GetParam(info, "TREE2SERIAL_STYLESHEET", isForced);
-    return isForced == "1";
-}
-
 } // namespace
 
 void CUVDBSQLParser::DefineStylesheets()
@@ -48,13 +40,21 @@ void CUVDBSQLParser::DefineStylesheets()
     m_ResourcesDefined = true;
 }
 
+bool CUVDBSQLParser::IsFlattenedNatively(const std::shared_ptr<IUVDBDatabaseInfo2>& info) const
+{
+    return m_ResourcesDefined && !IsStylesheetForced(info);
+}
+
 int CUVDBSQLParser::ExecuteTree2Serial()
 {
     const auto start = std::chrono::steady_clock::now();
     CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
-    const bool isPlain = std::exchange(m_IsResultPlain, false);
-    const int result = GuardMemory([&] {
-        return m_Result.IsEmpty() ? UVDB_OK : Flatten(m_DatabaseInfo, m_Result, kXmlHeader, isPlain);
+    const int result = GuardMemory([&]() -> int {
+        if (m_Result.IsEmpty())
+            return UVDB_OK;
+        if (IsFlattenedNatively(m_DatabaseInfo) && m_Result.FlattenFragments(kXmlHeader))
+            return UVDB_OK;
+        return Flatten(m_DatabaseInfo, m_Result.Text(), kXmlHeader);
     });
     const auto elapsed = std::chrono::steady_clock::now() - start;
     CLogWrapper::WriteTraceF(
@@ -66,33 +66,34 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 
 int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
 {
-    return Flatten(info, xml, kXmlDeclaration, false);
+    return GuardMemory([&] { return Flatten(info, xml, kXmlDeclaration); });
+}
+
+bool CUVDBSQLParser::IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info)
+{
+    Uve::U8CString isForced;
+    if (info)
+        CUVDBOptionWrapper::GetParam(info, "TREE2SERIAL_STYLESHEET", isForced);
+    return isForced == "1";
 }
 
 int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                            std::string_view declaration, bool isPlain)
+                            std::string_view declaration)
 {
-    return GuardMemory([&] {
-        // The flattener does the work of the stylesheet. Putting that one together takes longer than a small
-        // parse.
-        if (m_ResourcesDefined && !IsStylesheetForced(info)) {
-            if (isPlain)
-                return static_cast<int>(FlattenTreeInPlace(xml, declaration) ? UVDB_OK : UVDB_ERROR);
-            std::string flattened;
-            if (FlattenTree(xml, flattened, declaration)) {
-                xml = std::move(flattened);
-                return static_cast<int>(UVDB_OK);
-            }
-        }
-        const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
-        Uve::XslTransform transform(stylesheet.data(), stylesheet.size());
-        xmlDoc* const document = transform.apply(xml.data(), xml.size());
-        if (document == nullptr) {
-            CLogWrapper::WriteTraceF("UVParser> ERROR: Tree2Serial error.");
-            return static_cast<int>(UVDB_ERROR);
-        }
-        xml = Uve::XmlDocument::save(document, false, false).raw();
-        xmlFreeDoc(document);
-        return static_cast<int>(UVDB_OK);
-    });
+    std::string flattened;
+    // Putting the stylesheet together takes longer than a small parse.
+    if (IsFlattenedNatively(info) && FlattenTree(xml, flattened, declaration)) {
+        xml = std::move(flattened);
+        return UVDB_OK;
+    }
+    const std::string stylesheet = m_XsltResources->getResource(ResourceManager::kTree2Serial);
+    Uve::XslTransform transform(stylesheet.data(), stylesheet.size());
+    xmlDoc* const document = transform.apply(xml.data(), xml.size());
+    if (document == nullptr) {
+        CLogWrapper::WriteTraceF("UVParser> ERROR: Tree2Serial error.");
+        return UVDB_ERROR;
+    }
+    xml = Uve::XmlDocument::save(document, false, false).raw();
+    xmlFreeDoc(document);
+    return UVDB_OK;
 }

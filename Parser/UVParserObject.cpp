@@ -101,7 +101,7 @@ int CUVDBSQLParser::set_Log(std::shared_ptr<ILog> log)
 int CUVDBSQLParser::set_Query(const char* text)
 {
     return GuardEdge([&] {
-        Uve::U8CString().swap(m_Result); // gives the memory of a large result back
+        CParseResult().swap(m_Result); // gives the memory of a large result back
         if (text != nullptr)
             m_Query = text;
         return UVDB_OK;
@@ -112,11 +112,11 @@ int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
 {
     return GuardEdge([&] {
         if (m_ColoringMode)
-            out = WrapInElement("Coloring", m_Result);
+            out = WrapInElement("Coloring", m_Result.Text());
         else if (IsOptionSet("HAND_OVER_RESULT"))
-            out = std::exchange(m_Result, {});
+            out = std::exchange(m_Result.Text(), {});
         else
-            out = m_Result;
+            out = m_Result.Text();
         return UVDB_OK;
     });
 }
@@ -124,7 +124,7 @@ int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
 int CUVDBSQLParser::get_ColoringMap(Uve::U8CString& out)
 {
     return GuardEdge([&] {
-        out = m_Result;
+        out = m_Result.Text();
         return UVDB_OK;
     });
 }
@@ -162,7 +162,7 @@ int CUVDBSQLParser::set_ParserDevelopmentMode(bool isOn)
 
 std::string CUVDBSQLParser::GetParsedXml()
 {
-    return static_cast<const std::string&>(m_Result);
+    return static_cast<const std::string&>(m_Result.Text());
 }
 
 void CUVDBSQLParser::CreateUVParserCmdParameterList(std::string&, bool, unsigned long) {}

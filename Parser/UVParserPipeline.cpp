@@ -58,7 +58,6 @@ public:
             return;
         FlipQuoteRule();
         m_Owner.m_Result.swap(m_FirstResult);
-        m_Owner.m_IsResultPlain = false;
         Extension().m_mapErrors.swap(m_FirstErrors);
         Extension().m_lstUnexpected.swap(m_FirstUnexpected);
         Extension().m_lstDiscarded.swap(m_FirstDiscarded);
@@ -72,7 +71,6 @@ public:
         if (result != UVDB_NO_DATA)
             return;
         m_Owner.m_Result.swap(m_FirstResult);
-        m_Owner.m_IsResultPlain = false;
     }
 
 private:
@@ -85,7 +83,7 @@ private:
     }
 
     CUVDBSQLParser& m_Owner;
-    U8CString m_FirstResult;
+    CParseResult m_FirstResult;
     decltype(CSQLGrammarParserImplementation::m_mapErrors) m_FirstErrors;
     decltype(CSQLGrammarParserImplementation::m_lstUnexpected) m_FirstUnexpected;
     decltype(CSQLGrammarParserImplementation::m_lstDiscarded) m_FirstDiscarded;
@@ -97,6 +95,11 @@ int CUVDBSQLParser::Parse(bool showErrors)
 {
     m_IsOutOfMemory = false;
     const int result = GuardMemory([&] { return ParseQuery(showErrors); });
+    // What nobody has flattened becomes text before the next text comes.
+    GuardMemory([&] {
+        m_Result.Text();
+        return UVDB_OK;
+    });
     // Whatever the failure was told as on its way: the text is not at fault.
     if (result < UVDB_OK && m_IsOutOfMemory)
         GuardEdge([&] {
@@ -129,7 +132,7 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
     if (IsForPreparationOnly()) {
         const int prepared = PrepareToParse();
         if (prepared == UVDB_OK)
-            m_Result = m_Query;
+            m_Result.SetText(m_Query);
         return prepared;
     }
     if (!m_IsConnected) {
@@ -236,6 +239,7 @@ void CUVDBSQLParser::GiveQueryToParser()
 int CUVDBSQLParser::ExecuteParsingInternal(bool)
 {
     GiveQueryToParser();
+    m_Parser->set_FragmentsWanted(!IsStylesheetForced(m_DatabaseInfo));
     int parsed = UVDB_ERROR;
     try {
         parsed = m_Parser->yyparse();
@@ -248,8 +252,8 @@ int CUVDBSQLParser::ExecuteParsingInternal(bool)
     m_Unfinished = m_Lexer->Unfinished();
     if (parsed != UVDB_OK)
         return parsed;
-    m_Result = std::move(m_Parser->m_Extension.m_strParsedXml);
-    m_IsResultPlain = m_Parser->m_Extension.m_bPlainTree;
+    m_Lexer->DropQuery(); // the flattened tree needs the room
+    m_Result.TakeTree(m_Parser);
     UpdateWarningsInfo();
     return UVDB_OK;
 }
@@ -271,7 +275,7 @@ int CUVDBSQLParser::ExecuteParsingColoring(bool)
         return UVDB_ERROR;
     }
     m_Unfinished = m_ColoringLexer.Unfinished();
-    m_Result = std::move(m_ColoringLexer.m_Extension.m_strColoring);
+    m_Result.SetText(std::move(m_ColoringLexer.m_Extension.m_strColoring));
     CLogWrapper::WriteTraceF("OK\n");
     return UVDB_OK;
 }
@@ -281,6 +285,7 @@ void CUVDBSQLParser::TryParseWithOtherOpts(bool showErrors)
     GuardMemory([&] {
         if (!m_DatabaseInfo || !m_IsConnected)
             return static_cast<int>(UVDB_ERROR);
+        m_Result.Text(); // its fragments would go with the second parse
         {
             CSecondAttempt attempt(*this);
             const int result = ExecuteParsing(showErrors);
@@ -302,7 +307,9 @@ std::string CUVDBSQLParser::FastParse()
     ForgetTexts();
     m_Parser->m_Extension.m_lstUnexpected.clear();
     m_Parser->m_Extension.m_lstDiscarded.clear();
+    m_Result.Text(); // a result that is still in fragments lives in the parser
     GiveQueryToParser();
+    m_Parser->set_FragmentsWanted(false);
     m_Parser->yyparse();
     m_Unfinished = m_Lexer->Unfinished();
     GuardEdge([&] { return ReportErrors(); });
@@ -321,7 +328,7 @@ bool CUVDBSQLParser::IsPropertiesFile() const
 
 int CUVDBSQLParser::ExecuteEmbeddedParsing()
 {
-    m_Result = WrapInElement("SQL", m_Query);
+    m_Result.SetText(WrapInElement("SQL", m_Query));
     replaceXmlHeader();
     return UVDB_OK;
 }
@@ -334,7 +341,7 @@ int CUVDBSQLParser::ExecuteParsingTool(bool)
 
 void CUVDBSQLParser::replaceXmlHeader()
 {
-    ReplaceXmlHeader(m_Result);
+    ReplaceXmlHeader(m_Result.Text());
 }
 
 bool CUVDBSQLParser::IsOptionSet(const char* name) const

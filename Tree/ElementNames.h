@@ -24,22 +24,37 @@ private:
     std::size_t m_size;
 };
 
+// The markup that is the same for every token and every space.
+constexpr std::string_view kSpaceOpen = "<T__SPACE type=\"TOKEN\">";
+constexpr std::string_view kSpaceClose = "</T__SPACE>";
+constexpr std::string_view kTokenPos = "\" pos=\"";
+constexpr std::size_t kMostDigits = 11; // of a 32-bit number, sign included
+
 // The element names that one parse writes, each with the markup that goes around it, formed once when a
 // grammar is linked and never again.
 struct SElementName
 {
     explicit SElementName(const std::string& name);
 
+    std::string_view Name() const { return {open.Padded() + 1, open.size() - 2}; }
+
     CMarkup open;      // <name>
     CMarkup close;     // </name>
     CMarkup tokenOpen; // <name type="TOKEN" line="
+    bool isTerminal;   // T__...
 };
+
+inline constexpr std::uint32_t kMostElementNames = 1u << 26;
 
 class CElementNames
 {
 public:
+    // With the names of TreeNames::enTreeName, under their numbers.
+    CElementNames();
+
     // Enters `name` if it is new.
     // Returns: its number, the same for the same name.
+    // Throws:  std::length_error beyond kMostElementNames.
     std::uint32_t Intern(const std::string& name);
 
     const SElementName& operator[](std::uint32_t number) const { return m_names[number]; }

@@ -1,6 +1,8 @@
 #include "Tree/FragmentPool.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -12,7 +14,17 @@ void CFragmentPool::NewChunk()
 {
     if (m_chunks.size() == std::size_t{1} << (32 - kChunkBits))
         throw std::length_error("the text has more tokens than one tree can hold");
-    m_chunks.push_back(std::make_unique_for_overwrite<std::uint64_t[]>(kChunkUnits));
+    const std::size_t number = m_chunks.size();
+    SChunk& chunk = m_chunks.emplace_back();
+    if (number < kKeptChunks)
+        chunk.memory = std::move(m_kept[number]);
+    if (!chunk.memory)
+        try {
+            chunk.memory = NewLargePage(number > 0); // most texts fill a part of the first alone
+        } catch (...) {
+            m_chunks.pop_back();
+            throw;
+        }
     m_used = static_cast<std::uint32_t>((m_chunks.size() - 1) << kChunkBits);
     m_end = m_used +
             (kChunkUnits - 1); // the last unit stays free, so that the end of the last chunk has a number
@@ -28,16 +40,16 @@ FragmentRef CFragmentPool::NewTokenText(std::uint32_t element, std::string_view 
     m_markupBytes += text.size() * kMostEscapedBytes;
     const FragmentRef fragment =
         NewToken(element, number, static_cast<std::uint32_t>(text.size()), line, pos);
-    (*this)[fragment].info = static_cast<std::uint32_t>(enFragment::TokenText) | element << 3;
+    (*this)[fragment].info = SFragment::Info(enFragment::TokenText, element);
     return fragment;
 }
 
-void CFragmentPool::Release()
+void CFragmentPool::Release() noexcept
 {
+    for (std::size_t number = 0; number < std::min(m_chunks.size(), kKeptChunks); ++number)
+        m_kept[number] = std::move(m_chunks[number].memory);
     m_chunks.clear();
-    m_chunks.shrink_to_fit();
-    m_texts.clear();
-    m_texts.shrink_to_fit();
+    m_texts = {};
     m_used = 0;
     m_end = 0;
     m_count = 0;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "Tree/ElementNames.h"
+#include "Tree/LargeMemory.h"
+#include "Tree/TreeNames.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,10 +36,20 @@ enum class enFragment : std::uint32_t
 struct SFragment
 {
     FragmentRef next;
-    std::uint32_t info; // kind in the low 3 bits, element number above
+    std::uint32_t info; // kind in the low 3 bits, 3 bits of marks, element number above
+
+    static constexpr unsigned kMarkShift = 3;
+    static constexpr unsigned kElementShift = 6;
+    static std::uint32_t Info(enFragment kind, std::uint32_t element)
+    {
+        return static_cast<std::uint32_t>(kind) | element << kElementShift;
+    }
 
     enFragment Kind() const { return static_cast<enFragment>(info & 7); }
-    std::uint32_t Element() const { return info >> 3; }
+    std::uint32_t Element() const { return info >> kElementShift; }
+    // Of STreeEvent's flags those that say something about an element's content; see MarkTree.
+    std::uint8_t Marks() const { return static_cast<std::uint8_t>(info >> kMarkShift & 7); }
+    void Mark(std::uint32_t marks) { info |= marks << kMarkShift; }
 };
 
 struct SSpaceFragment : SFragment
@@ -54,14 +66,8 @@ struct STokenFragment : SFragment
     std::int32_t pos;
 };
 
-// The markup that is the same for every token and every space.
-constexpr std::string_view kSpaceOpen = "<T__SPACE type=\"TOKEN\">";
-constexpr std::string_view kSpaceClose = "</T__SPACE>";
-constexpr std::string_view kTokenPos = "\" pos=\"";
-constexpr std::string_view kTokenTextBegin = "\">";
-constexpr std::size_t kMostDigits = 11; // of a 32-bit number, sign included
-
-// Owns the fragments of one parse. They all go at once, by Release or with the pool; the element names stay.
+// Owns the fragments of one parse. They go by Release or with the pool, or one by one by Drop; the element
+// names stay, and so does the memory of a parse of usual size, for the next one.
 class CFragmentPool
 {
 public:
@@ -76,16 +82,15 @@ public:
     FragmentRef NewTokenText(std::uint32_t element, std::string_view text, std::uint32_t line,
                              std::int32_t pos);
 
-    SFragment& operator[](FragmentRef fragment)
-    {
-        return *reinterpret_cast<SFragment*>(m_chunks[fragment >> kChunkBits].get() +
-                                             (fragment & kChunkMask));
-    }
+    SFragment& operator[](FragmentRef fragment) { return *reinterpret_cast<SFragment*>(Unit(fragment)); }
     const SFragment& operator[](FragmentRef fragment) const
     {
-        return *reinterpret_cast<const SFragment*>(m_chunks[fragment >> kChunkBits].get() +
-                                                   (fragment & kChunkMask));
+        return *reinterpret_cast<const SFragment*>(Unit(fragment));
     }
+    // Fetches what a walk along a list will most probably come to: lists follow the memory, but for the tags
+    // of what holds much.
+    void FetchAhead(FragmentRef fragment) const { __builtin_prefetch(Unit(fragment) + kFetchUnits); }
+
     const std::string& Text(std::uint32_t number) const { return m_texts[number]; }
     const std::vector<std::string>& Texts() const { return m_texts; }
 
@@ -94,14 +99,38 @@ public:
     // At least the bytes of their markup, and few more: what the source adds to them isn't counted.
     std::size_t MarkupBytes() const { return m_markupBytes; }
 
-    // Forgets all fragments and gives their memory back.
-    void Release();
+    // Says that a fragment isn't looked at any more. Once that is said of all in a large piece of memory, it
+    // goes back to the system.
+    void Drop(FragmentRef fragment)
+    {
+        SChunk& chunk = m_chunks[fragment >> kChunkBits];
+        if (--chunk.count == 0 && m_chunks.size() > kKeptChunks)
+            chunk.memory.reset();
+    }
+
+    // Forgets all fragments.
+    void Release() noexcept;
 
 private:
-    // A unit is 8 bytes; a chunk is 1 MiB, and unit 0 of the first stands for "none".
-    static constexpr unsigned kChunkBits = 17;
+    // A unit is 8 bytes; a chunk is one large page, and unit 0 of the first stands for "none".
+    static constexpr unsigned kChunkBits = 18;
     static constexpr std::uint32_t kChunkUnits = 1u << kChunkBits;
     static constexpr std::uint32_t kChunkMask = kChunkUnits - 1;
+    static_assert(kChunkUnits * sizeof(std::uint64_t) == kLargePageBytes);
+    static constexpr std::size_t kFetchUnits = 64;
+    static constexpr std::size_t kKeptChunks = 8; // some two megabytes of source
+
+    struct SChunk
+    {
+        LargePage memory;
+        std::uint32_t count = 0; // fragments in use
+    };
+
+    std::uint64_t* Unit(FragmentRef fragment) const
+    {
+        return static_cast<std::uint64_t*>(m_chunks[fragment >> kChunkBits].memory.get()) +
+               (fragment & kChunkMask);
+    }
 
     template <class T>
     T& Allocate(FragmentRef& fragment, enFragment kind, std::uint32_t element)
@@ -113,16 +142,18 @@ private:
         fragment = m_used;
         m_used += kUnits;
         ++m_count;
-        T* const made = new (m_chunks[fragment >> kChunkBits].get() + (fragment & kChunkMask)) T;
+        ++m_chunks.back().count;
+        T* const made = new (Unit(fragment)) T;
         made->next = kNoFragment;
-        made->info = static_cast<std::uint32_t>(kind) | element << 3;
+        made->info = SFragment::Info(kind, element);
         return *made;
     }
     // Throws: std::length_error beyond 32 GiB of fragments.
     void NewChunk();
 
     CElementNames m_names;
-    std::vector<std::unique_ptr<std::uint64_t[]>> m_chunks;
+    std::vector<SChunk> m_chunks;
+    std::array<LargePage, kKeptChunks> m_kept; // for the chunk of that number
     std::vector<std::string> m_texts;
     std::uint32_t m_used = 0; // next free unit
     std::uint32_t m_end = 0;  // end of the last chunk
@@ -142,7 +173,7 @@ inline FragmentRef CFragmentPool::NewTag(enFragment kind, std::uint32_t element)
 inline FragmentRef CFragmentPool::NewSpace(std::uint32_t start, std::uint32_t length)
 {
     FragmentRef fragment = kNoFragment;
-    auto& made = Allocate<SSpaceFragment>(fragment, enFragment::Space, 0);
+    auto& made = Allocate<SSpaceFragment>(fragment, enFragment::Space, TreeNames::kSpace);
     made.start = start;
     made.length = length;
     m_markupBytes += kSpaceOpen.size() + kSpaceClose.size();
@@ -159,7 +190,8 @@ inline FragmentRef CFragmentPool::NewToken(std::uint32_t element, std::uint32_t 
     made.line = line;
     made.pos = pos;
     const SElementName& name = m_names[element];
-    m_markupBytes += name.tokenOpen.size() + kTokenPos.size() + kTokenTextBegin.size() + name.close.size();
+    constexpr std::size_t kTokenEnd = 2; // quote and bracket
+    m_markupBytes += name.tokenOpen.size() + kTokenPos.size() + kTokenEnd + name.close.size();
     m_markupBytes += line < 10000 && pos < 100 ? 6 : 2 * kMostDigits;
     return fragment;
 }
@@ -176,15 +208,3 @@ inline void SpliceFragments(CFragmentPool& pool, FragmentRef& first, FragmentRef
         pool[last].next = otherFirst;
     last = otherLast;
 }
-
-// Appends the XML text of the fragments from `first` on, in list order, to `out`. Token text has the five
-// special characters of XML escaped; space passes the rules of UVDBEscapeXML. Throws: std::runtime_error if
-// the list runs in a circle, which only damaged tables can bring about.
-void WriteFragments(const CFragmentPool& pool, FragmentRef first, std::string_view query, std::string& out);
-
-// At least the bytes that the fragments of `pool` take up as text, and few more, so that the result is
-// reserved in one step.
-std::size_t MeasureFragments(const CFragmentPool& pool, std::string_view query);
-
-// Appends `text` to `out` as the space between tokens stands in the tree: one element around it.
-void WriteSpaceElement(std::string_view text, std::string& out);

@@ -1,6 +1,6 @@
 #include "Tree/TreeAttributes.h"
 
-#include "Tree/TreeEvents.h"
+#include "Tree/TreeCharacters.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ std::string Before(const std::string& text, char mark)
     return at == std::string::npos ? std::string() : text.substr(0, at);
 }
 
-std::string Behind(const std::string& text, char mark)
+std::string After(const std::string& text, char mark)
 {
     const std::size_t at = text.find(mark);
     return at == std::string::npos ? std::string() : text.substr(at + 1);
@@ -54,13 +54,27 @@ void AddMacroAttributes(const std::string& text, TreeAttributes& attributes)
     SetAttribute(attributes, "macro", "1");
     const std::size_t mark = text.find_first_of("=#");
     if (mark != std::string::npos && text[mark] == '=') {
-        SetAttribute(attributes, "xpath", Behind(text, '='));
+        SetAttribute(attributes, "xpath", After(text, '='));
         SetAttribute(attributes, "name", Before(text, '='));
     } else if (mark != std::string::npos) {
         const bool hasCondition = text.find('[') != std::string::npos;
         if (hasCondition)
-            SetAttribute(attributes, "match", '[' + Behind(text, '['));
-        SetAttribute(attributes, "uid", hasCondition ? Before(Behind(text, '#'), '[') : Behind(text, '#'));
+            SetAttribute(attributes, "match", '[' + After(text, '['));
+        SetAttribute(attributes, "uid", hasCondition ? Before(After(text, '#'), '[') : After(text, '#'));
         SetAttribute(attributes, "name", Before(text, '#'));
+    }
+}
+
+void WriteAttributes(const TreeAttributes& attributes, CTextBlock& out)
+{
+    std::string escaped;
+    for (const auto& [name, value] : attributes) {
+        out.Write(" ");
+        out.Write(name);
+        out.Write("=\"");
+        escaped.clear();
+        AppendEscapedValue(value, escaped);
+        out.Write(escaped);
+        out.Write("\"");
     }
 }

@@ -1,13 +1,17 @@
 #include "Tree/TreeFlattener.h"
 
-#include "Tree/TextOverwriter.h"
+#include "Tree/FragmentEvents.h"
+#include "Tree/LargeMemory.h"
+#include "Tree/TextBlock.h"
+#include "Tree/TextEvents.h"
 #include "Tree/TreeAttributes.h"
-#include "Tree/TreeEvents.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
 #include <vector>
+
+using namespace TreeNames;
 
 namespace {
 
@@ -27,7 +31,7 @@ enum class enChildren : std::uint8_t
     LabeledContent, // the content of labeled statements
 };
 
-// What stands behind the children.
+// What stands after the children.
 enum class enEnding : std::uint8_t
 {
     Nothing,
@@ -50,24 +54,27 @@ struct SFrame
     bool hasFoundDelimiter = false;     // by the delimiter step
     bool isBehindDataDivision = false;  // a data division is among its earlier siblings
     bool hasPassedDataDivision = false; // among its children so far
-    bool isExcursion = false;           // behind it the walk goes on at the ending of the frame below
+    bool isExcursion = false;           // after it the walk goes on at the ending of the frame below
     std::uint8_t stage = 0;             // of its ending
     std::uint64_t end = 0;              // its last event, from stage 1 on
     std::uint64_t delimiter = 0;        // Delimiters: the first, then the next to copy; 0 for none
 };
 
+// `Events` is a reader of events, told at CTreeEvents, which also writes what its events stand for.
+template <class Events>
 class CTreeFlattener
 {
 public:
-    // Writes over `tree`. Borrows it.
-    explicit CTreeFlattener(std::string& tree)
-        : m_Events(tree), m_Out(tree), m_MostOutput(tree.size() * kMostGrowth + kAlwaysAllowed)
+    // Appends to `out` the flattening of the tree that `source` holds, `treeBytes` long as text.
+    template <class Source>
+    CTreeFlattener(const Source& source, std::size_t treeBytes, std::string& out)
+        : m_Events(source), m_Out(out), m_MostOutput(treeBytes * kMostGrowth + kAlwaysAllowed)
     {}
 
     void Run(std::string_view declaration)
     {
-        Write(declaration);
-        Write("\n");
+        m_Out.Write(declaration);
+        m_Out.Write('\n');
         const std::size_t declared = m_Out.size();
         Apply(0, kNoName, false, false);
         while (!m_Frames.empty())
@@ -75,8 +82,8 @@ public:
         if (m_Events.At(m_At).kind != enTreeEvent::Finish)
             throw STreeDeclined();
         if (m_Out.size() > declared)
-            Write("\n");
-        m_Out.Finish();
+            m_Out.Write('\n');
+        m_Out.Flush();
     }
 
 private:
@@ -86,78 +93,70 @@ private:
     void Child(std::uint64_t index);
     void BodyChild(std::uint64_t index, std::uint32_t name);
     void Apply(std::uint64_t index, std::uint32_t parent, bool isBehindDataDivision, bool isExcursion);
-    void CopyElement(std::uint64_t index, SFrame frame);
+    // With the ending EndTag all of a leaf, otherwise its tag, and on to what it holds.
+    void CopyElement(std::uint64_t index, const SFrame& frame);
     void CopyMacro(std::uint64_t index);
     void Enter(std::uint64_t index, const SFrame& frame);
     void Leave();
-    void Pop();
     bool GoToNextDelimiter();
     bool GoToBodyDelimiter();
     template <class Matches>
     std::uint64_t FindSibling(std::uint64_t from, Matches&& matches);
     std::uint64_t FindDelimiter(std::uint64_t from);
     std::string MacroText(std::uint64_t index);
-    TreeAttributes AttributesOf(const STreeEvent& event) const
-    {
-        return ReadAttributes(m_Events.Slice(event.offset, event.length));
-    }
+    std::uint64_t FirstNeeded() const { return m_Kept.empty() ? m_At : std::min(m_At, m_Kept.front()); }
 
     // ---- the output ----
-
-    void Write(std::string_view text)
-    {
-        if (!m_Out.Takes(text))
-            m_Out.Settle(text, m_Events.At(FirstNeeded()).offset);
-    }
-    std::uint64_t FirstNeeded() const { return m_Kept.empty() ? m_At : std::min(m_At, m_Kept.front()); }
 
     void CloseTag()
     {
         if (m_IsTagOpen)
-            Write(">");
+            m_Out.Write('>');
         m_IsTagOpen = false;
     }
-    void StartTag(std::string_view name)
+    void StartTag(const STreeEvent& event)
     {
         CloseTag();
-        Write("<");
-        Write(name);
+        m_Events.WriteStart(event, m_Out);
         m_IsTagOpen = true;
     }
-    void EndTag(std::string_view name)
+    void StartTag(std::uint32_t name)
+    {
+        CloseTag();
+        m_Out.Write('<');
+        m_Out.Write(m_Events.Name(name));
+        m_IsTagOpen = true;
+    }
+    void EndTag(std::uint32_t name)
     {
         if (m_IsTagOpen)
-            Write("/>");
-        else {
-            Write("</");
-            Write(name);
-            Write(">");
-        }
+            m_Out.Write("/>");
+        else
+            m_Events.WriteEnd(name, m_Out);
         m_IsTagOpen = false;
         if (m_Out.size() > m_MostOutput)
             throw std::length_error("the flattened tree grows out of bounds");
     }
-    void EmptyElement(enTreeName name)
+    void EmptyElement(std::uint32_t name)
     {
-        StartTag(m_Events.Name(name));
-        EndTag({});
+        StartTag(name);
+        EndTag(name);
     }
     void StartFullStatement(bool isDelimited, bool isLabeled)
     {
-        StartTag(m_Events.Name(kFullStatement));
-        Write(isDelimited ? " delimited=\"1\"" : " delimited=\"0\"");
-        Write(isLabeled ? " labeled=\"1\"" : " labeled=\"0\"");
+        StartTag(kFullStatement);
+        m_Out.Write(isDelimited ? " delimited=\"1\"" : " delimited=\"0\"");
+        m_Out.Write(isLabeled ? " labeled=\"1\"" : " labeled=\"0\"");
     }
-    void EndFullStatement() { EndTag(m_Events.Name(kFullStatement)); }
-    void WriteText(std::uint64_t offset, std::uint64_t length, bool isVerbatim);
-    void WriteSerialised(std::string_view run, enRun kind);
-    void WriteComment(const STreeEvent& event);
-    void WriteAttributes(const TreeAttributes& attributes);
-    void StartTagAsRead(const STreeEvent& event);
+    void EndFullStatement() { EndTag(kFullStatement); }
+    void Characters(const STreeEvent& event)
+    {
+        CloseTag();
+        m_Events.WriteCharacters(event, m_Out);
+    }
 
-    CTreeEvents m_Events;
-    CTextOverwriter m_Out;
-    std::string m_Piece; // of text that is written otherwise than it was read
+    Events m_Events;
+    CTextBlock m_Out;
     std::size_t m_MostOutput;
     std::uint64_t m_At = 0;
     bool m_IsTagOpen = false;
@@ -173,7 +172,8 @@ bool IsNestedOnPurpose(std::uint32_t name)
 
 // ---- The walk ----
 
-void CTreeFlattener::Step()
+template <class Events>
+void CTreeFlattener<Events>::Step()
 {
     if (m_Frames.back().stage != 0) {
         Leave();
@@ -191,10 +191,11 @@ void CTreeFlattener::Step()
     case enTreeEvent::Text:
     case enTreeEvent::Comment:
         if (m_Frames.back().children == enChildren::Templates) {
+            CloseTag();
             if (event.kind == enTreeEvent::Text)
-                WriteText(event.offset, event.length, (event.flags & STreeEvent::kIsVerbatim) != 0);
+                m_Events.WriteCharacters(event, m_Out);
             else
-                WriteComment(event);
+                m_Events.WriteComment(event, m_Out);
         }
         ++m_At;
         break;
@@ -204,7 +205,8 @@ void CTreeFlattener::Step()
     m_Events.Forget(FirstNeeded());
 }
 
-void CTreeFlattener::Child(std::uint64_t index)
+template <class Events>
+void CTreeFlattener<Events>::Child(std::uint64_t index)
 {
     SFrame& parent = m_Frames.back();
     const std::uint32_t name = m_Events.At(index).name;
@@ -241,15 +243,16 @@ void CTreeFlattener::Child(std::uint64_t index)
         if (name == kLabeledStatement)
             Enter(index, {.name = name, .outName = kNoName, .children = enChildren::ElementsOnly});
         else
-            m_At = m_Events.Behind(index);
+            m_At = m_Events.After(index);
         return;
     }
 }
 
-void CTreeFlattener::BodyChild(std::uint64_t index, std::uint32_t name)
+template <class Events>
+void CTreeFlattener<Events>::BodyChild(std::uint64_t index, std::uint32_t name)
 {
     if (name == kDelimiter) {
-        m_At = m_Events.Behind(index);
+        m_At = m_Events.After(index);
         return;
     }
     if (name != kDelimitedStatement) {
@@ -266,8 +269,9 @@ void CTreeFlattener::BodyChild(std::uint64_t index, std::uint32_t name)
 }
 
 // The main template, its cases in their order, and the rules beside it.
-void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBehindDataDivision,
-                           bool isExcursion)
+template <class Events>
+void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bool isBehindDataDivision,
+                                   bool isExcursion)
 {
     const std::uint32_t name = m_Events.At(index).name;
     SFrame frame{.name = name,
@@ -275,7 +279,7 @@ void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBeh
                  .isBehindDataDivision = isBehindDataDivision,
                  .isExcursion = isExcursion};
     if (name == kSpace && !m_Events.Knows(index, STreeEvent::kHasCharacters)) {
-        m_At = m_Events.Behind(index);
+        m_At = m_Events.After(index);
         return;
     }
     if (name == parent && name != kBodyStatements && !IsNestedOnPurpose(name)) {
@@ -285,7 +289,7 @@ void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBeh
     if (name == kBodyStatements) {
         frame.children = enChildren::Body;
         if (parent != kBodyStatements) {
-            StartTag(m_Events.Name(kStatements));
+            StartTag(kStatements);
             frame.outName = kStatements;
             frame.ending = enEnding::EndTag;
         }
@@ -294,7 +298,7 @@ void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBeh
     }
     if (name != parent && !IsNestedOnPurpose(name) && name != kMainSourceSection &&
         m_Events.Knows(index, STreeEvent::kHasItsName)) {
-        StartTag(m_Events.Name(name));
+        StartTag(name);
         frame.children = enChildren::ListItems;
         frame.outName = name;
         frame.ending = enEnding::EndTag;
@@ -330,7 +334,7 @@ void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBeh
         CopyElement(index, frame);
         return;
     case kStatements:
-        StartTag(m_Events.Name(name));
+        StartTag(name);
         frame.children = enChildren::Statements;
         frame.outName = name;
         frame.ending = enEnding::EndTag;
@@ -349,14 +353,23 @@ void CTreeFlattener::Apply(std::uint64_t index, std::uint32_t parent, bool isBeh
     CopyElement(index, frame);
 }
 
-void CTreeFlattener::CopyElement(std::uint64_t index, SFrame frame)
+template <class Events>
+void CTreeFlattener<Events>::CopyElement(std::uint64_t index, const SFrame& frame)
 {
-    StartTagAsRead(m_Events.At(index));
+    const STreeEvent event = m_Events.At(index);
+    if (event.kind == enTreeEvent::Leaf && frame.ending == enEnding::EndTag) {
+        CloseTag();
+        m_Events.WriteLeaf(event, m_Out);
+        m_At = frame.isExcursion ? index : index + 1;
+        return;
+    }
+    StartTag(event);
     Enter(index, frame);
 }
 
 // Goes to the children of the element, or right through a leaf to its ending.
-void CTreeFlattener::Enter(std::uint64_t index, const SFrame& frame)
+template <class Events>
+void CTreeFlattener<Events>::Enter(std::uint64_t index, const SFrame& frame)
 {
     const STreeEvent event = m_Events.At(index);
     m_Frames.push_back(frame);
@@ -366,13 +379,14 @@ void CTreeFlattener::Enter(std::uint64_t index, const SFrame& frame)
         return;
     }
     if (event.extent != 0 && frame.children == enChildren::Templates)
-        WriteText(event.offset + event.length, event.extent, (event.flags & STreeEvent::kIsVerbatim) != 0);
+        Characters(event);
     Leave();
 }
 
 // The ending of the uppermost element, whose last event is the current one. An ending that copies a delimiter
-// from elsewhere goes there, and is called again behind it.
-void CTreeFlattener::Leave()
+// from elsewhere goes there, and is called again after it.
+template <class Events>
+void CTreeFlattener<Events>::Leave()
 {
     SFrame& frame = m_Frames.back();
     if (frame.stage == 0)
@@ -381,7 +395,7 @@ void CTreeFlattener::Leave()
     case enEnding::Nothing:
         break;
     case enEnding::EndTag:
-        EndTag(m_Events.Name(frame.outName));
+        EndTag(frame.outName);
         break;
     case enEnding::Delimiters:
         if (GoToNextDelimiter())
@@ -395,7 +409,7 @@ void CTreeFlattener::Leave()
         EndFullStatement();
         break;
     case enEnding::PlainStatement:
-        EndTag(m_Events.Name(frame.outName));
+        EndTag(frame.outName);
         [[fallthrough]];
     case enEnding::EmptyDelimiter:
         EmptyElement(kDelimiter);
@@ -414,9 +428,10 @@ void CTreeFlattener::Leave()
     m_Frames.pop_back();
 }
 
-// The delimiters of a labeled statement stand behind its content, wherever they stood before.
-// Returns: false behind the last one.
-bool CTreeFlattener::GoToNextDelimiter()
+// The delimiters of a labeled statement stand after its content, wherever they stood before.
+// Returns: false after the last one.
+template <class Events>
+bool CTreeFlattener<Events>::GoToNextDelimiter()
 {
     SFrame& frame = m_Frames.back();
     frame.stage = 1;
@@ -424,14 +439,15 @@ bool CTreeFlattener::GoToNextDelimiter()
     if (delimiter == 0)
         return false;
     frame.delimiter =
-        FindSibling(m_Events.Behind(delimiter), [](std::uint32_t name) { return name == kDelimiter; });
+        FindSibling(m_Events.After(delimiter), [](std::uint32_t name) { return name == kDelimiter; });
     Apply(delimiter, frame.name, false, true);
     return true;
 }
 
-// A statement in a body takes the delimiter that stands behind it, and the last one that which stands behind
+// A statement in a body takes the delimiter that stands after it, and the last one that which stands after
 // the body. Returns: false if there is none, or no further one.
-bool CTreeFlattener::GoToBodyDelimiter()
+template <class Events>
+bool CTreeFlattener<Events>::GoToBodyDelimiter()
 {
     SFrame& frame = m_Frames.back();
     if (frame.stage == 0) {
@@ -455,17 +471,18 @@ bool CTreeFlattener::GoToBodyDelimiter()
             return true;
         }
     }
-    m_At = frame.end; // what stands behind it is still needed
+    m_At = frame.end; // what stands after it is still needed
     m_Kept.pop_back();
     return false;
 }
 
 // The first element from the event `from` on, among what is left of its siblings, whose name matches. 0 if
 // there is none; m_SiblingsEnd is the event that ends them then.
+template <class Events>
 template <class Matches>
-std::uint64_t CTreeFlattener::FindSibling(std::uint64_t from, Matches&& matches)
+std::uint64_t CTreeFlattener<Events>::FindSibling(std::uint64_t from, Matches&& matches)
 {
-    for (;; from = m_Events.Behind(from)) {
+    for (;; from = m_Events.After(from)) {
         const STreeEvent& event = m_Events.At(from);
         if (event.kind == enTreeEvent::End || event.kind == enTreeEvent::Finish) {
             m_SiblingsEnd = from;
@@ -477,7 +494,8 @@ std::uint64_t CTreeFlattener::FindSibling(std::uint64_t from, Matches&& matches)
 }
 
 // The next sibling that isn't a token, if it is a delimiter, otherwise 0.
-std::uint64_t CTreeFlattener::FindDelimiter(std::uint64_t from)
+template <class Events>
+std::uint64_t CTreeFlattener<Events>::FindDelimiter(std::uint64_t from)
 {
     const std::uint64_t sibling =
         FindSibling(from, [&](std::uint32_t name) { return !m_Events.IsTerminal(name); });
@@ -487,108 +505,71 @@ std::uint64_t CTreeFlattener::FindDelimiter(std::uint64_t from)
 // ---- Macros ----
 
 // What stands between the first "{" and the next "}" in the element's characters.
-std::string CTreeFlattener::MacroText(std::uint64_t index)
+template <class Events>
+std::string CTreeFlattener<Events>::MacroText(std::uint64_t index)
 {
     std::string characters;
-    const std::uint64_t behind = m_Events.Behind(index);
-    for (std::uint64_t at = index; at < behind; ++at) {
+    const std::uint64_t after = m_Events.After(index);
+    for (std::uint64_t at = index; at < after; ++at) {
         const STreeEvent& event = m_Events.At(at);
-        if (event.kind == enTreeEvent::Text)
-            AppendCharacters(m_Events.Slice(event.offset, event.length), enRun::Text, characters);
-        else if (event.kind == enTreeEvent::Leaf)
-            AppendCharacters(m_Events.Slice(event.offset + event.length, event.extent), enRun::Text,
-                             characters);
+        if (event.kind == enTreeEvent::Text || event.kind == enTreeEvent::Leaf)
+            m_Events.AppendCharactersOf(event, characters);
     }
     const std::size_t open = characters.find('{');
     const std::size_t close = open == std::string::npos ? open : characters.find('}', open);
     return close == std::string::npos ? std::string() : characters.substr(open + 1, close - open - 1);
 }
 
-void CTreeFlattener::CopyMacro(std::uint64_t index)
+template <class Events>
+void CTreeFlattener<Events>::CopyMacro(std::uint64_t index)
 {
     const std::string text = MacroText(index);
     const STreeEvent event = m_Events.At(index);
-    TreeAttributes attributes = AttributesOf(event);
+    TreeAttributes attributes = m_Events.Attributes(event);
     AddMacroAttributes(text, attributes);
-    StartTag(m_Events.Name(event.name));
-    WriteAttributes(attributes);
+    StartTag(event.name);
+    WriteAttributes(attributes, m_Out);
     CloseTag();
-    Write("{MACRO}");
-    EndTag(m_Events.Name(event.name));
-    m_At = m_Events.Behind(index);
+    m_Out.Write("{MACRO}");
+    EndTag(event.name);
+    m_At = m_Events.After(index);
 }
 
-// ---- The output ----
-
-void CTreeFlattener::WriteText(std::uint64_t offset, std::uint64_t length, bool isVerbatim)
-{
-    CloseTag();
-    const std::string_view run = m_Events.Slice(offset, length);
-    if (isVerbatim)
-        Write(run);
-    else
-        WriteSerialised(run, enRun::Text);
-}
-
-void CTreeFlattener::WriteComment(const STreeEvent& event)
-{
-    CloseTag();
-    Write("<!--");
-    WriteSerialised(m_Events.Slice(event.offset, event.length), enRun::Comment);
-    Write("-->");
-}
-
-void CTreeFlattener::WriteSerialised(std::string_view run, enRun kind)
-{
-    m_Piece.clear();
-    AppendSerialised(run, kind, m_Piece);
-    Write(m_Piece);
-}
-
-void CTreeFlattener::WriteAttributes(const TreeAttributes& attributes)
-{
-    for (const auto& [name, value] : attributes) {
-        Write(" ");
-        Write(name);
-        Write("=\"");
-        m_Piece.clear();
-        AppendEscapedValue(value, m_Piece);
-        Write(m_Piece);
-        Write("\"");
-    }
-}
-
-void CTreeFlattener::StartTagAsRead(const STreeEvent& event)
-{
-    if ((event.flags & STreeEvent::kIsVerbatimTag) != 0) {
-        CloseTag();
-        const std::uint64_t bracket = (event.flags & STreeEvent::kIsEmptyTag) != 0 ? 2 : 1;
-        Write(m_Events.Slice(event.offset, event.length - bracket));
-        m_IsTagOpen = true;
-        return;
-    }
-    StartTag(m_Events.Name(event.name));
-    WriteAttributes(AttributesOf(event));
-}
+// Room for what flattening adds to most trees: the declaration and some statements' tags.
+constexpr std::size_t kMoreRoom = 4096;
 
 } // namespace
 
-bool FlattenTreeInPlace(std::string& tree, std::string_view declaration)
+bool FlattenTree(std::string_view tree, std::string& out, std::string_view declaration)
 {
+    out.clear();
     try {
-        CTreeFlattener(tree).Run(declaration);
+        ReserveLarge(out, tree.size() + kMoreRoom);
+        CTreeFlattener<CTextEvents>(tree, tree.size(), out).Run(declaration);
         return true;
     } catch (const STreeDeclined&) {
-        tree = std::string();
+        out = std::string();
         return false;
     } catch (...) {
-        tree = std::string();
+        out = std::string();
         throw;
     }
 }
 
-bool FlattenTree(std::string_view tree, std::string& out, std::string_view declaration)
+void FlattenTree(const SFragmentTree& tree, std::string& out, std::string_view declaration)
 {
-    out = tree;
-    return FlattenTreeInPlace(out, declaration);
+    struct SRelease
+    {
+        CFragmentPool& pool;
+        ~SRelease() { pool.Release(); }
+    } const release{*tree.pool};
+    out.clear();
+    try {
+        const std::size_t bytes = MeasureTree(tree);
+        ReserveLarge(out, bytes + kMoreRoom);
+        CTreeFlattener<CFragmentEvents>(tree, bytes, out).Run(declaration);
+    } catch (...) {
+        out = std::string();
+        throw;
+    }
 }

@@ -1,6 +1,7 @@
 #include "Benchmarks/Native/NativeParse.h"
 
 #include "Benchmarks/Native/NativeSupport.h"
+#include "Tree/FragmentTree.h"
 
 #include <NativeParser.h> // generated
 #include <utility>
@@ -24,18 +25,18 @@ void SplicePending(NativeValue& node)
 
 void WriteRoot(const NativeValue& root)
 {
-    const std::string_view text = *g_native.text;
-    const auto lead = static_cast<std::size_t>(root.m_nStart >= 1 ? root.m_nStart : 0);
+    const auto lead = static_cast<std::uint32_t>(root.m_nStart >= 1 ? root.m_nStart : 0);
     const int end = root.m_nStart + root.m_nLength;
-    const auto tail = static_cast<std::size_t>(end > 0 ? end : 0);
-    std::string& xml = g_native.xml;
-    xml.clear();
-    xml.reserve(MeasureFragments(g_native.pool, text) + 128);
-    xml += "<SQL>";
-    WriteSpaceElement(text.substr(0, lead), xml);
-    WriteFragments(g_native.pool, root.m_pFirst, text, xml);
-    WriteSpaceElement(text.substr(tail), xml);
-    xml += "</SQL>";
+    const auto tail = static_cast<std::uint32_t>(end > 0 ? end : 0);
+    const std::uint32_t sql = NATIVE_ELEMENT("SQL");
+    NativeValue whole;
+    Append(whole, g_native.pool.NewTag(enFragment::Open, sql));
+    Append(whole, g_native.pool.NewSpace(0, lead));
+    SpliceFragments(g_native.pool, whole.m_pFirst, whole.m_pLast, root.m_pFirst, root.m_pLast);
+    const auto rest = static_cast<std::uint32_t>(g_native.text->size()) - tail;
+    Append(whole, g_native.pool.NewSpace(tail, rest));
+    Append(whole, g_native.pool.NewTag(enFragment::Close, sql));
+    WriteTree({&g_native.pool, whole.m_pFirst, *g_native.text}, g_native.xml);
 }
 
 void Start(const std::string& text)

@@ -1,7 +1,9 @@
-// Any text, or any tree of the generator's, through both ways of flattening: what the native flattener takes,
-// the stylesheet makes the same bytes of, and so it is in a second run. Plain trees must be taken.
+// Any text, or any tree of the generator's, through all ways of flattening: what the native flattener takes,
+// the stylesheet makes the same bytes of, and so it is in a second run. Plain trees must be taken. Fragments
+// in the shape of the tree are flattened into the same as their text.
 //
 // An input that begins with a NUL is a row of choices for the generator, any other is the text itself.
+#include "Tests/Support/FragmentsOfText.h"
 #include "Tests/Support/TreeGenerator.h"
 #include "Tests/Tree/FlattenRoads.h"
 
@@ -40,6 +42,24 @@ std::optional<std::string> Check(const std::string& tree, bool isPlain)
     return natively;
 }
 
+void CheckFragments(const std::string& tree)
+{
+    const CFragmentsOfText fragments(tree);
+    if (!fragments.Tree())
+        return;
+    std::string raw;
+    WriteTree(fragments.Tree(), raw);
+    std::optional<std::string> natively, byFragments;
+    try {
+        natively = FlattenNatively(raw);
+        byFragments = FlattenFragments(fragments.Tree());
+    } catch (const std::length_error&) {
+        return;
+    }
+    if (byFragments != natively)
+        Fail("fragments and their text differ", raw, natively, byFragments);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -50,6 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (data[0] == 0)
         tree = CTreeGenerator(CChoices(std::span(data, size).subspan(1))).Tree();
     const std::optional<std::string> flat = Check(tree.text, tree.isPlain);
+    CheckFragments(tree.text);
     // an empty space as the root leaves nothing for a second run
     if (flat && *flat != kFlatHeader)
         Check(*flat, true);

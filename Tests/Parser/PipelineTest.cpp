@@ -255,6 +255,53 @@ TEST_F(Pipeline, TreeIsFlattened)
     EXPECT_TRUE(xml.ends_with(tree.substr(kHeader.size()))) << xml;
 }
 
+// Who looks at the result before it is flattened finds the raw tree, and the outcome stays the same.
+TEST_F(Pipeline, HooksSeeTheRawTree)
+{
+    constexpr char kText[] = "print 1; print '<\r\n'; print 2;";
+    Start();
+    m_Parser.set_Query(kText);
+    const std::string raw = m_Parser.FastParse();
+    Start();
+    ASSERT_EQ(Parse(kText), UVDB_OK);
+    const std::string flat = Tree();
+
+    std::string seen;
+    const std::function<void()> kLooks[] = {
+        [&] { seen = m_Parser.GetParsedXml(); },
+        [&] { seen = Tree(); },
+        [&] {
+            m_Parser.FastParse(); // another tree in the parser's hands
+            seen = Tree();
+        },
+    };
+    for (const auto& look : kLooks) {
+        Start();
+        m_Parser.m_Flatten = [&] {
+            look();
+            return m_Parser.CUVDBSQLParser::ExecuteTree2Serial();
+        };
+        EXPECT_EQ(Parse(kText), UVDB_OK);
+        EXPECT_EQ(seen, raw);
+        EXPECT_EQ(Tree(), flat);
+    }
+}
+
+// Bytes that no tree can hold are the stylesheet's business, which refuses them.
+TEST_F(Pipeline, BadBytesLeaveTheRawTree)
+{
+    for (const char* const text : {"print '\xC3';", "print 1; -- \xED\xA0\x80\n"}) {
+        SCOPED_TRACE(text);
+        Start();
+        m_Parser.set_Query(text);
+        const std::string raw = m_Parser.FastParse();
+        Start();
+        EXPECT_EQ(Parse(text), UVDB_ERROR);
+        EXPECT_EQ(LastDescription(), "can't transform tree to serial");
+        EXPECT_EQ(Tree(), kHeader + raw);
+    }
+}
+
 TEST_F(Pipeline, TextThatIsNoDocumentStaysAsItIs)
 {
     Start();

@@ -196,6 +196,8 @@ SParseOutcome CEngine::Parse(const std::string& text, const SEngineSettings& set
         m_strException = error.what();
     }
     outcome.tree = m_Parser.m_Extension.m_strParsedXml;
+    if (m_Parser.Tree())
+        WriteTree(m_Parser.Tree(), outcome.tree);
     outcome.coloring = scan.m_strColoring;
     outcome.lastError = m_Parser.m_Extension.m_strLastError;
     outcome.errors = m_Parser.m_Extension.m_mapErrors;

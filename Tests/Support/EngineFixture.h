@@ -48,7 +48,8 @@ public:
     // Scanner and parser of different folders.
     CEngine(const std::string& scannerGrammar, const std::string& parserGrammar);
 
-    // Any number of times on one object. An exception of the engine is part of the outcome.
+    // Any number of times on one object. An exception of the engine is part of the outcome. The text of a
+    // tree that stays in fragments is written here.
     SParseOutcome Parse(const std::string& text, const SEngineSettings& settings = {});
     // Takes the step from state to state out of the tables as they are stored.
     void UseCompressedTables();

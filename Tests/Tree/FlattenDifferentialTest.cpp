@@ -1,7 +1,9 @@
-// The native flattener beside the stylesheet: the same bytes for every tree, on the first run and on the
-// second.
+// The native flattener beside the stylesheet, and from fragments beside from text: the same bytes for every
+// tree, on the first run and on the second.
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Tests/Languages/LanguageFixture.h"
 #include "Tests/Support/EngineFixture.h"
+#include "Tests/Support/FragmentsOfText.h"
 #include "Tests/Support/TreeGenerator.h"
 #include "Tests/Support/TreeShrinker.h"
 #include "Tests/Tree/FlattenRoads.h"
@@ -48,18 +50,58 @@ std::string Shown(const std::optional<std::string>& text)
     return !text ? "nothing" : text->substr(0, kMostShown) + (text->size() > kMostShown ? "..." : "");
 }
 
-void Report(const std::string& tree, bool isPlain)
+// Fragments in the shape of `tree`, if it is one, flattened as they are and from their text.
+SDifference CompareFragments(std::string_view tree, bool canBeOdd = true)
 {
-    const SDifference first = Compare(tree, isPlain);
+    const CFragmentsOfText fragments(tree, canBeOdd);
+    if (!fragments.Tree())
+        return {};
+    std::string raw;
+    WriteTree(fragments.Tree(), raw);
+    SDifference difference = Compare(raw, false);
+    const std::optional<std::string> byFragments = FlattenFragments(fragments.Tree());
+    if (difference.what == nullptr && byFragments != difference.natively)
+        difference = {"fragments and their text differ", difference.natively, byFragments};
+    return difference;
+}
+
+template <class Comparison>
+void Report(const std::string& tree, const Comparison& compare)
+{
+    const SDifference first = compare(tree);
     const std::string small = ShrinkTree(tree, [&](const std::string& smaller) {
-        const SDifference difference = Compare(smaller, isPlain);
+        const SDifference difference = compare(smaller);
         return difference.what == first.what &&
                difference.byStylesheet.has_value() == first.byStylesheet.has_value();
     });
-    const SDifference difference = Compare(small, isPlain);
-    ADD_FAILURE() << first.what << "\ntree:       " << Shown(small)
-                  << "\nstylesheet: " << Shown(difference.byStylesheet)
-                  << "\nnatively:   " << Shown(difference.natively);
+    const SDifference difference = compare(small);
+    ADD_FAILURE() << first.what << "\ntree:   " << Shown(small)
+                  << "\nwanted: " << Shown(difference.byStylesheet)
+                  << "\ngot:    " << Shown(difference.natively);
+}
+
+void Report(const std::string& tree, bool isPlain)
+{
+    Report(tree, [&](std::string_view text) { return Compare(text, isPlain); });
+}
+
+// A parse's tree, which may stay in fragments, on all roads. The stylesheet takes its time: not every tree is
+// for it. Returns: whether there was a tree that the native flattener took.
+bool ExpectSameFragments(CEngine& engine, const std::string& text, const SEngineSettings& settings,
+                         bool isForStylesheet)
+{
+    engine.m_Parser.set_FragmentsWanted(true);
+    const std::string raw = engine.Parse(text, settings).tree;
+    const SFragmentTree fragments = engine.m_Parser.Tree();
+    const std::optional<std::string> natively = FlattenNatively(raw);
+    EXPECT_EQ(static_cast<bool>(fragments), natively.has_value());
+    if (isForStylesheet && !raw.empty() && FlattenByStylesheet(raw) != natively)
+        Report(raw, natively.has_value());
+    if (!fragments || !natively)
+        return false;
+    const std::optional<std::string> byFragments = FlattenFragments(fragments);
+    EXPECT_TRUE(byFragments == natively) << Shown(byFragments) << '\n' << Shown(natively);
+    return true;
 }
 
 // Compares first and second run.
@@ -102,6 +144,8 @@ TEST(FlattenDifferential, RandomTrees)
         SCOPED_TRACE(testing::Message() << "seed " << seed << ", tree " << number);
         plain += tree.isPlain;
         taken += ExpectSame(tree.text, tree.isPlain);
+        if (CompareFragments(tree.text).what != nullptr)
+            Report(tree.text, [](std::string_view text) { return CompareFragments(text); });
         ASSERT_FALSE(HasFailure());
     }
     std::cout << plain << " of them plain, " << taken << " flattened natively\n";
@@ -115,7 +159,9 @@ TEST(FlattenDifferential, LargeRandomTrees)
     CTreeGenerator generator{CChoices(seed)};
     for (const std::size_t elements : {1000u, 3000u, 10000u, 10000u}) {
         SCOPED_TRACE(testing::Message() << "seed " << seed << ", " << elements << " elements");
-        ASSERT_TRUE(ExpectSame(generator.LargeTree(elements), true));
+        const std::string tree = generator.LargeTree(elements);
+        ASSERT_TRUE(ExpectSame(tree, true));
+        ASSERT_STREQ(CompareFragments(tree, false).what, nullptr);
     }
 }
 
@@ -129,6 +175,8 @@ TEST(FlattenDifferential, TreesOfTheFixtureGrammars)
         CEngine engine(name == "Basic" ? "Common" : name);
         for (const SGrammarCase& entry : ReadGrammarCases(name)) {
             SCOPED_TRACE(testing::Message() << name << "/Cases.txt:" << entry.line);
+            ExpectSameFragments(engine, entry.input, entry.settings, true);
+            engine.m_Parser.set_FragmentsWanted(false);
             const std::string tree = engine.Parse(entry.input, entry.settings).tree;
             if (tree.empty())
                 continue;
@@ -144,38 +192,70 @@ TEST(FlattenDifferential, TreesOfTheFixtureGrammars)
     EXPECT_GT(trees, 100u);
 }
 
-TEST(FlattenDifferential, SampleScripts)
+struct SLanguage
 {
-    for (const std::string& path : SamplePaths("PostgreSQL")) {
-        SCOPED_TRACE(path);
-        const std::string tree = PostgreSQL().Parse(ReadFile(path)).tree;
-        ASSERT_FALSE(tree.empty());
-        EXPECT_TRUE(ExpectSame(tree, true));
+    const char* grammar;
+    const char* folder; // of sources, in a corpus
+    int db;
+};
+
+constexpr SLanguage kLanguages[] = {
+    {"PostgreSQL", "postgresql", UVDB_DB_POSTGRESQL},
+    {"JCL", "jcl", UVDB_DB_JCL},
+    {"IBMCL", "cl", UVDB_DB_IBM_CL},
+};
+
+SEngineSettings SettingsOf(const SLanguage& language)
+{
+    SEngineSettings settings;
+    settings.db = language.db;
+    return settings;
+}
+
+TEST(FlattenDifferential, Samples)
+{
+    for (const SLanguage& language : kLanguages) {
+        CEngine engine(language.grammar);
+        for (const std::string& path : SamplePaths(language.grammar)) {
+            SCOPED_TRACE(path);
+            const std::string text = ReadFile(path);
+            EXPECT_TRUE(ExpectSameFragments(engine, text, SettingsOf(language), true));
+            engine.m_Parser.set_FragmentsWanted(false);
+            EXPECT_TRUE(ExpectSame(engine.Parse(text, SettingsOf(language)).tree, true));
+        }
     }
 }
 
-// Set UV_CORPUS to a folder with postgresql/<project>/<script>.sql to have real scripts compared too.
-TEST(FlattenDifferential, RealScripts)
+// Set UV_CORPUS to a folder of sources to have them compared too. Whatever they are written in, they have a
+// tree in some language; those of the languages here have it in theirs.
+TEST(FlattenDifferential, RealSources)
 {
-    constexpr std::uintmax_t kMostBytes = 100000; // the stylesheet takes its time
+    constexpr std::size_t kMostForStylesheet = 20000; // bytes of source
     const char* const corpus = std::getenv("UV_CORPUS");
     if (corpus == nullptr || *corpus == '\0')
         return;
-    const fs::path folder = fs::path(corpus) / "postgresql";
-    ASSERT_TRUE(fs::is_directory(folder)) << folder;
-    std::size_t scripts = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        if (!entry.is_regular_file() || entry.path().extension() != ".sql" || entry.file_size() > kMostBytes)
-            continue;
-        SCOPED_TRACE(entry.path());
-        const std::string tree = PostgreSQL().Parse(ReadFile(entry.path().string())).tree;
-        if (!tree.empty() && FlattenByStylesheet(tree)) {
-            EXPECT_TRUE(ExpectSame(tree, true));
+    std::size_t trees = 0, sources = 0;
+    for (const SLanguage& language : kLanguages) {
+        CEngine engine(language.grammar);
+        for (const auto& folder : fs::directory_iterator(corpus)) {
+            const bool isOwn = std::ranges::any_of(
+                kLanguages, [&](const SLanguage& other) { return folder.path().filename() == other.folder; });
+            if (!folder.is_directory() ||
+                (isOwn ? folder.path().filename() != language.folder : language.db != UVDB_DB_POSTGRESQL))
+                continue;
+            for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+                if (!entry.is_regular_file())
+                    continue;
+                SCOPED_TRACE(entry.path());
+                const std::string text = ReadFile(entry.path().string());
+                trees += ExpectSameFragments(engine, text.substr(0, text.find('\0')), SettingsOf(language),
+                                             text.size() < kMostForStylesheet);
+                ++sources;
+            }
         }
-        ++scripts;
     }
-    std::cout << scripts << " scripts\n";
-    EXPECT_GT(scripts, 0u);
+    std::cout << sources << " sources, " << trees << " trees\n";
+    EXPECT_GT(trees, 0u);
 }
 
 std::string FlatList(std::size_t items)
@@ -245,13 +325,13 @@ TEST(FlattenDifferential, DecisionsFromFarAway)
                 text.erase(at, 1);
                 text.insert(at, Repeated(filler, 4200));
             }
-            const SDifference difference = Compare(text, true);
-            EXPECT_STREQ(difference.what, nullptr);
+            EXPECT_STREQ(Compare(text, true).what, nullptr);
+            EXPECT_STREQ(CompareFragments(text, false).what, nullptr);
         }
 }
 
-// The result is written over the text that has been read. What the walk goes back to must still be there,
-// wherever among the statements a block of output comes to its end.
+// What the walk goes back to must still be there, wherever among the statements a block of events comes to
+// its end.
 TEST(FlattenDifferential, ManyStatementsWithTheirDelimitersBehindThem)
 {
     const auto make = [](int statements, std::string& tree, std::string& flat) {
@@ -275,6 +355,11 @@ TEST(FlattenDifferential, ManyStatementsWithTheirDelimitersBehindThem)
     EXPECT_EQ(FlattenByStylesheet(tree), flat);
     make(50000, tree, flat);
     EXPECT_TRUE(FlattenNatively(tree) == flat);
+    const CFragmentsOfText fragments(tree, false);
+    std::string raw;
+    WriteTree(fragments.Tree(), raw);
+    const std::optional<std::string> natively = FlattenNatively(raw);
+    EXPECT_TRUE(natively && FlattenFragments(fragments.Tree()) == natively);
 }
 
 // A delimiter behind a body is copied into the body's last statement. With bodies inside delimiters the tree

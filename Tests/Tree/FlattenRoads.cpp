@@ -41,3 +41,12 @@ std::optional<std::string> FlattenNatively(std::string_view tree)
         return std::nullopt;
     return flat;
 }
+
+std::optional<std::string> FlattenFragments(const SFragmentTree& tree)
+{
+    if (!MarkTree(tree))
+        return std::nullopt;
+    std::string flat;
+    FlattenTree(tree, flat);
+    return flat;
+}
