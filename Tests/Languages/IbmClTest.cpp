@@ -1,12 +1,11 @@
 // Control language: commands and their parameters, lines and what joins them, and what an error costs.
+#include "Preparation/Formatters/IbmCl.h"
+
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Tests/Languages/LanguageFixture.h"
 #include "Tree/TreeFlattener.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
 
 namespace {
 
@@ -96,12 +95,12 @@ constexpr std::pair<const char*, const char*> kValues[] = {
     {"%SST(&A (&B + 1) 2)", "function_call('%sst' value_list('&a' parenthesized_values(expression('+')) '2'))"},
     {"%PARMS > 1", "expression(function_call('%parms') '>' '1')"},
     {"%UPPER(%TRIM(&A))/2", "expression(function_call(function_call('&a')) '/' '2')"},
-    // a slash joins where it stands right behind a name, and divides elsewhere
+    // a slash joins where it stands right after a name, and divides elsewhere
     {"&A/&B", "qualified_name('&a' '/' '&b')"},
     {"&A /&B", "expression('&a' '/' '&b')"},
     {"&A / &B", "expression('&a' '/' '&b')"},
     {"31/12", "expression('31' '/' '12')"},
-    // an asterisk multiplies behind a value
+    // an asterisk multiplies after a value
     {"&A * &B", "expression('&a' '*' '&b')"},
     {"* &B", "value_list(value_list('*') '&b')"},
     {"&A * ", "value_list(value_list('&a') '*')"},
@@ -137,10 +136,10 @@ constexpr SLines kLines[] = {
     {"A B(1) /* over\nlines */ C(2)\nD", 2},
     {"/* a */ B\n/* c */\n", 1},
     {"A +\n B(1)\nC", 2},
-    {"A +   \r\n B(1) -\n C(2)\nD", 2}, // blanks behind the sign
+    {"A +   \r\n B(1) -\n C(2)\nD", 2}, // blanks after the sign
     {"A B('x +\n   y' 'z-\n')\nC +\n", 2, "'x +\n   y'|'z-\n'"},
     {"L1:\nA\nL2: B\n L3: +\n C", 4},
-    {"A OBJ(B/*ALL) C(D) /* e */\nF /* */", 2}, // no comment in front of the real one
+    {"A OBJ(B/*ALL) C(D) /* e */\nF /* */", 2}, // no comment before the real one
     {"A OBJ(&B/*ALL \"c\"/*ALL *D/*ALL)\nE /* */", 2},
     {"A B/* note */\nC", 2},
     {"A(1)/*x*/\nB", 2},
@@ -161,7 +160,7 @@ TEST(IbmCl, AStatementIsALineAndWhatIsJoinedToIt)
 
 TEST(IbmCl, LabelsStandBesideTheirStatements)
 {
-    // inside of the labeled one, so that a comment in front of the line end isn't beside it
+    // inside of the labeled one, so that a comment before the line end isn't beside it
     const CSyntaxTree tree(ParseWhole("A: RETURN /* b */\nENDPGM: /* c */\n ENDPGM\n").tree);
     EXPECT_TRUE(
         tree.Holds("delimited_pl_sql_statement(labeled_pl_sql_statement(pl_sql_statement_label('a' ':') "
@@ -269,35 +268,29 @@ TEST(IbmCl, ColorsFollowTheWords)
               "51.5 4X'0' / 1IF 8( 1%LEN 8( 2C 8) 8) ");
 }
 
-std::vector<std::string> Samples()
+// As they stand, and with their lines joined, as hosts prepare them.
+TEST(IbmCl, SamplesHoldTheirStatements)
 {
-    std::vector<std::string> texts;
-    for (const std::string& path : SamplePaths("IBMCL"))
-        texts.push_back(ReadFile(path));
-    return texts;
+    std::size_t statements = 0;
+    for (const std::string& text : SampleTexts("IBMCL"))
+        for (const std::string& form : {text, std::string(FormatIbmCl(text + '\n').text) + '\n'}) {
+            const SLanguageParse parse = ParseWhole(form);
+            EXPECT_TRUE(parse.IsClean());
+            statements += CSyntaxTree(parse.tree).Statements().size();
+        }
+    EXPECT_EQ(statements, 2U * 58);
 }
 
-// Without the two control characters that a tree holds others for.
+// Set UV_CORPUS to a folder with cl/<project>/<program> to have real programs parsed too.
+TEST(IbmCl, RealProgramsParse)
+{
+    ExpectRealTexts(IbmCl(), "cl");
+}
+
 TEST(IbmCl, PiecesAndSpoiledProgramsLoseNothing)
 {
-    ExpectPiecesLoseNothing(IbmCl(), Samples());
-    std::mt19937 random(1);
-    const std::string bytes = "&%*/+-'\"()?:|<>=^.,; \r\nA1\xC3\xA4{";
-    for (const std::string& original : Samples())
-        for (int round = 0; round < 300 && !HasFailure(); ++round) {
-            std::string text = original;
-            for (std::size_t changes = 1 + random() % 20; changes > 0; --changes) {
-                const std::size_t at = random() % text.size();
-                const char byte = random() % 4 == 0 ? static_cast<char>(random() % 224 + 32)
-                                                    : bytes[random() % bytes.size()];
-                if (random() % 2 == 0)
-                    text[at] = byte;
-                else
-                    text.insert(at, 1, byte);
-            }
-            SCOPED_TRACE(round);
-            ParseWhole(text);
-        }
+    ExpectPiecesLoseNothing(IbmCl(), SampleTexts("IBMCL"));
+    ExpectSpoiledTextsLoseNothing(IbmCl(), SampleTexts("IBMCL"), "&%*/+-'\"()?:|<>=^.,; \r\nA1\xC3\xA4{");
 }
 
 TEST(IbmClLimits, ProgramsOfManyLines)

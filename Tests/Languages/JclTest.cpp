@@ -173,7 +173,7 @@ TEST(Jcl, DataBelongToTheirStatement)
     const CSyntaxTree tree(ParseWhole("//A DD *\nx\n/*\n//B DD *,X=(\ny\n/*\n").tree);
     EXPECT_TRUE(tree.Holds("delimited_pl_sql_statement(pl_sql_statement(dd_statement('a' operands('*') "
                            "instream_data(instream_lines('x')))) pl_sql_statement_delimiter('/*'))"));
-    // with an error in front of them too
+    // with an error before them too
     EXPECT_TRUE(tree.Holds("delimited_pl_sql_statement(pl_sql_statement(error_statement('b' "
                            "instream_data(instream_lines('y')))) pl_sql_statement_delimiter('/*'))"));
 }
@@ -254,12 +254,15 @@ std::string Changed(const std::string& text, std::size_t width, const char* line
 
 TEST(Jcl, SequenceNumbersAndLineEndsMakeNoDifference)
 {
+    std::size_t statements = 0;
     for (const std::string& path : SamplePaths("JCL")) {
         SCOPED_TRACE(path);
         std::string text = ReadFile(path);
-        EXPECT_TRUE(Jcl().Parse(text).IsClean());
+        const SLanguageParse parse = ParseWhole(text);
+        EXPECT_TRUE(parse.IsClean());
+        statements += CSyntaxTree(parse.tree).Statements().size();
         ExpectPiecesLoseNothing(Jcl(), {text});
-        const std::string skeleton = Skeleton(ParseWhole(text).tree);
+        const std::string skeleton = Skeleton(parse.tree);
         EXPECT_EQ(Skeleton(ParseWhole(Changed(text, 0, "\r\n")).tree), skeleton);
         // an empty record of data would be one of a number
         for (std::size_t at = text.find("\n\n"); at != text.npos; at = text.find("\n\n"))
@@ -268,6 +271,13 @@ TEST(Jcl, SequenceNumbersAndLineEndsMakeNoDifference)
         EXPECT_TRUE(numbered.IsClean());
         EXPECT_EQ(Skeleton(numbered.tree), skeleton);
     }
+    EXPECT_EQ(statements, 48U);
+}
+
+// Set UV_CORPUS to a folder with jcl/<project>/<job> to have real jobs parsed too.
+TEST(Jcl, RealJobsParse)
+{
+    ExpectRealTexts(Jcl(), "jcl");
 }
 
 TEST(Jcl, ColorsFollowTheFields)

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <initializer_list>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +25,7 @@ struct SColoredRange
 {
     int color = 0;
     std::size_t from = 0;
-    std::size_t end = 0; // behind the last byte
+    std::size_t end = 0; // after the last byte
 
     bool operator==(const SColoredRange&) const = default;
 };
@@ -52,9 +51,6 @@ private:
 // One for the whole program: a parse must not depend on the ones before it.
 CLanguage& PostgreSQL();
 
-// Lines of three numbers: color, first byte, last byte.
-std::vector<SColoredRange> ReadColoring(std::string_view coloring);
-
 // An element of a tree that isn't space, in the order of the start tags. Offsets count bytes of the text.
 struct SElement
 {
@@ -62,7 +58,7 @@ struct SElement
     std::string text; // of a token
     bool isToken = false;
     std::size_t from = 0; // first byte that isn't space
-    std::size_t end = 0;  // behind the last such byte
+    std::size_t end = 0;  // after the last such byte
     std::size_t next = 0; // index of the first element that isn't inside this one
     std::size_t xmlFrom = 0, xmlEnd = 0;
 };
@@ -96,8 +92,12 @@ private:
 
 // Parses to the end; what is lost of the text is a failure.
 SLanguageParse ParseWhole(CLanguage& language, const std::string& text);
-// Each text up to every length, parsed whole.
-void ExpectPiecesLoseNothing(CLanguage& language, const std::vector<std::string>& texts);
+// Each text up to every length, or every `step`-th, parsed whole.
+void ExpectPiecesLoseNothing(CLanguage& language, const std::vector<std::string>& texts,
+                             std::size_t step = 1);
+// Each text with bytes changed, put in and taken out at random, parsed whole. Three of four are `favourites`.
+void ExpectSpoiledTextsLoseNothing(CLanguage& language, const std::vector<std::string>& texts,
+                                   std::string_view favourites);
 // The statement alone on its line, with each of the line ends: clean, and its tree holds the pattern.
 void ExpectStatement(CLanguage& language, const std::string& text, std::initializer_list<const char*> ends,
                      const char* pattern);
@@ -108,39 +108,16 @@ std::size_t DepthOf(const std::string& xml);
 // Each colored piece with its color in front, blanks between; "/" for a line end.
 std::string ShownColors(CLanguage& language, const std::string& text);
 
-// How far the statements of trees are those that a reader of lines finds, which knows no grammar.
-struct SLineCoverage
-{
-    std::size_t statements = 0; // that the reader finds
-    std::size_t clean = 0;      // those that the tree has in the same place, without an error
-    std::size_t nodes = 0;      // statements of the trees
-    std::size_t unexpected = 0; // tokens
-
-    double Percent() const
-    {
-        return statements == 0 ? 0.0 : 100.0 * static_cast<double>(clean) / static_cast<double>(statements);
-    }
-};
-
-struct SLineJudge
-{
-    // The offset of the first byte of each statement.
-    std::vector<std::size_t> (*read)(const std::string& text);
-    // Whether a statement of the tree is without an error; nothing for one that isn't for the reader.
-    std::optional<bool> (*isClean)(const CSyntaxTree& tree, const SElement& statement,
-                                   const std::vector<SUnexpectedToken>& unexpected);
-};
-
-// Adds a text, of which nothing may be lost.
-void CoverLines(CLanguage& language, const std::string& text, const SLineJudge& judge,
-                SLineCoverage& coverage);
-// Prints it, and puts it into the report of the test.
-void TellCoverage(const char* what, std::size_t files, const SLineCoverage& coverage);
+// Parses the files below a folder of the corpus: nothing of them is lost, and of ten statements nine have no
+// unexpected token.
+void ExpectRealTexts(CLanguage& language, const char* folder);
 
 // The files below a folder of the corpus, sorted; none if UV_CORPUS isn't set. Licenses are left out.
 std::vector<std::string> CorpusPaths(const char* folder);
 
-// The file's bytes. Throws: std::runtime_error if it can't be read.
+// The file's bytes.
+// Throws: std::runtime_error if it can't be read.
 std::string ReadFile(const std::string& path);
 // The sample scripts of a language, by path, sorted.
 std::vector<std::string> SamplePaths(const char* language);
+std::vector<std::string> SampleTexts(const char* language);

@@ -1,108 +1,32 @@
-// Whole scripts beside a second opinion, and texts of a size that a bad algorithm doesn't survive.
+// Whole scripts, and texts of a size that a bad algorithm doesn't survive.
 #include "Tests/Languages/LanguageFixture.h"
-#include "Tests/Languages/PostgreSQLJudge.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iostream>
 
 namespace {
-
-// The script without what the judge doesn't know: the client's own lines and copied data become blanks, and a
-// client command that sends the statement becomes its delimiter.
-std::string ForTheJudge(const std::string& script)
-{
-    std::string text(script.size(), ' ');
-    for (std::size_t at = script.find('\n'); at != script.npos; at = script.find('\n', at + 1))
-        text[at] = '\n';
-    for (const SColoredRange& range : PostgreSQL().Scan(script)) {
-        if (range.color == kCommentColor)
-            continue;
-        if (script[range.from] == '\\')
-            text[range.from] = ';';
-        else
-            text.replace(range.from, range.end - range.from, script, range.from, range.end - range.from);
-    }
-    return text;
-}
-
-struct SCoverage
-{
-    int judged = 0; // statements that the judge accepts
-    int clean = 0;  // those without an unexpected token
-
-    double Percent() const { return judged == 0 ? 0.0 : 100.0 * clean / judged; }
-};
-
-// Parses a script, which must keep every byte, and compares it statement by statement.
-void Cover(const std::string& path, SCoverage& coverage, bool namesBadStatements)
-{
-    SCOPED_TRACE(path);
-    const std::string script = ReadFile(path);
-    const SLanguageParse parse = PostgreSQL().Parse(script);
-    ASSERT_TRUE(parse.isComplete);
-    std::string shown = script;
-    std::erase(shown, '\f');
-    EXPECT_TRUE(TextOfTree(parse.tree) == shown);
-
-    const std::string text = ForTheJudge(script);
-    auto statements = JudgeSplit(text);
-    if (!statements) {
-        // one that it can't scan hides the others: take them apart by their delimiters
-        statements.emplace();
-        for (std::size_t from = 0; from < text.size();) {
-            const std::size_t end = std::min(text.find(';', from), text.size());
-            statements->push_back({from, end});
-            from = end + 1;
-        }
-    }
-    for (const SByteRange& statement : *statements) {
-        const std::string sql = text.substr(statement.from, statement.end - statement.from);
-        if (sql.find_first_not_of(" \t\r\n\f\v") == sql.npos || !JudgeAccepts(sql))
-            continue;
-        ++coverage.judged;
-        const auto bad = std::ranges::find_if(parse.unexpected, [&](const SUnexpectedToken& token) {
-            return token.offset >= statement.from && token.offset <= statement.end;
-        });
-        coverage.clean += bad == parse.unexpected.end();
-        if (namesBadStatements && bad != parse.unexpected.end())
-            ADD_FAILURE() << "unexpected " << bad->text << " in\n" << sql;
-    }
-}
-
-TEST(PostgreSQLCorpus, SamplesParseAsTheServerParsesThem)
-{
-    SCoverage coverage;
-    for (const std::string& path : SamplePaths("PostgreSQL")) {
-        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage, true));
-        // what the judge doesn't know, such as the client's variables, is no error either
-        EXPECT_TRUE(PostgreSQL().Parse(ReadFile(path)).IsClean()) << path;
-    }
-    EXPECT_GE(coverage.judged, 25);
-}
-
-// Set UV_CORPUS to a folder with postgresql/<project>/<script>.sql to have real scripts covered too.
-TEST(PostgreSQLCorpus, RealScriptsParse)
-{
-    std::vector<std::string> paths = CorpusPaths("postgresql");
-    std::erase_if(paths, [](const std::string& path) { return !path.ends_with(".sql"); });
-    if (paths.empty())
-        return;
-    SCoverage coverage;
-    for (const std::string& path : paths)
-        ASSERT_NO_FATAL_FAILURE(Cover(path, coverage, false));
-    std::cout << paths.size() << " scripts, " << coverage.judged
-              << " statements that the server's grammar accepts, " << coverage.clean
-              << " without an unexpected token (" << coverage.Percent() << " %)\n";
-    RecordProperty("judged", coverage.judged);
-    RecordProperty("clean", coverage.clean);
-    EXPECT_GE(coverage.Percent(), 70.0);
-}
 
 SLanguageParse ParseWhole(const std::string& text)
 {
     return ParseWhole(PostgreSQL(), text);
+}
+
+TEST(PostgreSQLCorpus, SamplesHoldTheirStatements)
+{
+    std::size_t statements = 0;
+    for (const std::string& script : SampleTexts("PostgreSQL")) {
+        const SLanguageParse parse = ParseWhole(script);
+        EXPECT_TRUE(parse.IsClean());
+        statements += CSyntaxTree(parse.tree).Statements().size();
+    }
+    EXPECT_EQ(statements, 27U);
+}
+
+// Set UV_CORPUS to a folder with postgresql/<project>/<script> to have real scripts parsed too.
+TEST(PostgreSQLCorpus, RealScriptsParse)
+{
+    ExpectRealTexts(PostgreSQL(), "postgresql");
 }
 
 TEST(PostgreSQLLimits, NestingOfAnyDepth)

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <functional>
 #include <map>
-#include <random>
 
 namespace {
 
@@ -36,7 +35,7 @@ std::vector<std::string> Script()
 using Tokens = std::vector<std::string>;
 
 // Each spoils the tokens of a statement; its delimiter isn't among them. None opens what has no end: a
-// string, a comment, the body of a routine would take in the statements behind.
+// string, a comment, the body of a routine would take in the next statements.
 struct SSpoiler
 {
     const char* name;
@@ -184,76 +183,16 @@ TEST(PostgreSQLErrors, OpenTextLeavesWhatStandsBeforeIt)
     }
 }
 
-// What a tree shows of a text whose spaces hold one of the two control characters that XML has no place for.
-// Inside of tokens they stay.
-std::string ShownText(std::string text)
+TEST(PostgreSQLMutations, LoseNothing)
 {
-    std::erase(text, '\f');
-    for (std::size_t at = text.find('\x10'); at != text.npos; at = text.find('\x10', at))
-        text.replace(at, 1, "ORVANTA_DATA_LINK_ESCAPE_REPLACER");
-    return text;
-}
-
-void ExpectLossless(const std::string& text)
-{
-    const SLanguageParse parse = PostgreSQL().Parse(text);
-    ASSERT_TRUE(parse.isComplete) << text;
-    ASSERT_EQ(ShownText(TextOfTree(parse.tree)), ShownText(text));
-}
-
-class PostgreSQLMutations : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        for (const std::string& path : SamplePaths("PostgreSQL"))
-            m_lstTexts.push_back(ReadFile(path));
-        ASSERT_FALSE(m_lstTexts.empty());
-        m_lstTexts.emplace_back();
-        for (const std::string& statement : Script())
-            m_lstTexts.back() += statement + ";\n";
-    }
-
-    std::size_t Random(std::size_t below)
-    {
-        return std::uniform_int_distribution<std::size_t>(0, below - 1)(m_Random);
-    }
-
-    std::mt19937 m_Random{15};
-    std::vector<std::string> m_lstTexts;
-};
-
-TEST_F(PostgreSQLMutations, ChangedBytes)
-{
-    constexpr std::string_view kFavourites = "'\"$;()\\*/-\n:EeUuNn&.0 \t\r\f\v\x10\x7F\x80\xC3\xFF<>&";
-    for (const std::string& original : m_lstTexts)
-        for (int round = 0; round < 150; ++round) {
-            std::string text = original;
-            for (std::size_t changes = 1 + Random(8); changes > 0; --changes) {
-                const std::size_t at = Random(text.size());
-                const char byte = Random(3) == 0 ? static_cast<char>(Random(255) + 1)
-                                                 : kFavourites[Random(kFavourites.size())];
-                switch (Random(3)) {
-                case 0:
-                    text[at] = byte;
-                    break;
-                case 1:
-                    text.insert(at, 1, byte);
-                    break;
-                default:
-                    text.erase(at, 1 + Random(3));
-                }
-            }
-            ASSERT_NO_FATAL_FAILURE(ExpectLossless(text));
-        }
-}
-
-TEST_F(PostgreSQLMutations, Truncations)
-{
-    ExpectLossless("select 1\xEF\xBB\xBF;");
-    for (const std::string& original : m_lstTexts)
-        for (std::size_t length = 0; length < original.size(); length += 1 + length % 13)
-            ASSERT_NO_FATAL_FAILURE(ExpectLossless(original.substr(0, length))) << length << " bytes";
+    std::vector<std::string> texts = SampleTexts("PostgreSQL");
+    texts.emplace_back();
+    for (const std::string& statement : Script())
+        texts.back() += statement + ";\n";
+    ExpectSpoiledTextsLoseNothing(PostgreSQL(), texts,
+                                  "'\"$;()\\*/-\n:EeUuNn&.0 \t\r\f\v\x10\x7F\x80\xC3\xFF<>&");
+    texts.push_back("select 1\xEF\xBB\xBF;");
+    ExpectPiecesLoseNothing(PostgreSQL(), texts, 7);
 }
 
 } // namespace

@@ -15,7 +15,8 @@ class CMessage
 public:
     explicit CMessage(std::string_view bytes) : m_Rest(bytes) {}
 
-    // The next field. Returns: false at the end.
+    // The next field.
+    // Returns: false at the end.
     bool Next()
     {
         if (m_Rest.empty())
@@ -121,19 +122,4 @@ std::optional<std::vector<SByteRange>> JudgeScan(const std::string& sql)
     }
     pg_query_free_scan_result(result);
     return tokens;
-}
-
-std::optional<std::vector<SByteRange>> JudgeSplit(const std::string& sql)
-{
-    const PgQuerySplitResult result = pg_query_split_with_scanner(sql.c_str());
-    std::optional<std::vector<SByteRange>> statements;
-    if (result.error == nullptr) {
-        statements.emplace();
-        for (int i = 0; i < result.n_stmts; ++i) {
-            const auto from = static_cast<std::size_t>(result.stmts[i]->stmt_location);
-            statements->push_back({from, from + static_cast<std::size_t>(result.stmts[i]->stmt_len)});
-        }
-    }
-    pg_query_free_split_result(result);
-    return statements;
 }

@@ -9,7 +9,7 @@
 struct SByteRange
 {
     std::size_t from = 0;
-    std::size_t end = 0; // behind the last byte
+    std::size_t end = 0; // after the last byte
 
     bool operator==(const SByteRange&) const = default;
 };
@@ -19,5 +19,3 @@ bool JudgeAccepts(const std::string& sql);
 std::optional<std::string> JudgeTree(const std::string& sql);
 // The tokens, comments left out; nothing for a text that it can't scan.
 std::optional<std::vector<SByteRange>> JudgeScan(const std::string& sql);
-// The statements of a script; nothing for a text that it can't scan.
-std::optional<std::vector<SByteRange>> JudgeSplit(const std::string& sql);
