@@ -4,7 +4,6 @@
 #include "Tests/Preparation/ToldNotes.h"
 #include "Tests/Support/ScratchFolder.h"
 
-#include <boost/regex.hpp>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -160,46 +159,6 @@ TEST(Asp, NotesTellWhatIsMissing)
               "W :3 include file not found below the folder of INCLUDE_ROOT: ../out.inc\n" + missing);
     EXPECT_EQ(page.messages.front(),
               "\nError(parser): File " + folder.Path("site/../out.inc") + " does not exist.\n\n");
-}
-
-// Takes the lines that markers make out again.
-std::string WithoutMarkers(const SAspPage& page)
-{
-    std::string text = page.prepared.text;
-    for (std::size_t i = page.blocks.size(); i-- != 0;) {
-        const std::string first = "\n" + std::string(page.blocks[i].marker) + "\n";
-        const std::size_t begin = text.find(first);
-        if (begin == text.npos)
-            return "marker " + std::to_string(i) + " is missing";
-        text.erase(begin, first.size());
-        const std::string last = std::string(page.blocks[i].marker) + "\n";
-        const std::size_t end = text.find(last, begin);
-        if (end == text.npos)
-            return "marker " + std::to_string(i) + " has no partner";
-        text.erase(end, last.size());
-    }
-    return text;
-}
-
-TEST(Asp, RealPages)
-{
-    for (const SCorpusFile& file : CorpusFiles("asp")) {
-        SCOPED_TRACE(file.path);
-        const SAspPage page = FormatAsp(file.text, {"/nowhere/page.asp"});
-        const boost::regex include("<!--\\s*#include\\s+file\\s*=\\s*\"([^\\n\\r]*?)\"\\s*-->");
-        EXPECT_EQ(WithoutMarkers(page), boost::regex_replace(file.text, include, ""));
-        // each line stands where it says
-        const std::vector<std::string> lines = LinesOf(page.prepared.text), source = LinesOf(file.text);
-        ASSERT_EQ(page.prepared.sourceLines.size(), lines.size());
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            if (lines[i].find("ORVANTA") != std::string::npos)
-                continue;
-            const std::string line =
-                boost::regex_replace(source.at(page.prepared.sourceLines[i] - 1), include, "");
-            EXPECT_NE(line.find(lines[i]), std::string::npos) << lines[i];
-        }
-        FormatAsp(file.text, {file.path}); // with the files that are there
-    }
 }
 
 TEST(Asp, AnySize)

@@ -18,12 +18,6 @@ constexpr SCobolOptions kCollapsed{
     .format = enCobolFormat::Fixed, .removesFormatting = true, .isFaithful = true};
 constexpr SCobolOptions kFree{.format = enCobolFormat::Free, .isFaithful = true};
 
-std::string Padded(std::string text, std::size_t width)
-{
-    text.resize(std::max(width, text.size()), ' ');
-    return text;
-}
-
 void ExpectAll(const std::vector<SPassCase>& cases, const SCobolOptions& options)
 {
     for (const SPassCase& c : cases)

@@ -1,12 +1,12 @@
 #include "Preparation/Formatters/Cobol.h"
 
 #include "Tests/Preparation/FormatterFixture.h"
-#include "UVEnvironment/UVEUnicode.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -19,13 +19,6 @@ void ExpectAll(const std::vector<SPassCase>& cases, const SCobolOptions& options
 {
     for (const SPassCase& c : cases)
         ExpectPrepared(c, FormatCobol(c.input, options));
-}
-
-// `text` with blanks behind it up to `width` bytes.
-std::string Padded(std::string text, std::size_t width)
-{
-    text.resize(std::max(width, text.size()), ' ');
-    return text;
 }
 
 TEST(CobolFormatter, OtherFormatsGiveNothing)
@@ -162,128 +155,27 @@ TEST(CobolFreeForm, LinesAndContinuations)
                    FormatCobol("\t\n A", {.format = enCobolFormat::Free, .tabWidth = 0}));
 }
 
-// ---- Fixed form over whole sources, looked at column by column ----
-
-std::u32string CodePoints(std::string_view text)
+// A program with a bit of all of these.
+TEST(CobolFixedForm, LinesOfAWholeProgram)
 {
-    return Uve::utf8_to_ucs4_fast(text);
-}
-
-struct SCard
-{
-    std::u32string columns; // tabs expanded
-    std::u32string raw;
-    bool isShort, isInclude, isContinuation, isWhole;
-};
-
-SCard ReadCard(const std::string& line)
-{
-    SCard card{{}, CodePoints(line), false, false, false, false};
-    for (const char32_t c : card.raw)
-        card.columns.append(c == U'\t' ? 4 : 1, c == U'\t' ? U' ' : c);
-    card.isShort = card.columns.size() < 7;
-    const char32_t indicator = card.isShort ? U' ' : card.columns[6];
-    card.isWhole = indicator == U'$';
-    card.isInclude = !card.isShort && (card.columns.compare(0, 4, U"-INC") == 0 ||
-                                       card.columns.compare(0, 7, U"ZMEMBER") == 0);
-    card.isContinuation = indicator == U'-' && !card.isInclude;
-    return card;
-}
-
-// The sources have no include lines with "*" in column 6, and no letters beyond ASCII there.
-void ExpectColumnsHold(const std::string& source)
-{
-    const SPreparedText prepared = FormatCobol(source, kFixed);
-    ASSERT_NO_FATAL_FAILURE(ExpectLinesAreKept(source, prepared));
-    const std::vector<std::string> lines = LinesOf(prepared.text), cards = LinesOf(source);
-    std::size_t next = 0;   // prepared line
-    std::u32string written; // of that line, what no card has accounted for
-    std::u32string before;
-    for (std::size_t at = 0; at != cards.size(); ++at) {
-        if (cards[at].empty())
-            continue;
-        SCOPED_TRACE(testing::Message() << "line " << at + 1 << ": " << cards[at]);
-        const SCard card = ReadCard(cards[at]);
-        if (card.isContinuation) {
-            // the piece that goes on stands where the card before ends, column 72 or later
-            std::u32string piece = card.columns.substr(7, 65);
-            piece.erase(0, std::min(piece.find_first_not_of(U' '), piece.size()));
-            if (!piece.empty() && (piece[0] == U'\'' || piece[0] == U'"'))
-                piece.erase(0, 1);
-            const std::u32string gap(before.size() < 72 ? 72 - before.size() : 0, U' ');
-            ASSERT_EQ(written.substr(0, gap.size()), gap);
-            ASSERT_EQ(written.substr(gap.size(), piece.size()), piece);
-            written.erase(0, gap.size() + piece.size());
-            before = card.raw;
-            continue;
-        }
-        ASSERT_TRUE(written.empty()); // nothing else is in the line before
-        ASSERT_LT(next, lines.size());
-        ASSERT_EQ(prepared.sourceLines[next], at + 1);
-        written = CodePoints(lines[next++]);
-        before = card.raw;
-        if (card.isInclude) {
-            ASSERT_EQ(written, card.columns.substr(0, 72));
-            written.clear();
-            continue;
-        }
-        const bool dropsIndicator = !card.isShort && card.columns[6] < 0x80 &&
-                                    std::isalpha(static_cast<int>(card.columns[6])) &&
-                                    card.columns[6] != U'D' && card.columns[6] != U'd';
-        std::size_t column = card.isShort ? card.columns.size() : dropsIndicator ? 7 : 6;
-        const std::size_t end =
-            card.isWhole ? card.columns.size() : std::min<std::size_t>(card.columns.size(), 72);
-        ASSERT_GE(written.size(), 6u);
-        ASSERT_EQ(written.substr(0, 6), std::u32string(6, U' '));
-        written.erase(0, 6);
-        const std::size_t first = card.columns.find_first_not_of(U' ', column);
-        for (; column < end; ++column) {
-            const bool isCondition = first < end && end - first > 2 && (card.columns[first] | 32) == U'i' &&
-                                     (card.columns[first + 1] | 32) == U'f' &&
-                                     card.columns[first + 2] == U' ';
-            if (column + 1 == end && card.columns[column] == U',' && isCondition)
-                break;
-            ASSERT_FALSE(written.empty());
-            ASSERT_EQ(written[0], card.columns[column]) << "column " << column;
-            written.erase(0, 1);
-        }
-    }
-    EXPECT_TRUE(written.empty());
-    for (; next < lines.size(); ++next)
-        EXPECT_EQ(lines[next], ""); // the line feeds at the end
-    const std::size_t final = source.size() - (source.find_last_not_of('\n') + 1);
-    EXPECT_TRUE(prepared.text.ends_with(std::string(final, '\n')));
-    EXPECT_FALSE(prepared.text.ends_with(std::string(final + 1, '\n')));
-}
-
-TEST(CobolFixedForm, EveryColumnComesFromItsCard)
-{
-    ExpectColumnsHold("      *HEADER" + std::string(70, '=') + "\n000100 ID DIVISION." +
-                      std::string(60, ' ') + "PROG\n\n000200 01 A VALUE \"x" + std::string(40, 'y') +
-                      "\n000300-    \"z\n000400-  '\".\n" +
-                      "000500\tIF A,\n000600D B\n000700E C\n0008\n-INC MEMBER\n000900$ S" +
-                      std::string(70, 's') + "\n001000/ ä\n\n\n");
-}
-
-TEST(CobolFixedForm, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("cobol-fixed")) {
-        SCOPED_TRACE(file.path);
-        ExpectColumnsHold(file.text);
-        const SPreparedText collapsed = FormatCobol(file.text, kCollapsed),
-                            free = FormatCobol(file.text, kFree);
-        ExpectLinesAreKept(file.text, collapsed);
-        ExpectLinesAreKept(file.text, free);
-        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(free.text);
-        for (std::size_t i = 0; i < lines.size(); ++i) // what goes on stands behind it
-            EXPECT_TRUE(lines[i].starts_with(
-                Padded("", 6) + source.at(free.sourceLines[i] - 1).substr(6, lines[i].size() - 6)));
-    }
+    const std::string rule(70, '=');
+    ExpectAll(
+        {{"      *HEADER" + rule + "\n000100 ID DIVISION." + std::string(60, ' ') +
+              "PROG\n\n000200 01 A VALUE \"x" + std::string(40, 'y') + "\n000300-    \"z\n000400-  '\".\n" +
+              "000500\tIF A,\n000600D B\n000700E C\n0008\n-INC MEMBER\n000900$ S" + rule +
+              "\n001000/ ä\n\n\n",
+          "      *HEADER" + rule.substr(0, 59) + "\n       ID DIVISION." + std::string(53, ' ') +
+              "\n       01 A VALUE \"x" + std::string(40, 'y') + std::string(12, ' ') + "z" +
+              std::string(59, ' ') +
+              "\".\n          IF A\n      D B\n       C\n      \n-INC MEMBER\n      $ S" + rule +
+              "\n      / ä\n\n\n",
+          {1, 2, 4, 7, 8, 9, 10, 11, 12, 13, 14, 15}}},
+        kFixed);
 }
 
 TEST(CobolFormatter, AnySize)
 {
-    // comments as far as the eye reaches, and every continuation goes in front of them
+    // comments as far as the eye reaches, and every continuation goes before them
     const std::string comments = Repeated("      *\n", 1 << 18);
     EXPECT_TRUE(
         FormatCobol("       A\n" + comments + Repeated("      -B\n", 1 << 18) + comments + "      -C", kFree)

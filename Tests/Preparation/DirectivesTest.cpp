@@ -60,9 +60,8 @@ TEST(Directives, KnownConditionsAreDecidedAndOthersStay)
              {"{$IFDEF Release}\na\n{$ELSE}\nb\n{$ENDIF}", "{$IFDEF Release}\na\n{$ELSE}\nb\n{$ENDIF}"},
              {"{$IFDEF FOO}\na\n{$ELSE}\nb\n{$ENDIF}", "{$IFDEF FOO}\na\n{$ELSE}\nb\n{$ENDIF}"},
              {"{$IFNDEF}\na\n{$ENDIF}", "{$IFNDEF}\na\n{$ENDIF}"},
-             {"x {$IFDEF RELEASE} y\na\nz {$ENDIF} z", "a"}, // the text beside a directive goes with it
-             {"{$IFDEF RELEASE}\na\n{$ENDIF};\nb",
-              "a\n;\nb"}, // the delimiter comes back in front of what is kept
+             {"x {$IFDEF RELEASE} y\na\nz {$ENDIF} z", "a"},   // the text beside a directive goes with it
+             {"{$IFDEF RELEASE}\na\n{$ENDIF};\nb", "a\n;\nb"}, // the delimiter comes back before what is kept
              {"{$IFDEF RELEASE}\na\n{$ELSE},\nb\n{$ENDIF}\nc", "a\nc"}, // the last directive's counts
              {"{$IFDEF RELEASE},\n{$IFDEF D2007NET}\na\n{$ENDIF}\nb\n{$ENDIF}", "a\nb"},
              {"{$IFDEF RELEASE}\n{$R x}\n{$ELSE}\n{$R y}\n{$ENDIF}",
@@ -75,7 +74,7 @@ TEST(Directives, KnownConditionsAreDecidedAndOthersStay)
              {"{$IFDEF RELEASE}\na\n{$ELSE}\n{$IFDEF FOO}\nb\n{$ENDIF}\n{$ENDIF}\nc", "a\nc"},
              {"{$IFNDEF RELEASE}\n{$IFDEF FOO}\nb\n{$ENDIF}\n{$ELSE}\n{$IFDEF BAR}\na\n{$ENDIF}\n{$ENDIF}",
               "{$IFDEF BAR}\na\n{$ENDIF}"},
-             // what a live branch left behind survives a dead construct
+             // what a live branch left survives a dead construct
              {"{$IFDEF RELEASE}\n{$IFDEF A}\na\n{$ENDIF}\n{$ELSE}\n{$IFDEF B}\nb\n{$ENDIF}\n{$ENDIF}\nc",
               "{$IFDEF A}\na\n{$ENDIF}\nc"},
              {"{$IFDEF A}\n{$IFDEF RELEASE}\n{$IFNDEF RELEASE}\nx\n{$ENDIF}\ny\n{$ENDIF}\n{$ENDIF}",

@@ -56,7 +56,7 @@ TEST(ESQLPreprocessor, PreprocessorLinesLoseTheDollar)
     ExpectRewritten({
         {"$ifdef X\n$define N 3\n$endif\n", "ifdef X\ndefine N 3\nendif\n"},
         {"$include|a\n$INCLUDE\ta\n", "include|a\nINCLUDE\ta\n"},
-        {"$ ifdef X\n", "$ ifdef X\n"}, // the word stands right behind it
+        {"$ ifdef X\n", "$ ifdef X\n"}, // the word stands right after it
         {"$include\n$else\n", "$include\n$else\n"},
         {"$endif_x", "endif_x"},
     });
@@ -232,48 +232,6 @@ TEST(ESQLPreprocessor, AnySize)
     EXPECT_EQ(lengthOf("$" + std::string(size, ' ') + "int x"), size + 5);
     EXPECT_EQ(lengthOf("$typedef int a" + filled(",q") + ";$q x;\n"),
               size + 20 + kBegin.size() + kEnd.size() - 1);
-}
-
-// A source in "EXEC SQL" notation in the other one, as far as statements and their variables go.
-std::string InDollarNotation(const std::string& source)
-{
-    static const boost::regex kStatement(
-        "/\\*[\\s\\S]*?\\*/|//[^\\n]*\\n|EXEC SQL "
-        "(?=\\s*(?i:select|insert|update|delete|fetch|open|close|declare|prepare|"
-        "execute|begin|connect|commit|create|drop|set|type|var)\\s)([^;]*;)");
-    static const boost::regex kVariable("(?<!:):(?=[a-z_])", boost::regex::icase);
-    std::string text;
-    auto written = source.begin();
-    for (boost::sregex_iterator hit(source.begin(), source.end(), kStatement), last; hit != last; ++hit) {
-        if (!(*hit)[1].matched)
-            continue;
-        text.append(written, (*hit)[0].first);
-        text += '$' + boost::regex_replace((*hit)[1].str(), kVariable, "$$");
-        written = (*hit)[0].second;
-    }
-    return text.append(written, source.end());
-}
-
-TEST(ESQLPreprocessor, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("esqlc")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = RewriteEmbeddedSql(file.text);
-        const std::vector<std::string> lines = LinesOf(prepared.text);
-        const std::vector<std::string> sourceLines = LinesOf(file.text);
-        // these know the other notation only: no line comes or goes, and a "$" is at most a variable's
-        ASSERT_EQ(lines.size(), sourceLines.size());
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            EXPECT_EQ(prepared.sourceLines[i], i + 1);
-            std::string expected = sourceLines[i];
-            if (lines[i] != expected)
-                std::ranges::replace(expected, '$', ':');
-            EXPECT_EQ(lines[i], expected);
-        }
-
-        const std::string other = InDollarNotation(file.text);
-        EXPECT_TRUE(RewriteEmbeddedSql(other).text == prepared.text);
-    }
 }
 
 } // namespace

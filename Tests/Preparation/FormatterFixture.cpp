@@ -41,6 +41,12 @@ std::vector<std::string> LinesOf(std::string_view text)
     return lines;
 }
 
+std::string Padded(std::string text, std::size_t width)
+{
+    text.resize(std::max(width, text.size()), ' ');
+    return text;
+}
+
 std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces, std::size_t longest)
 {
     std::string text;

@@ -27,6 +27,9 @@ void ExpectLinesAreKept(std::string_view source, const SPreparedText& prepared);
 // The lines of `text`; the last one may be open. Nothing for an empty text.
 std::vector<std::string> LinesOf(std::string_view text);
 
+// `text` with blanks after it up to `width` bytes.
+std::string Padded(std::string text, std::size_t width);
+
 // A text of up to `longest` of the pieces.
 std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces, std::size_t longest);
 

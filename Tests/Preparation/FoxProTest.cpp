@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace {
 
 TEST(FoxProFormatter, StatementsAreJoined)
@@ -28,7 +26,7 @@ TEST(FoxProFormatter, StatementsAreJoined)
              {"a = 1 ; && note\nb = 2", "a = 1  && note\nb = 2", {1, 2}},
              {"a ;&& x ; && y  \nb", "a && x  && y\nb", {1, 2}},
              {"a && note ;\nb", "a && note  b", {1}},
-             // anything else behind it stays, and so does the rest of the line
+             // anything else after it stays, and so does the rest of the line
              {"a ; b ;\nc", "a ; b ;\nc", {1, 2}},
              {"a ;; && x\nb", "a ;; && x\nb", {1, 2}},
          })
@@ -57,7 +55,7 @@ TEST(FoxProFormatter, OtherCharactersOnLinesWithSemicolons)
              {"* é;\n", "* é;", {1}},
              {"é = '€😀;' + ;\nü\nä", "` = '``;' +  `\nä", {1, 3}},
              {"a = 'é;\nü'", "a = '``'", {1}},
-             {"é; ü", "`; ü", {1}},                    // not behind the ";" that stays
+             {"é; ü", "`; ü", {1}},                    // not after the ";" that stays
              {"a = '\xE9;' ;\nb", "a = '`;'  b", {1}}, // a byte of some other encoding hides no quote
          })
         ExpectPrepared(c, FormatFoxPro(c.input));
@@ -102,23 +100,6 @@ TEST(FoxProFormatter, LossesAreTold)
     EXPECT_EQ(notes[2].text, "1 line lost what follows a \";\" within a literal that goes on");
 }
 
-TEST(FoxProFormatter, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("foxpro")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = FormatFoxPro(file.text);
-        ExpectLinesAreKept(file.text, prepared);
-        // a line without any sign of these stands there as it was, unless a statement goes on with it
-        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            const std::string& line = source.at(prepared.sourceLines[i] - 1);
-            if (line.find_first_of(";*") == line.npos) {
-                EXPECT_EQ(lines[i], line);
-            }
-        }
-    }
-}
-
 TEST(FoxProFormatter, AnySize)
 {
     const std::size_t count = 1 << 18;
@@ -127,7 +108,7 @@ TEST(FoxProFormatter, AnySize)
     };
     EXPECT_TRUE(text("", "statement + 12;\n", count) + " " == Repeated("statement + 12 ", count));
     EXPECT_TRUE(text("'", "statement + 12;\n", count) == "'" + Repeated("statement + 12", count));
-    // every ";" asks what is behind it
+    // every ";" asks what is after it
     EXPECT_TRUE(text("'", ";", 2 << 20) == "'" + std::string(2 << 20, ';'));
     EXPECT_TRUE(text("'", ";&&", 1 << 20) == "'");
     EXPECT_TRUE(text("", "; && ", 1 << 20) == Repeated(" && ", (1 << 20) - 1) + " &&");

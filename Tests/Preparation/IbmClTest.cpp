@@ -18,7 +18,7 @@ TEST(IbmClFormatter, CommandsAreJoined)
              {"A +\n+\n-\n  B\n", "A   B", {1}},    // a line of nothing but its sign
              {"A +\n  \n  B\n", "A \n  B", {1, 3}}, // a blank line ends the command
              {"A +\n\n  B\n", "A B", {1}},          // an empty one isn't there
-             {"A + \n  B\n", "A + \n  B", {1, 2}},  // a blank behind it: no continuation
+             {"A + \n  B\n", "A + \n  B", {1, 2}},  // a blank after it: no continuation
              {"A +\n", "A ", {1}},
              {"A ++\n", "A +", {1}},
              {"A\r\n\r\nB\r\n", "A\n\nB", {1, 2, 3}}, // "\r" alone makes a line
@@ -67,27 +67,6 @@ TEST(IbmClFormatter, FaithfulForm)
     const std::vector<SPreparationNote> notes = FormatIbmCl("PGM\nENDPGM").notes;
     ASSERT_EQ(notes.size(), 1U);
     EXPECT_EQ(notes[0].line, 2U);
-}
-
-TEST(IbmClFormatter, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("cl")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = FormatIbmCl(file.text);
-        ExpectLinesAreKept(file.text, prepared);
-        std::size_t expected = 0;
-        bool goesOn = false;
-        for (std::string line : LinesOf(file.text)) {
-            if (line.empty())
-                continue;
-            while (line.ends_with('\r'))
-                line.pop_back();
-            expected += !goesOn;
-            goesOn = line.ends_with('+') || line.ends_with('-');
-        }
-        const std::size_t final = file.text.size() - (file.text.find_last_not_of('\n') + 1);
-        EXPECT_EQ(prepared.sourceLines.size(), expected + (final > 2 ? final - 2 : 0));
-    }
 }
 
 TEST(IbmClFormatter, AnySize)

@@ -47,11 +47,10 @@ TEST(IbmRpg, LinesAreCutByColumns)
              {0, Line('d', wide), "D" + wide.substr(0, 36) + "\nDK" + wide.substr(36, 38) + "\n$\n"},
              {0, Line('P', wide), "P" + wide.substr(0, 37) + "\nPK" + wide.substr(37, 37) + "\n$\n"},
              {0, Line('C', wide),
-              "C" + wide.substr(0, 74) + "\nCOM\n$\n"}, // what lies behind column 79 is cut
+              "C" + wide.substr(0, 74) + "\nCOM\n$\n"}, // what lies after column 79 is cut
              {0, Line('I', wide), "I" + wide.substr(0, 74) + "\n\n$\n"},
              {0, Line('O', wide), "O" + wide.substr(0, 74) + "\n\n$\n"},
-             {0, Line('C', wide.substr(0, 74)),
-              "C" + wide.substr(0, 74) + "\n$\n"}, // 80 columns: nothing behind
+             {0, Line('C', wide.substr(0, 74)), "C" + wide.substr(0, 74) + "\n$\n"}, // 80 columns: no more
              {1, Line('F', wide),
               "F" + wide.substr(0, 33) + "\nFD" + wide.substr(33, 33) + "\nFO" + wide.substr(66, 8) +
                   "\n$\n"},
@@ -82,7 +81,7 @@ TEST(IbmRpg, WhatIsCopiedAndWhatIsDropped)
              {0, Line('c', "* x") + Line('C', "/copy y") + Line('m', "*z") + Line(' ', "// a"),
               "C* x\nC/copy y\n *z\n // a\n"},
              {1, Line('C', "* x") + Line('C', "/copy y"), "C* x\nC/copy y\n$\n"},
-             {0, "     \n     C\n\n     H\n", ""}, // too short, or nothing behind the letter
+             {0, "     \n     C\n\n     H\n", ""}, // too short, or nothing after the letter
              {0, Line('C', "A") + "    \n" + Line('C', "B"), "CA\n$\nCB\n$\n"},
              {0, "     CA\r\n", "CA\r\n$\n"}, // a column like any other
              {0, Line('C', "\xE9\xFF"), "C\xE9\xFF\n$\n"},
@@ -217,7 +216,7 @@ TEST(IbmRpg, BlocksAreMarked)
     format_section(piece, 0, depth);
     EXPECT_EQ(piece.size(), 20U);
     piece += "IF";
-    format_section(piece, 1, depth); // the other layout looks behind it
+    format_section(piece, 1, depth); // the other layout looks further on
     EXPECT_EQ(depth, 0);
     format_section(piece, 0, depth);
     EXPECT_EQ(depth, 1);
@@ -228,7 +227,7 @@ TEST(IbmRpg, BlocksAreMarked)
         "C" + Operation(0, "VelmoraBegIF") + "\n$\nC*" + Operation(0, "END").substr(1) + "\n");
 }
 
-// Each line's rows stand together, and a cut line is still in them: one row behind the other, between labels
+// Each line's rows stand together, and a cut line is still in them: one row after the other, between labels
 // and markers.
 void ExpectColumnsSurvive(const std::string& source, int layout)
 {

@@ -1,7 +1,6 @@
 #include "Preparation/Formatters/Jcl.h"
 
 #include "Tests/Preparation/FormatterFixture.h"
-#include "UVEnvironment/UVEUnicode.h"
 
 #include <gtest/gtest.h>
 
@@ -45,27 +44,6 @@ TEST(JclFormatter, EightBitTextKeepsItsColumns)
     const std::string line = "//* \xC9" + std::string(67, 'x');
     EXPECT_EQ(FormatJcl(line + "\xE9\n//B").text, line + "\n//B");
     EXPECT_EQ(FormatJcl("//* \xE9\n//B").text, "//* \xE9\n//B");
-}
-
-TEST(JclFormatter, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("jcl")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = FormatJcl(file.text);
-        ExpectLinesAreKept(file.text, prepared);
-        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
-        std::size_t filled = 0;
-        for (const std::string& line : source)
-            filled += !line.empty();
-        const std::size_t final = prepared.text.size() - (prepared.text.find_last_not_of('\n') + 1);
-        EXPECT_EQ(lines.size(), filled + (final > 1 ? final - 1 : 0));
-        ASSERT_EQ(lines.size(), prepared.sourceLines.size());
-        for (std::size_t at = 0; at != lines.size(); ++at) {
-            const std::string& line = source[prepared.sourceLines[at] - 1];
-            EXPECT_TRUE(line.starts_with(lines[at]));
-            EXPECT_EQ(Uve::utf8_strlen(lines[at]), std::min<std::size_t>(Uve::utf8_strlen(line), 72));
-        }
-    }
 }
 
 TEST(JclFormatter, AnySize)

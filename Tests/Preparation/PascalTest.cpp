@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 #include <vector>
 
@@ -41,27 +40,6 @@ TEST(Pascal, UnbalancedConditions)
     EXPECT_EQ(FormatPascal("a\n{$ENDIF}\nb\n{$IFDEF RELEASE}\nc\n{$ELSE}\nd\n{$ENDIF}\ne").text,
               "a\nb\nc\nd\ne\n");
     EXPECT_EQ(FormatPascal("a\n{$ELSE}\nb").text, "a\nb\n");
-}
-
-TEST(Pascal, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("delphi")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = FormatPascal(file.text);
-        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
-        ASSERT_EQ(prepared.sourceLines.size(), lines.size());
-        // whole lines vanish; none is made up, none comes twice
-        std::set<std::uint32_t> seen;
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            const std::uint32_t number = prepared.sourceLines[i];
-            if (lines[i] == "," || lines[i] == ";")
-                continue;
-            EXPECT_TRUE(seen.insert(number).second) << number;
-            EXPECT_EQ(lines[i], source.at(number - 1));
-        }
-        for (std::size_t i = 0; i < source.size() && source[i].find("{$") == source[i].npos; ++i)
-            EXPECT_EQ(seen.contains(static_cast<std::uint32_t>(i + 1)), !source[i].empty()) << i;
-    }
 }
 
 TEST(Pascal, AnySize)

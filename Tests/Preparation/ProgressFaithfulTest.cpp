@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -124,17 +123,6 @@ TEST_F(ProgressFaithful, Bounds)
         const std::string source = Repeated(piece, (1 << 15) / std::string(piece).size());
         EXPECT_EQ(Text(source), source);
         Text(source + std::string(source.size(), '}'));
-    }
-}
-
-TEST_F(ProgressFaithful, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("progress-4gl")) {
-        SCOPED_TRACE(file.path);
-        m_Options.filePath = file.path;
-        const SPreparedText prepared = Prepare(file.text);
-        EXPECT_EQ(prepared.sourceLines.size(), LinesOf(prepared.text).size());
-        EXPECT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
     }
 }
 

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <sys/stat.h>
 #include <vector>
@@ -231,35 +230,6 @@ TEST_F(ProgressFormatter, FormatsThatGrow)
     EXPECT_NE(m_Log.Text().find("takes too long"), std::string::npos);
     File("x.i", Repeated("{&x}", 1 << 16));
     EXPECT_EQ(Text("{x.i &x=" + Repeated("$1", 1 << 16) + "}").front(), '{');
-}
-
-TEST_F(ProgressFormatter, RealSources)
-{
-    for (const SCorpusFile& file : CorpusFiles("progress-4gl")) {
-        SCOPED_TRACE(file.path);
-        const SPreparedText prepared = FormatProgress(file.text, {file.path});
-        const std::vector<std::string> source = LinesOf(file.text), lines = LinesOf(prepared.text);
-        ASSERT_EQ(prepared.sourceLines.size(), lines.size());
-        EXPECT_TRUE(std::ranges::is_sorted(prepared.sourceLines));
-        // a line without braces comes from the source or from a file; each of the source's is still there
-        std::size_t at = 0;
-        bool isInside = false; // a reference that spans lines
-        for (std::size_t i = 0; i < source.size(); ++i) {
-            const bool isPlain = !isInside && source[i].find_first_of("{}") == source[i].npos;
-            for (const char byte : source[i])
-                isInside = byte == '{' || (isInside && byte != '}');
-            while (isPlain && at < lines.size() &&
-                   (prepared.sourceLines[at] != i + 1 || lines[at] != source[i]))
-                ++at;
-            EXPECT_TRUE(!isPlain || at < lines.size()) << source[i];
-        }
-        // some name themselves in a comment
-        EXPECT_LE(prepared.text.size(), 100 * file.text.size() + 1000000);
-        const bool hasOpen = std::ranges::any_of(prepared.notes, [](const SPreparationNote& note) {
-            return note.text.find("is open") != std::string::npos;
-        });
-        EXPECT_TRUE(hasOpen || prepared.text.find(".i}") == std::string::npos);
-    }
 }
 
 TEST_F(ProgressFormatter, AnySize)
