@@ -1,8 +1,10 @@
 // Tests of a built program, run by the shell as users run it, in a folder of its own.
 #pragma once
 
+#include "Tests/Support/ResultRows.h"
 #include "Tools/Support/ToolFiles.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -11,6 +13,7 @@
 #include <string>
 #include <sys/wait.h>
 #include <utility>
+#include <vector>
 
 struct SRunResult
 {
@@ -28,6 +31,12 @@ inline std::string WithoutSanitizerNotice(std::string output)
     const std::size_t lineBegin = output.rfind('\n', notice) + 1; // 0 on the first line
     return output.erase(lineBegin, output.find('\n', notice) + 1 - lineBegin);
 }
+
+struct SRefusal
+{
+    const char* arguments;
+    const char* message = ""; // part of it
+};
 
 class CProgramFixture : public testing::Test
 {
@@ -61,6 +70,34 @@ protected:
         result.out = Get("out.txt");
         result.err = WithoutSanitizerNotice(Get("err.txt"));
         return result;
+    }
+
+    // Calls that the program can't make sense of: it says so, and prints nothing else.
+    void ExpectRefused(const std::vector<SRefusal>& refusals) const
+    {
+        for (const SRefusal& refusal : refusals) {
+            SCOPED_TRACE(refusal.arguments);
+            const SRunResult run = Run(refusal.arguments);
+            EXPECT_EQ(run.code, 2);
+            EXPECT_EQ(run.out, "");
+            EXPECT_THAT(run.err, testing::StartsWith(m_Program + ": error: "));
+            EXPECT_THAT(run.err, testing::HasSubstr(refusal.message));
+        }
+    }
+
+    // A host that writes a line and waits for its answer. The lines are `before` (as of printf) and a word.
+    void ExpectAnsweredLineByLine(const std::string& arguments, const std::string& before = "")
+    {
+        SCOPED_TRACE(arguments);
+        Put("ask.sh",
+            "rm -f asked answers\nmkfifo asked\n\"$1\" " + arguments +
+                " - <asked >answers &\nexec 3>asked\n"
+                "for word in DATE CLOB; do\n printf '" +
+                before +
+                "%s\\n' $word >&3\n tries=0\n until grep -q $word answers; do\n"
+                "  tries=$((tries + 1))\n  [ $tries -lt 200 ] || exit 1\n  sleep 0.05\n done\ndone\n"
+                "exec 3>&-\nwait $!\n");
+        EXPECT_EQ(RunProgram("/bin/sh", "ask.sh '" UV_BIN_DIR "/" + m_Program + "'").code, 0);
     }
 
     // In the build folder, so that programs can be linked into it.

@@ -27,7 +27,7 @@ std::vector<fs::path> Documents()
     return documents;
 }
 
-// A code block that shows a file of the project stands behind a comment with the file's path.
+// A code block that shows a file of the project stands after a comment with the file's path.
 TEST(Documents, CodeBlocksAreTheFilesThatTheyShow)
 {
     int blocks = 0;
@@ -164,30 +164,27 @@ void Follow(const std::string& guide, const std::vector<std::string>& programs, 
     EXPECT_EQ(commands, expectedCommands);
 }
 
-TEST(Documents, LanguageGuideWorksWhenFollowedToTheLetter)
+struct SGuide
 {
-    Follow("LanguageGuide.md", {"uvgrammar", "uvparse", "libUVParser.so"}, 4);
-}
+    const char* name;
+    std::vector<std::string> programs;
+    int commands;
+};
 
-TEST(Documents, UvgrammarGuideWorksWhenFollowedToTheLetter)
+TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
-    Follow("UvgrammarGuide.md", {"uvgrammar"}, 4);
-}
-
-TEST(Documents, RuleFilesWorkWhenFollowedToTheLetter)
-{
-    Follow("RuleFiles.md", {"uvrules"}, 5);
-}
-
-TEST(Documents, TypesWorkWhenFollowedToTheLetter)
-{
-    Follow("Types.md", {"uvtypes"}, 6);
-}
-
-TEST(Documents, NamesWorkWhenFollowedToTheLetter)
-{
-    Follow("Names.md", {"uvnames"}, 6);
-    Follow("NamesExample.md", {"uvnames"}, 6);
+    const SGuide guides[] = {
+        {"LanguageGuide.md", {"uvgrammar", "uvparse", "libUVParser.so"}, 4},
+        {"UvgrammarGuide.md", {"uvgrammar"}, 4},
+        {"RuleFiles.md", {"uvrules"}, 5},
+        {"Types.md", {"uvtypes"}, 6},
+        {"Names.md", {"uvnames"}, 6},
+        {"NamesExample.md", {"uvnames"}, 6},
+    };
+    for (const SGuide& guide : guides) {
+        SCOPED_TRACE(guide.name);
+        Follow(guide.name, guide.programs, guide.commands);
+    }
 }
 
 // The sources of a benchmark program, which this build may have without the program.

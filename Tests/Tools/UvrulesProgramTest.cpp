@@ -377,32 +377,24 @@ TEST_F(Uvrules, ApplySaysWhyItFailed)
 TEST_F(Uvrules, WhatCannotRunIsNeverASuccess)
 {
     Put("a.xslt", Stylesheet(""));
-    const char* const cases[] = {
-        "",
-        "repack a.xslt",
-        "pack",
-        "pack missing.xslt",
-        "pack .",
-        "pack -",
-        "pack --force a.xslt",
-        "unpack",
-        "unpack a.xslt b.xslt",
-        "unpack a.xslt --force",
-        "show missing.xslt",
-        "resolve",
-        "resolve --fir A a.xslt",
-        "apply a.xslt",
-        "apply - -",
-        "apply a.xslt a.xslt --param p",
-        "apply a.xslt a.xslt --param-xml =a.xslt",
-        "--help >/dev/full",
-    };
-    for (const char* arguments : cases) {
-        SCOPED_TRACE(arguments);
-        const SRunResult run = Run(arguments);
-        EXPECT_EQ(run.code, 2);
-        EXPECT_THAT(run.err, StartsWith("uvrules: error: "));
-    }
+    ExpectRefused({{""},
+                   {"repack a.xslt"},
+                   {"pack"},
+                   {"pack missing.xslt"},
+                   {"pack ."},
+                   {"pack -"},
+                   {"pack --force a.xslt"},
+                   {"unpack"},
+                   {"unpack a.xslt b.xslt"},
+                   {"unpack a.xslt --force"},
+                   {"show missing.xslt"},
+                   {"resolve"},
+                   {"resolve --fir A a.xslt"},
+                   {"apply a.xslt"},
+                   {"apply - -"},
+                   {"apply a.xslt a.xslt --param p"},
+                   {"apply a.xslt a.xslt --param-xml =a.xslt"},
+                   {"--help >/dev/full"}});
     EXPECT_EQ(Get("a.xslt"), Stylesheet(""));
     for (const char* arguments : {"--help", "pack --help", "--version"}) {
         const SRunResult run = Run(arguments);
