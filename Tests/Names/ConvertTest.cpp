@@ -1,6 +1,7 @@
 #include "Names/NormalizeName.h"
 #include "Tests/Names/NameFixture.h"
 #include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/Repeated.h"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +26,8 @@ constexpr SRules kAlphanumStop{
     .remove = false, .removeFirst = false, .alphanumOnly = true, .alphanumStop = true};
 constexpr SRules kConsonants{.consonantsOnly = true};
 constexpr SRules kConsonantsStop{.consonantsOnly = true, .consonantsStop = true};
+constexpr SRules kVaConsonants{.consonantsOnly = true, .variablePrefix = "va_"};
+constexpr SRules kNoRepair{.remove = false, .removeFirst = false};
 constexpr SRules kBothStop{.remove = false,
                            .removeFirst = false,
                            .alphanumOnly = true,
@@ -155,12 +158,12 @@ TEST(Convert, FirstCharacterIsRepaired)
         {kOracle, kPostgres, kCut, "", kTable, "", "1st_9", "st_9", 2},
         {kOracle, kPostgres, kCut, "", kTable, "", "_9_a", "a", 2},       // what follows comes first then
         {kOracle, kPostgres, kSwap, "", kTable, "", "99a", "x9a", 2},     // in the place of the character
-        {kOracle, kPostgres, kReplace, "", kTable, "", "99a", "x99a", 2}, // in front of it
+        {kOracle, kPostgres, kReplace, "", kTable, "", "99a", "x99a", 2}, // before it
         {kOracle, kPostgres, kKeep, "", kTable, "", "99a", "99a", 0},
         {kOracle, kPostgres, kCut, "", kTable, "", "2024", "2024", 0}, // digits alone stay
         {kOracle, kPostgres, kCut, "", kTable, "", "---", "empty", 2},
-        {kOracle, kPostgres, kReplace, "", kCursor, "", "9a", "9a",
-         0}, // no replacement in a script's own names
+        // no replacement in a script's own names
+        {kOracle, kPostgres, kReplace, "", kCursor, "", "9a", "9a", 0},
     });
 }
 
@@ -188,6 +191,7 @@ TEST(Convert, LongNamesAreTrimmed)
 {
     const std::string a30(30, 'a');
     const std::string mixed = "order_item_quantity_per_warehouse"; // 33
+    const std::string dynamic = "* SDynId a_long_enough_name * ";
     Check({
         {kMsSql, kOracle11, kCut, "", kTable, "", a30, a30, 0},
         {kMsSql, kOracle11, kCut, "", kTable, "", mixed, mixed.substr(0, 30), 8},
@@ -204,42 +208,16 @@ TEST(Convert, LongNamesAreTrimmed)
         // the prefix of a variable survives
         {kMsSql, kOldInformix, kLeft, "", kVariable, "", "@" + mixed, "v_" + mixed.substr(33 - 16), 8},
         {kMsSql, kOldInformix, kAlphanum, "", kVariable, "", "@" + mixed, "v_orderitemquantit", 8},
-        {kMsSql,
-         kOldInformix,
-         {.consonantsOnly = true, .variablePrefix = "va_"},
-         "",
-         kVariable,
-         "",
-         "@" + mixed,
-         "va_rdr_tm_qntt_pr_",
-         8},
+        {kMsSql, kOldInformix, kVaConsonants, "", kVariable, "", "@" + mixed, "va_rdr_tm_qntt_pr_", 8},
         // generated expressions aren't cut
-        {kMsSql,
-         kOracle11,
-         {.remove = false, .removeFirst = false},
-         "",
-         kTable,
-         "",
-         "* SDynId a_long_enough_name * EDynId",
-         "* SDynId a_long_enough_name * EDynId",
-         0},
-        {kMsSql,
-         kOracle11,
-         {.remove = false, .removeFirst = false},
-         "",
-         kTable,
-         "",
-         "* SDynId a_long_enough_name * EDynExp",
-         "* SDynId a_long_enough_name * ",
-         8},
+        {kMsSql, kOracle11, kNoRepair, "", kTable, "", dynamic + "EDynId", dynamic + "EDynId", 0},
+        {kMsSql, kOracle11, kNoRepair, "", kTable, "", dynamic + "EDynExp", dynamic, 8},
     });
 }
 
 TEST(Convert, PostgresCountsBytesAndKeepsCharactersWhole)
 {
-    std::string kana;
-    for (int i = 0; i < 30; ++i)
-        kana += "か";
+    const std::string kana = Repeated("か", 30);
     Check({
         {kOracle, kPostgres, kKeep, "DATABASE_LOCALE=x", kTable, "", kana, kana, 0},
         {kOracle, kPostgres, kCut, "DATABASE_LOCALE=x", kTable, "", "a" + kana, "a" + kana.substr(0, 60), 8},
@@ -269,25 +247,10 @@ TEST(Convert, TemporaryTablesAreMarked)
         {kAse, kMySql, kCut, "", kTable, "temp", "tmptblwork", "work", 128},
         {kAse, kOracle, kCut, "", kTable, "temp", "tmptblwork", "work", 128},
         {kMsSql, kOracle, kCut, "", kTable, "temp", "tmptblwork", "#work", 128},
-        // room for what the server puts behind
+        // room for what the server adds
         {kOracle, kMsSql, kCut, "", kTable, "temp", "tmptbl" + std::string(120, 'a'),
          "#" + std::string(115, 'a'), 8 | 128},
     });
-}
-
-TEST(Convert, HanaQuotesOnRequestWhatHasLowerCase)
-{
-    CNameHost host({1}, {37}, kKeep, "SAPHANA_QUOTED_IDENTIFIERS=1");
-    Uve::U8CString schema = "HR";
-    Uve::U8CString object = "Orders";
-    Uve::U8CString sub;
-    host.normaliser.QuoteSaphanaIdentifier(schema, object, sub);
-    EXPECT_EQ(schema + "|" + object + "|" + sub, "HR|\"Orders\"|");
-
-    CNameHost other({1}, {37}, kKeep);
-    object = "Orders";
-    other.normaliser.QuoteSaphanaIdentifier(schema, object, sub);
-    EXPECT_EQ(object, "Orders");
 }
 
 // What one name after the other became: of an object, or of something in the table "t".
@@ -332,16 +295,14 @@ TEST(Unique, DuplicatesGetANumberWithinTheLimit)
 TEST(Unique, NumbersRespectBytesInPostgres)
 {
     CNameHost host({1}, {8}, {}, "DATABASE_LOCALE=x");
-    std::string kana;
-    for (int i = 0; i < 21; ++i)
-        kana += "か";
+    const std::string kana = Repeated("か", 21);
     EXPECT_EQ(MadeUnique(host, kTable, {kana + "a", kana + "b", kana + "c"}),
               (Names{kana, kana.substr(0, 60) + "2", kana.substr(0, 60) + "3"}));
 }
 
 TEST(Unique, TheNumberGoesInsideMarksThatHoldSomething)
 {
-    CNameHost host({8}, {2}, {.remove = false, .removeFirst = false});
+    CNameHost host({8}, {2}, kNoRepair);
     for (const auto& [name, unique] :
          {std::pair("[a]", "s.[a2]"), {"[]", "s.[]2"}, {"[", "s.[2"}, {"a]", "s.a]2"}}) {
         unsigned long reasons = 0;

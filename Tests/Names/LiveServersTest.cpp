@@ -235,7 +235,8 @@ CColumns Found(CLiveDatabase& database, const std::string& place)
     return found;
 }
 
-// Makes the tables. Returns: what the database said about them, by their statements.
+// Makes the tables.
+// Returns: what the database said about them, by their statements.
 std::map<std::string, std::string> Make(CLiveDatabase& database, const std::string& place,
                                         const std::vector<STable>& tables)
 {
@@ -320,7 +321,7 @@ std::vector<std::string> MultiByteNames()
     return names;
 }
 
-// 1,000 names in groups that differ behind the limit only.
+// 1,000 names in groups that differ beyond the limit only.
 std::vector<std::string> CollidingNames(std::size_t groups)
 {
     std::vector<std::string> names;

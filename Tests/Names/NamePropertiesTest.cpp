@@ -347,7 +347,7 @@ std::string Rivals(const SEntry& entry)
     return name.Left(4);
 }
 
-// The same entries, rivals among themselves in the old order, and tables in front of what stands below them.
+// The same entries, rivals among themselves in the old order, and tables before what stands below them.
 std::vector<std::size_t> OtherOrder(const std::vector<SEntry>& entries, std::uint64_t seed)
 {
     std::mt19937_64 random(seed);

@@ -68,8 +68,7 @@ struct SNameSpaceCase
 
 constexpr SNameSpaceCase kNameSpaces[] = {
     {8, kFunction, kProcedure, true},
-    {8, kProcedure, kFunction, false}, // the first group with functions
-                                       // holds them alone
+    {8, kProcedure, kFunction, false}, // the first group with functions holds them alone
     {8, kFunction, kTrigger, false},
     {8, kTrigger, kTable, true},
     {8, kTable, kTrigger, false},
@@ -109,24 +108,6 @@ TEST(NameRepository, NameIsTakenForTheTypesThatShareItsSpace)
     }
 }
 
-TEST(NameRepository, LowestTypeOfTheGroupAnswers)
-{
-    Repositary2 repository = Repository(1);
-    for (const int type : {kPackage, kView, kSequence})
-        repository.SetObject({kSchema, type}, {"s", "n"}, {std::to_string(type), 0, type});
-    EXPECT_EQ(NameOf(repository, {kSchema, kPackage}, {"s", "n"}), "2");
-}
-
-TEST(NameRepository, TypesFurtherUpInThePathTakeNoPart)
-{
-    // In this kind schemas and tables share a name space.
-    Repositary2 repository = Repository(0);
-    repository.SetObject({kSchema, kSchema}, {"s", "n"}, {"below a schema", 0, kSchema});
-    repository.SetObject({kDatabase, kSchema}, {"s", "n"}, {"below a database", 0, kSchema});
-    EXPECT_EQ(NameOf(repository, {kSchema, kTable}, {"s", "n"}), "");
-    EXPECT_EQ(NameOf(repository, {kDatabase, kTable}, {"s", "n"}), "below a database");
-}
-
 TEST(NameRepository, CaseCountsUnlessOneOfTheRulesIsInsensitive)
 {
     struct
@@ -146,18 +127,6 @@ TEST(NameRepository, CaseCountsUnlessOneOfTheRulesIsInsensitive)
         EXPECT_EQ(NameOf(repository, path, {"s", "Prix d'été"}), "first");
         EXPECT_EQ(NameOf(repository, path, {"S", "PRIX D'ÉTÉ"}), c.isOneName ? "first" : "second");
     }
-}
-
-TEST(NameRepository, FirstRecordOfAPathStays)
-{
-    Repositary2 repository = Repository(8);
-    EXPECT_TRUE(repository.SetObject({kSchema, kTable}, {"s", "n"}, {"first", UVDB_NAME_TOO_LONG, kTable}));
-    EXPECT_FALSE(repository.SetObject({kSchema, kTable}, {"s", "n"}, {"second", 0, kView}));
-    CConvertedName found;
-    ASSERT_TRUE(repository.GetObjectStr({kSchema, kTable}, {"s", "n"}, found));
-    EXPECT_EQ(found.name, "first");
-    EXPECT_EQ(found.reasons, UVDB_NAME_TOO_LONG);
-    EXPECT_EQ(found.type, kTable);
 }
 
 TEST(NameRepository, PrefixMakesASpaceOfItsOwn)
@@ -314,29 +283,11 @@ private:
 // Few names and few types, so that paths meet; names that look like parts of keys, which must not meet.
 TEST(NameRepository, AnswersLikeAPlainMapOfWholeKeys)
 {
-    const Names names{"a",
-                      "A",
-                      "b",
-                      "é",
-                      "É",
-                      "",
-                      "_",
-                      "/_",
-                      "_/",
-                      "/5/_z",
-                      "_/17/_",
-                      "_/17/_b",
-                      "_/0/_a",
-                      "b_/007/_",
-                      "b_/-1/_",
-                      "c_/-0/_",
-                      "x|y",
-                      "x_/0",
-                      "5/_z",
-                      "_/5",
-                      "_/_/5/_",
-                      "_/-/_",
-                      "_/9999999999/_"};
+    // clang-format off
+    const Names names{
+        "a", "A", "b", "é", "É", "", "_", "/_", "_/", "/5/_z", "_/17/_", "_/17/_b", "_/0/_a", "b_/007/_",
+        "b_/-1/_", "c_/-0/_", "x|y", "x_/0", "5/_z", "_/5", "_/_/5/_", "_/-/_", "_/9999999999/_"};
+    // clang-format on
     const int types[] = {0, 2, 3, 6, 7, 8, 12, 17, 33, 36, 38, 42, -1, 70, 1234567890};
     const std::string_view prefixes[] = {"", "", "y", "_/6/_"};
     const std::uint64_t kinds[] = {0, 1, 2, 4, 5, 8, 60, 71};

@@ -104,8 +104,7 @@ TEST(Qualified, PartsFindTheirWayByType)
         {kMsSql, kPostgres, "", kAlias, "", "", {"x12", "", ""}, "|x12|"},
         {kMsSql, kPostgres, "", kAlias, "", "", {"s", "a", ""}, "|a|"},
         {kMsSql, kPostgres, "", kAlias, "", "", {"", "dbo.a", ""}, "|\"dbo.a\"|"},
-        {kMsSql, kCSharp, "", kClass, "", "", {"Pack", "", ""}, "|Pack|"}, // no name space for these in the
-                                                                           // source
+        {kMsSql, kCSharp, "", kClass, "", "", {"Pack", "", ""}, "|Pack|"}, // the source has no such space
         {kMsSql, kCSharp, "", kFunction, "", "", {"Pack", "f", ""}, "Pack|f|"},
         {kMsSql, kJava, "", kClass, "", "", {"s", "Pack", "C"}, "s|pack|C"},
     });
@@ -145,6 +144,11 @@ TEST(Qualified, TypesHaveTheirOwnSteps)
 
 TEST(Qualified, SchemaFollowsTheOptions)
 {
+    constexpr const char* kOutSchema = "CONVERT_DATABASE_TO_SCHEMA=1 OUTSCHEMA=out";
+    constexpr const char* kLinked =
+        "CONVERT_DBLINK_TO_SCHEMA=1 DBLINK_TARGET_NAME=a=x;srv=linked DATABASE_NAME=main";
+    constexpr const char* kLinkHome =
+        "CONVERT_DBLINK_TO_SCHEMA=1 DBLINK_TARGET_NAME=srv=linked DATABASE_NAME=srv";
     Check({
         {kOracle, kPostgres, "EMPTY_SCHEMA=1", kTable, "", "", {"HR", "t", ""}, "|t|"},
         {kMsSql, kOracle, "EMPTY_SCHEMA=2", kTable, "", "", {"DBO", "t", ""}, "|t|"},
@@ -165,32 +169,11 @@ TEST(Qualified, SchemaFollowsTheOptions)
         // what the server becomes
         {kInformix, kPostgres, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, "", "srv", {"joe", "t", ""}, "|t|"},
         {kMsSql, kAse, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, "", "srv", {"joe", "t", ""}, "srv|t|"},
-        {kMsSql,
-         kAse,
-         "CONVERT_DATABASE_TO_SCHEMA=1 OUTSCHEMA=out",
-         kTable,
-         "",
-         "srv",
-         {"joe", "t", ""},
-         "out|t|"},
+        {kMsSql, kAse, kOutSchema, kTable, "", "srv", {"joe", "t", ""}, "out|t|"},
         {kMsSql, kAse, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, "", "", {"joe", "t", ""}, "joe|t|"},
         {kMsSql, kPostgres, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, "", "srv", {"joe", "t", ""}, "joe|t|"},
-        {kOracle,
-         kPostgres,
-         "CONVERT_DBLINK_TO_SCHEMA=1 DBLINK_TARGET_NAME=a=x;srv=linked DATABASE_NAME=main",
-         kTable,
-         "",
-         "srv",
-         {"joe", "t", ""},
-         "linked|t|"},
-        {kOracle,
-         kPostgres,
-         "CONVERT_DBLINK_TO_SCHEMA=1 DBLINK_TARGET_NAME=srv=linked DATABASE_NAME=srv",
-         kTable,
-         "",
-         "srv",
-         {"joe", "t", ""},
-         "joe|t|"},
+        {kOracle, kPostgres, kLinked, kTable, "", "srv", {"joe", "t", ""}, "linked|t|"},
+        {kOracle, kPostgres, kLinkHome, kTable, "", "srv", {"joe", "t", ""}, "joe|t|"},
     });
 }
 
@@ -258,26 +241,21 @@ struct SReportCase
 
 TEST(Qualified, TheReportTellsWhatAndWhy)
 {
+    constexpr const char* kAndEmpty = "CONVERT_DATABASE_TO_SCHEMA=1 EMPTY_SCHEMA=1";
+    constexpr const char* kDelimited = "a__ORVANTA_IDENTIFIER_DELIM__b";
     const SReportCase cases[] = {
         {kPostgres, kOracle, "", kTable, {"s", "t", ""}, "s.t", "s.t", 0},
         {kPostgres, kOracle, "", kColumn, {"s", "1t", "a b"}, "s.1t.a b", "s.t.ab", 2 | 4},
         {kPostgres, kOracle, "EMPTY_SCHEMA=1", kTable, {"s", "t", ""}, "s.t", "t", 1},
         {kInformix, kPostgres, "CONVERT_DATABASE_TO_SCHEMA=1", kTable, {"s", "t", ""}, "s.t", "t", 64},
-        {kInformix,
-         kPostgres,
-         "CONVERT_DATABASE_TO_SCHEMA=1 EMPTY_SCHEMA=1",
-         kTable,
-         {"s", "t", ""},
-         "s.t",
-         "t",
-         1},
+        {kInformix, kPostgres, kAndEmpty, kTable, {"s", "t", ""}, "s.t", "t", 1},
         {kOracle, kPostgres, "", kIndex, {"s", "t", "T"}, "T_idx", "t.T_idx", 0},
         {kOracle, kMySql, "", kTable, {"s", "con", ""}, "s.con_", "s.con_", 0},
         {kMsSql,
          kPostgres,
          "",
          kTable,
-         {"a__ORVANTA_IDENTIFIER_DELIM__b", "t", ""},
+         {kDelimited, "t", ""},
          "a.b.t",
          "a__ORVANTA_IDENTIFIER_DELIM__b.t",
          0},
