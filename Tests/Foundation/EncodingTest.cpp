@@ -229,7 +229,7 @@ TEST(Utf8Validity, FirstBadSequenceIsFoundWhereverItStands)
         {"\u00E9\xA9", 2},   {"\uD7FF\uE000\U0010FFFF\xF8", 10},
     };
     // Every distance from the words of eight bytes that plain text is skipped by, with and without text
-    // behind.
+    // after it.
     for (const SCase& c : cases) {
         for (std::size_t before = 0; before < 20; ++before) {
             for (const std::size_t behind : {0u, 1u, 16u}) {

@@ -20,23 +20,13 @@ using Uve::U8CString;
 class FileHelper : public testing::Test
 {
 protected:
-    U8CString PathOf(const std::string& name) const { return U8CString((m_Directory / name).string()); }
-
-    U8CString Write(const std::string& name, std::string_view bytes) const
+    U8CString PathOf(const std::string& name) const { return m_Folder.Path(name); }
+    U8CString Write(const std::string& name, const std::string& bytes) const
     {
-        std::ofstream(m_Directory / name, std::ios::binary) << bytes;
-        return PathOf(name);
-    }
-
-    static std::string Read(const U8CString& path)
-    {
-        std::stringstream bytes;
-        bytes << std::ifstream(path, std::ios::binary).rdbuf();
-        return bytes.str();
+        return m_Folder.Write(name, bytes);
     }
 
     const CScratchFolder m_Folder;
-    const fs::path m_Directory = fs::path(m_Folder.Path()).parent_path();
 };
 
 TEST(Path, CombineTakesWhatIsAbsolute)
@@ -96,11 +86,12 @@ TEST(Path, FullPathsHaveNoDots)
 
 TEST_F(FileHelper, WritingOverALongerFileKeepsItsTail)
 {
-    const U8CString path = PathOf("t\xC3\xA9.txt");
+    constexpr const char* kName = "t\xC3\xA9.txt";
+    const U8CString path = PathOf(kName);
     EXPECT_TRUE(Uve::File::WriteAllText(path, "first\0text"sv));
-    EXPECT_EQ(Read(path), "first\0text"s);
+    EXPECT_EQ(m_Folder.Read(kName), "first\0text"s);
     EXPECT_TRUE(Uve::File::WriteAllText(path, "2nd"));
-    EXPECT_EQ(Read(path), "2ndst\0text"s);
+    EXPECT_EQ(m_Folder.Read(kName), "2ndst\0text"s);
     EXPECT_EQ(Uve::File::GetFileSize(path), 10);
     EXPECT_FALSE(Uve::File::WriteAllText(PathOf("none/t"), "x"));
     EXPECT_EQ(Uve::File::GetFileSize(PathOf("none/t")), -1);
@@ -142,7 +133,7 @@ TEST_F(FileHelper, MarkDecidesAndAnExplicitEncodingTrustsInOne)
         const SEncodingMark mark = DetectEncoding(stream, c.requested);
         EXPECT_EQ(mark.encoding, c.encoding);
         EXPECT_EQ(mark.markLength, c.markLength);
-        EXPECT_EQ(ReadAllText(Write("text", c.bytes), c.requested), std::string(c.text));
+        EXPECT_EQ(ReadAllText(Write("text", std::string(c.bytes)), c.requested), std::string(c.text));
     }
 }
 
@@ -180,9 +171,9 @@ TEST_F(FileHelper, DirectoriesListTheirFilesByMask)
         std::vector<U8CString> expected;
         for (const std::string& name : names)
             expected.push_back(PathOf(name));
-        EXPECT_EQ(Uve::Directory::GetFiles(m_Directory.string(), mask), expected) << mask;
+        EXPECT_EQ(Uve::Directory::GetFiles(m_Folder.Path(), mask), expected) << mask;
     }
-    EXPECT_EQ(Uve::Directory::GetFiles(m_Directory.string()).size(), 6u);
+    EXPECT_EQ(Uve::Directory::GetFiles(m_Folder.Path()).size(), 6u);
     EXPECT_TRUE(Uve::Directory::GetFiles(PathOf("none")).empty());
 }
 
@@ -214,7 +205,7 @@ TEST_F(FileHelper, FullDirectoryMakesWhatIsMissing)
     }
     EXPECT_FALSE(Uve::UVMakeFullDir(""));
     EXPECT_FALSE(Uve::UVMakeFullDir(nullptr));
-    EXPECT_EQ(fs::status(m_Directory / "a/b").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(m_Folder.Path("a/b")).permissions(), fs::perms::owner_all);
 }
 
 TEST(ScriptLines, BlankLinesDoNotCount)

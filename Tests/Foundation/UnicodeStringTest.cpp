@@ -1,4 +1,5 @@
 #include "Tests/Foundation/StringModel.h"
+#include "Tests/Support/Repeated.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <gtest/gtest.h>
@@ -234,7 +235,7 @@ TEST(U8CString, MovingTakesThePositionAlong)
     source.GetLength();
     source.Mid(2, 1);
     U8CString target(std::move(source));
-    EXPECT_EQ(source.GetLength(), 0); // NOLINT: what is left behind is empty in every respect
+    EXPECT_EQ(source.GetLength(), 0); // NOLINT: what a move leaves is empty in every respect
     source = "abc";                   // NOLINT: reused on purpose
     EXPECT_EQ(source.Mid(2, 1), "c");
     EXPECT_EQ(target.Mid(2, 1), "z");
@@ -248,9 +249,7 @@ TEST(U8CString, MovingTakesThePositionAlong)
 TEST(U8CString, ScansOfALongTextEnd)
 {
     constexpr int kLength = 2'000'000;
-    U8CString text;
-    for (int i = 0; i < kLength / 2; ++i)
-        text += "\xC3\xA9,";
+    U8CString text = Repeated("\xC3\xA9,", kLength / 2);
 
     for (int i = 0; i < kLength; ++i)
         ASSERT_EQ(text.Mid(i, 1).size(), i % 2 ? 1u : 2u);

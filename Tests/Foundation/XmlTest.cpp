@@ -1,3 +1,4 @@
+#include "Tests/Support/Repeated.h"
 #include "UVEnvironment/UVEXml.h"
 
 #include <gtest/gtest.h>
@@ -49,13 +50,7 @@ std::string Raw(const u8string& text)
 
 std::string Deep(std::size_t depth)
 {
-    std::string text;
-    for (std::size_t i = 0; i < depth; ++i)
-        text += "<a>";
-    text += "leaf";
-    for (std::size_t i = 0; i < depth; ++i)
-        text += "</a>";
-    return text;
+    return Repeated("<a>", depth) + "leaf" + Repeated("</a>", depth);
 }
 
 TEST(Xml, KindsOfNodes)
@@ -122,7 +117,7 @@ TEST(Xml, WalksChildrenAttributesAndElements)
     EXPECT_FALSE(root.firstChildElement().hasChildren());
     EXPECT_FALSE(root.firstChild().hasAttributes());
 
-    // the declaration that stands behind a reference has siblings of its own
+    // the declaration that a reference leads to has siblings of its own
     const CTestDocument referring("<!DOCTYPE r [<!ENTITY e 'x'><!ENTITY f 'y'>]><r>&e;</r>");
     EXPECT_EQ(referring.Root().firstChild().children().count(), 0u);
     EXPECT_EQ(Raw(referring.getText()), "x");
@@ -163,7 +158,7 @@ TEST(Xml, NewElementsFindTheirPlace)
     const XmlElement root = document.Root();
     const XmlElement x = root.firstChildElement();
     EXPECT_EQ(Raw(root.createChildElement("last").getName()), "last");
-    root.createChildElementBefore("before", x); // behind it all the same
+    root.createChildElementBefore("before", x); // after it all the same
     root.createChildElementAfter("after", x);
     EXPECT_EQ(document.Text(), "<r><x/><after/><before/><y/><last/></r>\n");
     EXPECT_TRUE(x.createChildElementAfter("no", root.lastChild()).isNull());
@@ -334,11 +329,8 @@ TEST(Xml, HostileExpressionsSelectNothing)
                                          {"false()", " or false()", ""}};
     for (const auto& [head, repeated, tail] : kCases) {
         SCOPED_TRACE(repeated);
-        u8string xpath(head);
-        for (int i = 0; i < 100'000; ++i)
-            xpath += repeated;
-        xpath += tail;
-        EXPECT_TRUE(document.Root().selectNode(xpath).isNull());
+        const std::string xpath = head + Repeated(repeated, 100'000) + tail;
+        EXPECT_TRUE(document.Root().selectNode(u8string(xpath)).isNull());
     }
 }
 

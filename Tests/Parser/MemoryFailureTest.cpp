@@ -247,7 +247,7 @@ TEST_F(MemoryFailure, OfAColoringIsToldFromOneThatWorked)
     const auto color = [&] {
         isAnswered = m_Parser.set_Query(kText) == UVDB_OK && m_Parser.Parse(false) == UVDB_ERROR;
     };
-    constexpr long kScan = 150; // what comes behind is the business of the XML libraries
+    constexpr long kScan = 150; // what comes later is the business of the XML libraries
     FailEach(
         color,
         [&] {

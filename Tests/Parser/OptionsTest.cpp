@@ -1,11 +1,9 @@
 #include "Parser/UVAssessorOption.h"
 #include "Tests/Parser/ParserFixture.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <unistd.h>
 
 namespace {
 
@@ -140,47 +138,32 @@ TEST_F(ParserOptions, EmptyDatabaseInfoIsStoredAndTold)
     EXPECT_EQ(info, nullptr);
 }
 
-// Runs in a directory of its own, which goes with everything in it.
+// Runs in a directory of its own.
 class PascalDefines : public ParserOptions
 {
 protected:
     PascalDefines()
     {
-        m_Directory = std::filesystem::temp_directory_path() /
-                      ("PascalDefines" + std::to_string(testing::UnitTest::GetInstance()->random_seed()) +
-                       '.' + std::to_string(getpid()));
-        std::filesystem::create_directory(m_Directory);
-        std::filesystem::current_path(m_Directory);
+        std::filesystem::current_path(m_Folder.Path());
         SetDatabase(UVDB_DB_PASCAL);
         Load();
     }
-    ~PascalDefines() override
-    {
-        std::filesystem::current_path(m_Earlier);
-        std::filesystem::remove_all(m_Directory);
-    }
+    ~PascalDefines() override { std::filesystem::current_path(m_Earlier); }
 
-    std::string FileText()
-    {
-        std::stringstream text;
-        text << std::ifstream(m_File, std::ios::binary).rdbuf();
-        return text.str();
-    }
-
-    std::filesystem::path m_Earlier = std::filesystem::current_path();
-    std::filesystem::path m_Directory;
+    const std::filesystem::path m_Earlier = std::filesystem::current_path();
+    const CScratchFolder m_Folder;
     const std::string m_File = "UVParserCmd.cfg\n";
 };
 
 TEST_F(PascalDefines, AreWrittenOverTheFileAndAppendedInOrder)
 {
-    std::ofstream(m_File, std::ios::binary) << "0123456789012345678901234";
+    m_Folder.Write(m_File, "0123456789012345678901234");
     SetOption("DEFINES", "one;;two;\xC3\xA9");
     const std::size_t known = Scanner().m_lstDefines.size();
     m_Parser.set_DatabaseInfo(m_Info);
 
-    EXPECT_EQ(FileText(), "DEFINES=ONE;;TWO;\xC3\x89"
-                          "901234"); // what the new text doesn't reach stays
+    EXPECT_EQ(m_Folder.Read(m_File), "DEFINES=ONE;;TWO;\xC3\x89"
+                                     "901234"); // what the new text doesn't reach stays
     EXPECT_FALSE(Scanner().m_bIgnoreDefines);
     for (const auto* scanner : {&Scanner(), &ColoringScanner()}) {
         const std::list<Uve::U8CString> added(

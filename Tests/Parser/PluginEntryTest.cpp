@@ -8,6 +8,7 @@
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Tests/Parser/ParserFixture.h"
+#include "Tests/Support/Repeated.h"
 #include "UVEnvironment/PluginHelpers.h"
 
 #include <boost/dll/library_info.hpp>
@@ -88,9 +89,7 @@ void ParseOnce(const std::shared_ptr<IUVDBSQLParser>& parser, const std::string&
 
 TEST(PluginEntry, ParsesOfManyInfosLeaveNoMemoryBehind)
 {
-    std::string text;
-    for (int i = 0; i < 1000; ++i)
-        text += "print 1 1;\n";
+    const std::string text = Repeated("print 1 1;\n", 1000);
     const auto log = std::make_shared<CMemoryLog>();
     for (const bool isNew : {true, false}) {
         SCOPED_TRACE(isNew ? "a parser for each text" : "one parser");

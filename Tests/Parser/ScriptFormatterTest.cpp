@@ -42,68 +42,35 @@ struct SPassCase
 
 TEST_F(ScriptFormatters, OptionsReachThePass)
 {
+    using Options = std::map<std::string, std::string>;
+    const Options ansi{{"COBOLFORMAT", "ansi"}};
+    const Options collapsed{
+        {"COBOLFORMAT", "ANSI"}, {"COBOL_TAB_WIDTH", "2"}, {"REMOVE_SRC_FORMATTING", "1"}};
+    const Options jcl{{"JCLANSIFORMAT", "1"}};
+    const Options rpg{{"IBMRPG_VERSION", "0"}};
+    const Options pascal{{"UNIK_DEFINE", "yes"}};
+    const Options macros{{"PREPROCESSOR", "0"}, {"PREPROCESSOR_FUNCTION", "2"}};
+    const auto faithful = [](Options options) {
+        options["SOURCE_FORMS"] = "Faithful";
+        return options;
+    };
     const SPassCase cases[] = {
         {UVDB_DB_COBOL, {}, "000100 A.\n", "000100 A.\n", "", ""},
-        {UVDB_DB_COBOL,
-         {{"COBOLFORMAT", "ansi"}},
-         "000100 A.\n000200 B.\n",
-         "       A.\n       B.\n",
-         "FormatCOBOL",
-         "1\t1\t2\n"},
+        {UVDB_DB_COBOL, ansi, "000100 A.\n000200 B.\n", "       A.\n       B.\n", "FormatCOBOL", "1\t1\t2\n"},
         {UVDB_DB_COBOL, {{"COBOLFORMAT", "free"}}, "000100 A.", "       A.\n", "FormatCOBOL", "1\t1\t1\n"},
-        {UVDB_DB_COBOL,
-         {{"COBOLFORMAT", "ANSI"}, {"COBOL_TAB_WIDTH", "2"}, {"REMOVE_SRC_FORMATTING", "1"}},
-         "000100 A\tB.",
-         "       A B.",
-         "FormatCOBOL",
-         "1\t1\t1\n"},
+        {UVDB_DB_COBOL, collapsed, "000100 A\tB.", "       A B.", "FormatCOBOL", "1\t1\t1\n"},
+        {UVDB_DB_COBOL, faithful(ansi), "       A\n      -B", "       AB", "FormatCOBOL", nullptr},
         {UVDB_DB_IBM_CL, {}, "A +\n  B\nC\n\n", "A B\nC\n", "FormatIBM_CL", "1\t1\t1\n2\t3\t1\n"},
-        {UVDB_DB_JCL, {{"JCLANSIFORMAT", "1"}}, "//A\n\n//B", "//A\n//B", "FormatJCL", "1\t1\t1\n2\t3\t1\n"},
+        {UVDB_DB_IBM_CL, faithful({}), "A + \nB", "A B", "FormatIBM_CL", nullptr},
+        {UVDB_DB_JCL, jcl, "//A\n\n//B", "//A\n//B", "FormatJCL", "1\t1\t1\n2\t3\t1\n"},
+        {UVDB_DB_JCL, faithful(jcl), "//A\n\n//B", "//A\n\n//B", "FormatJCL", nullptr},
         {UVDB_DB_FOXPRO_PROGRAMS, {}, "a ;\n b", "a   b", "FormatFoxProPrograms", "1\t1\t1\n"},
-        {UVDB_DB_IBM_RPG, {{"IBMRPG_VERSION", "0"}}, "     FX\n", "FX\n$\n", "FormatIBM_RPG", nullptr},
-        {UVDB_DB_PASCAL,
-         {{"UNIK_DEFINE", "yes"}},
-         "a\n{$IFDEF RELEASE}\nb\n{$ENDIF}\n",
-         "a\nb\n",
-         "FormatPASCAL",
-         nullptr},
-        {UVDB_DB_PASCAL,
-         {{"UNIK_DEFINE", "yes"}, {"SOURCE_FORMS", "Faithful"}},
-         "{$IFDEF Release}b{$ENDIF}\n",
-         "b\n",
-         "FormatPASCAL",
-         nullptr},
-        {UVDB_DB_IBM_CL, {{"SOURCE_FORMS", "FAITHFUL"}}, "A + \nB", "A B", "FormatIBM_CL", nullptr},
-        {UVDB_DB_JCL,
-         {{"JCLANSIFORMAT", "1"}, {"SOURCE_FORMS", "FAITHFUL"}},
-         "//A\n\n//B",
-         "//A\n\n//B",
-         "FormatJCL",
-         nullptr},
-        {UVDB_DB_FOXPRO_PROGRAMS,
-         {{"SOURCE_FORMS", "FAITHFUL"}},
-         "\u00E9 ;\nb",
-         "\u00E9  b",
-         "FormatFoxProPrograms",
-         nullptr},
-        {UVDB_DB_IBM_RPG,
-         {{"IBMRPG_VERSION", "0"}, {"SOURCE_FORMS", "FAITHFUL"}},
-         "       a;\n",
-         "  a;\n",
-         "FormatIBM_RPG",
-         nullptr},
-        {UVDB_DB_COBOL,
-         {{"COBOLFORMAT", "ANSI"}, {"SOURCE_FORMS", "FAITHFUL"}},
-         "       A\n      -B",
-         "       AB",
-         "FormatCOBOL",
-         nullptr},
-        {UVDB_DB_C,
-         {{"PREPROCESSOR", "0"}, {"PREPROCESSOR_FUNCTION", "2"}},
-         "#define A 1\nA;\n",
-         "\n1;",
-         "FormatCPP",
-         nullptr},
+        {UVDB_DB_FOXPRO_PROGRAMS, faithful({}), "\u00E9 ;\nb", "\u00E9  b", "FormatFoxProPrograms", nullptr},
+        {UVDB_DB_IBM_RPG, rpg, "     FX\n", "FX\n$\n", "FormatIBM_RPG", nullptr},
+        {UVDB_DB_IBM_RPG, faithful(rpg), "       a;\n", "  a;\n", "FormatIBM_RPG", nullptr},
+        {UVDB_DB_PASCAL, pascal, "a\n{$IFDEF RELEASE}\nb\n{$ENDIF}\n", "a\nb\n", "FormatPASCAL", nullptr},
+        {UVDB_DB_PASCAL, faithful(pascal), "{$IFDEF Release}b{$ENDIF}\n", "b\n", "FormatPASCAL", nullptr},
+        {UVDB_DB_C, macros, "#define A 1\nA;\n", "\n1;", "FormatCPP", nullptr},
         {UVDB_DB_C, {}, "#define A 1\nA;\n", "#define A 1\nA;\n", "", ""},
     };
     for (const SPassCase& c : cases) {

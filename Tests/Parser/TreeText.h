@@ -1,7 +1,8 @@
 #pragma once
 
+#include "UVEnvironment/UVEUnicodeString.h"
+
 #include <algorithm>
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -11,28 +12,16 @@ inline std::string TreeText(std::string_view tree)
 {
     if (tree.starts_with("<?xml"))
         tree.remove_prefix(std::min(tree.find("?>") + 2, tree.size()));
-    while (tree.starts_with('\n'))
-        tree.remove_prefix(1);
-    while (tree.ends_with('\n'))
-        tree.remove_suffix(1);
-    constexpr std::pair<std::string_view, char> kEntities[] = {
-        {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
-    std::string text;
+    tree = tree.substr(0, tree.find_last_not_of('\n') + 1);
+    tree.remove_prefix(std::min(tree.find_first_not_of('\n'), tree.size()));
+    Uve::U8CString text;
     while (!tree.empty()) {
-        std::size_t length = 1;
-        if (tree.front() == '<') {
-            length = std::min(tree.find('>'), tree.size() - 1) + 1;
-        } else {
-            char character = tree.front();
-            for (const auto& [entity, meaning] : kEntities) {
-                if (tree.starts_with(entity)) {
-                    character = meaning;
-                    length = entity.size();
-                }
-            }
-            text += character;
-        }
-        tree.remove_prefix(length);
+        const std::size_t tag = std::min(tree.find('<'), tree.size());
+        text.append(tree.substr(0, tag));
+        tree.remove_prefix(std::min(tree.find('>', tag), tree.size() - 1) + 1);
     }
+    for (const auto& [entity, meaning] :
+         {std::pair("&lt;", "<"), {"&gt;", ">"}, {"&apos;", "'"}, {"&quot;", "\""}, {"&amp;", "&"}})
+        text.Replace(entity, meaning);
     return text;
 }

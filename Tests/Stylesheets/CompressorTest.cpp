@@ -1,10 +1,10 @@
 #include "Stylesheets/Archive/Compressor.h"
 
+#include "Tests/Stylesheets/PackedText.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <gtest/gtest.h>
-#include <zlib.h>
 
 #include <filesystem>
 #include <locale>
@@ -25,18 +25,6 @@ std::string Noise(std::size_t size)
     return noise;
 }
 
-// An archive with a header of its own.
-std::string Image(const std::string& header, const std::string& text)
-{
-    uLongf length = compressBound(text.size());
-    std::string payload(length, '\0');
-    compress2(reinterpret_cast<Bytef*>(payload.data()), &length, reinterpret_cast<const Bytef*>(text.data()),
-              text.size(), 9);
-    payload.resize(length);
-    Compressor::EncryptBuffer(payload.data(), static_cast<int>(payload.size()));
-    return header + payload;
-}
-
 class Archive : public testing::Test
 {
 protected:
@@ -48,20 +36,14 @@ protected:
         return path;
     }
 
-    static std::string Read(const std::string& path)
-    {
-        const Uve::U8CString bytes = Uve::File::ReadAllText(path, Uve::File::ENCODING_SYSTEM);
-        return {bytes.data(), bytes.size()};
-    }
-
-    static std::string PackedForm(const std::string& path)
+    std::string PackedForm(const std::string& path) const
     {
         testing::internal::CaptureStdout();
         EXPECT_TRUE(Compressor::Archive(path));
         const std::string notice = testing::internal::GetCapturedStdout();
         EXPECT_TRUE(notice == "\n" + path + " Unused XSLT = 0\n" ||
                     notice == "\n" + path + " Unused XSLT = 1\n");
-        return Read(path);
+        return m_Folder.Read("file");
     }
 
     const CScratchFolder m_Folder;
@@ -150,13 +132,13 @@ TEST_F(Archive, NothingIsPackedWithoutAFile)
 TEST_F(Archive, UnscrambledPayloadsAreForTheOtherTwo)
 {
     const std::string text = "some text";
-    std::string image = Image("9.0.", text);
+    std::string image = PackedText("9.0.", text);
     Compressor::DecryptBuffer(image.data() + 4, static_cast<int>(image.size()) - 4);
     const std::string path = Write(image);
     Compressor::Unarchive(path);
-    EXPECT_EQ(Read(path), image);
+    EXPECT_EQ(m_Folder.Read("file"), image);
     Compressor::Decompress(path);
-    EXPECT_EQ(Read(path), text);
+    EXPECT_EQ(m_Folder.Read("file"), text);
 }
 
 TEST(ArchiveHeader, FieldsAsFarAsTheyGo)
@@ -195,7 +177,7 @@ TEST(ArchiveHeader, FieldsAsFarAsTheyGo)
 TEST(ArchiveDamage, ClaimsThatNoPayloadCanMeetAreRefused)
 {
     const std::string text(2000, 'a');
-    const std::size_t payload = Image("", text).size();
+    const std::size_t payload = PackedText("", text).size();
     const std::pair<std::string, bool> cases[] = {
         {std::to_string(payload * 1040) + ".0.", false},
         {std::to_string(payload * 1040 + 1) + ".0.", true},
@@ -209,7 +191,7 @@ TEST(ArchiveDamage, ClaimsThatNoPayloadCanMeetAreRefused)
         SCOPED_TRACE(header);
         std::string out = "old";
         bool damaged = false;
-        const std::size_t length = Compressor::ResourceUnarchive(Image(header, text), out, &damaged);
+        const std::size_t length = Compressor::ResourceUnarchive(PackedText(header, text), out, &damaged);
         EXPECT_TRUE(damaged);
         EXPECT_EQ(length, refused ? 0 : text.size());
         EXPECT_EQ(out.empty(), refused);
@@ -229,7 +211,7 @@ TEST(ArchiveDamage, NoChangedByteGivesAnotherText)
 {
     const std::string text = Noise(40) + std::string(200, 'b');
     const std::string header = std::to_string(text.size()) + ".0.";
-    const std::string image = Image(header, text);
+    const std::string image = PackedText(header, text);
     std::string out;
     for (std::size_t at = 0; at < image.size(); ++at) {
         for (int value = 0; value < 256; ++value) {
@@ -282,10 +264,10 @@ TEST_F(Archive, GzipDamageReachesTheReader)
     const std::string data = Noise(kWhole);
     const std::string path = Write("");
     ASSERT_EQ(CompressBinary(path, data.data(), kWhole), static_cast<int>(kWhole));
-    const std::string packed = Read(path);
+    const std::string packed = m_Folder.Read("file");
     std::string bytes(kWhole, '\0');
     std::vector<unsigned char> whole;
-    // The two bytes of the magic number tell gzip from plain; behind them every truncation shows.
+    // The two bytes of the magic number tell gzip from plain; after them every truncation shows.
     for (std::size_t size = 2; size < packed.size();
          size += size < 20 || size + 20 > packed.size() ? 1u : 997u) {
         Write(packed.substr(0, size));

@@ -1,5 +1,7 @@
 #include "Stylesheets/ConditionComments.h"
 
+#include "Tests/Support/Repeated.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -36,7 +38,7 @@ TEST(ConditionComments, FieldsDecideWhatStays)
         {"Condition:Alpha", "ALPHA", "x", "y", true},
         {"Condition:Alpha", "Alphab", "x", "y", false},
         {" \n Condition: \t Alpha", "alpha", "x", "y", true},
-        {"Condition:Alpha ", "Alpha", "x", "y", false}, // a blank behind a bare name: no condition
+        {"Condition:Alpha ", "Alpha", "x", "y", false}, // a blank after a bare name: no condition
         {"Condition:Alpha/Beta", "alpha", "BETA", "y", true},
         {"Condition:Alpha/Beta", "alpha", "gamma", "y", false},
         {"Condition:Alpha/*", "alpha", "gamma", "y", true},
@@ -102,9 +104,7 @@ TEST(ConditionComments, LongTextsAreReadOnce)
             ProcessGlobalVariables("<!--Condition:a/b[" + run + "-->x<!--End Condition-->y", "a", "b", "c"),
             "y");
     }
-    std::string openings;
-    while (openings.size() < kSize)
-        openings += "<!--";
+    const std::string openings = Repeated("<!--", kSize / 4);
     EXPECT_EQ(ProcessGlobalVariables(openings, "a", "b", "c"), openings);
 }
 

@@ -1,6 +1,8 @@
 // Stylesheets and trees for the tests of the runner.
 #pragma once
 
+#include "Tests/Support/Repeated.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,12 +26,8 @@ inline std::string Root(std::string_view body)
 // `levels` elements, each in the one before.
 inline std::string Nested(int levels)
 {
-    std::string text;
-    for (int i = 0; i < levels; ++i)
-        text += "<l>";
-    for (int i = 0; i < levels; ++i)
-        text += "</l>";
-    return text;
+    const auto count = static_cast<std::size_t>(levels);
+    return Repeated("<l>", count) + Repeated("</l>", count);
 }
 
 // An element for each level of a nested tree.
@@ -69,11 +67,8 @@ inline std::vector<SHostileCase> HostileCases(const std::string& target)
 
     std::string laughs = "<!DOCTYPE t [<!ENTITY l0 'ha'>";
     for (int i = 1; i < 12; ++i) {
-        const std::string inner = "&l" + std::to_string(i - 1) + ";";
-        laughs += "<!ENTITY l" + std::to_string(i) + " '";
-        for (int j = 0; j < 10; ++j)
-            laughs += inner;
-        laughs += "'>";
+        laughs +=
+            "<!ENTITY l" + std::to_string(i) + " '" + Repeated("&l" + std::to_string(i - 1) + ";", 10) + "'>";
     }
     laughs += "]>";
     const std::string external = "<!DOCTYPE t [<!ENTITY e SYSTEM 'file:///etc/passwd'>]>";

@@ -63,10 +63,7 @@ TEST(XslTransform, OperationsAreCounted)
          "<xsl:for-each select='//i'><xsl:for-each select='//i'><a/></xsl:for-each></xsl:for-each>"},
         {"steps of XPath", "<xsl:value-of select='count(//i[count(//i) = 0])'/>"},
     };
-    std::string tree = "<t>";
-    for (int i = 0; i < 200; ++i)
-        tree += "<i/>";
-    tree += "</t>";
+    const std::string tree = "<t>" + Repeated("<i/>", 200) + "</t>";
     for (const auto& [name, body] : cases) {
         SCOPED_TRACE(name);
         XslTransform transform(Stylesheet(Root(body)));
@@ -106,7 +103,7 @@ TEST(XslTransform, NoDocumentForWhatIsNoXml)
     EXPECT_EQ(transform.apply("<a>\xff</a>"), nullptr);
     EXPECT_EQ(transform.apply(std::string_view("<a>\0</a>", 8)), nullptr);
     EXPECT_FALSE(transform.HasError());
-    // A failure leaves nothing behind.
+    // A failure leaves no trace.
     EXPECT_EQ(Text(transform.apply("<a/>")), "<a/>");
     EXPECT_EQ(Text(transform.apply(Uve::u8string("<a/>"))), "<a/>");
 }

@@ -1,13 +1,12 @@
 #include "Stylesheets/XsltLoad.h"
 
-#include "Stylesheets/Archive/Compressor.h"
+#include "Tests/Stylesheets/PackedText.h"
 #include "Tests/Support/MemoryLog.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <zlib.h>
 
 #include <filesystem>
 #include <fstream>
@@ -21,13 +20,7 @@ using Uve::U8CString;
 
 std::string Packed(const std::string& text, bool unused = false)
 {
-    uLongf length = compressBound(text.size());
-    std::string payload(length, '\0');
-    compress2(reinterpret_cast<Bytef*>(payload.data()), &length, reinterpret_cast<const Bytef*>(text.data()),
-              text.size(), 9);
-    payload.resize(length);
-    Compressor::EncryptBuffer(payload.data(), static_cast<int>(payload.size()));
-    return std::to_string(text.size()) + (unused ? ".1." : ".0.") + payload;
+    return PackedText(std::to_string(text.size()) + (unused ? ".1." : ".0."), text);
 }
 
 std::string Import(const std::string& name)
@@ -271,7 +264,7 @@ TEST_F(RuleFiles, RunawayImportsFail)
             "<d/>" + Import("double" + std::to_string(i + 1) + ".xslt") +
                 Include("double" + std::to_string(i + 1) + ".xslt"));
     Put("crs/double30.xslt", "<end/>");
-    // A row of files, each taking in the one behind it.
+    // A row of files, each taking in the one after it.
     for (int i = 0; i < 101; ++i)
         Put("crs/row" + std::to_string(i) + ".xslt",
             "<r/>" + Import("row" + std::to_string(i + 1) + ".xslt"));

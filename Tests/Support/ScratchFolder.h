@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <system_error>
 
@@ -28,12 +29,18 @@ public:
 
     // Without a name that of the folder, with a slash at its end.
     std::string Path(const std::string& name = "") const { return m_Path + "/" + name; }
-    // Folders in `name` are made. Returns: the path.
+    // Folders in `name` are made.
+    // Returns: the path.
     std::string Write(const std::string& name, const std::string& text) const
     {
         std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
         std::ofstream(Path(name), std::ios::binary) << text;
         return Path(name);
+    }
+    std::string Read(const std::string& name) const
+    {
+        std::ifstream file(Path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
     }
 
 private:

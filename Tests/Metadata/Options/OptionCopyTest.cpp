@@ -4,12 +4,11 @@
 #include "Metadata/Options/wzdoptions.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <set>
 #include <string>
@@ -27,22 +26,11 @@ std::shared_ptr<CUVDBDatabaseInfo> MakeInfo()
     return UVDBMakeObject<CUVDBDatabaseInfo>(DB_VERSION_INFO{});
 }
 
-class IniFile : public testing::Test
+TEST(IniFile, OptionsAreReadByTheirKind)
 {
-protected:
-    void SetUp() override
-    {
-        m_path = std::filesystem::temp_directory_path() / ("uv_options_" + std::to_string(getpid()) + ".ini");
-        std::ofstream(m_path) << "[DDL]\nTEXT=from file\nCHOICE=SECOND\nODD=none of them\nNUMBER=12\nEMPTY=\n"
-                                 "[NULL]\nHIDDEN=in null\n";
-    }
-    void TearDown() override { std::filesystem::remove(m_path); }
-
-    std::filesystem::path m_path;
-};
-
-TEST_F(IniFile, OptionsAreReadByTheirKind)
-{
+    const CScratchFolder folder;
+    U8CString path = folder.Write("options.ini", "[DDL]\nTEXT=from file\nCHOICE=SECOND\nODD=none of them\n"
+                                                 "NUMBER=12\nEMPTY=\n[NULL]\nHIDDEN=in null\n");
     static constexpr UVOptionChoice kChoices[] = {{0, "first", 0}, {0, "Second", 0}, {0, "second", 0}};
     struct SCase
     {
@@ -77,7 +65,6 @@ TEST_F(IniFile, OptionsAreReadByTheirKind)
         info.choices = kChoices;
         info.choiceCount = 3;
         U8CString value = "kept";
-        U8CString path = m_path.string();
         ReadOption(&info, value, path);
         EXPECT_EQ(value, c.value);
     }
