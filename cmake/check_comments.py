@@ -27,7 +27,6 @@ EXEMPT = [
     "Grammar/*",
     "Names/*",
     "Preparation/Macro*",
-    "Tests/*",
     "Tools/uvparse/*",
     "Tree/*",
 ]

@@ -47,7 +47,7 @@ public:
         : m_log(std::make_shared<CMemoryLog>(traceLevel)), m_earlierLog(CLogWrapper::GetLog())
     {
         CLogWrapper::Init(m_log);
-        // Text that waited for a log comes in front of the next one.
+        // Text that waited for a log comes before the next one.
         CLogWrapper::WriteLog("");
         CLogWrapper::WriteLogScreen("");
         CLogWrapper::WriteTrace("");

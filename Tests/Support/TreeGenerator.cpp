@@ -209,7 +209,7 @@ void CTreeGenerator::Content(std::string_view name, int depth)
     Filler();
 }
 
-// Items of a list, each beside the rest of the list or before it or behind it.
+// Items of a list, each beside the rest of the list or before it or after it.
 void CTreeGenerator::Chain(std::string_view name, int depth)
 {
     const std::size_t levels = 1 + m_Choices.Below(4);

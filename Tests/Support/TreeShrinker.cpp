@@ -51,7 +51,7 @@ std::vector<SPiece> Cut(std::string_view text)
     return pieces;
 }
 
-// Two ranges of a text go. The second comes behind the first, or is empty.
+// Two ranges of a text go. The second comes after the first, or is empty.
 struct SStep
 {
     std::size_t from = 0, count = 0;
