@@ -20,23 +20,6 @@ protected:
     }
 };
 
-TEST_F(NormalizeNameReport, HasAnElementForEveryEntry)
-{
-    EXPECT_EQ(CNormalizeName::GetNormalizeNameReport(), "<IdentifierNames></IdentifierNames>");
-
-    for (const long type : {0, 2, 17}) {
-        CObjects object{.name = "a", .type = type};
-        updateHashValue(object);
-        m_ReportMap[object].name = "b";
-    }
-    const std::string report = CNormalizeName::GetNormalizeNameReport();
-    for (const char* type : {"Table", "View", "Column"}) {
-        const std::string entry =
-            std::string("<Identifier type=\"") + type + "\" source=\"a\" target=\"b\" />";
-        EXPECT_NE(report.find(entry), std::string::npos) << entry;
-    }
-}
-
 struct SReportCase
 {
     const char* source;
@@ -62,6 +45,7 @@ constexpr SReportCase kEntries[] = {
 
 TEST_F(NormalizeNameReport, EntryTellsTypeNamesTableAndReasons)
 {
+    EXPECT_EQ(CNormalizeName::GetNormalizeNameReport(), "<IdentifierNames></IdentifierNames>");
     for (const SReportCase& c : kEntries) {
         SCOPED_TRACE(c.entry);
         EXPECT_EQ(ReportOf(c.source, c.type, c.target, c.reasons),

@@ -42,13 +42,13 @@ TEST(ErrorInfo, EachGetterReadsItsOwnText)
     error.NativeInfo = "bb";
     error.FailedQuery = "ccc";
     error.Code = -5;
-    std::size_t length = 0;
-    error.get_Description(nullptr, 0, &length);
-    EXPECT_EQ(length, 1U);
-    error.get_NativeInfo(nullptr, 0, &length);
-    EXPECT_EQ(length, 2U);
-    error.get_FailedQuery(nullptr, 0, &length);
-    EXPECT_EQ(length, 3U);
+    std::size_t expected = 0;
+    for (const auto getter : {&IUVDBErrorInfo::get_Description, &IUVDBErrorInfo::get_NativeInfo,
+                              &IUVDBErrorInfo::get_FailedQuery}) {
+        std::size_t length = 0;
+        (error.*getter)(nullptr, 0, &length);
+        EXPECT_EQ(length, ++expected);
+    }
     long code = 0;
     EXPECT_EQ(error.get_Code(&code), UVDB_OK);
     EXPECT_EQ(code, -5);

@@ -1,6 +1,7 @@
 #include "Preparation/Formatters/FoxPro.h"
 
 #include "Tests/Preparation/FormatterFixture.h"
+#include "Tests/Preparation/ToldNotes.h"
 
 #include <gtest/gtest.h>
 
@@ -90,14 +91,10 @@ TEST(FoxProFormatter, FaithfulForm)
 
 TEST(FoxProFormatter, LossesAreTold)
 {
-    const std::vector<SPreparationNote> notes = FormatFoxPro("é;\nä ü;\nb\n* é;\n'ö;&& n\nx'\n").notes;
-    ASSERT_EQ(notes.size(), 3U);
-    EXPECT_EQ(notes[0].line, 1U);
-    EXPECT_EQ(notes[0].text, "2 lines lost characters beyond ASCII: \"`\" stands in their places");
-    EXPECT_EQ(notes[1].line, 5U);
-    EXPECT_EQ(notes[1].text, "1 line lost characters beyond ASCII: \"`\" stands in their places");
-    EXPECT_EQ(notes[2].line, 5U);
-    EXPECT_EQ(notes[2].text, "1 line lost what follows a \";\" within a literal that goes on");
+    EXPECT_EQ(Told(FormatFoxPro("é;\nä ü;\nb\n* é;\n'ö;&& n\nx'\n").notes),
+              "W :1 2 lines lost characters beyond ASCII: \"`\" stands in their places\n"
+              "W :5 1 line lost characters beyond ASCII: \"`\" stands in their places\n"
+              "W :5 1 line lost what follows a \";\" within a literal that goes on\n");
 }
 
 TEST(FoxProFormatter, AnySize)

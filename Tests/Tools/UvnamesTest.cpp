@@ -60,13 +60,6 @@ TEST_F(Uvnames, AllFormatsSayTheSame)
     EXPECT_EQ(rows[2][5], "a_very_long_name_for_an_index_");
 }
 
-TEST_F(Uvnames, NamesAreUniqueAndStayTheSame)
-{
-    Put("in", "Table\t\ts\ta b\nTable\t\ts\ta-b\nView\t\ts\ta_b\nTable\t\ts\ta b\nTable\t\tother\ta b\n");
-    EXPECT_THAT(Targets("MSSQL", "PostgreSQL"),
-                ElementsAre("s.a_b", "s.a_b2", "s.a_b3", "s.a_b", "other.a_b"));
-}
-
 TEST_F(Uvnames, ASchemaIsCalledAsInTheNamesInIt)
 {
     Put("in", "Table\t\tsales 1\tt\nschema\t\tsales-1\nschema\t\tsales 1\nTable\t\tsales-1\tt\n");
