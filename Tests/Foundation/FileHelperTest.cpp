@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 namespace {
@@ -139,19 +138,16 @@ TEST_F(FileHelper, MarkDecidesAndAnExplicitEncodingTrustsInOne)
 
 TEST_F(FileHelper, UnreadableFilesAreToldApart)
 {
-    const auto failure = [](const U8CString& path, Uve::File::Encoding encoding) -> std::string {
-        try {
-            Uve::File::ReadAllText(path, encoding);
-            return "none";
-        } catch (const std::runtime_error& e) {
-            return e.what();
-        }
+    using namespace Uve::File;
+    const auto reading = [](const U8CString& path, Encoding encoding) {
+        return [=] { ReadAllText(path, encoding); };
     };
-    EXPECT_EQ(failure(PathOf("none"), Uve::File::ENCODING_AUTO),
-              "Unable to open file. File does not exists.");
-    EXPECT_EQ(failure(PathOf("."), Uve::File::ENCODING_AUTO), "Unable to open file. File does not exists.");
-    EXPECT_EQ(failure(Write("a", "text"), static_cast<Uve::File::Encoding>(7)),
-              "Unable to detect file encoding.");
+    const auto missing =
+        testing::ThrowsMessage<std::runtime_error>("Unable to open file. File does not exists.");
+    EXPECT_THAT(reading(PathOf("none"), ENCODING_AUTO), missing);
+    EXPECT_THAT(reading(PathOf("."), ENCODING_AUTO), missing);
+    EXPECT_THAT(reading(Write("a", "text"), static_cast<Encoding>(7)),
+                testing::ThrowsMessage<std::runtime_error>("Unable to detect file encoding."));
 }
 
 TEST_F(FileHelper, DirectoriesListTheirFilesByMask)

@@ -2,6 +2,7 @@
 #include "Tests/Support/Repeated.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -142,13 +143,12 @@ TEST(U8CString, TokensAgreeWithCodePoints)
 
 TEST(U8CString, TokenizeRefusesNegativePositions)
 {
-    int position = -1;
-    try {
-        U8CString("a").Tokenize(",", position);
-        FAIL();
-    } catch (const std::out_of_range& error) {
-        EXPECT_STREQ(error.what(), "Invalid position (negative)");
-    }
+    EXPECT_THAT(
+        [] {
+            int position = -1;
+            U8CString("a").Tokenize(",", position);
+        },
+        testing::ThrowsMessage<std::out_of_range>("Invalid position (negative)"));
 }
 
 TEST(U8CString, NullAndEmptyArguments)

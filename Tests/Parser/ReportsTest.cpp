@@ -18,16 +18,10 @@ TEST(UnexpectedTokens, PlacesAreCountedInLinesAndCharacters)
     const std::string query = "a\n\xE2\x82\xAC b\xE2\x82\xAC\n\nz";
     EXPECT_EQ(FormatUnexpectedTokens(query, {Token(0, "a"), Token(7, "\xE2\x82\xAC"), Token(12, "z")}),
               "1\t1\t0\t1\ta\n2\t4\t7\t3\t\xE2\x82\xAC\n4\t1\t12\t1\tz\n");
-}
-
-TEST(UnexpectedTokens, OrderOfArrivalIsKept)
-{
+    // The order is that of arrival.
     EXPECT_EQ(FormatUnexpectedTokens("ab", {Token(1, "b"), Token(0, "a"), Token(99, "")}),
               "1\t2\t1\t1\tb\n1\t1\t0\t1\ta\n1\t3\t99\t0\t\n");
-}
-
-TEST(UnexpectedTokens, TokenStaysOnItsLineOfTheList)
-{
+    // A token stays on its line of the list.
     EXPECT_EQ(FormatUnexpectedTokens("'a\tb\r\nc'", {Token(0, "'a\tb\r\nc'")}), "1\t1\t0\t8\t'a b  c'\n");
     EXPECT_EQ(FormatUnexpectedTokens("text", {}), "");
 }

@@ -3,6 +3,7 @@
 #include "Preparation/Formatters/Cobol.h"
 #include "Tests/Preparation/FormatterFixture.h"
 #include "Tests/Preparation/SourceJudge.h"
+#include "Tests/Preparation/ToldNotes.h"
 
 #include <boost/regex.hpp>
 #include <gtest/gtest.h>
@@ -93,19 +94,15 @@ TEST(CobolFaithfulFree, LinesGoOnWithCode)
 
 TEST(CobolNotes, FormsAndShortLines)
 {
-    const SPreparedText none = FormatCobol("A\n", {.formatName = "YES"});
-    ASSERT_EQ(none.notes.size(), 1U);
-    EXPECT_EQ(none.notes[0].text, "COBOLFORMAT YES is no form: the text is empty");
+    EXPECT_EQ(Told(FormatCobol("A\n", {.formatName = "YES"}).notes),
+              "E :0 COBOLFORMAT YES is no form: the text is empty\n");
     EXPECT_TRUE(FormatCobol("", {.formatName = "YES"}).notes.empty());
-    for (const bool isFaithful : {false, true}) {
-        const SPreparedText prepared =
-            FormatCobol("0001\n\nSTOP.\n RUN  \n\n       A\nEND\n",
-                        {.format = enCobolFormat::Fixed, .isFaithful = isFaithful});
-        ASSERT_EQ(prepared.notes.size(), 2U);
-        EXPECT_EQ(prepared.notes[0].line, 3U);
-        EXPECT_EQ(prepared.notes[0].text, "2 lines vanished: no text after the columns of the line number");
-        EXPECT_EQ(prepared.notes[1].line, 7U);
-    }
+    for (const bool isFaithful : {false, true})
+        EXPECT_EQ(Told(FormatCobol("0001\n\nSTOP.\n RUN  \n\n       A\nEND\n",
+                                   {.format = enCobolFormat::Fixed, .isFaithful = isFaithful})
+                           .notes),
+                  "W :3 2 lines vanished: no text after the columns of the line number\n"
+                  "W :7 1 line vanished: no text after the columns of the line number\n");
 }
 
 TEST(CobolFaithful, AnySize)

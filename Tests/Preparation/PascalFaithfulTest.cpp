@@ -4,6 +4,7 @@
 #include "Preparation/Formatters/Pascal.h"
 #include "Tests/Preparation/FormatterFixture.h"
 #include "Tests/Preparation/SourceJudge.h"
+#include "Tests/Preparation/ToldNotes.h"
 
 #include <boost/regex.hpp>
 #include <gtest/gtest.h>
@@ -72,42 +73,35 @@ struct SNoteCase
     std::string source, faithful, notes, literalNotes;
 };
 
-std::string Shown(const std::vector<SPreparationNote>& notes)
-{
-    std::string shown;
-    for (const SPreparationNote& note : notes)
-        shown += std::to_string(note.line) + ": " + note.text + "\n";
-    return shown;
-}
-
 TEST(PascalFaithful, WhatHasNoPartnerStaysAndIsTold)
 {
     const std::string misread = " vanished with conditions that the literal form misreads\n";
     for (const SNoteCase& c : std::vector<SNoteCase>{
              {"a\n{$IFNDEF RELEASE}\n\nb\n{$IFDEF RELEASE}\nc\n{$ENDIF}\nd\n",
-              "a\n{$IFNDEF RELEASE}\nb\nc\nd\n", "2: {$IFNDEF RELEASE} is never closed\n",
-              "2: {$IFNDEF RELEASE} is never closed\n2: 4 lines" + misread},
+              "a\n{$IFNDEF RELEASE}\nb\nc\nd\n", "W :2 {$IFNDEF RELEASE} is never closed\n",
+              "W :2 {$IFNDEF RELEASE} is never closed\nW :2 4 lines" + misread},
              {"{$ELSE}\na\n{$ENDIF}\n{$IFDEF RELEASE}\nb\n{$ENDIF}\n", "{$ELSE}\na\n{$ENDIF}\nb\n",
-              "1: {$ELSE} has no condition before it\n3: {$ENDIF} has no condition before it\n",
-              "1: {$ELSE} has no condition before it\n1: 1 line" + misread +
-                  "3: {$ENDIF} has no condition before it\n3: 1 line" + misread},
+              "W :1 {$ELSE} has no condition before it\nW :3 {$ENDIF} has no condition before it\n",
+              "W :1 {$ELSE} has no condition before it\nW :1 1 line" + misread +
+                  "W :3 {$ENDIF} has no condition before it\nW :3 1 line" + misread},
              {"{$IF X}\na\n{$ELSE}\nb\n{$IFEND}\n", "{$IF X}\na\n{$ELSE}\nb\n{$IFEND}\n", "",
-              "3: 1 line" + misread},
-             {"{$IFDEF A}\n{$ELSE}\na", "{$IFDEF A}\n{$ELSE}\na\n", "1: {$IFDEF A} is never closed\n",
-              "1: {$IFDEF A} is never closed\n1: 3 lines" + misread},
+              "W :3 1 line" + misread},
+             {"{$IFDEF A}\n{$ELSE}\na", "{$IFDEF A}\n{$ELSE}\na\n", "W :1 {$IFDEF A} is never closed\n",
+              "W :1 {$IFDEF A} is never closed\nW :1 3 lines" + misread},
              {Repeated("{$ENDIF}\n", 9),
               Repeated("{$ENDIF}\n", 9),
-              "1: {$ENDIF} has no condition before it\n2: {$ENDIF} has no condition before it\n"
-              "3: {$ENDIF} has no condition before it\n4: {$ENDIF} has no condition before it\n"
-              "5: {$ENDIF} has no condition before it\n6: from here on 4 more directives have no partner\n",
+              "W :1 {$ENDIF} has no condition before it\nW :2 {$ENDIF} has no condition before it\n"
+              "W :3 {$ENDIF} has no condition before it\nW :4 {$ENDIF} has no condition before it\n"
+              "W :5 {$ENDIF} has no condition before it\nW :6 from here on 4 more directives have no "
+              "partner\n",
               {}},
          }) {
         SCOPED_TRACE(c.source);
         const SPreparedText prepared = FormatPascal(c.source, kFaithful);
         EXPECT_EQ(prepared.text, c.faithful);
-        EXPECT_EQ(Shown(prepared.notes), c.notes);
+        EXPECT_EQ(Told(prepared.notes), c.notes);
         if (!c.literalNotes.empty()) {
-            EXPECT_EQ(Shown(FormatPascal(c.source).notes), c.literalNotes);
+            EXPECT_EQ(Told(FormatPascal(c.source).notes), c.literalNotes);
         }
     }
 }

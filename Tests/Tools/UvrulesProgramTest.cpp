@@ -377,24 +377,12 @@ TEST_F(Uvrules, ApplySaysWhyItFailed)
 TEST_F(Uvrules, WhatCannotRunIsNeverASuccess)
 {
     Put("a.xslt", Stylesheet(""));
-    ExpectRefused({{""},
-                   {"repack a.xslt"},
-                   {"pack"},
-                   {"pack missing.xslt"},
-                   {"pack ."},
-                   {"pack -"},
-                   {"pack --force a.xslt"},
-                   {"unpack"},
-                   {"unpack a.xslt b.xslt"},
-                   {"unpack a.xslt --force"},
-                   {"show missing.xslt"},
-                   {"resolve"},
-                   {"resolve --fir A a.xslt"},
-                   {"apply a.xslt"},
-                   {"apply - -"},
-                   {"apply a.xslt a.xslt --param p"},
-                   {"apply a.xslt a.xslt --param-xml =a.xslt"},
-                   {"--help >/dev/full"}});
+    for (const char* arguments :
+         {"", "repack a.xslt", "pack", "pack missing.xslt", "pack .", "pack -", "pack --force a.xslt",
+          "unpack", "unpack a.xslt b.xslt", "unpack a.xslt --force", "show missing.xslt", "resolve",
+          "resolve --fir A a.xslt", "apply a.xslt", "apply - -", "apply a.xslt a.xslt --param p",
+          "apply a.xslt a.xslt --param-xml =a.xslt", "--help >/dev/full"})
+        ExpectRefused({{arguments}});
     EXPECT_EQ(Get("a.xslt"), Stylesheet(""));
     for (const char* arguments : {"--help", "pack --help", "--version"}) {
         const SRunResult run = Run(arguments);
