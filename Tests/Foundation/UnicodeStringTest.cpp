@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
 #include <stdexcept>
 #include <typeinfo>
 #include <unordered_map>

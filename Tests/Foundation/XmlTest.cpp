@@ -6,7 +6,6 @@
 #include <libxml/tree.h>
 #include <libxml/xpath.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 

@@ -10,8 +10,6 @@
 #include <gtest/gtest.h>
 #include <libxml/tree.h>
 
-#include <algorithm>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 

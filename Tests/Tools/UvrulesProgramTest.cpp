@@ -49,14 +49,12 @@ protected:
 
 TEST_F(Uvrules, PackedFilesComeBackAsTheyWere)
 {
-    const std::string texts[] = {
-        "x",
-        "\0"s,
-        "no XML, 1.2.3",
-        "\xEF\xBB\xBF<a/>",
-        Stylesheet("<!-- THIS_XSLT_IS_UNUSED -->\r\n"),
-        std::string(100000, 'a'),
-    };
+    const std::string texts[] = {"x",
+                                 "\0"s,
+                                 "no XML, 1.2.3",
+                                 "\xEF\xBB\xBF<a/>",
+                                 Stylesheet("<!-- THIS_XSLT_IS_UNUSED -->\r\n"),
+                                 std::string(100000, 'a')};
     for (const std::string& text : texts) {
         SCOPED_TRACE(testing::PrintToString(text.substr(0, 50)));
         Put("rule.xslt", text);
