@@ -51,7 +51,7 @@ constexpr SDbInfoLiteral Subtype(std::int64_t index, std::uint64_t db, std::uint
 }
 
 // Order is meaning: the first row that fits answers. Subtypes stand before their kind. The Sybase row that
-// has no subtype stands behind one that answers for every subtype: it is reached by name, index or key alone.
+// has no subtype stands after one that answers for every subtype: it is reached by name, index or key alone.
 // clang-format off
 constexpr SDbInfoLiteral kRows[] = {
 //        index  kind                                short name                   full name                     wizard name          visible name                 extension

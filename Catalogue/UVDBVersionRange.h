@@ -39,7 +39,7 @@ struct Ver
 
     Ver() = default;
 
-    // `range` is "from-to": "7.0-9.2", "*-9.2", "7.0-*"; ">" behind the lower and "<" before the upper bound
+    // `range` is "from-to": "7.0-9.2", "*-9.2", "7.0-*"; ">" after the lower and "<" before the upper bound
     // exclude it ("7.0>-<9.2"). A range without "-" takes every version.
     Ver(std::uint64_t dbKind, std::uint64_t dbSubType, const Uve::U8CString& range,
         bool unknownVersionMatches);

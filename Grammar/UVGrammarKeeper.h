@@ -17,8 +17,8 @@ class CGeneratedText;
 
 // Rule number to operations. The key of an operation is its keyword, "#" and its occurrence in the record
 // ("TOKEN_ACTION#0"): the operations of a rule run in the order of these keys, not in that of the file. A
-// record without operations has the one key "NULL_ACTION" with a null vector. Owner: whoever holds the map
-// owns both levels behind the pointers; see FreeActionsMap.
+// record without operations has the one key "NULL_ACTION" with a null vector.
+// Owner: whoever holds the map owns both levels that the pointers lead to; see FreeActionsMap.
 using COperationsMap = std::map<std::string, std::vector<std::string>*>;
 using CActionsMap = std::map<int, COperationsMap*>;
 
@@ -28,12 +28,13 @@ void FreeActionsMap(CActionsMap& actions);
 // The folder of one part ("Lexer" or "Parser") of a grammar, with a slash at its end:
 // <folder of the program>/Grammar[.CR]/<parserName>/<part>/
 // Throws: U8CString "file not found" for a name that would lead out of the grammar folder (one with "/" or
-// "..").
+//         "..").
 std::string ComposeGrammarDirectory(const std::string& parserName, bool isCr, const char* part);
 
 // The content of a text file: `plainDirectory`/name, else the archive `packedDirectory`/name_ unpacked.
 // Throws: U8CString with the line for the log if there is neither, if it can't be read, or the archive is
-// damaged. The line names the plain file where there is neither, and the system's reason where it is another.
+//         damaged. The line names the plain file where there is neither, and the system's reason where it is
+//         another.
 std::string GetDatFile(const std::string& packedDirectory, const std::string& plainDirectory,
                        const std::string& name);
 
@@ -58,13 +59,12 @@ public:
     // Returns: the entries, `count` of them; null with `count` 0 if the file can't be opened.
     // Owner:   the caller, delete[].
     // Throws:  U8CString with the line for the log, if the file is damaged or shorter than it claims. Memory
-    // grows
-    //          with what the file really holds.
+    //          grows with what the file really holds.
     template <class T>
     static T* GetBinaryTableFromFile(const char* path, std::size_t& count, std::uint32_t* checksum = nullptr);
 
     // Adds the records of an action text to `actions`; a later record with the same number replaces an
-    // earlier one. An unknown keyword ends the reading with a line in the trace: its record and all behind it
+    // earlier one. An unknown keyword ends the reading with a line in the trace: its record and all after it
     // are missing.
     static void CreateActionsMap(const std::string& text, CActionsMap& actions);
 
@@ -80,8 +80,8 @@ public:
 
     // ---- Writing ----
     // `source` is the generated file; whether it is flex's or bison's goes by its name, see IsFileLexer.
-    // `directory` takes the files and ends in a slash. Returns: 0, or -1 with a line in the trace if the
-    // source can't be read or has another form.
+    // `directory` takes the files and ends in a slash.
+    // Returns: 0, or -1 with a line in the trace if the source can't be read or has another form.
 
     static int SaveActionsToFile(const std::string& source, const std::string& directory);
     // Throws: U8CString with the line for the log if a table can't be written.
@@ -96,8 +96,8 @@ public:
     static std::string GetTableNames(const std::string& path);
 
     // The numbers of a C initialiser, from its "{" on. The first element is their count, so that the vector
-    // is the content of a table file. T is int (base 10) or unsigned int (base 0). Throws: std::runtime_error
-    // if the initialiser isn't one of numbers.
+    // is the content of a table file. T is int (base 10) or unsigned int (base 0).
+    // Throws: std::runtime_error if the initialiser isn't one of numbers.
     template <class T>
     static std::vector<T> GetFileTable(std::string_view text);
 
@@ -108,7 +108,7 @@ public:
         kStatementEndsRecord = 2,
         kStatementDone = 3
     };
-    // Appends the keyword at the cursor to `out`, for some with the operand, and moves behind it. The cursor
+    // Appends the keyword at the cursor to `out`, for some with the operand, and moves after it. The cursor
     // stands at one of seekingTokens.
     static enStatementResult ProcessToken(CGeneratedText& cursor, std::string& out);
 

@@ -96,7 +96,7 @@ void ForEachDefine(const std::string& text, F take)
 //     record    = number " " { operation " " } LF
 //     operation = keyword { " " operand }        as many operands as the keyword has
 // for example "8 STRING_ACTION 5 BEGIN HEREDOC \n" or "1 \n". Operands hold no blank and no LF; quotes and
-// CRs are part of them. A number with an LF right behind it takes the next word for its keyword.
+// CRs are part of them. A number with an LF right after it takes the next word for its keyword.
 class CActionsReader
 {
 public:
@@ -314,7 +314,7 @@ T* UVDBGrammarKeeper::GetBinaryTableFromFile(const char* path, std::size_t& coun
         std::memcpy(larger.get(), entries.get(), filled * sizeof(T));
         entries = std::move(larger);
     }
-    // The checksum stands behind the last entry. What a file holds beyond its count is nobody's.
+    // The checksum stands after the last entry. What a file holds beyond its count is nobody's.
     char beyond[4096];
     while (file.Read(beyond, sizeof beyond) > 0) {
     }

@@ -38,7 +38,7 @@ public:
     // The same inside one case of an action switch: also stops where the case ends.
     void SkipCaseSymbols(std::string_view set);
     void SkipUntilCaseSymbols(std::string_view set);
-    // To the LF and over the white space behind it.
+    // To the LF and over the white space after it.
     void SkipLine();
 
     // True at "break;", "YY_BREAK" and "goto ".

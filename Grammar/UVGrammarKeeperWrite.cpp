@@ -44,7 +44,7 @@ bool ReadSource(std::string& text, const std::string& source)
 struct STablePlace
 {
     std::string_view name;
-    std::size_t end = 0; // offset behind the "="
+    std::size_t end = 0; // offset after the "="
 };
 
 // The table whose declaration begins at `at`, as yy_accept[128] = or yypact[] =; an empty name if none does.

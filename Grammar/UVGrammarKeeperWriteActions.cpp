@@ -30,7 +30,7 @@ void SkipComment(CGeneratedText& cursor)
     cursor.SkipSymbols(CGeneratedText::kWhiteSpace);
 }
 
-// Behind the brace of a conditional block and its white space.
+// After the brace of a conditional block and its white space.
 void SkipToBlock(CGeneratedText& cursor)
 {
     cursor.SkipUntilSymbols("{");
@@ -63,7 +63,7 @@ void CopyArguments(CGeneratedText& cursor, std::string& out)
     }
 }
 
-// From behind the opening brace of a rule's body to where its record ends.
+// From after the opening brace of a rule's body to where its record ends.
 void CopyStatements(CGeneratedText& cursor, std::string& out)
 {
     const std::string wordOrLine = std::string(kAlphanumerics) + "/#";

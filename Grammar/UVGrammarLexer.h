@@ -49,14 +49,14 @@ public:
     // Throws: as yytables.
     CSQLGrammarLexer(const char* parserName, bool isPatternVersion);
     // The out-of-process tool's parameters: DBNAME and PATTERNVER name the grammar, the others fill
-    // m_Extension. Throws: as yytables; boost::bad_any_cast for a parameter that is missing or of another
-    // type.
+    // m_Extension.
+    // Throws: as yytables; boost::bad_any_cast for a parameter that is missing or of another type.
     explicit CSQLGrammarLexer(const boost::program_options::variables_map& parameters);
     ~CSQLGrammarLexer() override;
 
     // Reads and proves the tables of the folder `parserName`, below Grammar or, with `isPatternVersion`,
-    // below Grammar.CR. Throws: Uve::U8CString with the line for the log if a file is missing, damaged or
-    // can't be proved.
+    // below Grammar.CR.
+    // Throws: Uve::U8CString with the line for the log if a file is missing, damaged or can't be proved.
     void yytables(const char* parserName, bool isPatternVersion);
     // Takes the grammar of another lexer, its name included; its own is released. The tables are shared, the
     // actions copied.
@@ -88,8 +88,7 @@ public:
     void DropQuery();
     // The next token, in the parser's lookahead value.
     // Returns: the parser's number of it, 0 at the end of the text; what the action interpreter still owes
-    // comes
-    //          before the next match.
+    //          comes before the next match.
     // Throws:  as yyFlexLexer; std::out_of_range if an action begins a start condition that isn't there.
     int yylex() override;
     // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
@@ -112,7 +111,7 @@ public:
 
     // Each fills `node` with the current match as token "T" + name.
     // Returns: the parser's number of it; 0 for a name that the parser doesn't know, which ends the text for
-    // it.
+    //          it.
     int TokenAction(const std::string& name, ParserNode& node);
     // With a color for the coloring text.
     int TokenActionE(const std::string& name, int color, ParserNode& node);
@@ -137,7 +136,7 @@ public:
     void yyfindrule(int& act) override;
     void yyincrementchar(int n) override
     {
-        // at the end the scanner walks both NULs behind the text and gives one back: the count stops one past
+        // at the end the scanner walks both NULs after the text and gives one back: the count stops one past
         // the end
         const int most = std::max(m_Extension.m_nQueryLength + 1, m_Extension.m_nChar);
         m_Extension.m_nChar = n > most - m_Extension.m_nChar ? most : m_Extension.m_nChar + n;

@@ -73,13 +73,13 @@ void CSQLGrammarLexer::StringElse(const char* skipState)
         skips.pop_back();
 }
 
-// Notes the terminator of the here-document that begins behind `mark`; with `isCut` the text ends at ">>".
+// Notes the terminator of the here-document that begins after `mark`; with `isCut` the text ends at ">>".
 void CSQLGrammarLexer::StringHereDocument(const char* mark, bool isCut)
 {
     Uve::U8CString text(yytext);
     const auto markLength = Uve::U8CString(mark).GetLength();
     int count = text.GetLength();
-    // The count isn't adjusted for where the text starts: a terminator in front of a pipe keeps what lies
+    // The count isn't adjusted for where the text starts: a terminator before a pipe keeps what lies
     // between.
     if (const int pipe = text.Find("|"); markLength == 3 && pipe != -1)
         count = pipe - 3;

@@ -103,7 +103,7 @@ int CSQLGrammarLexer::LineFeedBefore(int from)
 }
 
 // Note: token positions
-// The column counts from the byte behind the recorded line start. That record is meant to be the last LF, but
+// The column counts from the byte after the recorded line start. That record is meant to be the last LF, but
 // where no LF lies between two tokens it moves to the end of the first one. So the first token of a line has
 // its column, and a later one its distance to the token before it. Readers of the tree know the attribute in
 // this form.

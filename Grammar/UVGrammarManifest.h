@@ -37,7 +37,7 @@ public:
 
     // The unpacked content of a text file.
     // Throws: Uve::U8CString with the line for the log, if it isn't there, damaged, or not what the manifest
-    // says.
+    //         says.
     std::string ReadText(const char* name) const;
     // T is int or unsigned int.
     // Returns: what the file holds. The count that it begins with belongs to its bytes, not to its records.

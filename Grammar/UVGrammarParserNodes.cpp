@@ -60,7 +60,7 @@ void CSQLGrammarParser::CreateErrorNodeExt(const SOperation& operation)
 }
 
 // Joins one child to the node. The gap before it goes in as space; an empty child waits, so that it comes out
-// behind the space that follows it and doesn't split a gap.
+// after the space that follows it and doesn't split a gap.
 void CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJoin& join, bool show)
 {
     if (node.m_nStart == -1)

@@ -2,7 +2,7 @@
 // different types, may stand under one text.
 //
 // Names come table by table, so what stands in one place is kept together: a search among a million names
-// then touches memory that the one before has touched. Records are many and small; their texts lie behind
+// then touches memory that the one before has touched. Records are many and small; their texts lie after
 // each other in large blocks.
 #pragma once
 
@@ -30,7 +30,7 @@ public:
         SContent content;
         std::uint32_t textSize = 0;
         std::uint32_t nameSize = 0;
-        const char* bytes = nullptr; // the text, and the name behind it
+        const char* bytes = nullptr; // the text, and the name after it
 
         std::string_view Text() const { return {bytes, textSize}; }
         std::string_view Name() const { return {bytes + textSize, nameSize}; }

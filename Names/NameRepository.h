@@ -134,8 +134,8 @@ public:
 
     // Finds the record of the path, or of the path with its last type replaced by another of the group. The
     // lowest type number wins. Types of the group that stand further up in the path don't take part; a type
-    // without a group is never found. Returns: false, with `out` untouched, if there is none, the path is
-    // empty or the sizes differ.
+    // without a group is never found.
+    // Returns: false, with `out` untouched, if there is none, the path is empty or the sizes differ.
     bool GetObjectStr(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                       CConvertedName& out, std::string_view prefix = {}, std::size_t length = 0) const;
 
@@ -143,8 +143,8 @@ public:
     int GetObjectType(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                       std::string_view prefix = {}, std::size_t length = 0) const;
 
-    // Enters a record. Returns: false, with nothing changed, if the path is entered already, is empty or the
-    // sizes differ.
+    // Enters a record.
+    // Returns: false, with nothing changed, if the path is entered already, is empty or the sizes differ.
     bool SetObject(const std::vector<int>& path, const std::vector<Uve::U8CString>& names,
                    const CConvertedName& record, std::string_view prefix = {}, std::size_t length = 0);
 

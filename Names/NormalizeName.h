@@ -52,7 +52,7 @@ public:
     void ReadLocaleOption(const std::shared_ptr<IUVDBDatabaseInfo2>& info);
 
     // The rules, as the host read them from its options. A null text leaves the earlier one in place.
-    //   remove, replacement            not-allowed characters behind the first: erase; what to put there
+    //   remove, replacement            not-allowed characters after the first: erase; what to put there
     //   removeFirst, replacementFirst  the same for the first character
     //   trim                           cut what is too long
     //   alphanumOnly                   when too long, first drop what is no ASCII letter or digit
@@ -63,7 +63,7 @@ public:
     //   source- and targetQuotedCase   1 upper, 2 lower, 3 mixed, 4 case-insensitive; any other number of a
     //                                  target is replaced by the guess for the database
     //   columnCase                     1 upper, 2 lower, else as it stands
-    //   variablePrefix                 stands in front of variables where the target has no sigil
+    //   variablePrefix                 stands before variables where the target has no sigil
     void SetTranslateRules(bool remove, const char* replacement, bool removeFirst,
                            const char* replacementFirst, bool trim, bool alphanumOnly,
                            const char* targetSchema, bool keepTrimRules, const char* roleText,
@@ -113,7 +113,7 @@ public:
     // for each entry, in the map's order. Values aren't escaped: consumers do that.
     static Uve::U8CString GetNormalizeNameReport();
 
-    // The texts of bits of enUVDB_NAME_REASON, ascending, with a blank behind each but the last bit's.
+    // The texts of bits of enUVDB_NAME_REASON, ascending, with a blank after each but the last bit's.
     static Uve::U8CString ReasonsToString(unsigned long reasons);
 
     // ---- One part of a name: NormalizeNameConvert*.cpp ----
@@ -124,13 +124,13 @@ public:
     Uve::U8CString ConvertIdentifier(int objectType, unsigned long type, Uve::U8CString name,
                                      unsigned long& flags, const Uve::U8CString& kindText);
 
-    // The name with the characters behind the first, or with the first one, that the target doesn't take
+    // The name with the characters after the first, or with the first one, that the target doesn't take
     // erased or replaced, by the rules in force. Labels, cursors and variables get no replacement.
     Uve::U8CString RemoveNotAllowedChar(Uve::U8CString name, unsigned long type) const;
     Uve::U8CString RemoveNotAllowedCharFPos(Uve::U8CString name, unsigned long type) const;
 
     // A variable that is a reserved word of the target, in quotes where the target takes such a one and with
-    // a 2 behind it elsewhere. Any other name, and any name inside one kind of database, as it is.
+    // a 2 after it elsewhere. Any other name, and any name inside one kind of database, as it is.
     Uve::U8CString ConvertReservedWord(unsigned long type, const Uve::U8CString& name) const;
 
     // Without the variable sigil of the source in front.
@@ -142,9 +142,9 @@ public:
     // letter.
     void QuoteSaphanaIdentifier(Uve::U8CString& schema, Uve::U8CString& object, Uve::U8CString& sub) const;
 
-    // The name, or one with a number behind, that is free in the target. `prefix` (cut after `length` bytes)
-    // narrows the name space as in Repositary2. Sets UVDB_NAME_MADE_UNIQUE in `flags`. The caller enters the
-    // result.
+    // The name, or one with a number at its end, that is free in the target. `prefix` (cut after `length`
+    // bytes) narrows the name space as in Repositary2. Sets UVDB_NAME_MADE_UNIQUE in `flags`. The caller enters
+    // the result.
     Uve::U8CString MakeUniqueName(const std::vector<int>& path, Uve::U8CString name, std::string_view prefix,
                                   std::size_t length, unsigned long& flags);
 

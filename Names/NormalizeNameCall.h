@@ -14,7 +14,7 @@
 // - The entry in the report is under the name as MakeReportKey() finds it, behind ReadOptions() and
 //   PrepareParts(). A change by type before Convert() that the report is to show makes the key again.
 // - `schema` may be empty, given, or the schema of a linked database before Convert(); after it, it is the
-//   target's, and the steps behind it only take it away, move it into the object's name, or put another
+//   target's, and the steps after it only take it away, move it into the object's name, or put another
 //   there.
 // - A reason is set where a part is changed, and never taken back.
 // - What a type of object wants on top stands in the table of NormalizeNameQualifiedSteps.cpp.
@@ -45,7 +45,7 @@ struct CNormalizeName::SQualifiedCall
     // Converts the parts in place, and enters them in the report, save for names of the target's own
     // catalogue. `keepsBlanks`: blanks at a name's end stay.
     // Returns: UVDB_OK; -1 for a part of a table without a table: nothing is entered then, and the parts have
-    // no meaning.
+    //          no meaning.
     int Run(bool keepsBlanks);
 
     // ---- For the changes by type ----

@@ -32,7 +32,7 @@ public:
     bool IsUtf8() const { return m_Form == enForm::CodePoints; }
     bool IsWide() const { return m_Form == enForm::Wide; }
 
-    // Whether the character may not stand inside a name of the database, or not in front of one.
+    // Whether the character may not stand inside a name of the database, or not before one.
     bool IsRefused(std::size_t index, DB_VERSION_INFO version, unsigned long type,
                    const std::string& locale) const;
     bool IsRefusedFirst(std::size_t index, DB_VERSION_INFO version, unsigned long type,

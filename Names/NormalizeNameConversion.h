@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string_view>
 
-// Stands in front of a temporary table's name on its way through a path, so that it doesn't meet a permanent
+// Stands before a temporary table's name on its way through a path, so that it doesn't meet a permanent
 // one. The conversion takes it off again.
 inline constexpr const char* kTemporaryTableMark = "tmptbl";
 inline constexpr int kTemporaryTableMarkLength =

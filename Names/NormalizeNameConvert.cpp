@@ -225,7 +225,7 @@ void CNormalizeName::SConversion::TakeLimit()
     if (type == UVDB_DBO_SCHEMA)
         limit = GetDBMSMaxIdentifierSize(type, target, "");
     else if (source.db == UVDB_DB_MSSQL && HasDynamicMarkers(name))
-        limit = 0; // a cut marker would swallow the statement behind it
+        limit = 0; // a cut marker would swallow the statement after it
     else
         limit = GetDBMSMaxIdentifierSize(type, target, kindText.c_str());
 }

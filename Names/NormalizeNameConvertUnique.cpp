@@ -45,7 +45,7 @@ constexpr SSharedName kSharedNames[] = {
 };
 // clang-format on
 
-// Puts a number behind a name, inside its marks if it has some. A name that gets too long loses its end; 0
+// Puts a number after a name, inside its marks if it has some. A name that gets too long loses its end; 0
 // and below are no limit.
 Uve::U8CString NumberName(const Uve::U8CString& base, int number, long limit, bool countsBytes,
                           DB_VERSION_INFO version)
@@ -66,7 +66,7 @@ Uve::U8CString NumberName(const Uve::U8CString& base, int number, long limit, bo
 
 } // namespace
 
-// Looks for the first free one among a name and the name with 2, 3, 4 behind it.
+// Looks for the first free one among a name and the name with 2, 3, 4 after it.
 class CNormalizeName::CFreeNameSearch
 {
 public:

@@ -7,7 +7,8 @@
 #include <memory>
 
 // The option of the source, where hosts put what they were asked for; else of the target; else the process's
-// default. Returns: false, empty or 0 if nobody has it.
+// default.
+// Returns: false, empty or 0 if nobody has it.
 template <class T>
 T ReadNameOption(const std::shared_ptr<IUVDBDatabaseInfo2>& source,
                  const std::shared_ptr<IUVDBDatabaseInfo2>& target, const char* name)

@@ -11,7 +11,7 @@
 namespace {
 
 // Between the parts of a name in a record. A dot wouldn't do: names may hold some. They may hold anything, so
-// these two stand for themselves behind the second.
+// these two stand for themselves after the second.
 constexpr char kPartSeparator = '\x1F';
 constexpr char kEscape = '\x1E';
 

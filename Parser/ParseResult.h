@@ -22,7 +22,8 @@ public:
     Uve::U8CString& Text();
 
     // Puts the flattened tree in the place of fragments, if the result is some.
-    // Returns: whether it was. Throws: as FlattenTree; the result is empty then.
+    // Returns: whether it was.
+    // Throws:  as FlattenTree; the result is empty then.
     bool FlattenFragments(std::string_view declaration);
 
     void swap(CParseResult& other) noexcept;

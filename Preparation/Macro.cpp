@@ -52,7 +52,7 @@ Macro::Macro(enKind kind, TokenStore& store) : m_Kind(kind), m_Tokens(store)
     }
 }
 
-// A "(" right behind the name begins the parameters; a continuation between the two counts as nothing.
+// A "(" right after the name begins the parameters; a continuation between the two counts as nothing.
 bool Macro::parseDefine(const Token* nameToken)
 {
     if (!nameToken->name)

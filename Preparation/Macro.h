@@ -20,7 +20,7 @@ struct SMacroPart
     const Token* token = nullptr; // of a parameter: its name
     int parameter = -1;           // index, or -1
     bool isStringized = false;    // "#" stands before the parameter
-    bool joinsNext = false;       // "##" stands behind it
+    bool joinsNext = false;       // "##" stands after it
 };
 
 // A token on its way through an expansion.
@@ -64,12 +64,13 @@ public:
         KIND_COUNTER
     };
 
-    // From the "#" of a "#define" line, whose tokens are copied. Throws: Error if the line is none.
-    // Borrows `store`, which outlives the macro, as the other constructors do, and the texts of the tokens.
+    // From the "#" of a "#define" line, whose tokens are copied.
+    // Borrows: `store`, which outlives the macro, as the other constructors do, and the texts of the tokens.
+    // Throws:  Error if the line is none.
     Macro(const Token* hash, TokenStore& store);
 
-    // From a text: `left` is NAME or NAME(PARAMETERS), `value` the replacement. Throws: std::runtime_error if
-    // it can't be read.
+    // From a text: `left` is NAME or NAME(PARAMETERS), `value` the replacement.
+    // Throws: std::runtime_error if it can't be read.
     Macro(const std::string& left, const std::string& value, TokenStore& store);
 
     // One of the computed macros.
@@ -98,7 +99,7 @@ public:
     // The texts of the replacement without white space between them.
     std::string ReplacementText() const;
 
-    // The replacement ends in ";", looking through braces behind it.
+    // The replacement ends in ";", looking through braces after it.
     bool EndsStatement() const { return m_EndsStatement; }
 
     // Set by the expansion while the replacement is read again.

@@ -94,7 +94,7 @@ void FoldBinary(TokenList& list, Token* from, Fold fold)
     }
 }
 
-// The value behind a backslash at `at`, which moves behind it.
+// The value after a backslash at `at`, which moves after it.
 unsigned long long EscapeValue(std::string_view text, std::size_t& at)
 {
     const char c = text[at++];

@@ -209,7 +209,7 @@ void MacroExpander::EmitComputed(const Macro& macro)
 
 // ---- Calls ----
 
-// Looks for the "(" behind a function-like macro's name, also behind the end of the replacements that are
+// Looks for the "(" after a function-like macro's name, also after the end of the replacements that are
 // being read, and takes it. Without one everything stays as it was.
 bool MacroExpander::TakeOpenParenthesis()
 {
@@ -332,7 +332,7 @@ bool MacroExpander::HasMacroNames(const Items& items) const
     });
 }
 
-// Expands the arguments from the current one on, each as a job; behind the last one the call is replaced.
+// Expands the arguments from the current one on, each as a job; after the last one the call is replaced.
 void MacroExpander::ContinueCall(SCall call)
 {
     for (; call.current < call.arguments.size(); ++call.current) {
@@ -424,8 +424,8 @@ MacroExpander::Items MacroExpander::Substitute(const SCall& call)
 }
 
 // A row of parts with "##" between them, from the left. An empty argument joins as nothing. The comma before
-// a variadic argument isn't joined to it, but goes with it if it is empty. Returns: the index of the row's
-// last part.
+// a variadic argument isn't joined to it, but goes with it if it is empty.
+// Returns: the index of the row's last part.
 std::size_t MacroExpander::SubstituteJoined(const SCall& call, std::size_t part, Items& result)
 {
     const Macro& macro = *call.macro;

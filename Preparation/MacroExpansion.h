@@ -19,7 +19,7 @@ public:
     // Gets the tokens of an expansion, one by one; they live until the next call. White space is among them.
     using Sink = std::function<void(const Token&)>;
 
-    // Gives the token behind one of the source's, null behind the last.
+    // Gives the token after one of the source's, null after the last.
     using Follow = std::function<Token*(const Token&)>;
 
     // What a token that isn't the source's counts for, in bytes of the limit.
@@ -30,12 +30,13 @@ public:
     ~MacroExpander();
 
     // Expands the call of a macro at `name`, a name in its list.
-    // Returns: the token behind the call; `lastOfCall`, if not null, gets the last token of the call itself.
-    // Throws: Macro::Error.
+    // Returns: the token after the call; `lastOfCall`, if not null, gets the last token of the call itself.
+    // Throws:  Macro::Error.
     Token* ExpandCall(Token* name, const Sink& sink, Token** lastOfCall = nullptr);
 
     // Expands the tokens from `from` to the end of its logical line. With `keepsDefined`, the operand of
-    // "defined" stays as it is. Throws: Macro::Error.
+    // "defined" stays as it is.
+    // Throws: Macro::Error.
     void ExpandLine(Token* from, bool keepsDefined, const Sink& sink);
 
 private:

@@ -25,7 +25,7 @@ bool IsHexadecimal(std::string_view number)
     return number.starts_with("0x") || number.starts_with("0X");
 }
 
-// A number that wants a sign and digits behind its last letter.
+// A number that wants a sign and digits after its last letter.
 bool EndsInExponent(std::string_view number)
 {
     const char end = number.empty() ? '\0' : number.back();

@@ -421,7 +421,7 @@ bool Checker::preprocessToken(SRun& run, std::uint32_t& line)
     return true;
 }
 
-// The token behind one of the source's, for which another piece of the main source may have to be read. What
+// The token after one of the source's, for which another piece of the main source may have to be read. What
 // the run has done with makes room for it, but for the token before the current one, which this may have to
 // stand apart from.
 Token* Checker::Following(SRun& run, const Token& token)

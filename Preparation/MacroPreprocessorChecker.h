@@ -89,7 +89,8 @@ private:
     bool RunCommand(Command command, UndefinesTokens* undefinesTokens);
     void GetErrors(Uve::U8CString& text) const;
 
-    // A line of errorText for each record. Returns: true if there is none.
+    // A line of errorText for each record.
+    // Returns: true if there is none.
     bool CheckErrorResult();
     void Report(internal::enErrorType type, const internal::Location& location, std::string message);
     void Warn(const std::string& text, const internal::Location& location);

@@ -57,7 +57,7 @@ struct Checker::SRun
     std::string lastText;
     std::uint32_t expansionLine = 0; // where the call ended
 
-    // Other commands: calls of macros that end a statement, by the parentheses open in front of each.
+    // Other commands: calls of macros that end a statement, by the parentheses open before each.
     std::vector<std::size_t> statementCalls;
     std::size_t parentheses = 0;
 };

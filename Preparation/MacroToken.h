@@ -15,7 +15,7 @@ namespace MacroPreprocessorChecker::internal {
 // begins.
 struct Location
 {
-    // Moves behind `text`. Line ends are "\n", "\r\n" and "\r".
+    // Moves after `text`. Line ends are "\n", "\r\n" and "\r".
     void adjust(std::string_view text);
 
     std::uint32_t fileIndex = 0; // the file's name is that of TokenStore::FileName()

@@ -37,7 +37,7 @@ std::string NoPairMessage(char opening)
 }
 
 // One pass over a decoded text. The line of a token's location is that of its logical line: line ends inside,
-// behind a backslash or in a comment of a directive, are counted in m_InnerLineEnds and made up for at the
+// after a backslash or in a comment of a directive, are counted in m_InnerLineEnds and made up for at the
 // logical line's end. m_SourceLine counts the same lines without regard to line directives.
 class CTextCursor
 {
@@ -168,11 +168,11 @@ private:
         }
     }
 
-    // Passes over tokens of a code line that nobody who skims asks for. Returns: false if there are none
-    // here.
+    // Passes over tokens of a code line that nobody who skims asks for.
+    // Returns: false if there are none here.
     bool SkimCode()
     {
-        // what stands behind a backslash tells whether the line goes on
+        // what stands after a backslash tells whether the line goes on
         m_IsSkimming = m_IsSkimming && (m_List.last == nullptr || m_List.last->op != '\\');
         if (!m_IsSkimming)
             return false;
@@ -431,7 +431,7 @@ private:
         return m_List.store().Keep(std::move(text));
     }
 
-    // A literal behind a prefix. A line end behind a backslash goes; one of another kind, or the text's end,
+    // A literal after a prefix. A line end after a backslash goes; one of another kind, or the text's end,
     // can't stand in it.
     bool ReadQuoted(std::size_t prefixLength)
     {

@@ -29,8 +29,9 @@ public:
     ~TokenReader();
 
     // Appends about `count` more tokens, or all for which there is no place to stop before. A piece ends with
-    // a line, or inside one that is no directive; an operator or literal is never cut. Returns: false at the
-    // end of the text, or if it can't be read: then the list is empty, and the reason among the errors.
+    // a line, or inside one that is no directive; an operator or literal is never cut.
+    // Returns: false at the end of the text, or if it can't be read: then the list is empty, and the reason
+    //          among the errors.
     bool Read(std::size_t count);
 
     // The same for who wants messages and directives alone: operators aren't joined, names have no numbers.

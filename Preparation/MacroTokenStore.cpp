@@ -2,7 +2,7 @@
 
 #include <functional>
 
-// With a sanitizer each token is a block of its own, so that a use behind its end of life is seen.
+// With a sanitizer each token is a block of its own, so that a use after its end of life is seen.
 #if defined(__SANITIZE_ADDRESS__)
 #define UV_SEPARATE_TOKENS 1
 #elif defined(__has_feature)

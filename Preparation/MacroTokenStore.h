@@ -27,7 +27,8 @@ public:
     TokenPool(const TokenPool&) = delete;
     TokenPool& operator=(const TokenPool&) = delete;
 
-    // A token whose members have no values yet. Throws: std::bad_alloc.
+    // A token whose members have no values yet.
+    // Throws: std::bad_alloc.
     Token* Take()
     {
         if (m_Free == nullptr)
@@ -69,7 +70,7 @@ private:
     void Grow();
 
     std::vector<SEntry> m_Entries;      // by number; the first is nobody's
-    std::vector<std::uint32_t> m_Slots; // numbers, each at its hash or behind it; 0: free. A power of two
+    std::vector<std::uint32_t> m_Slots; // numbers, each at its hash or after it; 0: free. A power of two
 };
 
 class TokenStore

@@ -17,7 +17,7 @@
 
 namespace MacroPreprocessorChecker::internal {
 
-// Where the joining of operators stands: what is told from the tokens behind it. Kept while going forward,
+// Where the joining of operators stands: what the tokens that it has passed tell. Kept while going forward,
 // since looking back over them at each token would take time in the square of their number.
 class OperatorScope
 {
@@ -25,7 +25,7 @@ public:
     // Inside of a function's braces.
     bool IsExecutable() const { return m_Executable.back(); }
 
-    // "&" and "*" in front of a "=" may end an unnamed parameter's type: f(int *=0). In statements they
+    // "&" and "*" before a "=" may end an unnamed parameter's type: f(int *=0). In statements they
     // don't.
     bool IsParameterType(const Token& token) const;
 
@@ -98,7 +98,8 @@ public:
     void combineOperators(Token* from, OperatorScope& scope);
 
     // Folds an expression of numbers and operators; a single number is left if it is well formed. There is no
-    // white space in the list. Throws: std::runtime_error for what has no value.
+    // white space in the list.
+    // Throws: std::runtime_error for what has no value.
     void constFold();
 
     // Writes the tokens that aren't hidden, on their lines.
@@ -190,7 +191,7 @@ private:
     std::uint32_t m_Line = 1; // of the source
 };
 
-// Numbers of conditions: hexadecimal behind "0x", binary behind "0b", octal behind "0", else decimal; the
+// Numbers of conditions: hexadecimal after "0x", binary after "0b", octal after "0", else decimal; the
 // value is taken modulo 2^64, and what follows the digits isn't looked at.
 long long stringToLL(std::string_view text);
 std::string toString(long long value);
@@ -198,7 +199,8 @@ std::string toString(long long value);
 // Digits with an optional sign and integer suffix, as opposed to a floating literal.
 bool IsIntegerText(std::string_view text);
 
-// Value of a character constant such as 'a', L'\n' or '\x41'. Throws: std::runtime_error if it is empty.
+// Value of a character constant such as 'a', L'\n' or '\x41'.
+// Throws: std::runtime_error if it is empty.
 long long CharacterValue(std::string_view constant);
 
 } // namespace MacroPreprocessorChecker::internal

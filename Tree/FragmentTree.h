@@ -47,7 +47,8 @@ std::size_t MeasureTree(const SFragmentTree& tree);
 // Appends the text of a single space or token as it stands in the raw tree.
 void AppendRawText(std::string_view text, bool isSpace, std::string& out);
 
-// Walks a list, and doesn't walk for ever. Throws: as MarkTree.
+// Walks a list, and doesn't walk for ever.
+// Throws: as MarkTree.
 template <class Visit>
 void ForEachFragment(const SFragmentTree& tree, Visit&& visit)
 {

@@ -7,7 +7,8 @@
 #include <memory>
 #include <string>
 
-// Reserves `bytes` in `text`. Throws: as std::string::reserve.
+// Reserves `bytes` in `text`.
+// Throws: as std::string::reserve.
 void ReserveLarge(std::string& text, std::size_t bytes);
 
 // One large page, straight from the system: what is given back is gone from the process, other than with a
@@ -21,5 +22,6 @@ struct SLargePageDeleter
 using LargePage = std::unique_ptr<void, SLargePageDeleter>;
 
 // kLargePageBytes of memory, aligned likewise. `isWhole`: all of it will be used; otherwise only what is
-// touched counts. Throws: std::bad_alloc.
+// touched counts.
+// Throws: std::bad_alloc.
 LargePage NewLargePage(bool isWhole);

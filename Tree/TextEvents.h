@@ -24,7 +24,8 @@ struct STreeDeclined
 class CTextEvents final : public CTreeEvents
 {
 public:
-    // Borrows `text` for its own lifetime. Throws: STreeDeclined, as all that reads on.
+    // Borrows `text` for its own lifetime.
+    // Throws: STreeDeclined, as all that reads on.
     explicit CTextEvents(std::string_view text);
 
     // Reads until one of `flags` is set on the element at `index`, or its end is known.
@@ -79,7 +80,8 @@ private:
     void ReadEndTag();
     void ReadComment();
 
-    // Each steps over what it checks. Returns: true if a serialiser would write it as it stands.
+    // Each steps over what it checks.
+    // Returns: true if a serialiser would write it as it stands.
     bool StepCharacters();
     bool StepAttributes();
     bool StepValue();

@@ -80,11 +80,12 @@ struct SReference
 // The predefined entity that `text` begins with. Null if there is none.
 const SReference* FindReference(std::string_view text);
 
-// Of a "&#10;" or "&#xA;" that `text` begins with. Returns: the bytes, 0 if there is none or it stands for no
-// character of XML.
+// Of a "&#10;" or "&#xA;" that `text` begins with.
+// Returns: the bytes, 0 if there is none or it stands for no character of XML.
 std::size_t DecodeCharacterReference(std::string_view text, unsigned int& codePoint);
 
-// Of the character that `text` begins with, which isn't ASCII. Returns: its bytes, 0 if it is malformed.
+// Of the character that `text` begins with, which isn't ASCII.
+// Returns: its bytes, 0 if it is malformed.
 std::size_t MultibyteLength(std::string_view text);
 
 // Whether `text` begins with U+FFFE or U+FFFF: like control characters they are none of XML.

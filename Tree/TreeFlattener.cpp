@@ -445,7 +445,8 @@ bool CTreeFlattener<Events>::GoToNextDelimiter()
 }
 
 // A statement in a body takes the delimiter that stands after it, and the last one that which stands after
-// the body. Returns: false if there is none, or no further one.
+// the body.
+// Returns: false if there is none, or no further one.
 template <class Events>
 bool CTreeFlattener<Events>::GoToBodyDelimiter()
 {

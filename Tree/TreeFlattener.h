@@ -15,8 +15,9 @@
 inline constexpr std::string_view kXmlDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
 
 // Flattens a raw tree's text (UTF-8) and puts the result document's text in the place of `out`, after
-// `declaration` and a line feed. Returns: false, with `out` empty, for a text that isn't a tree in the plain
-// form which CTextEvents reads: the stylesheet decides about it.
+// `declaration` and a line feed.
+// Returns: false, with `out` empty, for a text that isn't a tree in the plain form which CTextEvents reads:
+//          the stylesheet decides about it.
 [[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out,
                                std::string_view declaration = kXmlDeclaration);
 

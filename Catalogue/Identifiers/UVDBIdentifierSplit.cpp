@@ -33,7 +33,7 @@ std::vector<std::string_view> PartsOf(std::string_view full, const DB_VERSION_IN
     return parts;
 }
 
-// Nothing owns a part in front of which there is nothing but dots.
+// Nothing owns a part before which there is nothing but dots.
 std::size_t FirstPart(const std::vector<std::string_view>& parts)
 {
     std::size_t first = 0;

@@ -40,7 +40,7 @@ bool IsDBMSNotAllowedCharFPosUtf8(DB_VERSION_INFO version, unsigned long objectT
 // Whether the text is well-formed UTF-8 with something beyond ASCII in it.
 bool IsIdentifierInUtf8(const Uve::U8CString& text);
 
-// The name without what can't be part of it, however it is enclosed: blanks behind a column of SQL Server,
+// The name without what can't be part of it, however it is enclosed: blanks after a column of SQL Server,
 // what no file name may hold in a table of MySQL and its kin.
 Uve::U8CString DeleteNotValidChar(Uve::U8CString name, unsigned long objectType, DB_VERSION_INFO version);
 
@@ -96,7 +96,7 @@ Uve::U8CString NormalizeIdentifier(const char* name, DB_VERSION_INFO target, DB_
 // ---- Splitting ----
 
 // Cuts "a.b.c" into the owner "a.b" and the table "c". A dot inside enclosing marks doesn't separate; the
-// marks stay. A closing mark counts in front of a dot and at the end only, so that doubled ones pass. The
+// marks stay. A closing mark counts before a dot and at the end only, so that doubled ones pass. The
 // outputs may be the input.
 void SplitTableName(const Uve::U8CString& full, Uve::U8CString& owner, Uve::U8CString& table,
                     DB_VERSION_INFO version);
@@ -106,7 +106,8 @@ void SplitTableNameWithOwner(Uve::U8CString owner, const Uve::U8CString& full, U
                              Uve::U8CString& table, DB_VERSION_INFO version);
 
 // All parts, leftmost first, as SplitTableName gives them when its owner is cut again and again: empty parts
-// in front are left out. Returns: at least one part.
+// in front are left out.
+// Returns: at least one part.
 std::vector<Uve::U8CString> SplitObjectName(const Uve::U8CString& name, const DB_VERSION_INFO& version);
 
 // The last part.

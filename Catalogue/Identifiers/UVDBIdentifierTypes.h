@@ -14,7 +14,7 @@ enum enUVDB_DATABASE_OBJECT : int
 inline constexpr int kUVDBUnknownObjectType = -1;
 
 // Returns: the text of a type number, which lives as long as the process; an empty one for a number that has
-// none.
+//          none.
 const char* UVDBIdentifierTypeToString(unsigned long type);
 
 // The number by text, compared exactly. Not the mirror of the function above: "DataType" is the number 32

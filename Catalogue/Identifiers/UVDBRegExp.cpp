@@ -20,7 +20,7 @@ namespace {
 constexpr std::string_view kSpecial = "*+?{^.$|([";
 
 // A limit of steps alone bounds nothing: the engine counts anew at each place where a match may start, and
-// one step may run over the whole text. So patterns are compiled with a callout in front of each of their
+// one step may run over the whole text. So patterns are compiled with a callout before each of their
 // items, and the callouts end the search when its time is up. The recursion limit is for patterns that don't
 // become machine code: some 500 bytes of stack a level.
 constexpr unsigned long kStepLimit = 10'000'000;
@@ -117,8 +117,8 @@ public:
     int GroupCount() const { return m_GroupCount; }
 
     // Looks for the first match at or after `start`. `places` gets two offsets for the match and for each
-    // group, -1 where a group took no part. Returns: a positive number for a match, PCRE_ERROR_NOMATCH, or
-    // another negative code.
+    // group, -1 where a group took no part.
+    // Returns: a positive number for a match, PCRE_ERROR_NOMATCH, or another negative code.
     int Match(std::string_view text, int start, int options, std::vector<int>& places, CMatchBudget& budget);
 
 private:
@@ -308,7 +308,7 @@ Uve::U8CString UVDBRegExp2Nodeset(const Uve::U8CString& text, const Uve::U8CStri
     std::vector<int> places;
     const char* const end = text.data() + text.size();
     int start = 0;
-    int emptiness = 0; // behind an empty match the next one at the same place mustn't be empty
+    int emptiness = 0; // after an empty match the next one at the same place mustn't be empty
     while (start <= static_cast<int>(text.size())) {
         const int result = pattern.Match(text, start, ExecOptions(options) | emptiness, places, budget);
         if (result == PCRE_ERROR_NOMATCH)
@@ -324,7 +324,7 @@ Uve::U8CString UVDBRegExp2Nodeset(const Uve::U8CString& text, const Uve::U8CStri
         } else if (emptiness == 0) {
             emptiness = PCRE_NOTEMPTY_ATSTART;
         } else {
-            // \K can put the end of a match in front of where the search began.
+            // \K can put the end of a match before the place where the search began.
             const char* const here = text.data() + start;
             start += here < end ? static_cast<int>(Uve::utf8_width(here, end)) : 1;
             emptiness = 0;

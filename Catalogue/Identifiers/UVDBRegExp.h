@@ -5,12 +5,12 @@
 
 #include "UVEnvironment/UVEUnicodeString.h"
 
-// The text with a backslash in front of each character that is special outside of a class.
+// The text with a backslash before each character that is special outside of a class.
 Uve::U8CString UVDBESCRegExp(const char* text);
 
 // Whether the whole name fits the mask, without regard to case: "*" stands for any text, "?" for one
 // character, "[...]" for one of a class. A mask without these three is compared exactly. A backslash takes
-// the meaning from the character behind it. Null texts are empty ones.
+// the meaning from the character after it. Null texts are empty ones.
 bool UVDBMatchRegExp(const char* name, const char* mask);
 
 // Every match of the pattern (PCRE syntax) in `text`, left to right, with its capture groups as attributes:

@@ -54,6 +54,6 @@ Uve::U8CString ReadFileToString(const Uve::U8CString& path, unsigned int encodin
 
 bool WriteStringToFile(const Uve::U8CString& path, const Uve::U8CString& text)
 {
-    // Writing over a longer file would leave its tail behind the text.
+    // Writing over a longer file would leave its tail after the text.
     return Uve::File::Delete(path) && Uve::File::WriteAllText(path, text);
 }

@@ -92,7 +92,7 @@ inline constexpr long UVDB_TYPE_NAME_AS_WRITTEN = 3;
 
 // Makes the key of a type name as written: upper-cased, with the texts between parentheses taken out. Pairs
 // stay as "()", except for SQL Server the one that ends the name; so look-ups elsewhere want names without
-// empty parameters ("VARCHAR", not "VARCHAR(10)"). An unclosed parenthesis and all behind it stay as they
+// empty parameters ("VARCHAR", not "VARCHAR(10)"). An unclosed parenthesis and all after it stay as they
 // are. `params` receives what stood in the pairs, each closed by ";": "3;" of "TIMESTAMP(3) WITH TIME ZONE".
 Uve::U8CString NormalizeTypeName(const char* name, Uve::U8CString& params, DB_VERSION_INFO version,
                                  long mode);

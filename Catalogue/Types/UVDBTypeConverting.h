@@ -38,7 +38,8 @@ Uve::U8CString DBMSToDBMSDataType(DB_VERSION_INFO source, DB_VERSION_INFO target
                                   long odbcType, long* uvdbType);
 
 // The target type when no rule says otherwise. `uvdbType` -1: found by name and sizes; it receives the
-// internal type that was mapped. Returns: the text with parameters, or the bare name unless `format` is set.
+// internal type that was mapped.
+// Returns: the text with parameters, or the bare name unless `format` is set.
 Uve::U8CString GetDefDBMSToDBMSConverting(DB_VERSION_INFO source, DB_VERSION_INFO target, const char* name,
                                           long& uvdbType, unsigned long length, unsigned long precision,
                                           long leadingPrecision, long scale, bool identity, bool format);

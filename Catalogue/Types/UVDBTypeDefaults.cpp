@@ -86,7 +86,7 @@ constexpr SDefaultSize kSizes[] = {
 };
 // clang-format on
 
-// Digits behind the second, where a time is written without.
+// Digits after the second, where a time is written without.
 struct SDefaultFraction
 {
     std::uint64_t db;
@@ -99,7 +99,7 @@ constexpr SDefaultFraction kFractions[] = {
     {UVDB_DB_GBASE, 0}, {UVDB_DB_INFORMIX, 3}, {UVDB_DB_4GL_INFORMIX, 3}, {kAnyDatabase, 6},
 };
 
-// Digits behind the point of Informix's MONEY.
+// Digits after the point of Informix's MONEY.
 constexpr long kCents = 2;
 
 // A decimal that floats unless it has a scale.
@@ -161,7 +161,7 @@ bool Takes(const SDataTypeParams& row, std::string_view word)
     return std::string_view(row.createParams).find(word) != std::string_view::npos;
 }
 
-// As zero digits behind the point, the fraction of a floating decimal would be lost.
+// As zero digits after the point, the fraction of a floating decimal would be lost.
 bool FloatsWithoutScale(std::uint64_t db, STypeText& type)
 {
     const std::string_view name = type.name.c_str();

@@ -100,7 +100,7 @@ std::string FillWords(std::string_view createParams, std::string_view length, st
     return text;
 }
 
-// Takes the part in front of the next ";" off `params`.
+// Takes the part before the next ";" off `params`.
 std::string_view TakePart(std::string_view& params)
 {
     const std::size_t end = std::min(params.find(';'), params.size());

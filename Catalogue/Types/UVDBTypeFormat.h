@@ -38,8 +38,8 @@ void PreFormatDBMSDataType(DB_VERSION_INFO version, Uve::U8CString& name, unsign
 // The type as it is written for the database `version`. Among the rows of `name`, those of the internal type
 // `uvdbType` count (-1: all do); the first of them that holds size and scale limits the numbers and tells the
 // parameters, otherwise the name's last row does. A counting row without parameters ends the search for a
-// given type. `usedRow`, unless null, receives that row; null if the name has none. Returns: the text; `name`
-// itself if it has no row.
+// given type. `usedRow`, unless null, receives that row; null if the name has none.
+// Returns: the text; `name` itself if it has no row.
 Uve::U8CString FormatDBMSDataType(DB_VERSION_INFO version, const char* name, long size, long scale,
                                   long leadingPrecision, long uvdbType);
 Uve::U8CString FormatDBMSDataType(DB_VERSION_INFO version, const char* name, long size, long scale,

@@ -17,7 +17,8 @@ const SMappingSheaf& SheafOf(DB_VERSION_INFO version)
     return index >= 0 ? *kMappingSheaves[static_cast<std::size_t>(index)].sheaf : kEmptySheaf;
 }
 
-// The choice among the sheaves of one kind. Returns: -1 if it has none.
+// The choice among the sheaves of one kind.
+// Returns: -1 if it has none.
 long ChooseOfKind(std::span<const SMappingSheafKey> keys, const DB_VERSION_INFO& version)
 {
     const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };

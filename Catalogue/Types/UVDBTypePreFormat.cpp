@@ -115,7 +115,7 @@ void PreFormatInformix(const U8CString& name, std::string_view params, STypeNumb
     if (!hasFraction)
         return;
     reader.SkipSeparator();
-    // "3.5": the number behind the point takes the place of the one in front.
+    // "3.5": the number after the point takes the place of the one in front.
     while (reader.Read(numbers.scale) && reader.IsAt('.'))
         reader.SkipSeparator();
 }
@@ -151,7 +151,7 @@ void PreFormatPostgreSql(const U8CString& name, STypeNumbers& numbers)
     }
 }
 
-// The blank that some catalogues put in front of the parentheses.
+// The blank that some catalogues put before the parentheses.
 void JoinBitData(U8CString& name)
 {
     name.Replace("CHARACTER () FOR BIT DATA", "CHARACTER() FOR BIT DATA");

@@ -83,7 +83,8 @@ bool KeepsName(const DB_VERSION_INFO& source, const DB_VERSION_INFO& target, con
            source.db != UVDB_DB_ORA && HasRow(source, name);
 }
 
-// `text` with its pairs taken out. Returns: `text` itself if it has none to take.
+// `text` with its pairs taken out.
+// Returns: `text` itself if it has none to take.
 U8CString WithoutParameters(const DB_VERSION_INFO& target, const U8CString& text)
 {
     U8CString name = text;
@@ -104,7 +105,7 @@ U8CString TargetText(const DB_VERSION_INFO& target, const U8CString& ruleTarget,
     return WithoutParameters(target, ruleTarget);
 }
 
-// MySQL before 5.6 takes no digits behind DATETIME, so only sources keep them whose columns really have some.
+// MySQL before 5.6 takes no digits after DATETIME, so only sources keep them whose columns really have some.
 void CutDateTimeDigits(const DB_VERSION_INFO& source, const DB_VERSION_INFO& target,
                        const U8CString& sourceName, U8CString& text)
 {

@@ -37,7 +37,7 @@ STypeRuleResult ApplyTypeRule(DB_VERSION_INFO source, DB_VERSION_INFO target, co
                               const STypeRule& rule, STypeTrail* trail = nullptr);
 
 // The same with all facts as arguments; `uvdbTypeName` names the internal type, empty if it isn't known. The
-// bool behind `ruleScaleTo` is carried for callers and not read.
+// bool after `ruleScaleTo` is carried for callers and not read.
 void ConvertParams(DB_VERSION_INFO source, DB_VERSION_INFO target, const char* name, const char* uvdbTypeName,
                    unsigned long length, unsigned long precision, long leadingPrecision, long scale,
                    bool identity, const char* ruleName, unsigned long ruleLength, unsigned long rulePrecision,

@@ -199,7 +199,7 @@ std::uint64_t LargestSize(DB_VERSION_INFO version, std::span<const SDataTypePara
     return largest;
 }
 
-// Informix's VARCHAR may say behind its length how many bytes a row keeps for it.
+// Informix's VARCHAR may say after its length how many bytes a row keeps for it.
 bool TakesReserve(DB_VERSION_INFO version, std::string_view name)
 {
     return (version.db == UVDB_DB_INFORMIX || version.db == UVDB_DB_4GL_INFORMIX) &&
@@ -232,7 +232,7 @@ void TakeNumbers(const SWritten& written, const SFit& fit, const TWordGroups& gr
             continue;
         if (words == std::vector<std::string>{"PRECISION", "SCALE"} && items.size() == 1 && items[0] == "*")
             continue;
-        // A float may say how many digits to show behind the point.
+        // A float may say how many digits to show after the point.
         const bool hasDisplayDigits = words.size() == 1 && words[0] == "PRECISION" && items.size() == 2;
         const bool hasReserve = takesReserve && items.size() == 2;
         if (items.size() > words.size() && !hasDisplayDigits && !hasReserve)

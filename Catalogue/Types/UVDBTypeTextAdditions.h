@@ -18,7 +18,8 @@ struct SAdditions
 };
 
 // Takes the last addition off the name, such as COLLATE with its word, and what stands in parentheses after
-// it. Upper case is expected. Returns: whether there was one.
+// it. Upper case is expected.
+// Returns: whether there was one.
 bool TakeAddition(DB_VERSION_INFO version, SWritten& written, SAdditions& additions);
 
 // Takes the name of the database's own schema off the front: PG_CATALOG.INT4.

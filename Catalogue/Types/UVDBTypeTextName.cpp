@@ -243,7 +243,7 @@ std::optional<SFit> Fit(const SWritten& written, const SWritten& key)
     for (const SPair& pair : written.pairs) {
         const auto found = std::ranges::find(key.pairs, pair.offset, &SPair::offset);
         if (found == key.pairs.end()) {
-            // A name without a pair takes its parameters behind it, wherever they were written.
+            // A name without a pair takes its parameters after it, wherever they were written.
             if (!key.pairs.empty() || written.pairs.size() > 1)
                 return std::nullopt;
             return SFit{kAppended, {0}};

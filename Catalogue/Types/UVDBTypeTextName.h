@@ -59,7 +59,8 @@ std::string UpperCase(std::string_view text);
 std::vector<std::string> SplitItems(std::string_view inner);
 
 // Blanks become single ones, array bounds and the marks around quoted names go, a quoted text outside of
-// parentheses becomes ''. Throws: CBadTypeText.
+// parentheses becomes ''.
+// Throws: CBadTypeText.
 SWritten TakeApart(DB_VERSION_INFO version, std::string_view text);
 
 // The name with an empty pair wherever it was written with one.

@@ -18,8 +18,9 @@ public:
     int base_ninf = 0; // the base value that stands for the default action
 
     // Proves that no index that the parser can form leaves the tables. How deep a reduction pops can't be
-    // told from the tables alone; the parser tests that itself. Throws: Uve::U8CString with the line for the
-    // log, which names the file in `directory` and what is wrong.
+    // told from the tables alone; the parser tests that itself.
+    // Throws: Uve::U8CString with the line for the log, which names the file in `directory` and what is
+    //         wrong.
     void Validate(const std::string& directory) const;
 
     // Both for valid tables. What a whole text is reduced to: after it the end leads to the accepting state.

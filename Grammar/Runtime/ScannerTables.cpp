@@ -191,7 +191,7 @@ void CScannerTables::ResolveRows(const std::string& directory)
     }
 }
 
-// A scanner that backs up finds a rule at the latest behind the first byte: the generator adds one for any
+// A scanner that backs up finds a rule at the latest after the first byte: the generator adds one for any
 // byte.
 void CScannerTables::CheckFirstStep(const std::string& directory) const
 {
@@ -260,7 +260,7 @@ void CScannerTables::Compile(const std::string& directory, int startConditions)
     ResolveRows(directory);
     CheckFirstStep(directory);
     CheckEndOfBuffer(directory);
-    // the states behind the last one have lent their rows to others, and nothing leads to them
+    // the states after the last one have lent their rows to others, and nothing leads to them
     const std::size_t states = static_cast<std::size_t>(LastState()) + 2;
     m_next.resize(states << m_classBits);
     m_isJam.assign(states, 0);

@@ -31,11 +31,11 @@ public:
     STable<int> accept, base, chk, def, NUL_trans, nxt, rule_can_match_eol, acclist;
 
     // Proves the tables and fills the compiled form. `startConditions` is how many the grammar defines.
-    // Throws:  Uve::U8CString with the line for the log, which names the file in `directory` and what is
-    // wrong.
+    // Throws: Uve::U8CString with the line for the log, which names the file in `directory` and what is
+    //         wrong.
     void Compile(const std::string& directory, int startConditions);
 
-    // Number of the last state; the jam state is the one behind it.
+    // Number of the last state; the jam state is the one after it.
     int LastState() const { return static_cast<int>(accept.count) - 3; }
     int StartConditions() const { return m_nStartConditions; }
 

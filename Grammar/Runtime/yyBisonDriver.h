@@ -20,7 +20,7 @@ namespace parser_limits {
 
 inline constexpr int kQuietTokens = 3;
 
-// Rules may name the end of the text, but nothing comes behind it.
+// Rules may name the end of the text, but nothing comes after it.
 inline constexpr int kMostEnds = 1000;
 
 // Between two shifts every symbol on the stack takes part in a bounded number of reductions, and the empty
@@ -106,7 +106,7 @@ int yyBisonParser::yydrive(Parser& self)
     const std::size_t rules = m_spTables->Rules();
     int ends = 0;
     std::size_t reductions = 0; // since then
-    std::size_t depth = 0;      // of the stack behind the last token shifted
+    std::size_t depth = 0;      // of the stack after the last token shifted
 
     for (;;) {
         *yyssp = static_cast<short>(state);

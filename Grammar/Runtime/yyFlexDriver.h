@@ -13,7 +13,7 @@
 // it backs up, state by state, to the last one that accepts a rule: the longest match, and of several rules
 // the one that the source names first. It differs from the textbook in four ways.
 //
-// A rule with a trailing context accepts behind the context, but its match is the head alone: from there the
+// A rule with a trailing context accepts after the context, but its match is the head alone: from there the
 // machine backs up further, to a state that accepts the end of that rule's head.
 //
 // Two NUL bytes end the text. Every state leads on the first of them to one that accepts the end of the

@@ -37,7 +37,7 @@ int yyFlexLexer::yymake_room(int walked, int*& states)
     return yy_text_size > walked ? yy_text_size - walked : yy_text_size;
 }
 
-// The match ran into the NULs behind the text, or into a NUL inside it.
+// The match ran into the NULs after the text, or into a NUL inside it.
 // Returns: the step that follows; `act` is the rule for the end of the text if that is to be taken.
 yyFlexLexer::enStep yyFlexLexer::yyend_of_buffer(int& act)
 {

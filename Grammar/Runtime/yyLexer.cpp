@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int kFirstTextSize = 200;
-constexpr int kSpareSteps = 4; // a match runs over both NULs behind the text
+constexpr int kSpareSteps = 4; // a match runs over both NULs after the text
 
 std::size_t StateSlots(int textSize)
 {

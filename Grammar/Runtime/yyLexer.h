@@ -76,7 +76,7 @@ public:
     // Writes the text to standard error and ends the process.
     [[noreturn]] virtual void yyfatal_error(const char* text);
     virtual void yyerror(const char* text);
-    // Returns: the byte behind the match, which it consumes; 0 at the end.
+    // Returns: the byte after the match, which it consumes; 0 at the end.
     virtual int yyinput();
 
     // Shares `tables` and derives the constants from them.
@@ -95,7 +95,7 @@ public:
     // Gives back all but the first `n` bytes of the match.
     void yyless(int n);
     void yyless_lineno(int n);
-    // Pushes one byte back in front of the match.
+    // Pushes one byte back before the match.
     void yyunput(int c, char* bp);
 
     // Buffers may nest: the one on top is scanned, and where it was left the one below goes on.
@@ -107,7 +107,8 @@ public:
     void yyensure_buffer_stack();
 
     // Buffers that are read from a stream, for scanners that have one (yyLexerStreams.cpp). None in this
-    // system has. Owner: the scanner closes its streams.
+    // system has.
+    // Owner: the scanner closes its streams.
     void yyrestart(std::FILE* stream);
     yybuffer_state* yycreate_buffer(std::FILE* stream, int size);
     void yyinit_buffer(yybuffer_state* buffer, std::FILE* stream);
@@ -225,11 +226,11 @@ protected:
     int yy_n_chars = 0;
     int yy_init = 0;
     int yy_match_length = 0; // bytes walked since yylex was entered
-    char yy_hold_char = 0;   // the byte that the NUL behind the match has replaced
+    char yy_hold_char = 0;   // the byte that the NUL after the match has replaced
     char* yy_c_buf_p = nullptr;
     int yy_did_buffer_switch_on_eof = 0;
     int* yy_state_buf = nullptr; // states of the current match
-    int* yy_state_ptr = nullptr; // one behind the last
+    int* yy_state_ptr = nullptr; // one after the last
     int yy_lp = 0;
     int yy_looking_for_trail_begin = 0;
     int yy_text_size = 0; // bytes that may be walked for a match; the state buffer has twice as many slots

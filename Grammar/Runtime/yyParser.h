@@ -18,7 +18,7 @@ public:
     virtual ~yyParser();
 
     // Returns: 0 accepted, 1 aborted (an error that recovery could not repair, or yyabort), 2 stacks
-    // exhausted.
+    //          exhausted.
     virtual int yyparse();
     // Allocates the stacks and the two single values. Call once, after the tables are there.
     // Returns: 1, or 0 if memory is short.

@@ -16,7 +16,8 @@ inline bool HasProgram(const char* name)
 class CSourceJudge
 {
 public:
-    // Runs shell text in a folder that holds `text` as the file `name`. Returns: all that it prints.
+    // Runs shell text in a folder that holds `text` as the file `name`.
+    // Returns: all that it prints.
     std::string Ask(const std::string& name, const std::string& text, const std::string& command) const
     {
         m_Folder.Write(name, text);

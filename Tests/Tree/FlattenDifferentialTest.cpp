@@ -86,7 +86,8 @@ void Report(const std::string& tree, bool isPlain)
 }
 
 // A parse's tree, which may stay in fragments, on all roads. The stylesheet takes its time: not every tree is
-// for it. Returns: whether there was a tree that the native flattener took.
+// for it.
+// Returns: whether there was a tree that the native flattener took.
 bool ExpectSameFragments(CEngine& engine, const std::string& text, const SEngineSettings& settings,
                          bool isForStylesheet)
 {

@@ -35,8 +35,7 @@ public:
 };
 
 // Throws: COptionError for a name that is none of `known`, with those that are near it, and for a value of
-// another
-//         kind. `flag` is the argument that gave the pairs.
+//         another kind. `flag` is the argument that gave the pairs.
 void CheckOptions(const std::vector<std::pair<std::string, std::string>>& pairs,
                   std::span<const SKnownOption> known, const char* flag);
 

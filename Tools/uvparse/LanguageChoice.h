@@ -70,7 +70,8 @@ std::vector<std::string> ListGrammars(const std::string& grammarFolder);
 // The database kind whose texts the parser reads.
 DB_VERSION_INFO VersionOfParser(const std::string& parserName);
 
-// As ReadDatabaseText reads it. Throws: CLanguageError.
+// As ReadDatabaseText reads it.
+// Throws: CLanguageError.
 DB_VERSION_INFO ReadDatabase(std::string_view text);
 
 } // namespace uvparse

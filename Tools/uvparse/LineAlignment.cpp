@@ -99,7 +99,7 @@ private:
             m_At = at + piece.size();
             ++count.found;
         }
-        // The rest of a long line stands behind its first words; blanks of it may be gone.
+        // The rest of a long line stands after its first words; blanks of it may be gone.
         if (source.size() > kWordReach)
             m_At = std::min(m_At + source.size() - kWordReach, m_Prepared.size());
         return count;
@@ -159,7 +159,7 @@ void CAligner::GivePair(std::size_t sourceNumber, std::string_view source, std::
             : isEmptied ? enLineFate::Vanished
                         : enLineFate::Changed,
             sourceNumber, preparedNumber, source, prepared});
-    // Behind a line that is the source's own to its end nothing can have been joined.
+    // After a line that is the source's own to its end nothing can have been joined.
     if (isSame)
         m_Joined.Start({}, {});
     else
@@ -224,7 +224,7 @@ bool CAligner::IsMeeting(const SLine& source, const SLine& prepared)
     return source.hash == prepared.hash && source.text == prepared.text && !IsBlankLine(source.text);
 }
 
-// How many lines stand in front of the nearest pair of equal lines, on either side.
+// How many lines stand before the nearest pair of equal lines, on either side.
 CAligner::SBlock CAligner::FindMeeting(const TAhead& source, const TAhead& prepared)
 {
     const std::size_t farthest = source.size() + prepared.size() - 2;

@@ -52,7 +52,7 @@ std::string Trimmed(const std::string& text)
     return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(" \n") - begin + 1);
 }
 
-// What is put in front of every result, maps included.
+// What is put before every result, maps included.
 void CutDeclaration(std::string& text)
 {
     const std::size_t end = text.starts_with("<?xml") ? text.find("?>") : std::string::npos;

@@ -1,4 +1,4 @@
-// The library behind its plug-in entry: one parser object for one language, driven in the order that hosts
+// The library through its plug-in entry: one parser object for one language, driven in the order that hosts
 // follow.
 #pragma once
 

@@ -19,7 +19,7 @@ struct SDiffLook
 };
 
 // Writes a line of titles and then a row for each line, source to the left, prepared text to the right, each
-// behind its line number. A sign between them tells what happened:
+// after its line number. A sign between them tells what happened:
 //
 //     blank  nothing
 //     |      the line was changed

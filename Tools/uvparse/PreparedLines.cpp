@@ -9,7 +9,7 @@ namespace uvparse {
 
 namespace {
 
-// Takes a positive number and the separator behind it off the front of `line`.
+// Takes a positive number and the separator after it off the front of `line`.
 bool TakeNumber(std::string_view& line, std::size_t& number)
 {
     const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);

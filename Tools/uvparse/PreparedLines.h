@@ -15,8 +15,8 @@ public:
     // The lines of a text that no pass has changed: each is the source's own.
     CPreparedLines() = default;
 
-    // Reads the library's list, a line for each run of lines: prepared line, source line and count, parted by
-    // tabs. `pass` names what prepared the text; empty: nothing did. A pass that doesn't keep the lines has
+    // Reads the library's list, a line for each run of lines: prepared line, source line and count, with tabs
+    // between. `pass` names what prepared the text; empty: nothing did. A pass that doesn't keep the lines has
     // an empty list. A list of another form counts as none.
     CPreparedLines(std::string_view pass, std::string_view list);
 

@@ -123,7 +123,7 @@ private:
         bool hasContent;
     };
 
-    // In front of what the innermost open element holds.
+    // Before what the innermost open element holds.
     void BreakLine()
     {
         SOpenElement& parent = m_Open.back();

@@ -278,7 +278,8 @@ void CRun::Verify(const std::string& path, const SPreparation& preparation, cons
     Worsen(kToolFindings);
 }
 
-// Takes "number<separator>" off the front. Returns: the number; 0, with `text` as it was, if there is none.
+// Takes "number<separator>" off the front.
+// Returns: the number; 0, with `text` as it was, if there is none.
 std::size_t TakeLineNumber(std::string_view& text, std::string_view separator)
 {
     std::size_t line = 0;
@@ -290,7 +291,7 @@ std::size_t TakeLineNumber(std::string_view& text, std::string_view separator)
     return line;
 }
 
-// The preprocessor's message names the file and the line in front of what is wrong; where the file is an
+// The preprocessor's message names the file and the line before what is wrong; where the file is an
 // included one, it is left to speak for itself. A parser's message begins with the number of a prepared line.
 void CRun::ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result)
 {

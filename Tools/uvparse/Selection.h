@@ -13,7 +13,7 @@ namespace uvparse {
 
 struct SSelectionLook
 {
-    std::string prefix; // in front of each result
+    std::string prefix; // before each result
     bool isPretty = false;
 };
 
@@ -29,10 +29,10 @@ public:
     CSelector(const CSelector&) = delete;
     CSelector& operator=(const CSelector&) = delete;
 
-    // Writes what is selected in `tree`, a line feed behind each: nodes as XML in document order, a string, a
+    // Writes what is selected in `tree`, a line feed after each: nodes as XML in document order, a string, a
     // number or a boolean as it is. An empty tree has nothing to select from.
     // Returns: whether anything was found: a node, or a value that isn't an empty string, zero or false.
-    // Throws: CToolFailure; `name` is what it calls the tree.
+    // Throws:  CToolFailure; `name` is what it calls the tree.
     bool Write(std::string_view tree, const std::string& name, const SSelectionLook& look,
                const TTextSink& sink) const;
 

@@ -7,7 +7,7 @@ namespace uvparse {
 
 namespace {
 
-// Code points of a long line that are shown before and behind the place.
+// Code points of a long line that are shown before and after the place.
 constexpr std::size_t kShownBefore = 60;
 constexpr std::size_t kShownBehind = 60;
 

@@ -45,7 +45,7 @@ std::size_t CountCodePoints(std::string_view text);
 // The offset `count` code points before `offset`, not before `limit`.
 std::size_t StepBack(std::string_view text, std::size_t offset, std::size_t count, std::size_t limit);
 
-// The offset `count` code points behind `offset`, not behind `limit`.
+// The offset `count` code points after `offset`, not after `limit`.
 std::size_t StepForward(std::string_view text, std::size_t offset, std::size_t count, std::size_t limit);
 
 // A text as its file has it, and what a pass made of it. The texts are borrowed.
@@ -60,8 +60,8 @@ struct SPreparation
 struct SMessagePlace
 {
     SSourcePlace place;               // of the source, its line shown around the place
-    std::optional<std::size_t> caret; // code points in front of the place in the line that is shown
-    std::string remark;               // belongs behind the message's text where the place alone doesn't tell
+    std::optional<std::size_t> caret; // code points before the place in the line that is shown
+    std::string remark;               // belongs after the message's text where the place alone doesn't tell
 };
 
 // Turns offsets into the prepared text into places of the source. The line is the source's own where the

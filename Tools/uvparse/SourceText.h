@@ -15,13 +15,14 @@ struct SSourceForm
 
 // The whole of a file, a pipe, or standard input ("-") as UTF-8 without its byte order mark. The line ends of
 // mainframes, NEL and NL, become line feeds where the encoding is of the EBCDIC family. Reading stops at the
-// first NUL, since what never ends is full of them. Throws: CToolFailure if it can't be read or isn't text.
+// first NUL, since what never ends is full of them.
+// Throws: CToolFailure if it can't be read or isn't text.
 std::string ReadSourceText(const std::string& path, const SSourceForm& form);
 
 // The same for bytes at hand; `name` is what messages call them. The text can't hold a NUL: the parser would
 // take it for the end. A byte order mark that isn't the encoding's is refused: one of both must be wrong. So
-// are bytes that are no whole number of records. Throws: CToolFailure with the offset into `bytes`, or if
-// there is no such encoding.
+// are bytes that are no whole number of records.
+// Throws: CToolFailure with the offset into `bytes`, or if there is no such encoding.
 std::string DecodeSourceText(std::string bytes, const std::string& name, const SSourceForm& form = {});
 
 // The text as an ordinary parse sees it: a zero-width space counts as a blank. A raw parse sees the text as

@@ -15,7 +15,8 @@ struct STreeDifference
 
 // Compares the text content of `tree`, unescaped, with `text`. Blanks around the root are no content. Two
 // control characters can't stand in XML and are taken as the tree writes them: a form feed is left out, a
-// data link escape is a word of its own. Returns: where they part; nothing if they are equal.
+// data link escape is a word of its own.
+// Returns: where they part; nothing if they are equal.
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text);
 
 // The number of statements that were read: of elements "delimited_pl_sql_statement", "full_pl_sql_statement"

@@ -1,4 +1,4 @@
-// SQL Server 2012 to 2022: "Reserved Keywords (Transact-SQL)". WITHIN is reserved with GROUP behind it alone.
+// SQL Server 2012 to 2022: "Reserved Keywords (Transact-SQL)". WITHIN is reserved with GROUP after it alone.
 // Compared word by word with the list of SQL Server 2012; that of 2022 hasn't been.
 #include "Catalogue/Identifiers/ReservedWords/ReservedWordList.h"
 #include "Catalogue/Identifiers/ReservedWords/ReservedWords.h"

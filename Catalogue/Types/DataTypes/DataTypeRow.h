@@ -96,7 +96,7 @@ constexpr SDataTypeParams Fixed(enInternalType type, const char* name, std::uint
             .isPrecScaleFixed = true};
 }
 
-// A time with digits behind the second. `size`: characters of the longest text form.
+// A time with digits after the second. `size`: characters of the longest text form.
 constexpr SDataTypeParams Timed(enInternalType type, const char* name, std::uint64_t size,
                                 std::int64_t minScale, std::int64_t maxScale,
                                 const char* createParams = "SCALE")
@@ -122,7 +122,7 @@ constexpr SDataTypeParams Led(enInternalType type, const char* name, std::uint64
             .createParams = createParams};
 }
 
-// An interval with a leading precision and digits behind the second.
+// An interval with a leading precision and digits after the second.
 constexpr SDataTypeParams LedTimed(enInternalType type, const char* name, std::uint64_t size,
                                    std::int64_t leadingPrecision, std::int64_t minScale,
                                    std::int64_t maxScale,

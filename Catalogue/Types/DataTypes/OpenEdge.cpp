@@ -1,4 +1,4 @@
-// Types of the 4GL side of Progress databases, release 11: fields of 31995 bytes, 50 digits with 10 behind
+// Types of the 4GL side of Progress databases, release 11: fields of 31995 bytes, 50 digits with 10 after
 // the point.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 

@@ -1,4 +1,4 @@
-// Types of Pervasive 10. MONEY is a decimal with two digits behind the point, CURRENCY a whole number of
+// Types of Pervasive 10. MONEY is a decimal with two digits after the point, CURRENCY a whole number of
 // ten-thousandths.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 

@@ -1,5 +1,5 @@
 // PostgreSQL: the limits of 15, the first with negative scales. What has no limit of its own ends at 1 GB.
-// NUMERIC without parameters is a decimal number of any scale: 131072 digits and 16383 behind the point.
+// NUMERIC without parameters is a decimal number of any scale: 131072 digits and 16383 after the point.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>

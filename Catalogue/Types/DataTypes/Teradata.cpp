@@ -1,5 +1,5 @@
 // Types of Teradata with the limits of release 16. Names without parentheses for intervals and zones have
-// the defaults: two leading digits, six behind the second.
+// the defaults: two leading digits, six after the second.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>

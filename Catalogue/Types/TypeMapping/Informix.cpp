@@ -7,7 +7,7 @@ namespace {
 
 using namespace UVDBRows;
 
-// What Informix calls the internal types. Times with digits behind the second are written TO FRACTION, those
+// What Informix calls the internal types. Times with digits after the second are written TO FRACTION, those
 // without TO SECOND. Unsigned integers take the next larger one. Moments without a year or a full day, such
 // as MONTH TO HOUR, become texts.
 // clang-format off
@@ -107,14 +107,14 @@ constexpr SUVDBToDBMSDataType kInformixRows[] = {
 // clang-format on
 static_assert(std::size(kInformixRows) == 90);
 
-// What SeaBase calls the internal types, in Informix's terms. Times with digits behind the second are written
+// What SeaBase calls the internal types, in Informix's terms. Times with digits after the second are written
 // TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one. Moments without a year or
 // a full day, such as MONTH TO HOUR, become texts, and so does JSON.
 constexpr enInternalType kSeaBaseGone[] = {UniChar, LongVarBit, FloatBetween, Json};
 constexpr auto kSeaBaseRows = Newer<kInformixRows, kNoRows, kSeaBaseGone>();
 static_assert(std::size(kSeaBaseRows) == 86);
 
-// What variables of Informix 4GL are declared with for the internal types. Times with digits behind the
+// What variables of Informix 4GL are declared with for the internal types. Times with digits after the
 // second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
 // Intervals, and moments without a full date or time, become texts.
 // clang-format off
@@ -135,7 +135,7 @@ constexpr enInternalType kInformix4GlGone[] = {
 constexpr auto kInformix4GlRows = Newer<kInformixRows, kInformix4GlChanges, kInformix4GlGone>();
 static_assert(std::size(kInformix4GlRows) == 61);
 
-// What Accell programs and forms call the internal types, in Informix's terms. Times with digits behind the
+// What Accell programs and forms call the internal types, in Informix's terms. Times with digits after the
 // second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
 // Intervals, and moments without a full date or time, become texts.
 // clang-format off
@@ -148,7 +148,7 @@ constexpr enInternalType kAccellGone[] = {DateTimeHourToFraction};
 constexpr auto kAccellRows = Newer<kInformix4GlRows, kAccellChanges, kAccellGone>();
 static_assert(std::size(kAccellRows) == 59);
 
-// What programs in 4GL and SAL call the internal types, in Informix's terms. Times with digits behind the
+// What programs in 4GL and SAL call the internal types, in Informix's terms. Times with digits after the
 // second are written TO FRACTION, those without TO SECOND. Unsigned integers take the next larger one.
 // Intervals, and moments without a full date or time, become texts.
 constexpr enInternalType kGuptaSalGone[] = {DateTimeYearToMinute};
