@@ -1,6 +1,6 @@
 // native_baseline [--repeat N] FILE...: the table-driven engine beside the natively compiled grammar, and the
 // flattening beside the stylesheet that defines it, on the same texts in one run. Each measurement runs in a
-// process of its own, so that its peak memory is its own too.
+// process of its own, so that its peak memory is its own too. Seconds are processor time.
 
 #include "Benchmarks/MeasuredProcess.h"
 #include "Benchmarks/Native/NativeParse.h"
@@ -11,8 +11,11 @@
 #include "Parser/UVParser.h"
 #include "Tree/TreeFlattener.h"
 
+#ifdef UV_PG_QUERY
+#include <pg_query.h>
+#endif
+
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -63,20 +66,20 @@ SMeasure EngineScan(const std::string& text)
     lexer.yycreate();
     lexer.set_ColoringWanted(false);
     SMeasure measure;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     lexer.set_Query(text, static_cast<int>(kPostgreSql));
     while (lexer.yylex() != 0)
         ++measure.tokens;
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     return measure;
 }
 
 SMeasure CompiledScan(const std::string& text)
 {
     SMeasure measure;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     measure.tokens = NativeScan(text);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     return measure;
 }
 
@@ -85,9 +88,9 @@ SMeasure EngineParse(const std::string& text)
     static CMeasuredParser parser;
     SMeasure measure;
     parser.set_Query(text.c_str());
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     const std::string xml = parser.FastParse();
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     measure.output = xml.size();
     return measure;
 }
@@ -95,9 +98,9 @@ SMeasure EngineParse(const std::string& text)
 SMeasure CompiledParse(const std::string& text)
 {
     SMeasure measure;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     const SNativeResult result = NativeParse(text);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     measure.tokens = result.tokens;
     measure.output = result.xml.size();
     return measure;
@@ -108,9 +111,9 @@ SMeasure WholeParse(const std::string& text)
     static CMeasuredParser parser;
     SMeasure measure;
     parser.set_Query(text.c_str());
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     const int result = parser.Parse(false);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     measure.output = result == UVDB_OK ? parser.ResultSize() : 0;
     return measure;
 }
@@ -124,9 +127,9 @@ SMeasure Flatten(const std::string& text)
     }();
     SMeasure measure;
     std::string flat;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     const bool isFlattened = FlattenTree(raw, flat);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     measure.output = isFlattened ? flat.size() : 0;
     return measure;
 }
@@ -142,9 +145,9 @@ SMeasure FlattenByStylesheet(const std::string& text)
     Uve::U8CString xml = raw;
     std::shared_ptr<IUVDBDatabaseInfo2> info;
     parser.get_DatabaseInfo(info);
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     const int result = parser.Tree2Serial(info, xml);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     measure.output = result == UVDB_OK ? xml.size() : 0;
     return measure;
 }
@@ -152,14 +155,42 @@ SMeasure FlattenByStylesheet(const std::string& text)
 SMeasure LoadTables(const std::string&)
 {
     SMeasure measure;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = CpuSeconds();
     CUVDBSQLParser parser;
     parser.Load(kParserName);
-    measure.seconds = Seconds(start);
+    measure.seconds = CpuSeconds() - start;
     return measure;
 }
 
 using Work = SMeasure (*)(const std::string& text);
+
+#ifdef UV_PG_QUERY
+// The database's own parser with its serialisers. A text that it refuses has no output.
+SMeasure ParseToProtobuf(const std::string& text)
+{
+    SMeasure measure;
+    const double start = CpuSeconds();
+    const PgQueryProtobufParseResult result = pg_query_parse_protobuf(text.c_str());
+    measure.seconds = CpuSeconds() - start;
+    measure.output = result.error == nullptr ? result.parse_tree.len : 0;
+    pg_query_free_protobuf_parse_result(result);
+    return measure;
+}
+
+SMeasure ParseToJson(const std::string& text)
+{
+    SMeasure measure;
+    const double start = CpuSeconds();
+    const PgQueryParseResult result = pg_query_parse(text.c_str());
+    measure.seconds = CpuSeconds() - start;
+    measure.output = result.error == nullptr ? std::strlen(result.parse_tree) : 0;
+    pg_query_free_parse_result(result);
+    return measure;
+}
+#else
+constexpr Work ParseToProtobuf = nullptr;
+constexpr Work ParseToJson = nullptr;
+#endif
 
 SMeasure Measure(Work work, const char* path, int repeat)
 {
@@ -206,18 +237,27 @@ int main(int argc, char** argv)
         kWholeParse,
         kFlatten,
         kStylesheet,
+        kPgQueryProtobuf,
+        kPgQueryJson,
         kRowCount
     };
     const struct
     {
         const char* name;
         Work work;
-        double mostBytes; // of source: the stylesheet takes gigabytes beyond
+        double mostBytes; // of source: beyond, memory would be short
     } rows[kRowCount] = {
-        {"engine scan", EngineScan, HUGE_VAL},    {"native scan", CompiledScan, HUGE_VAL},
-        {"engine parse", EngineParse, HUGE_VAL},  {"native parse", CompiledParse, HUGE_VAL},
-        {"whole Parse", WholeParse, HUGE_VAL},    {"flatten", Flatten, HUGE_VAL},
+        // clang-format off
+        {"engine scan", EngineScan, HUGE_VAL},
+        {"native scan", CompiledScan, HUGE_VAL},
+        {"engine parse", EngineParse, HUGE_VAL},
+        {"native parse", CompiledParse, HUGE_VAL},
+        {"whole Parse", WholeParse, HUGE_VAL},
+        {"flatten", Flatten, HUGE_VAL},
         {"stylesheet", FlattenByStylesheet, 2e6},
+        {"pg_query protobuf", ParseToProtobuf, 2e7},
+        {"pg_query JSON", ParseToJson, 2e7},
+        // clang-format on
     };
     const SMeasure load = Measure(LoadTables, nullptr, 20);
     std::printf("loading the tables of %s: %.1f ms\n", kParserName, load.seconds * 1000);
@@ -225,14 +265,14 @@ int main(int argc, char** argv)
     for (const char* file : files) {
         const auto bytes = static_cast<double>(ReadFile(file).size());
         std::printf("\n%s: %.2f MB\n", file, bytes / kMega);
-        std::printf("%-14s %9s %9s %10s %12s %11s %16s\n", "", "seconds", "MB/s", "Mtokens/s", "output MB",
+        std::printf("%-18s %9s %9s %10s %12s %11s %16s\n", "", "seconds", "MB/s", "Mtokens/s", "output MB",
                     "peak MB", "beyond output/B");
         double seconds[kRowCount] = {};
         std::size_t tokens = 0;
-        double rawTree = 0;
+        double wholeTree = 0;
         double wholePeak = 0;
         for (std::size_t row = 0; row < kRowCount; ++row) {
-            if (bytes > rows[row].mostBytes)
+            if (rows[row].work == nullptr || bytes > rows[row].mostBytes)
                 continue;
             WarmMemory(static_cast<std::size_t>(bytes) * kMostMemoryPerByte);
             const SMeasure measure = Measure(rows[row].work, file, repeat);
@@ -240,22 +280,25 @@ int main(int argc, char** argv)
             seconds[row] = measure.seconds;
             tokens = measure.tokens ? measure.tokens : tokens;
             const double peak = static_cast<double>(measure.peakKiB) * 1024;
-            std::printf("%-14s %9.3f %9.2f %10.2f %12.2f %11.1f %16.1f\n", rows[row].name, measure.seconds,
+            std::printf("%-18s %9.3f %9.2f %10.2f %12.2f %11.1f %16.1f\n", rows[row].name, measure.seconds,
                         bytes / measure.seconds / kMega,
                         static_cast<double>(tokens) / measure.seconds / kMega,
                         static_cast<double>(measure.output) / kMega, peak / kMega,
                         (peak - static_cast<double>(measure.output)) / bytes);
-            if (row == kEngineParse)
-                rawTree = static_cast<double>(measure.output);
-            if (row == kWholeParse)
+            if (row == kWholeParse) {
+                wholeTree = static_cast<double>(measure.output);
                 wholePeak = peak;
+            }
         }
         std::printf("engine to native: scan %.2f, parse %.2f\n", seconds[kNativeScan] / seconds[kEngineScan],
                     seconds[kNativeParse] / seconds[kEngineParse]);
-        std::printf(
-            "to the raw parse: flatten %.2f, whole Parse %.2f; peak of the whole to the raw tree %.2f\n",
-            seconds[kEngineParse] / seconds[kFlatten], seconds[kEngineParse] / seconds[kWholeParse],
-            wholePeak / rawTree);
+        std::printf("to the raw parse: flatten %.2f, whole Parse %.2f; peak of the whole to its tree %.2f\n",
+                    seconds[kEngineParse] / seconds[kFlatten], seconds[kEngineParse] / seconds[kWholeParse],
+                    wholePeak / wholeTree);
+        if (seconds[kPgQueryProtobuf] > 0)
+            std::printf("whole Parse to pg_query: protobuf %.2f, JSON %.2f\n",
+                        seconds[kPgQueryProtobuf] / seconds[kWholeParse],
+                        seconds[kPgQueryJson] / seconds[kWholeParse]);
         if (seconds[kStylesheet] > 0)
             std::printf("flatten to the stylesheet: %.1f\n", seconds[kStylesheet] / seconds[kFlatten]);
     }

@@ -187,13 +187,6 @@ struct SCost
     std::size_t output = 0;
 };
 
-double CpuSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
-
 // Leaves nothing of the source in the caches, as if it had just come from elsewhere. A small one would stay
 // there and a large one wouldn't.
 void CoolCaches()
