@@ -82,8 +82,8 @@ constexpr std::size_t kSlots = 64;
 
 constexpr std::size_t SlotOf(std::string_view word)
 {
-    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(word[at]); };
-    return (word.size() * 31 + byte(0) * 14u + byte(word.size() - 1) + byte(word.size() / 2) * 3u) % kSlots;
+    const auto byte = [&](std::size_t at) { return std::size_t{static_cast<unsigned char>(word[at])}; };
+    return (word.size() * 31 + byte(0) * 14 + byte(word.size() - 1) + byte(word.size() / 2) * 3) % kSlots;
 }
 
 struct SSlot

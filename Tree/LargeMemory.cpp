@@ -8,9 +8,11 @@ namespace {
 
 constexpr std::size_t kSmallPageBytes = 4096;
 
-std::uintptr_t RoundedUp(std::uintptr_t address, std::size_t to)
+// From `address` on to the next page of that size.
+std::size_t BytesBefore(const void* address, std::size_t pageBytes)
 {
-    return (address + to - 1) / to * to;
+    const auto rest = reinterpret_cast<std::uintptr_t>(address) % pageBytes;
+    return rest == 0 ? 0 : pageBytes - rest;
 }
 
 } // namespace
@@ -21,9 +23,8 @@ void ReserveLarge(std::string& text, std::size_t bytes)
     if (text.capacity() < 2 * kLargePageBytes)
         return;
     // A request only: where the system has no large pages to give, small ones do.
-    const auto begin = RoundedUp(reinterpret_cast<std::uintptr_t>(text.data()), kSmallPageBytes);
-    const auto end = reinterpret_cast<std::uintptr_t>(text.data()) + text.capacity();
-    madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
+    const std::size_t before = BytesBefore(text.data(), kSmallPageBytes);
+    madvise(text.data() + before, text.capacity() - before, MADV_HUGEPAGE);
 }
 
 void SLargePageDeleter::operator()(void* page) const noexcept
@@ -38,12 +39,12 @@ LargePage NewLargePage(bool isWhole)
     if (mapped == MAP_FAILED)
         throw std::bad_alloc();
     // one of two pages' length is aligned, the rest goes back
-    const auto begin = reinterpret_cast<std::uintptr_t>(mapped);
-    const auto page = RoundedUp(begin, kLargePageBytes);
-    if (page != begin)
-        munmap(mapped, page - begin);
-    munmap(reinterpret_cast<void*>(page + kLargePageBytes), begin + kLargePageBytes - page);
+    const std::size_t before = BytesBefore(mapped, kLargePageBytes);
+    char* const page = static_cast<char*>(mapped) + before;
+    if (before != 0)
+        munmap(mapped, before);
+    munmap(page + kLargePageBytes, kLargePageBytes - before);
     if (isWhole)
-        madvise(reinterpret_cast<void*>(page), kLargePageBytes, MADV_HUGEPAGE);
-    return LargePage(reinterpret_cast<void*>(page));
+        madvise(page, kLargePageBytes, MADV_HUGEPAGE);
+    return LargePage(page);
 }

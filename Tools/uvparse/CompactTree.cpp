@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <functional>
 #include <new>
 #include <utility>
@@ -329,7 +330,9 @@ xmlNode* CCompactTree::AddElement(const SMarkup& markup)
         return nullptr;
     xmlNode* const element = MakeNode(XML_ELEMENT_NODE, markup.text.data(), name);
     // The number in document order, as libxml2 notes it when it is told to; it saves walks through the tree.
-    element->content = reinterpret_cast<xmlChar*>(--m_Order);
+    --m_Order;
+    static_assert(sizeof element->content == sizeof m_Order);
+    std::memcpy(&element->content, &m_Order, sizeof m_Order);
     std::string_view attributes = markup.text;
     attributes.remove_prefix(1 + markup.name.size());
     attributes.remove_suffix(markup.kind == enMarkup::Empty ? 2 : 1);

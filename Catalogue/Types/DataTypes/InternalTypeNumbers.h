@@ -8,7 +8,7 @@ namespace UVDBRows {
 
 enum enInternalType : std::int64_t
 {
-#define UVDB_TYPE(name, number, row, meaning) name = number,
+#define UVDB_TYPE(name, number, row, meaning) name = (number),
 #define UVDB_TYPE_AGAIN(name, row)
 #include "Catalogue/Types/DataTypes/InternalTypes.inc"
 #undef UVDB_TYPE_AGAIN
