@@ -403,7 +403,11 @@ TEST(ScannerBuffers, TheMatchStaysWhenTheBufferIsTouched)
     const std::function<void(CPlainScanner&)> touches[] = {
         [](CPlainScanner& scanner) { scanner.yyinput(); },
         [](CPlainScanner& scanner) { scanner.PushBack('x'); },
-        [&](CPlainScanner& scanner) { scanner.yyscan_buffer(other, 4); },
+        [&](CPlainScanner& scanner) {
+            yybuffer_state* const before = scanner.yycurrent_buffer();
+            scanner.yyscan_buffer(other, 4);
+            scanner.yydelete_buffer(before);
+        },
         [](CPlainScanner& scanner) { scanner.yypush_buffer_state(scanner.yycreate_buffer(nullptr, 10)); },
         [](CPlainScanner& scanner) { scanner.yyflush_buffer(scanner.yycurrent_buffer()); },
         [](CPlainScanner& scanner) { scanner.yypop_buffer_state(); },
