@@ -78,7 +78,9 @@ public:
             text.remove_prefix(1);
             known = 1;
         } else {
-            m_Code.resize(WithoutTrailingBlanks(m_Code).size());
+            // nothing but a comment may have stood after the margin, which stays
+            const std::size_t filled = WithoutTrailingBlanks(m_Code).size();
+            m_Code.resize(filled != 0 ? filled : std::min(m_Code.size(), kCobolMargin.size()));
             if (IsQuote(text.front()) && m_Code.ends_with(text.front()))
                 m_Code += ' '; // both end and begin a literal of their own
         }

@@ -53,6 +53,7 @@ TEST(CobolFaithfulFixed, LinesGoOnWithCode)
                {open + "PROGRAM1\n      -    ''C'.", open + "'C'.", {1}},
                // an inline comment stays at the end
                {"       A 'x *>' *> n\n      -    B\n      -    C *> m", "       A 'x *>'BC *> n *> m", {1}},
+               {"       *> n\n      -    B\n", "      B *> n\n", {1}}, // nothing but one: the margin stays
                {"       IF A,\n       IF B,\n      -    C", "       IF A\n       IF B,C", {1, 2}},
                {"      $ SET\n      -A", "      $ SET\n      -A", {1, 2}}},
               kFixed);
