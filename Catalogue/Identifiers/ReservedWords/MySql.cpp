@@ -1,13 +1,14 @@
-// MySQL 8.0 and 8.4, reference manuals: "Keywords and Reserved Words", the words marked (R) in either, less
-// those that early releases of 8.0 alone reserve. Compared word by word with a list of 8.0, but for INTERSECT
-// of 8.0.31 and MANUAL, PARALLEL, QUALIFY and TABLESAMPLE of 8.4.
+// MySQL and what speaks its dialect.
 #include "Catalogue/Identifiers/ReservedWords/ReservedWordList.h"
 #include "Catalogue/Identifiers/ReservedWords/ReservedWords.h"
 
 namespace {
 
+// MySQL 8.0 and 8.4, reference manuals: "Keywords and Reserved Words", the words marked (R) in either, less
+// those that early releases of 8.0 alone reserve. Compared word by word with a list of 8.0, but for INTERSECT
+// of 8.0.31 and MANUAL, PARALLEL, QUALIFY and TABLESAMPLE of 8.4.
 // clang-format off
-constexpr std::string_view kWords[] = {
+constexpr std::string_view kMySqlWords[] = {
     "ACCESSIBLE",
     "ADD",
     "ALL",
@@ -276,8 +277,126 @@ constexpr std::string_view kWords[] = {
     "ZEROFILL",
 };
 // clang-format on
-static_assert(UVDBRows::AreReservedWords(kWords));
+static_assert(UVDBRows::AreReservedWords(kMySqlWords));
+
+// MariaDB 10.11: the words of information_schema.KEYWORDS that the server, in its default SQL mode, refuses
+// as plain names of tables and columns. What only the Oracle mode reserves isn't here.
+// clang-format off
+constexpr std::string_view kMariaDbAdded[] = {
+    "CURRENT_ROLE",
+    "DELETE_DOMAIN_ID",
+    "DO_DOMAIN_IDS",
+    "IGNORE_DOMAIN_IDS",
+    "MASTER_DEMOTE_TO_REPLICA",
+    "MASTER_DEMOTE_TO_SLAVE",
+    "OFFSET",
+    "PAGE_CHECKSUM",
+    "PARSE_VCOL_EXPR",
+    "PORTION",
+    "REF_SYSTEM_ID",
+    "RETURNING",
+    "STATS_AUTO_RECALC",
+    "STATS_PERSISTENT",
+    "STATS_SAMPLE_PAGES",
+};
+constexpr std::string_view kMariaDbGone[] = {
+    "CUBE",
+    "CUME_DIST",
+    "DATABASE",
+    "DENSE_RANK",
+    "EMPTY",
+    "FIRST_VALUE",
+    "FUNCTION",
+    "GENERATED",
+    "GET",
+    "GROUPING",
+    "GROUPS",
+    "IO_AFTER_GTIDS",
+    "IO_BEFORE_GTIDS",
+    "JSON_TABLE",
+    "LAG",
+    "LAST_VALUE",
+    "LATERAL",
+    "LEAD",
+    "MANUAL",
+    "MASTER_BIND",
+    "NTH_VALUE",
+    "NTILE",
+    "OF",
+    "OPTIMIZER_COSTS",
+    "OPTION",
+    "PARALLEL",
+    "PERCENT_RANK",
+    "QUALIFY",
+    "RANK",
+    "ROW",
+    "SCHEMA",
+    "STORED",
+    "SYSTEM",
+    "TABLESAMPLE",
+    "VIRTUAL",
+    "WINDOW",
+};
+// clang-format on
+constexpr auto kMariaDbWords = UVDBRows::NewerWords<kMySqlWords, kMariaDbAdded, kMariaDbGone>();
+static_assert(std::size(kMariaDbWords) == 245);
+
+// GBase 8a: the reserved words of MySQL 5.1, whose dialect it speaks, and its own set operators. This list
+// hasn't been compared with the manual word by word.
+// clang-format off
+constexpr std::string_view kGBaseAdded[] = {
+    "MINUS",
+};
+constexpr std::string_view kGBaseGone[] = {
+    "CUBE",
+    "CUME_DIST",
+    "DENSE_RANK",
+    "EMPTY",
+    "EXCEPT",
+    "FIRST_VALUE",
+    "FUNCTION",
+    "GENERATED",
+    "GET",
+    "GROUPING",
+    "GROUPS",
+    "IO_AFTER_GTIDS",
+    "IO_BEFORE_GTIDS",
+    "JSON_TABLE",
+    "LAG",
+    "LAST_VALUE",
+    "LATERAL",
+    "LEAD",
+    "MANUAL",
+    "MASTER_BIND",
+    "MAXVALUE",
+    "NTH_VALUE",
+    "NTILE",
+    "OF",
+    "OPTIMIZER_COSTS",
+    "OVER",
+    "PARALLEL",
+    "PARTITION",
+    "PERCENT_RANK",
+    "QUALIFY",
+    "RANK",
+    "RECURSIVE",
+    "RESIGNAL",
+    "ROW",
+    "ROWS",
+    "ROW_NUMBER",
+    "SIGNAL",
+    "STORED",
+    "SYSTEM",
+    "TABLESAMPLE",
+    "VIRTUAL",
+    "WINDOW",
+};
+// clang-format on
+constexpr auto kGBaseWords = UVDBRows::NewerWords<kMySqlWords, kGBaseAdded, kGBaseGone>();
+static_assert(std::size(kGBaseWords) == 225);
 
 } // namespace
 
-constinit const std::span<const std::string_view> kMySqlReservedWords{kWords};
+constinit const std::span<const std::string_view> kMySqlReservedWords{kMySqlWords};
+constinit const std::span<const std::string_view> kMariaDbReservedWords{kMariaDbWords};
+constinit const std::span<const std::string_view> kGBaseReservedWords{kGBaseWords};
