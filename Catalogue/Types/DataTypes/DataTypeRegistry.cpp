@@ -99,8 +99,8 @@ constexpr SDataTypeTableKey kRows[] = {
     { 88,  -1, &kSqlBaseDataTypes},
     { 31,  -1, &kHpNonStopDataTypes},
     { 32,  -1, &kVerticaDataTypes},
-    {125,  -1, &kAccellDataTypes},
-    {126,  -1, &kAccellDataTypes},
+    {125,  -1, &kGuptaSalDataTypes},
+    {126,  -1, &kGuptaSalDataTypes},
     {127,  -1, &kSnowflakeDataTypes},
 };
 // clang-format on

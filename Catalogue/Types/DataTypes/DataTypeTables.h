@@ -3,7 +3,6 @@
 
 #include "Catalogue/Types/DataTypes/DataTypeTable.h"
 
-extern const SDataTypeTable kAccellDataTypes;
 extern const SDataTypeTable kAccessDataTypes;
 extern const SDataTypeTable kAdabasDataTypes;
 extern const SDataTypeTable kAnsiDataTypes;

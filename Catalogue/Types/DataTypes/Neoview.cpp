@@ -1,15 +1,17 @@
-// Types of Neoview. A row takes 32708 bytes at most, and so does a text.
+// The SQL of NonStop systems and of Neoview. A row takes 32708 bytes at most, and so does a text.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace {
 
 using namespace UVDBRows;
 
+// Types of Neoview.
 // clang-format off
-constexpr SDataTypeParams kRows[] = {
-//  shape          type                    name                          size or digits, leading digits, scale
+constexpr SDataTypeParams kNeoviewRows[] = {
+//                 type                    name                            size  scale
     Sized         (Char,                   "CHAR",                        32708),
     Synonym(Sized (Char,                   "CHARACTER",                   32708)),
     Sized         (VarChar,                "VARCHAR",                     32708),
@@ -69,8 +71,22 @@ constexpr SDataTypeParams kRows[] = {
     LedTimed      (IntervalSecond,         "INTERVAL SECOND()",              26, 18,   0, 6, "LEADING PRECISION,SCALE"),
 };
 // clang-format on
-static_assert(std::size(kRows) == 57);
+static_assert(std::size(kNeoviewRows) == 57);
+
+// Types of the SQL of NonStop systems.
+constexpr std::string_view kHpNonStopGone[] = {"DECIMAL() SIGNED",
+                                               "SMALLINT UNSIGNED",
+                                               "SMALLINT SIGNED",
+                                               "INT UNSIGNED",
+                                               "INT SIGNED",
+                                               "INTEGER UNSIGNED",
+                                               "INTEGER SIGNED",
+                                               "REAL",
+                                               "FLOAT"};
+constexpr auto kHpNonStopRows = NewerTypes<kNeoviewRows, kNoChanges, kHpNonStopGone>();
+static_assert(std::size(kHpNonStopRows) == 47);
 
 } // namespace
 
-constinit const SDataTypeTable kNeoviewDataTypes = MakeDataTypeTable<kRows>();
+constinit const SDataTypeTable kNeoviewDataTypes = MakeDataTypeTable<kNeoviewRows>();
+constinit const SDataTypeTable kHpNonStopDataTypes = MakeDataTypeTable<kHpNonStopRows>();

@@ -1,15 +1,16 @@
-// Types of the SQL side of Progress databases, release 11.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace {
 
 using namespace UVDBRows;
 
+// Types of the SQL side of Progress databases, release 11.
 // clang-format off
-constexpr SDataTypeParams kRows[] = {
-//  shape          type           name                 size or digits, leading digits, scale
+constexpr SDataTypeParams kProgressRows[] = {
+//                 type           name                        size  scale
     Sized         (Char,          "CHAR",                     2000),
     Synonym(Sized (Char,          "CHARACTER",                2000)),
     Sized         (VarChar,       "VARCHAR",                 31995),
@@ -36,8 +37,30 @@ constexpr SDataTypeParams kRows[] = {
     Timed         (TimestampZone, "TIMESTAMP_TIMEZONE",         29, 3,  3, ""),
 };
 // clang-format on
-static_assert(std::size(kRows) == 24);
+static_assert(std::size(kProgressRows) == 24);
+
+// Types of the 4GL side of Progress databases, release 11: fields of 31995 bytes, 50 digits with 10 after the
+// point.
+// clang-format off
+constexpr SRowChange kOpenEdgeChanges[] = {
+//                 type           name                        size  scale
+    Sized         (Char,          "CHAR",                    31995),
+    Synonym(Sized (Char,          "CHARACTER",               31995)),
+    Plain         (LongVarBinary, "LVARBINARY",         1073741823),
+    After("CHARACTER VARYING"),
+    Plain         (Text,          "LONGCHAR1",          1073741823),
+    After("INT"),
+    Whole         (BigInt,        "INT64",                      19),
+    After("TIMESTAMP"),
+    Synonym(Timed (Timestamp,     "DATETIME",                   23, 3,  3, "")),
+    Plain         (Boolean,       "LOGICAL",                     1),
+};
+// clang-format on
+constexpr std::string_view kOpenEdgeGone[] = {"LOGICAL", "BIGINT", "TIMESTAMP_TIMEZONE"};
+constexpr auto kOpenEdgeRows = NewerTypes<kProgressRows, kOpenEdgeChanges, kOpenEdgeGone>();
+static_assert(std::size(kOpenEdgeRows) == 25);
 
 } // namespace
 
-constinit const SDataTypeTable kProgressDataTypes = MakeDataTypeTable<kRows>();
+constinit const SDataTypeTable kProgressDataTypes = MakeDataTypeTable<kProgressRows>();
+constinit const SDataTypeTable kOpenEdgeDataTypes = MakeDataTypeTable<kOpenEdgeRows>();

@@ -1,16 +1,17 @@
-// Types of Teradata with the limits of release 16. Names without parentheses for intervals and zones have
-// the defaults: two leading digits, six after the second.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace {
 
 using namespace UVDBRows;
 
+// Types of Teradata with the limits of release 16. Names without parentheses for intervals and zones have the
+// defaults: two leading digits, six after the second.
 // clang-format off
-constexpr SDataTypeParams kRows[] = {
-//  shape            type                    name                              size or digits, leading digits, scale
+constexpr SDataTypeParams kTeradataRows[] = {
+//                   type                    name                                     size  scale
     Sized           (Char,                   "CHAR",                                 64000),
     Synonym(Sized   (Char,                   "CHARACTER",                            64000)),
     Sized           (VarChar,                "VARCHAR",                              64000),
@@ -79,8 +80,37 @@ constexpr SDataTypeParams kRows[] = {
     Synonym(LedTimed(IntervalSecond,         "INTERVAL SECOND",                         10, 2,  6, 6, "")),
 };
 // clang-format on
-static_assert(std::size(kRows) == 66);
+static_assert(std::size(kTeradataRows) == 66);
+
+// Types that SAS programs declare to Teradata, with the limits of Teradata.
+constexpr std::string_view kSasGone[] = {"CHAR() CHARACTER SET UNICODE",
+                                         "VARCHAR() CHARACTER SET UNICODE",
+                                         "CLOB CHARACTER SET UNICODE",
+                                         "CLOB",
+                                         "BLOB",
+                                         "XML",
+                                         "JSON",
+                                         "NUMBER",
+                                         "BIGINT",
+                                         "FLOAT BETWEEN",
+                                         "TIME WITH TIME ZONE",
+                                         "INTERVAL YEAR",
+                                         "INTERVAL YEAR TO MONTH",
+                                         "INTERVAL MONTH",
+                                         "INTERVAL DAY",
+                                         "INTERVAL DAY TO HOUR",
+                                         "INTERVAL DAY TO MINUTE",
+                                         "INTERVAL DAY TO SECOND",
+                                         "INTERVAL HOUR",
+                                         "INTERVAL HOUR TO MINUTE",
+                                         "INTERVAL HOUR TO SECOND",
+                                         "INTERVAL MINUTE",
+                                         "INTERVAL MINUTE TO SECOND",
+                                         "INTERVAL SECOND"};
+constexpr auto kSasRows = NewerTypes<kTeradataRows, kNoChanges, kSasGone>();
+static_assert(std::size(kSasRows) == 41);
 
 } // namespace
 
-constinit const SDataTypeTable kTeradataDataTypes = MakeDataTypeTable<kRows>();
+constinit const SDataTypeTable kTeradataDataTypes = MakeDataTypeTable<kTeradataRows>();
+constinit const SDataTypeTable kSasDataTypes = MakeDataTypeTable<kSasRows>();

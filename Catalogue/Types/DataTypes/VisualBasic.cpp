@@ -1,15 +1,16 @@
-// Types of Visual Basic.
 #include "Catalogue/Types/DataTypes/DataTypeTables.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace {
 
 using namespace UVDBRows;
 
+// Types of Visual Basic.
 // clang-format off
-constexpr SDataTypeParams kRows[] = {
-//  shape type      name        size or digits, leading digits, scale
+constexpr SDataTypeParams kVisualBasicRows[] = {
+//        type      name               size
     Plain(Char,     "CHARACTER",          1),
     Plain(VarChar,  "String",    2147483647),
     Whole(SmallInt, "SHORT",              5),
@@ -20,8 +21,21 @@ constexpr SDataTypeParams kRows[] = {
     Plain(Boolean,  "BOOLEAN",            1),
 };
 // clang-format on
-static_assert(std::size(kRows) == 8);
+static_assert(std::size(kVisualBasicRows) == 8);
+
+// Types of Visual Basic for .NET.
+// clang-format off
+constexpr SRowChange kVbNetChanges[] = {
+//        type      name               size
+    After("SHORT"),
+    Whole(Integer,  "Integer",           10),
+};
+// clang-format on
+constexpr std::string_view kVbNetGone[] = {"INTEGER"};
+constexpr auto kVbNetRows = NewerTypes<kVisualBasicRows, kVbNetChanges, kVbNetGone>();
+static_assert(std::size(kVbNetRows) == 8);
 
 } // namespace
 
-constinit const SDataTypeTable kVisualBasicDataTypes = MakeDataTypeTable<kRows>();
+constinit const SDataTypeTable kVisualBasicDataTypes = MakeDataTypeTable<kVisualBasicRows>();
+constinit const SDataTypeTable kVbNetDataTypes = MakeDataTypeTable<kVbNetRows>();
