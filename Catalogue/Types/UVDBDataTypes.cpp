@@ -33,7 +33,7 @@ std::array<STablesOfKind, kKindLimit> CollectTablesOfKinds()
 {
     std::array<STablesOfKind, kKindLimit> kinds{};
     for (std::size_t i = 0; i < kDataTypeTables.size(); ++i) {
-        STablesOfKind& kind = kinds.at(static_cast<std::size_t>(kDataTypeTables[i].db));
+        STablesOfKind& kind = kinds.at(kDataTypeTables[i].db);
         if (kind.end == 0)
             kind.first = i;
         kind.end = i + 1;
@@ -111,11 +111,11 @@ const SDataTypeTable& SetDBMSDataTypeParamsList(DB_VERSION_INFO version)
     const SDataTypeTable* ofKind = &kEmptyTable;
     for (std::size_t i = kind.first; i < kind.end; ++i) {
         const SDataTypeTableKey& key = kDataTypeTables[i];
-        if (static_cast<std::uint64_t>(key.db) != version.db)
+        if (key.db != version.db)
             continue;
-        if (static_cast<std::uint64_t>(key.subType) == version.subType)
+        if (key.subType == version.subType)
             return *key.table;
-        if (key.subType == -1)
+        if (key.subType == UVDB_NO_VERSION_WORD)
             ofKind = key.table;
     }
     return *ofKind;

@@ -21,23 +21,22 @@ const SMappingSheaf& SheafOf(DB_VERSION_INFO version)
 // Returns: -1 if it has none.
 long ChooseOfKind(std::span<const SMappingSheafKey> keys, const DB_VERSION_INFO& version)
 {
-    const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };
     long chosen = -1;
     // From the newest version of a kind back to its oldest.
     for (std::size_t i = keys.size(); i-- > 0;) {
         const SMappingSheafKey& key = keys[i];
-        if (word(key.db) != version.db)
+        if (key.db != version.db)
             continue;
         if (chosen >= 0) {
             const SMappingSheafKey& candidate = keys[static_cast<std::size_t>(chosen)];
-            if (word(key.subType) != version.subType)
+            if (key.subType != version.subType)
                 continue;
-            if (word(candidate.subType) == version.subType) {
-                if (word(key.major) < version.major)
+            if (candidate.subType == version.subType) {
+                if (key.major < version.major)
                     continue;
                 // Under the asked major only the very minor takes the place of another.
-                if (word(candidate.major) == version.major &&
-                    (word(key.minor) != version.minor || word(candidate.minor) == version.minor))
+                if (candidate.major == version.major &&
+                    (key.minor != version.minor || candidate.minor == version.minor))
                     continue;
             }
         }

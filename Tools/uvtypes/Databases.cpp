@@ -10,12 +10,6 @@
 
 namespace uvtypes {
 
-namespace {
-
-constexpr std::uint64_t kNone = UVDB_NO_VERSION_WORD;
-
-} // namespace
-
 SToolDatabase ReadSource(std::string_view text)
 {
     SToolDatabase database = ReadToolDatabase(text);
@@ -28,7 +22,7 @@ SToolDatabase ReadSource(std::string_view text)
 SToolDatabase ReadTarget(std::string_view text)
 {
     SToolDatabase database = ReadToolDatabase(text);
-    if (static_cast<std::uint64_t>(SheafOf(database).db) != database.version.db)
+    if (SheafOf(database).db != database.version.db)
         throw CDatabaseError(database.name +
                              " can't be a target: nobody knows what it calls the types of others "
                              "('uvtypes databases' lists the targets)");
@@ -42,9 +36,7 @@ const SMappingSheafKey& SheafOf(const SToolDatabase& target)
 
 std::string SheafName(const SMappingSheafKey& sheaf)
 {
-    const auto version = MakeDbVersionInfo(static_cast<std::uint64_t>(sheaf.db),
-                                           static_cast<std::uint64_t>(sheaf.subType), kNone, kNone);
-    std::string name = DatabaseKindName(version);
+    std::string name = DatabaseKindName({.db = sheaf.db, .subType = sheaf.subType});
     if (sheaf.major != 0 || sheaf.minor != 0)
         name += ' ' + std::to_string(sheaf.major) + '.' + std::to_string(sheaf.minor);
     return name;
@@ -52,18 +44,21 @@ std::string SheafName(const SMappingSheafKey& sheaf)
 
 std::vector<SKnownDatabase> KnownDatabases()
 {
-    // By kind, then by subtype, none (all ones, taken as -1) first.
-    std::map<std::pair<std::int64_t, std::int64_t>, SKnownDatabase> known;
+    // By kind, then by subtype, none (all ones, which wrap to 0) first.
+    std::map<std::pair<std::uint64_t, std::uint64_t>, SKnownDatabase> known;
+    const auto find = [&known](const auto& key) -> SKnownDatabase& {
+        SKnownDatabase& database = known[{key.db, key.subType + 1}];
+        database.version = {.db = key.db, .subType = key.subType};
+        return database;
+    };
     for (const SDataTypeTableKey& key : kDataTypeTables)
-        known[{key.db, key.subType}].rowCount = key.table->rows.size();
+        find(key);
     for (const SMappingSheafKey& key : kMappingSheaves)
-        known[{key.db, key.subType}].versions.push_back(
-            key.major == 0 && key.minor == 0 ? "any"
-                                             : std::to_string(key.major) + '.' + std::to_string(key.minor));
+        find(key).versions.push_back(key.major == 0 && key.minor == 0
+                                         ? "any"
+                                         : std::to_string(key.major) + '.' + std::to_string(key.minor));
     std::vector<SKnownDatabase> databases;
     for (auto& [key, database] : known) {
-        database.version = MakeDbVersionInfo(static_cast<std::uint64_t>(key.first),
-                                             static_cast<std::uint64_t>(key.second), kNone, kNone);
         database.name = DatabaseKindName(database.version);
         // A subtype without a table of its own has the kind's.
         database.rowCount = GetDBMSDataTypeParamsList(database.version).size();

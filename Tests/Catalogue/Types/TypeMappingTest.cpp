@@ -35,42 +35,42 @@ DB_VERSION_INFO SqlServer11()
 struct SVersionCase
 {
     std::uint64_t db, subType, major, minor;
-    std::int64_t ofSubType, ofMajor, ofMinor; // of the sheaf
+    std::uint64_t ofSubType, ofMajor, ofMinor; // of the sheaf
 };
 
 constexpr SVersionCase kVersions[] = {
-    {kOracle, kNone, 11, 2, -1, 10, 2}, // newer than all
-    {kOracle, kNone, 10, 2, -1, 10, 2},
-    {kOracle, kNone, 10, 1, -1, 10, 2},
-    {kOracle, kNone, 9, 0, -1, 9, 2}, // the oldest that isn't below
-    {kOracle, kNone, 9, 3, -1, 9, 2}, // the major counts before the minor
-    {kOracle, kNone, 8, 0, -1, 8, 3},
-    {kOracle, kNone, 5, 0, -1, 8, 3},
-    {kOracle, kNone, kNone, kNone, -1, 10, 2},
-    {kOracle, 7, 9, 0, -1, 10, 2}, // a subtype without sheaves gets the last one, whatever its version
-    {kSqlServer, kNone, 10, 50, -1, 10, 0},
-    {kSqlServer, kNone, 9, 0, -1, 9, 0},
-    {kSqlServer, kNone, 7, 0, -1, 8, 0},
-    {kSqlServer, kNone, 16, 0, -1, 11, 0},
-    {kMySql, kNone, 4, 5, -1, 4, 1}, // no such minor: the newest of the major
-    {kMySql, kNone, 4, 0, -1, 4, 0},
-    {kMySql, kNone, 3, 23, -1, 4, 0},
-    {kMySql, kNone, 5, 0, -1, 5, 0},
-    {kMySql, kNone, 8, 0, -1, 5, 1},
-    {kMySql, kNone, kNone, kNone, -1, 5, 1},
+    {kOracle, kNone, 11, 2, kNone, 10, 2}, // newer than all
+    {kOracle, kNone, 10, 2, kNone, 10, 2},
+    {kOracle, kNone, 10, 1, kNone, 10, 2},
+    {kOracle, kNone, 9, 0, kNone, 9, 2}, // the oldest that isn't below
+    {kOracle, kNone, 9, 3, kNone, 9, 2}, // the major counts before the minor
+    {kOracle, kNone, 8, 0, kNone, 8, 3},
+    {kOracle, kNone, 5, 0, kNone, 8, 3},
+    {kOracle, kNone, kNone, kNone, kNone, 10, 2},
+    {kOracle, 7, 9, 0, kNone, 10, 2}, // a subtype without sheaves gets the last one, whatever its version
+    {kSqlServer, kNone, 10, 50, kNone, 10, 0},
+    {kSqlServer, kNone, 9, 0, kNone, 9, 0},
+    {kSqlServer, kNone, 7, 0, kNone, 8, 0},
+    {kSqlServer, kNone, 16, 0, kNone, 11, 0},
+    {kMySql, kNone, 4, 5, kNone, 4, 1}, // no such minor: the newest of the major
+    {kMySql, kNone, 4, 0, kNone, 4, 0},
+    {kMySql, kNone, 3, 23, kNone, 4, 0},
+    {kMySql, kNone, 5, 0, kNone, 5, 0},
+    {kMySql, kNone, 8, 0, kNone, 5, 1},
+    {kMySql, kNone, kNone, kNone, kNone, 5, 1},
     {kMySql, 1, 10, 3, 1, 0, 0},
     {kMySql, 2, 5, 0, 1, 0, 0}, // MariaDB's stands last
-    {kPostgreSql, kNone, 8, 1, -1, 8, 4},
-    {kPostgreSql, kNone, 8, 2, -1, 8, 2},
-    {kPostgreSql, kNone, 15, 0, -1, 8, 4},
+    {kPostgreSql, kNone, 8, 1, kNone, 8, 4},
+    {kPostgreSql, kNone, 8, 2, kNone, 8, 2},
+    {kPostgreSql, kNone, 15, 0, kNone, 8, 4},
     {kSybase, 0, 9, 0, 0, 9, 0},
     {kSybase, 0, 11, 0, 0, 12, 0},
     {kSybase, 1, kNone, kNone, 1, 12, 5},
-    {kSybase, 2, 9, 0, -1, 12, 5},
+    {kSybase, 2, 9, 0, kNone, 12, 5},
     {kSybase, 3, 15, 0, 3, 9, 0},
-    {kSybase, kNone, 9, 0, -1, 9, 0},
-    {kSingleStore, kNone, 7, 3, -1, 7, 0},
-    {kSingleStore, kNone, 6, 0, -1, 7, 0},
+    {kSybase, kNone, 9, 0, kNone, 9, 0},
+    {kSingleStore, kNone, 7, 3, kNone, 7, 0},
+    {kSingleStore, kNone, 6, 0, kNone, 7, 0},
 };
 
 TEST(SheafChoice, VersionsAreServedByTheOldestThatIsNotBelow)
@@ -79,7 +79,7 @@ TEST(SheafChoice, VersionsAreServedByTheOldestThatIsNotBelow)
         SCOPED_TRACE(testing::Message() << c.db << ' ' << c.subType << ' ' << c.major << '.' << c.minor);
         const long index = GetIndex(MakeDbVersionInfo(c.db, c.subType, c.major, c.minor));
         const SMappingSheafKey& key = kMappingSheaves[static_cast<std::size_t>(index)];
-        EXPECT_EQ(static_cast<std::uint64_t>(key.db), c.db);
+        EXPECT_EQ(key.db, c.db);
         EXPECT_EQ(key.subType, c.ofSubType);
         EXPECT_EQ(key.major, c.ofMajor);
         EXPECT_EQ(key.minor, c.ofMinor);
@@ -89,11 +89,7 @@ TEST(SheafChoice, VersionsAreServedByTheOldestThatIsNotBelow)
 TEST(SheafChoice, EachSheafServesTheVeryVersionItIsDeclaredFor)
 {
     for (std::size_t i = 0; i < kMappingSheaves.size(); ++i) {
-        const SMappingSheafKey& key = kMappingSheaves[i];
-        const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };
-        EXPECT_EQ(
-            GetIndex(MakeDbVersionInfo(word(key.db), word(key.subType), word(key.major), word(key.minor))),
-            static_cast<long>(i));
+        EXPECT_EQ(GetIndex(kMappingSheaves[i].Version()), static_cast<long>(i));
     }
 }
 
@@ -102,7 +98,7 @@ TEST(SheafChoice, UnknownDatabasesAreServedByCommonIfItIsThere)
     const long common = GetIndex(MakeDbVersionInfo(kCommon, kNone, kNone, kNone));
     for (const std::uint64_t db : {std::uint64_t{60}, std::uint64_t{127}, std::uint64_t{5000}, kNone})
         EXPECT_EQ(GetIndex(MakeDbVersionInfo(db, 1, 2, 3)), common) << db;
-    EXPECT_EQ(kMappingSheaves[static_cast<std::size_t>(common)].db, static_cast<std::int64_t>(kCommon));
+    EXPECT_EQ(kMappingSheaves[static_cast<std::size_t>(common)].db, kCommon);
 
     const auto withoutCommon = kMappingSheaves.first(static_cast<std::size_t>(common));
     EXPECT_EQ(ChooseMappingSheaf(withoutCommon, MakeDbVersionInfo(60, kNone, kNone, kNone)), -1);
@@ -158,9 +154,7 @@ TEST(Mapping, SizeChoosesTheName)
 TEST(Mapping, EveryTypeIsAnsweredForEveryTarget)
 {
     for (const SMappingSheafKey& key : kMappingSheaves) {
-        const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };
-        const DB_VERSION_INFO target =
-            MakeDbVersionInfo(word(key.db), word(key.subType), word(key.major), word(key.minor));
+        const DB_VERSION_INFO target = key.Version();
         SCOPED_TRACE(testing::Message()
                      << key.db << ' ' << key.subType << ' ' << key.major << '.' << key.minor);
         const auto first = GetUVDBToDBMSDataTypeMapFirst(target);

@@ -87,9 +87,7 @@ void AddTable(DB_VERSION_INFO version, const SDataTypeTable& table, std::vector<
 // SQL Server's types whose size isn't a number.
 SSourceCase Unlimited(const char* name, enTypeFamily family, std::uint64_t length)
 {
-    return {.version = Version(UVDB_DB_MSSQL, -1),
-            .name = name,
-            .capacity = {.family = family, .length = length}};
+    return {.version = {.db = UVDB_DB_MSSQL}, .name = name, .capacity = {.family = family, .length = length}};
 }
 
 // Decimals without numbers that hold whatever comes.
@@ -108,7 +106,7 @@ constexpr SOpenNumber kOpenNumbers[] = {
 // Programs of FoxPro have no types of their own: they use SQL Server's.
 DB_VERSION_INFO ReadersVersion(const SMappingSheafKey& key)
 {
-    return key.db == UVDB_DB_FOXPRO_PROGRAMS ? Version(UVDB_DB_MSSQL, -1) : Version(key.db, key.subType);
+    return key.db == UVDB_DB_FOXPRO_PROGRAMS ? DB_VERSION_INFO{.db = UVDB_DB_MSSQL} : key.Version();
 }
 
 // The row of a name that stands for the internal type, its last one if none does.
@@ -121,12 +119,6 @@ const SDataTypeParams& RowOfType(const SDataTypeTable& table, const std::string&
 }
 
 } // namespace
-
-DB_VERSION_INFO Version(std::int64_t db, std::int64_t subType, std::int64_t major, std::int64_t minor)
-{
-    const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };
-    return MakeDbVersionInfo(word(db), word(subType), word(major), word(minor));
-}
 
 std::string Describe(const SSourceCase& source)
 {
@@ -141,7 +133,7 @@ std::vector<SSourceCase> CollectSources()
     std::set<const void*> seen;
     for (const SDataTypeTableKey& key : kDataTypeTables) {
         if (seen.insert(key.table).second)
-            AddTable(Version(key.db, key.subType), *key.table, cases);
+            AddTable(key.Version(), *key.table, cases);
     }
     cases.push_back(Unlimited("VARCHAR(MAX)", enTypeFamily::Character, 2147483647));
     cases.push_back(Unlimited("NVARCHAR(MAX)", enTypeFamily::National, 1073741823));
@@ -158,7 +150,7 @@ std::string Convert(const SSourceCase& source, DB_VERSION_INFO target)
 }
 
 CTarget::CTarget(const SMappingSheafKey& key)
-    : m_Key(key), m_Version(Version(key.db, key.subType, key.major, key.minor)), m_Reader(ReadersVersion(key))
+    : m_Key(key), m_Version(key.Version()), m_Reader(ReadersVersion(key))
 {
     for (const SDataTypeParams& row : GetDBMSDataTypeParamsList(m_Reader))
         AddRow(row);
@@ -168,7 +160,7 @@ std::string CTarget::Name() const
 {
     return std::string(GetDbFullName(m_Version)) + ' ' + std::to_string(m_Key.db) + ' ' +
            std::to_string(m_Key.major) + '.' + std::to_string(m_Key.minor) +
-           (m_Key.subType == -1 ? "" : " subtype " + std::to_string(m_Key.subType));
+           (m_Key.subType == UVDB_NO_VERSION_WORD ? "" : " subtype " + std::to_string(m_Key.subType));
 }
 
 const STypeCapacity& CTarget::Read(const std::string& text)
@@ -229,7 +221,7 @@ std::vector<CTarget> CollectTargets()
     std::vector<CTarget> targets;
     std::set<std::pair<const void*, const void*>> seen;
     for (const SMappingSheafKey& key : kMappingSheaves) {
-        const auto rows = GetDBMSDataTypeParamsList(Version(key.db, key.subType));
+        const auto rows = GetDBMSDataTypeParamsList(key.Version());
         if (seen.emplace(key.sheaf, rows.data()).second)
             targets.emplace_back(key);
     }

@@ -14,9 +14,6 @@
 
 namespace TypeMeaning {
 
-DB_VERSION_INFO Version(std::int64_t db, std::int64_t subType, std::int64_t major = -1,
-                        std::int64_t minor = -1);
-
 // ---- Sources ----
 
 // A type with its numbers, as a host hands it over.

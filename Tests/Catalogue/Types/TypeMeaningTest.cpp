@@ -359,8 +359,8 @@ TEST(TypeMeaning, AnyNumbersGiveAName)
                 for (const long scale : kScales) {
                     long uvdbType = type.uvdbType;
                     const std::string text =
-                        GetDefDBMSToDBMSConverting(Version(UVDB_DB_ANSI, -1), target.Where(), type.name,
-                                                   uvdbType, size, size, scale, scale, size == 1, true);
+                        GetDefDBMSToDBMSConverting({.db = UVDB_DB_ANSI}, target.Where(), type.name, uvdbType,
+                                                   size, size, scale, scale, size == 1, true);
                     EXPECT_FALSE(text.empty() || text == "UNKNOWN")
                         << type.name << ' ' << size << ' ' << scale;
                 }

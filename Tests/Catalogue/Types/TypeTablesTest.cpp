@@ -17,24 +17,16 @@
 
 namespace {
 
-DB_VERSION_INFO Version(std::int64_t db, std::int64_t subType, std::int64_t major = -1,
-                        std::int64_t minor = -1)
-{
-    const auto word = [](std::int64_t value) { return static_cast<std::uint64_t>(value); };
-    return MakeDbVersionInfo(word(db), word(subType), word(major), word(minor));
-}
-
 std::string Describe(const SDataTypeTableKey& key)
 {
-    return "types of " + std::string(GetDbFullName(Version(key.db, key.subType))) + " (" +
-           std::to_string(key.db) + ", " + std::to_string(key.subType) + ')';
+    return "types of " + std::string(GetDbFullName(key.Version())) + " (" + std::to_string(key.db) + ", " +
+           std::to_string(key.subType) + ')';
 }
 
 std::string Describe(const SMappingSheafKey& key)
 {
-    return "mapping to " + std::string(GetDbFullName(Version(key.db, key.subType))) + " (" +
-           std::to_string(key.db) + ", " + std::to_string(key.subType) + ") " + std::to_string(key.major) +
-           '.' + std::to_string(key.minor);
+    return "mapping to " + std::string(GetDbFullName(key.Version())) + " (" + std::to_string(key.db) + ", " +
+           std::to_string(key.subType) + ") " + std::to_string(key.major) + '.' + std::to_string(key.minor);
 }
 
 std::string Describe(const SDataTypeParams& row)
@@ -119,10 +111,10 @@ std::size_t CountPairs(std::string_view name)
 
 TEST(TypeTables, NoneStandsTwice)
 {
-    std::set<std::pair<std::int64_t, std::int64_t>> keys;
+    std::set<std::pair<std::uint64_t, std::uint64_t>> keys;
     for (const SDataTypeTableKey& key : kDataTypeTables) {
         EXPECT_TRUE(keys.emplace(key.db, key.subType).second) << Describe(key);
-        EXPECT_EQ(GetDBMSDataTypeParamsList(Version(key.db, key.subType)).data(), key.table->rows.data());
+        EXPECT_EQ(GetDBMSDataTypeParamsList(key.Version()).data(), key.table->rows.data());
     }
 }
 
@@ -164,7 +156,7 @@ bool IsReachedBySize(const DB_VERSION_INFO& version, const SDataTypeParams& row)
 TEST(TypeTables, EveryRungIsReached)
 {
     ForEachTable([](const SDataTypeTableKey& key, const SDataTypeTable& table) {
-        const DB_VERSION_INFO version = Version(key.db, key.subType);
+        const DB_VERSION_INFO version = key.Version();
         for (const SDataTypeParams& row : table.rows) {
             // Names with small letters are for those who look into the table themselves.
             if (NormalizeTypeName(row.name, version) != row.name)
@@ -258,7 +250,7 @@ TEST(TypeTables, ParameterWordsHaveTheirLimits)
 
 TEST(MappingSheaves, NoneStandsTwice)
 {
-    std::set<std::tuple<std::int64_t, std::int64_t, std::int64_t, std::int64_t>> keys;
+    std::set<std::tuple<std::uint64_t, std::uint64_t, std::uint64_t, std::uint64_t>> keys;
     for (const SMappingSheafKey& key : kMappingSheaves) {
         EXPECT_TRUE(keys.emplace(key.db, key.subType, key.major, key.minor).second) << Describe(key);
     }
@@ -286,7 +278,7 @@ TEST(MappingSheaves, RungsOfATypeStandTogetherAndClimb)
 TEST(MappingSheaves, EveryRungIsReached)
 {
     ForEachSheaf([](const SMappingSheafKey& key, const SMappingSheaf& sheaf) {
-        const DB_VERSION_INFO version = Version(key.db, key.subType, key.major, key.minor);
+        const DB_VERSION_INFO version = key.Version();
         for (const SUVDBToDBMSDataType& row : sheaf.rows) {
             const auto isFoundAt = [&](long scale) {
                 return FindMappingRow(version, row.uvdbType, row.columnSize, scale) == &row;
@@ -300,7 +292,7 @@ TEST(MappingSheaves, EveryRungIsReached)
 struct SForeignName
 {
     std::uint64_t db;
-    std::int64_t major;
+    std::uint64_t major;
     const char* name;
 };
 
@@ -311,27 +303,26 @@ constexpr SForeignName kForeignNames[] = {
 bool IsForeign(const SMappingSheafKey& key, std::string_view name)
 {
     return std::ranges::any_of(kForeignNames, [&](const SForeignName& foreign) {
-        return static_cast<std::uint64_t>(key.db) == foreign.db && key.major == foreign.major &&
-               name == foreign.name;
+        return key.db == foreign.db && key.major == foreign.major && name == foreign.name;
     });
 }
 
 // What a type of theirs may take nobody knows, so their names are written without parameters.
 TEST(MappingSheaves, FewTargetsHaveNoTypesOfTheirOwn)
 {
-    std::set<std::int64_t> targets;
+    std::set<std::uint64_t> targets;
     for (const SMappingSheafKey& key : kMappingSheaves) {
-        if (GetDBMSDataTypeParamsList(Version(key.db, key.subType)).empty())
+        if (GetDBMSDataTypeParamsList(key.Version()).empty())
             targets.insert(key.db);
     }
     EXPECT_EQ(targets,
-              (std::set<std::int64_t>{UVDB_DB_COMMON, UVDB_DB_ORACLE_SQL_FORMS, UVDB_DB_FOXPRO_PROGRAMS}));
+              (std::set<std::uint64_t>{UVDB_DB_COMMON, UVDB_DB_ORACLE_SQL_FORMS, UVDB_DB_FOXPRO_PROGRAMS}));
 }
 
 TEST(MappingSheaves, NamesAreTypesOfTheTarget)
 {
     ForEachSheaf([](const SMappingSheafKey& key, const SMappingSheaf& sheaf) {
-        const DB_VERSION_INFO version = Version(key.db, key.subType);
+        const DB_VERSION_INFO version = key.Version();
         const SDataTypeTable& table = SetDBMSDataTypeParamsList(version);
         if (table.rows.empty())
             return;
@@ -348,7 +339,7 @@ TEST(MappingSheaves, NamesAreTypesOfTheTarget)
 TEST(MappingSheaves, LengthsFitTheTypesOfTheTarget)
 {
     ForEachSheaf([](const SMappingSheafKey& key, const SMappingSheaf& sheaf) {
-        const SDataTypeTable& table = SetDBMSDataTypeParamsList(Version(key.db, key.subType));
+        const SDataTypeTable& table = SetDBMSDataTypeParamsList(key.Version());
         for (const SUVDBToDBMSDataType& row : sheaf.rows) {
             const STypeNameSpan* const name = table.Find(row.name);
             if (!name)
