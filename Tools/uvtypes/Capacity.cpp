@@ -48,8 +48,10 @@ enTypeFamily StoredAs(enTypeFamily family)
         return enTypeFamily::Integer;
     case enTypeFamily::DecimalFloat:
         return enTypeFamily::Float;
+    case enTypeFamily::Date:
+    case enTypeFamily::Time:
     case enTypeFamily::Qualified:
-        return enTypeFamily::DateTime;
+        return enTypeFamily::Timestamp;
     default:
         return family;
     }
@@ -94,11 +96,10 @@ void SetNumber(const STypeMeaning& meaning, const SDataTypeParams& row, const ST
     } else if (row.columnSizePurpose == UVDB_SIZE_IS_PRECISION && row.columnSize > 0 &&
                (!row.isScaleValid || row.minScale == row.maxScale)) {
         SetDecimalRange(static_cast<long>(row.columnSize), row.maxScale, capacity);
-        // Currencies count in 32 or 64 bits.
-        if (row.uvdbType == UVDBRows::SmallMoney || row.uvdbType == UVDBRows::Money) {
-            const int bits = row.uvdbType == UVDBRows::SmallMoney ? 31 : 63;
-            capacity.most =
-                std::min(capacity.most, std::ldexp(std::pow(10.0, -static_cast<double>(row.maxScale)), bits));
+        // A currency that counts in bits: one of them is the sign.
+        if (meaning.bits != 0) {
+            const double unit = std::pow(10.0, -static_cast<double>(row.maxScale));
+            capacity.most = std::min(capacity.most, std::ldexp(unit, meaning.bits - 1));
             capacity.least = -capacity.most;
         }
     }
@@ -232,7 +233,7 @@ SCapacity CapacityOf(DB_VERSION_INFO version, const STypeText& type)
         capacity.floatBits = FloatBits(meaning, *row, type.numbers);
         capacity.isDecimalFloat = meaning.family == enTypeFamily::DecimalFloat;
         break;
-    case enTypeFamily::DateTime:
+    case enTypeFamily::Timestamp:
     case enTypeFamily::Interval:
         SetTime(version, meaning, *row, type, capacity);
         break;

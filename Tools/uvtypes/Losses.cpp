@@ -30,7 +30,7 @@ constexpr SFamilyName kFamilyNames[] = {
     {enTypeFamily::Decimal,      "an exact number"},
     {enTypeFamily::Float,        "a floating point number"},
     {enTypeFamily::Boolean,      "a truth value"},
-    {enTypeFamily::DateTime,     "a date or time"},
+    {enTypeFamily::Timestamp,    "a date or time"},
     {enTypeFamily::Interval,     "an interval"},
     {enTypeFamily::Uuid,         "a UUID"},
     {enTypeFamily::Xml,          "XML"},
@@ -273,7 +273,7 @@ std::vector<std::string> Losses(const SCapacity& source, DB_VERSION_INFO to, con
     } else if (IsNumber(source.family) && IsNumber(here.family)) {
         CompareNumbers(source, here, losses);
     } else if (source.family == here.family) {
-        if (source.family == enTypeFamily::DateTime)
+        if (source.family == enTypeFamily::Timestamp)
             CompareTimes(source, here, losses);
         else if (source.family == enTypeFamily::Interval)
             CompareIntervals(source, here, losses);

@@ -132,9 +132,16 @@ constexpr STypeMeaning Timed(UVDBMeaning::enTypeFamily family, unsigned fields)
     return {.family = family, .fields = fields};
 }
 
-constexpr STypeMeaning Zoned(UVDBMeaning::enTypeFamily family, unsigned fields)
+constexpr STypeMeaning Moment(unsigned fields)
 {
-    return {.family = family, .fields = fields, .hasZone = true};
+    return Timed(fields == kDate ? Date : fields == kTime ? Time : Timestamp, fields);
+}
+
+constexpr STypeMeaning Zoned(unsigned fields)
+{
+    STypeMeaning meaning = Moment(fields);
+    meaning.hasZone = true;
+    return meaning;
 }
 
 constexpr std::array<STypeMeaning, kInternalTypeLimit> Collect()

@@ -18,7 +18,9 @@ enum class enTypeFamily : std::uint8_t
     Float,
     DecimalFloat, // decimal digits, wherever the point is
     Boolean,
-    DateTime,  // dates, times of day, and both
+    Date,
+    Time,      // of day
+    Timestamp, // date and time
     Qualified, // a moment from one part of it to another
     Interval,
     Uuid,
@@ -51,8 +53,8 @@ inline constexpr unsigned kTime = kHour | kMinute | kSecond;
 struct STypeMeaning
 {
     enTypeFamily family = enTypeFamily::Unknown;
-    // Of integers, negative where they have no sign; of the significand of floats; decimal digits of decimal
-    // floats.
+    // Of integers, negative where they have no sign; of currencies that count in bits; of the significand of
+    // floats; decimal digits of decimal floats.
     int bits = 0;
     unsigned fields = 0;  // of moments and intervals: enTimeField
     bool hasZone = false; // of moments

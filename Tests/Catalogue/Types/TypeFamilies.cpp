@@ -15,71 +15,6 @@ using F = enTypeFamily;
 
 constexpr unsigned kMonths = kYear | kMonth;
 
-enTypeFamily FamilyOfMoment(unsigned fields)
-{
-    if ((fields & ~kDate) == 0)
-        return F::Date;
-    return (fields & ~kTime) == 0 ? F::Time : F::Timestamp;
-}
-
-// The families by which types are compared: dates, times and both are told apart, rows are identified in any
-// way.
-enTypeFamily FamilyOf(const STypeMeaning& meaning)
-{
-    using H = UVDBMeaning::enTypeFamily;
-    switch (meaning.family) {
-    case H::Unknown:
-        return F::Unknown;
-    case H::Text:
-        return F::Character;
-    case H::NationalText:
-        return F::National;
-    case H::Binary:
-        return F::Binary;
-    case H::File:
-        return F::File;
-    case H::Bits:
-        return F::Bits;
-    case H::Integer:
-        return F::Integer;
-    case H::Decimal:
-        return F::Decimal;
-    case H::Float:
-        return F::Float;
-    case H::DecimalFloat:
-        return F::DecimalFloat;
-    case H::Boolean:
-        return F::Boolean;
-    case H::DateTime:
-        return FamilyOfMoment(meaning.fields);
-    case H::Qualified:
-        return F::Qualified;
-    case H::Interval:
-        return F::Interval;
-    case H::Uuid:
-        return F::Uuid;
-    case H::Xml:
-        return F::Xml;
-    case H::Json:
-        return F::Json;
-    case H::Spatial:
-        return F::Spatial;
-    case H::RowId:
-    case H::RowNumber:
-    case H::RowVersion:
-        return F::RowIdentity;
-    case H::Array:
-        return F::Array;
-    case H::Variant:
-        return F::Variant;
-    case H::Hierarchy:
-        return F::Hierarchy;
-    case H::Record:
-        return F::Record;
-    }
-    return F::Unknown;
-}
-
 bool Takes(const SDataTypeParams& row, std::string_view wanted)
 {
     std::string_view words = row.createParams;
@@ -184,7 +119,7 @@ void SetTime(const STypeMeaning& meaning, const SDataTypeParams& row, long scale
 
 bool IsText(F family)
 {
-    return family == F::Character || family == F::National;
+    return family == F::Text || family == F::NationalText;
 }
 
 bool IsExact(F family)
@@ -299,21 +234,20 @@ std::uint64_t LengthIn(F family, const STypeCapacity& source)
 
 const char* FamilyText(enTypeFamily family)
 {
-    constexpr const char* kTexts[] = {"unknown",       "character", "national character",
-                                      "binary",        "file",      "bits",
-                                      "integer",       "decimal",   "float",
-                                      "decimal float", "boolean",   "date",
-                                      "time",          "timestamp", "qualified moment",
-                                      "interval",      "uuid",      "xml",
-                                      "json",          "spatial",   "row identity",
-                                      "array",         "variant",   "hierarchy",
-                                      "record"};
+    constexpr const char* kTexts[] = {
+        "unknown",       "text",       "national text", "binary",    "file",
+        "bits",          "integer",    "decimal",       "float",     "decimal float",
+        "boolean",       "date",       "time",          "timestamp", "qualified moment",
+        "interval",      "uuid",       "xml",           "json",      "spatial",
+        "row's address", "row number", "row version",   "array",     "variant",
+        "hierarchy",     "record"};
     return kTexts[static_cast<std::size_t>(family)];
 }
 
 enTypeFamily FamilyOf(std::int64_t uvdbType)
 {
-    return FamilyOf(MeaningOfInternalType(uvdbType));
+    const F family = MeaningOfInternalType(uvdbType).family;
+    return family == F::RowNumber || family == F::RowVersion ? F::RowId : family;
 }
 
 STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long scale, long leadingPrecision)
@@ -325,7 +259,7 @@ STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long sc
     const bool takesSize = Takes(row, "LENGTH") || Takes(row, "MAX LENGTH") || Takes(row, "PRECISION");
     if (!takesSize || size == 0 || size > row.columnSize)
         size = row.columnSize;
-    capacity.family = FamilyOf(meaning);
+    capacity.family = FamilyOf(row.uvdbType);
     capacity.length = size;
     switch (capacity.family) {
     case F::Integer:
@@ -371,8 +305,8 @@ std::vector<enTypeLoss> LossesOf(const STypeCapacity& source, const STypeCapacit
 {
     Losses losses;
     switch (target.family) {
-    case F::Character:
-    case F::National:
+    case F::Text:
+    case F::NationalText:
     case F::Binary:
     case F::Bits:
         if (LengthIn(target.family, source) > target.length)

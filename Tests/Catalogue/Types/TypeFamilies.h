@@ -11,39 +11,19 @@
 #include <limits>
 #include <vector>
 
-enum class enTypeFamily
-{
-    Unknown,
-    Character,
-    National,
-    Binary,
-    File, // beside the database
-    Bits,
-    Integer,
-    Decimal,
-    Float,
-    DecimalFloat, // decimal digits, wherever the point is
-    Boolean,
-    Date,
-    Time,
-    Timestamp,
-    Qualified, // a moment from one part of it to another
-    Interval,
-    Uuid,
-    Xml,
-    Json,
-    Spatial,
-    RowIdentity,
-    Array,
-    Variant,
-    Hierarchy,
-    Record
-};
+using UVDBMeaning::enTypeFamily;
 
 const char* FamilyText(enTypeFamily family);
 
+// The families by which types are compared: rows are identified in any way.
 // Returns: Unknown for a number that is no internal type.
 enTypeFamily FamilyOf(std::int64_t uvdbType);
+
+constexpr bool IsLongNational(std::int64_t uvdbType)
+{
+    return uvdbType == UVDBRows::LongNVarChar || uvdbType == UVDBRows::LongVarWChar ||
+           uvdbType == UVDBRows::UniText;
+}
 
 inline constexpr unsigned kAllFields = UVDBMeaning::kDate | UVDBMeaning::kTime;
 

@@ -1,6 +1,7 @@
 // Where a type of one database can't keep its whole meaning in another, and why that is right.
 #pragma once
 
+#include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 #include "Catalogue/Types/TypeMapping/MappingSheaves.h"
 #include "Tests/Catalogue/Types/TypeFamilies.h"
 
@@ -182,41 +183,43 @@ inline constexpr const SMappingSheaf* kSingleStores[] = {&kSingleStoreMapping, &
 // Types that one other database alone has, and its columns seldom.
 constexpr bool IsRareType(const SMappedPair& pair)
 {
-    constexpr long kRareTypes[] = {
-        11,  12, 13, // UNICHAR, UNIVARCHAR, UNITEXT: Sybase ASE
-        36,          // int: languages
-        50,  51,     // BIGTIME, BIGDATETIME: Sybase ASE
-        113,         // SMALLINT IDENTITY: SQL Server
-        123,         // NUMERIC IDENTITY: Sybase ASE
-        133,         // MEDIUMINT UNSIGNED: MySQL
-    };
-    for (const long rare : kRareTypes) {
-        if (pair.sourceType == rare)
-            return true;
+    switch (pair.sourceType) {
+    case UVDBRows::UniChar: // Sybase ASE
+    case UVDBRows::UniVarChar:
+    case UVDBRows::UniText:
+    case UVDBRows::BigTime:
+    case UVDBRows::BigDateTime:
+    case UVDBRows::NumericIdentity:
+    case UVDBRows::Int:               // languages
+    case UVDBRows::SmallSerial:       // SQL Server
+    case UVDBRows::MediumIntUnsigned: // MySQL
+        return true;
+    default:
+        return false;
     }
-    return false;
 }
 
 // DATETIME YEAR TO SECOND and YEAR TO FRACTION: the timestamps of Informix.
 constexpr bool IsWholeQualifier(const SMappedPair& pair)
 {
-    return pair.sourceType == 80 || pair.sourceType == 87;
+    return pair.sourceType == UVDBRows::DateTimeYearToSecond ||
+           pair.sourceType == UVDBRows::DateTimeYearToFraction;
 }
 
-// LONG NVARCHAR, NTEXT, UNITEXT.
-constexpr bool IsLongNational(const SMappedPair& pair)
+constexpr bool LacksLongNational(const SMappedPair& pair)
 {
-    return (pair.sourceType == 5 || pair.sourceType == 10 || pair.sourceType == 13) && !pair.hasLongNational;
+    return IsLongNational(pair.sourceType) && !pair.hasLongNational;
 }
 
 constexpr bool IsStringOfBits(const SMappedPair& pair)
 {
-    return pair.sourceType == 22 || pair.source.length > 1;
+    return pair.sourceType == UVDBRows::LongVarBit || pair.source.length > 1;
 }
 
 constexpr bool IsUnusualInterval(const SMappedPair& pair)
 {
-    return pair.sourceType != 62 && pair.sourceType != 68;
+    return pair.sourceType != UVDBRows::IntervalYearToMonth &&
+           pair.sourceType != UVDBRows::IntervalDayToFraction;
 }
 
 constexpr bool HasZone(const SMappedPair& pair)
@@ -224,9 +227,14 @@ constexpr bool HasZone(const SMappedPair& pair)
     return pair.source.hasZone;
 }
 
+constexpr bool IsUnusualArray(const SMappedPair& pair)
+{
+    return pair.sourceType != UVDBRows::IntegerArray && pair.sourceType != UVDBRows::VarCharArray;
+}
+
 constexpr bool IsJsonb(const SMappedPair& pair)
 {
-    return pair.sourceType == 128;
+    return pair.sourceType == UVDBRows::JsonB;
 }
 
 constexpr bool IsSizeUnknown(const SMappedPair& pair)
@@ -304,7 +312,8 @@ constexpr bool IsNewInSqlServer(const SMappedPair& pair)
 
 constexpr bool IsLongFixedLength(const SMappedPair& pair)
 {
-    return (pair.sourceType == 0 || pair.sourceType == 8 || pair.sourceType == 16) &&
+    return (pair.sourceType == UVDBRows::Char || pair.sourceType == UVDBRows::WChar ||
+            pair.sourceType == UVDBRows::Binary) &&
            pair.target.length >= 32000;
 }
 
@@ -341,23 +350,23 @@ constexpr SFamilyException kFamilyExceptions[] = {
     {F::Bits, F::Decimal, Any, "0 and 1", IsOneBit},
     {F::Bits, F::DecimalFloat, Any, "0 and 1", IsSizeUnknown},
     {F::Bits, F::Binary, Any, "no strings of bits, or no longer ones: eight bits in a byte", IsStringOfBits},
-    {F::Bits, F::Character, Any, "no strings of bits, or no longer ones: noughts and ones as text", IsStringOfBits},
+    {F::Bits, F::Text, Any, "no strings of bits, or no longer ones: noughts and ones as text", IsStringOfBits},
     // Texts
-    {F::National, F::Character, Without, "one character set for all texts"},
-    {F::National, F::Character, Any, "longer than any national type of the target", ExceedsNational},
-    {F::National, F::Character, Listed,
+    {F::NationalText, F::Text, Without, "one character set for all texts"},
+    {F::NationalText, F::Text, Any, "longer than any national type of the target", ExceedsNational},
+    {F::NationalText, F::Text, Listed,
      "one character set for all texts; NVARCHAR is a further spelling", nullptr, kOneCharacterSet},
-    {F::National, F::Character, Listed,
+    {F::NationalText, F::Text, Listed,
      "NCHAR is ISO 8859-1; the other texts have the character set of the database", nullptr, kInterBases},
-    {F::National, F::Character, Listed, "NCHAR came with 10", nullptr, kSybases9},
-    {F::National, F::Character, Listed, "VARCHAR ended at 255 characters", nullptr, kMySqls4},
-    {F::National, F::Character, Listed, "NVARCHAR ends at 255 bytes, LVARCHAR doesn't",
+    {F::NationalText, F::Text, Listed, "NCHAR came with 10", nullptr, kSybases9},
+    {F::NationalText, F::Text, Listed, "VARCHAR ended at 255 characters", nullptr, kMySqls4},
+    {F::NationalText, F::Text, Listed, "NVARCHAR ends at 255 bytes, LVARCHAR doesn't",
      [](const SMappedPair& pair) { return pair.source.length >= 255; }, kInformixes},
-    {F::National, F::Character, Listed, "the national types that its databases have end at 10,922 characters",
+    {F::NationalText, F::Text, Listed, "the national types that its databases have end at 10,922 characters",
      [](const SMappedPair& pair) { return pair.source.length > 10922; }, kGBases},
-    {F::National, F::Character, Listed, "NVARCHAR ends at 5,000 characters", nullptr, kSapHanas},
-    {F::National, F::Character, Any, "no long national texts", IsLongNational},
-    {kAnyFamily, F::Character, Listed,
+    {F::NationalText, F::Text, Listed, "NVARCHAR ends at 5,000 characters", nullptr, kSapHanas},
+    {F::NationalText, F::Text, Any, "no long national texts", LacksLongNational},
+    {kAnyFamily, F::Text, Listed,
      "types of one other database have rows in longer sheaves alone", IsRareType, kShortSheaves},
     {kAnyFamily, F::Binary, Listed,
      "the longest texts have 32,000 bytes; what is longer is a BLOB", IsBlobInHiRdb, kHiRdbs},
@@ -368,60 +377,60 @@ constexpr SFamilyException kFamilyExceptions[] = {
     {F::Time, F::Timestamp, Listed, "TIME came with 10", nullptr, kOldSqlServers},
     {F::Time, F::Timestamp, Any, "only timestamps have so many digits behind the second", ExceedsTime},
     {F::Time, F::Timestamp, Any, "only timestamps have a zone", KeepsZone},
-    {F::Time, F::Character, Any, "no times with a zone: the text keeps it", HasZone},
+    {F::Time, F::Text, Any, "no times with a zone: the text keeps it", HasZone},
     {F::Time, F::Qualified, Listed, "DATETIME HOUR TO FRACTION", nullptr, kInformixes},
     {F::Timestamp, F::Qualified, Listed, "DATETIME YEAR TO FRACTION", nullptr, kInformixes},
     {F::Qualified, F::Date, Any, "a date has these parts"},
     {F::Qualified, F::Time, Any, "a time has these parts"},
     {F::Qualified, F::Timestamp, Any, "a timestamp has these parts"},
-    {F::Qualified, F::Character, Any,
+    {F::Qualified, F::Text, Any,
      "months without years and the like are known to Informix alone: their text",
      [](const SMappedPair& pair) { return !IsWholeQualifier(pair); }},
-    {F::Qualified, F::Character, Listed,
+    {F::Qualified, F::Text, Listed,
      "qualifiers of Informix have rows in longer sheaves alone", IsWholeQualifier, kWithoutQualifiers},
-    {F::Interval, F::Character, Without, "no intervals: their text"},
-    {F::Interval, F::Character, Listed, "intervals came with 9", nullptr, kOracle8},
-    {F::Interval, F::Character, Listed, "intervals are no columns there: their text", nullptr, kWithoutIntervals},
-    {F::Interval, F::Character, Listed,
+    {F::Interval, F::Text, Without, "no intervals: their text"},
+    {F::Interval, F::Text, Listed, "intervals came with 9", nullptr, kOracle8},
+    {F::Interval, F::Text, Listed, "intervals are no columns there: their text", nullptr, kWithoutIntervals},
+    {F::Interval, F::Text, Listed,
      "intervals of other parts than year to month and day to second: their text",
      IsUnusualInterval, kUsualIntervals},
     // Others
-    {F::Uuid, F::Character, Without, "32 digits and four strokes"},
-    {F::Uuid, F::Character, Listed, "UUID came with 8.3", nullptr, kOldPostgreSqls},
-    {F::Uuid, F::Character, Listed, "GUID is no type of columns: their text", nullptr, kOracles},
-    {F::Uuid, F::Character, Listed, "forks that have no UUID", nullptr, kWithoutUuid},
+    {F::Uuid, F::Text, Without, "32 digits and four strokes"},
+    {F::Uuid, F::Text, Listed, "UUID came with 8.3", nullptr, kOldPostgreSqls},
+    {F::Uuid, F::Text, Listed, "GUID is no type of columns: their text", nullptr, kOracles},
+    {F::Uuid, F::Text, Listed, "forks that have no UUID", nullptr, kWithoutUuid},
     {F::Uuid, F::Binary, Listed, "16 bytes", nullptr, kOracle8},
-    {F::Xml, F::Character, Without, "no XML: its text"},
-    {F::Xml, F::Character, Listed, "XML came with 8.3", nullptr, kOldPostgreSqls},
-    {F::Xml, F::Character, Listed, "XMLTYPE came with 9", nullptr, kOracle8},
-    {F::Xml, F::Character, Listed, "XML came with 9", nullptr, kSqlServer8},
-    {F::Xml, F::Character, Listed, "forks that have no XML", nullptr, kWithoutXml},
-    {kAnyFamily, F::Character, Listed, "names of SQL Server that mean nothing there",
+    {F::Xml, F::Text, Without, "no XML: its text"},
+    {F::Xml, F::Text, Listed, "XML came with 8.3", nullptr, kOldPostgreSqls},
+    {F::Xml, F::Text, Listed, "XMLTYPE came with 9", nullptr, kOracle8},
+    {F::Xml, F::Text, Listed, "XML came with 9", nullptr, kSqlServer8},
+    {F::Xml, F::Text, Listed, "forks that have no XML", nullptr, kWithoutXml},
+    {kAnyFamily, F::Text, Listed, "names of SQL Server that mean nothing there",
      IsNewInSqlServer, kCaches},
-    {F::Spatial, F::Character, Listed, "GEOMETRY came with 10", nullptr, kOldSqlServers},
-    {F::Hierarchy, F::Character, Listed, "HIERARCHYID came with 10", nullptr, kOldSqlServers},
-    {F::Json, F::Character, Without, "no JSON: its text"},
-    {F::Json, F::Character, Any, "JSONB is PostgreSQL's", IsJsonb},
-    {F::Json, F::Character, Listed, "JSON came with 5.7", nullptr, kMySqlsWithoutJson},
+    {F::Spatial, F::Text, Listed, "GEOMETRY came with 10", nullptr, kOldSqlServers},
+    {F::Hierarchy, F::Text, Listed, "HIERARCHYID came with 10", nullptr, kOldSqlServers},
+    {F::Json, F::Text, Without, "no JSON: its text"},
+    {F::Json, F::Text, Any, "JSONB is PostgreSQL's", IsJsonb},
+    {F::Json, F::Text, Listed, "JSON came with 5.7", nullptr, kMySqlsWithoutJson},
     {F::Json, F::Unknown, Listed, "the name is written for newer servers; the tables don't have it", nullptr, kOracle8},
-    {F::Json, F::Character, Listed, "JSON came with 9.2", nullptr, kOldPostgreSqls},
-    {F::Json, F::National, Without, "JSON is kept in NVARCHAR"},
-    {F::Spatial, F::Character, Without, "no shapes: their text form"},
+    {F::Json, F::Text, Listed, "JSON came with 9.2", nullptr, kOldPostgreSqls},
+    {F::Json, F::NationalText, Without, "JSON is kept in NVARCHAR"},
+    {F::Spatial, F::Text, Without, "no shapes: their text form"},
     {F::Spatial, F::Binary, Without, "no shapes: their binary form"},
-    {F::Array, F::Character, Without, "no arrays: their text"},
-    {F::Array, F::Character, Listed, "arrays are no columns there: their text", nullptr, kWithoutArrays},
-    {F::Array, F::Character, Listed, "arrays of other things than integers and texts: their text",
-     [](const SMappedPair& pair) { return pair.sourceType != 114 && pair.sourceType != 117; }, kPostgreSqls},
-    {F::Variant, F::Character, Without, "no type for values of all types: their text"},
-    {F::Hierarchy, F::Character, Without, "its path"},
-    {F::Record, F::Character, Any, "records of programs are no columns"},
-    {F::File, F::Character, Any, "name of the file"},
+    {F::Array, F::Text, Without, "no arrays: their text"},
+    {F::Array, F::Text, Listed, "arrays are no columns there: their text", nullptr, kWithoutArrays},
+    {F::Array, F::Text, Listed, "arrays of other things than integers and texts: their text",
+     IsUnusualArray, kPostgreSqls},
+    {F::Variant, F::Text, Without, "no type for values of all types: their text"},
+    {F::Hierarchy, F::Text, Without, "its path"},
+    {F::Record, F::Text, Any, "records of programs are no columns"},
+    {F::File, F::Text, Any, "name of the file"},
     {F::File, F::Binary, Any, "contents of the file"},
-    {F::RowIdentity, F::Character, Any, "tells rows apart in its own database alone: its text"},
-    {F::RowIdentity, F::Binary, Any, "SQL Server's ROWVERSION is eight bytes"},
-    {F::RowIdentity, F::Integer, Any, "PostgreSQL's OID is a number"},
-    {F::RowIdentity, F::Decimal, Any, "PostgreSQL's OID is a number"},
-    {kAnyFamily, F::Character, Listed, "what has no type of the language travels as text", nullptr, kShortLanguages},
+    {F::RowId, F::Text, Any, "tells rows apart in its own database alone: its text"},
+    {F::RowId, F::Binary, Any, "SQL Server's ROWVERSION is eight bytes"},
+    {F::RowId, F::Integer, Any, "PostgreSQL's OID is a number"},
+    {F::RowId, F::Decimal, Any, "PostgreSQL's OID is a number"},
+    {kAnyFamily, F::Text, Listed, "what has no type of the language travels as text", nullptr, kShortLanguages},
 };
 
 constexpr SLossException kLossExceptions[] = {
@@ -442,7 +451,7 @@ constexpr SLossException kLossExceptions[] = {
     {F::Interval, L::Length, Listed,
      "intervals of Informix travel with the size of their usual text", nullptr, kSqlServers},
     {kAnyFamily, L::SecondDigits, Listed, "DATETIME has six digits or none", HasFewDigits, kSingleStores},
-    {F::RowIdentity, L::Length, Any, "Oracle hands them out in 18 characters"},
+    {F::RowId, L::Length, Any, "Oracle hands them out in 18 characters"},
     {kAnyFamily, L::Length, Any,
      "CHAR, NCHAR and BINARY: fixed lengths above 32,000 are limits and no columns",
      IsLongFixedLength},

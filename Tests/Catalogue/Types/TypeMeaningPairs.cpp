@@ -135,8 +135,8 @@ std::vector<SSourceCase> CollectSources()
         if (seen.insert(key.table).second)
             AddTable(key.Version(), *key.table, cases);
     }
-    cases.push_back(Unlimited("VARCHAR(MAX)", enTypeFamily::Character, 2147483647));
-    cases.push_back(Unlimited("NVARCHAR(MAX)", enTypeFamily::National, 1073741823));
+    cases.push_back(Unlimited("VARCHAR(MAX)", enTypeFamily::Text, 2147483647));
+    cases.push_back(Unlimited("NVARCHAR(MAX)", enTypeFamily::NationalText, 1073741823));
     cases.push_back(Unlimited("VARBINARY(MAX)", enTypeFamily::Binary, 2147483647));
     return cases;
 }
@@ -176,9 +176,9 @@ void CTarget::AddRow(const SDataTypeParams& row)
     const STypeCapacity capacity = CapacityOf(row, 0, static_cast<long>(row.maxScale), 0);
     m_Families.insert(capacity.family);
     m_Families.insert(FamilyOf(row.uvdbType));
-    if (capacity.family == enTypeFamily::National)
+    if (capacity.family == enTypeFamily::NationalText)
         m_LongestNational = std::max(m_LongestNational, capacity.length);
-    m_HasLongNational |= row.uvdbType == 5 || row.uvdbType == 10 || row.uvdbType == 13;
+    m_HasLongNational |= IsLongNational(row.uvdbType);
     if (capacity.family == enTypeFamily::Time)
         m_LongestTime = std::max(m_LongestTime, capacity.secondDigits);
 }

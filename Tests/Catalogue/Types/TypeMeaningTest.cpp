@@ -14,6 +14,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -54,9 +55,9 @@ bool LimitTellsOf(enLimit limit, enTypeFamily family)
 {
     switch (limit) {
     case kCharacterLimit:
-        return family == enTypeFamily::Character;
+        return family == enTypeFamily::Text;
     case kNationalLimit:
-        return family == enTypeFamily::National;
+        return family == enTypeFamily::NationalText;
     case kByteLimit:
         return family == enTypeFamily::Binary;
     case kTimeDigitLimit:
@@ -102,9 +103,9 @@ std::vector<SReached> ReachedBy(const STypeCapacity& capacity, enTypeLoss loss)
 {
     switch (loss) {
     case enTypeLoss::Length:
-        return {{capacity.family == enTypeFamily::Character  ? kCharacterLimit
-                 : capacity.family == enTypeFamily::National ? kNationalLimit
-                                                             : kByteLimit,
+        return {{capacity.family == enTypeFamily::Text           ? kCharacterLimit
+                 : capacity.family == enTypeFamily::NationalText ? kNationalLimit
+                                                                 : kByteLimit,
                  capacity.length}};
     case enTypeLoss::WholeDigits:
         return {{kDigitLimit, static_cast<std::uint64_t>(capacity.digits)}};
@@ -286,6 +287,50 @@ bool IsMoment(enTypeFamily family)
 }
 
 // ---- Tests ----
+
+struct SMeaningCase
+{
+    std::int64_t type;
+    enTypeFamily family;
+    int bits;
+    unsigned fields;
+    bool hasZone;
+};
+
+// What uvtypes and the judge here both go by.
+// clang-format off
+constexpr SMeaningCase kMeanings[] = {
+//   number  family                    bits  fields                                                zone
+    {  1, enTypeFamily::Text,             0, 0,                                                    false},
+    { 10, enTypeFamily::NationalText,     0, 0,                                                    false},
+    { 37, enTypeFamily::Integer,         64, 0,                                                    false},
+    {132, enTypeFamily::Integer,         -8, 0,                                                    false},
+    { 42, enTypeFamily::Float,           24, 0,                                                    false},
+    {137, enTypeFamily::DecimalFloat,    34, 0,                                                    false},
+    { 58, enTypeFamily::Decimal,         32, 0,                                                    false},
+    { 60, enTypeFamily::Decimal,          0, 0,                                                    false},
+    { 48, enTypeFamily::Date,             0, UVDBMeaning::kDate,                                   false},
+    { 57, enTypeFamily::Timestamp,        0, kAllFields,                                           false},
+    { 56, enTypeFamily::Time,             0, UVDBMeaning::kTime,                                   true},
+    { 54, enTypeFamily::Timestamp,        0, kAllFields,                                           true},
+    { 62, enTypeFamily::Interval,         0, UVDBMeaning::kYear | UVDBMeaning::kMonth,             false},
+    { 97, enTypeFamily::Qualified,        0, UVDBMeaning::kMinute,                                 false},
+    {104, enTypeFamily::RowNumber,      -32, 0,                                                    false},
+    {  6, enTypeFamily::Unknown,          0, 0,                                                    false},
+    { -1, enTypeFamily::Unknown,          0, 0,                                                    false},
+    {142, enTypeFamily::Unknown,          0, 0,                                                    false},
+};
+// clang-format on
+
+TEST(TypeMeaning, NumbersMeanTypes)
+{
+    for (const SMeaningCase& c : kMeanings) {
+        const UVDBMeaning::STypeMeaning& meaning = MeaningOfInternalType(c.type);
+        EXPECT_EQ(std::tie(meaning.family, meaning.bits, meaning.fields, meaning.hasZone),
+                  std::tie(c.family, c.bits, c.fields, c.hasZone))
+            << c.type << ' ' << FamilyText(meaning.family);
+    }
+}
 
 TEST(TypeMeaning, EveryInternalTypeHasAFamily)
 {
