@@ -156,11 +156,6 @@ long DefaultFraction(std::uint64_t db)
     return known->digits;
 }
 
-bool Takes(const SDataTypeParams& row, std::string_view word)
-{
-    return std::string_view(row.createParams).find(word) != std::string_view::npos;
-}
-
 // As zero digits after the point, the fraction of a floating decimal would be lost.
 bool FloatsWithoutScale(std::uint64_t db, STypeText& type)
 {
@@ -213,7 +208,8 @@ void CompleteTypeNumbers(DB_VERSION_INFO version, STypeText& type)
         numbers.scale = std::clamp<long>(digits, row.minScale, row.maxScale);
     }
     if (!numbers.hasSize) {
-        const bool isSizeParameter = Takes(row, "LENGTH") || row.columnSizePurpose == UVDB_SIZE_IS_PRECISION;
+        const bool isSizeParameter =
+            TakesParameter(row, "LENGTH") || row.columnSizePurpose == UVDB_SIZE_IS_PRECISION;
         numbers.size = isSizeParameter && *row.createParams ? DefaultSize(version.db, row) : row.columnSize;
         // The row's size is that of all digits; without any there is no point either.
         if (isTime && !isSizeParameter && numbers.scale < row.maxScale && row.maxScale > 0) {

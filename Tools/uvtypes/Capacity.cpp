@@ -74,16 +74,11 @@ void SetDecimalRange(long digits, long scale, SCapacity& capacity)
     capacity.fraction = std::max(scale, 0L);
 }
 
-bool TakesWord(const SDataTypeParams& row, const char* word)
-{
-    return std::strstr(row.createParams, word) != nullptr;
-}
-
 void SetNumber(const STypeMeaning& meaning, const SDataTypeParams& row, const STypeNumbers& numbers,
                SCapacity& capacity)
 {
     const auto size = static_cast<long>(numbers.size);
-    if (TakesWord(row, "PRECISION") && !TakesWord(row, "LEADING PRECISION") && size > 0) {
+    if (TakesParameter(row, "PRECISION") && size > 0) {
         SetDecimalRange(size, numbers.scale, capacity);
     } else if (StoredAs(meaning.family) == enTypeFamily::Integer) {
         SetIntegerRange(meaning.bits, capacity);
@@ -115,7 +110,7 @@ long FloatBits(const STypeMeaning& meaning, const SDataTypeParams& row, const ST
     // Decimal floats count decimal digits.
     if (meaning.family == enTypeFamily::DecimalFloat)
         return BitsOfDigits(row.columnSize > 0 ? static_cast<double>(row.columnSize) : meaning.bits);
-    if (TakesWord(row, "PRECISION") || TakesWord(row, "LENGTH")) {
+    if (TakesParameter(row, "PRECISION") || TakesParameter(row, "LENGTH")) {
         const auto told = static_cast<long>(numbers.size);
         return told == 0 ? meaning.bits : told <= 24 ? 24 : std::max(53L, told);
     }

@@ -4,7 +4,10 @@
 
 #include "Catalogue/Types/DataTypes/InternalTypeNumbers.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 // What a size of a row counts.
 enum enColumnSizePurpose : std::uint64_t
@@ -29,6 +32,19 @@ struct SDataTypeParams
     const char* createParams = ""; // the words that become parameters, such as "PRECISION,SCALE"
     bool isSynonym = false;        // a further spelling of a type declared before it
 };
+
+// Whether `word`, as a whole, is one of the row's createParams.
+constexpr bool TakesParameter(const SDataTypeParams& row, std::string_view word)
+{
+    std::string_view words = row.createParams;
+    while (!words.empty()) {
+        const std::size_t end = std::min(words.find_first_of(",;"), words.size());
+        if (words.substr(0, end) == word)
+            return true;
+        words.remove_prefix(std::min(end + 1, words.size()));
+    }
+    return false;
+}
 
 // What look-ups answer where a row is asked for and none exists.
 inline constexpr SDataTypeParams kNullSDataTypeParams{.uvdbType = -1, .name = "%inVlD%"};

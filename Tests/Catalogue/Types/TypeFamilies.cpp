@@ -15,18 +15,6 @@ using F = enTypeFamily;
 
 constexpr unsigned kMonths = kYear | kMonth;
 
-bool Takes(const SDataTypeParams& row, std::string_view wanted)
-{
-    std::string_view words = row.createParams;
-    while (!words.empty()) {
-        const std::size_t end = std::min(words.find_first_of(",;"), words.size());
-        if (words.substr(0, end) == wanted)
-            return true;
-        words.remove_prefix(std::min(end + 1, words.size()));
-    }
-    return false;
-}
-
 // Decimal digits that the largest of `bits` has.
 long DigitsOfBits(int bits)
 {
@@ -47,7 +35,7 @@ long FullDigits(const STypeCapacity& integer)
 void SetExact(const STypeMeaning& meaning, const SDataTypeParams& row, std::uint64_t size, long scale,
               STypeCapacity& capacity)
 {
-    if (capacity.family == F::Integer && !Takes(row, "PRECISION")) {
+    if (capacity.family == F::Integer && !TakesParameter(row, "PRECISION")) {
         capacity.integerBits = std::abs(meaning.bits);
         capacity.isSigned = meaning.bits > 0;
         // A name for a shorter integer than its internal type.
@@ -65,9 +53,10 @@ void SetExact(const STypeMeaning& meaning, const SDataTypeParams& row, std::uint
     } else {
         // Numbers of so many digits hold integers and decimals alike.
         capacity.family = F::Decimal;
-        const long fraction = Takes(row, "SCALE")       ? std::clamp<long>(scale, row.minScale, row.maxScale)
-                              : Takes(row, "PRECISION") ? 0
-                                                        : std::clamp<long>(scale, row.minScale, row.maxScale);
+        const long fraction =
+            TakesParameter(row, "SCALE")       ? std::clamp<long>(scale, row.minScale, row.maxScale)
+            : TakesParameter(row, "PRECISION") ? 0
+                                               : std::clamp<long>(scale, row.minScale, row.maxScale);
         capacity.wholeDigits = std::max(static_cast<long>(size) - fraction, 0L);
         capacity.fractionDigits = std::max(fraction, 0L);
         capacity.hasNegativeScale = fraction < 0;
@@ -256,7 +245,8 @@ STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long sc
     const STypeMeaning& meaning = MeaningOfInternalType(row.uvdbType);
     if (meaning.family == UVDBMeaning::enTypeFamily::Unknown)
         return capacity;
-    const bool takesSize = Takes(row, "LENGTH") || Takes(row, "MAX LENGTH") || Takes(row, "PRECISION");
+    const bool takesSize = TakesParameter(row, "LENGTH") || TakesParameter(row, "MAX LENGTH") ||
+                           TakesParameter(row, "PRECISION");
     if (!takesSize || size == 0 || size > row.columnSize)
         size = row.columnSize;
     capacity.family = FamilyOf(row.uvdbType);

@@ -17,14 +17,9 @@ namespace TypeMeaning {
 
 namespace {
 
-bool Takes(const SDataTypeParams& row, std::string_view word)
-{
-    return std::string_view(row.createParams).find(word) != std::string_view::npos;
-}
-
 std::vector<unsigned long> EdgeSizes(const SDataTypeParams& row)
 {
-    if ((!Takes(row, "LENGTH") && !Takes(row, "PRECISION")) || row.isLeadingPrecisionValid)
+    if ((!TakesParameter(row, "LENGTH") && !TakesParameter(row, "PRECISION")) || row.isLeadingPrecisionValid)
         return {row.columnSize};
     return {0, 1, row.columnSize, row.columnSize + 1};
 }
@@ -33,7 +28,7 @@ std::vector<long> EdgeScales(const SDataTypeParams& row, unsigned long size)
 {
     if (!row.isScaleValid)
         return {0};
-    if (row.columnSizePurpose == UVDB_SIZE_IS_LENGTH || !Takes(row, "SCALE"))
+    if (row.columnSizePurpose == UVDB_SIZE_IS_LENGTH || !TakesParameter(row, "SCALE"))
         return {row.minScale, row.maxScale};
     if (size == 0)
         return {0};
@@ -207,8 +202,8 @@ STypeCapacity CTarget::ReadNew(const std::string& text) const
             capacity.length = type.numbers.size;
         return capacity;
     }
-    const bool isFloating = row.isScaleValid && row.minScale < row.maxScale && !Takes(row, "SCALE") &&
-                            row.columnSizePurpose == UVDB_SIZE_IS_PRECISION;
+    const bool isFloating = row.isScaleValid && row.minScale < row.maxScale &&
+                            !TakesParameter(row, "SCALE") && row.columnSizePurpose == UVDB_SIZE_IS_PRECISION;
     STypeCapacity capacity = CapacityOf(row, type.numbers.size, isFloating ? kAnyScale : type.numbers.scale,
                                         type.numbers.leadingPrecision);
     if (type.name.ends_with("(MAX)"))

@@ -90,15 +90,6 @@ std::vector<std::vector<std::string_view>> ParamGroups(const char* createParams)
     return groups;
 }
 
-bool HasWord(const char* createParams, std::string_view word)
-{
-    for (const auto& group : ParamGroups(createParams)) {
-        if (std::ranges::find(group, word) != group.end())
-            return true;
-    }
-    return false;
-}
-
 std::size_t CountPairs(std::string_view name)
 {
     std::size_t count = 0;
@@ -213,10 +204,9 @@ TEST(TypeTables, ParameterWordsHaveTheirLimits)
     ForEachTable([](const SDataTypeTableKey&, const SDataTypeTable& table) {
         for (const SDataTypeParams& row : table.rows) {
             SCOPED_TRACE(Describe(row) + ": " + row.createParams);
-            const bool hasLength =
-                HasWord(row.createParams, "LENGTH") || HasWord(row.createParams, "MAX LENGTH");
-            const bool hasPrecision = HasWord(row.createParams, "PRECISION");
-            const bool hasScale = HasWord(row.createParams, "SCALE");
+            const bool hasLength = TakesParameter(row, "LENGTH") || TakesParameter(row, "MAX LENGTH");
+            const bool hasPrecision = TakesParameter(row, "PRECISION");
+            const bool hasScale = TakesParameter(row, "SCALE");
             EXPECT_FALSE(hasLength && hasPrecision);
             if (hasLength) {
                 EXPECT_EQ(row.columnSizePurpose, UVDB_SIZE_IS_LENGTH);
@@ -238,7 +228,7 @@ TEST(TypeTables, ParameterWordsHaveTheirLimits)
                 EXPECT_EQ(row.minScale, row.maxScale);
                 EXPECT_STREQ(row.createParams, "");
             }
-            if (HasWord(row.createParams, "LEADING PRECISION")) {
+            if (TakesParameter(row, "LEADING PRECISION")) {
                 EXPECT_TRUE(row.isLeadingPrecisionValid);
             }
             EXPECT_EQ(row.leadingPrecision > 0, row.isLeadingPrecisionValid);
@@ -345,7 +335,7 @@ TEST(MappingSheaves, LengthsFitTheTypesOfTheTarget)
             if (!name)
                 continue;
             const SDataTypeParams& longest = table.rows[name->last];
-            if (HasWord(longest.createParams, "LENGTH")) {
+            if (TakesParameter(longest, "LENGTH")) {
                 EXPECT_LE(row.columnSize, longest.columnSize) << Describe(row);
             }
         }
