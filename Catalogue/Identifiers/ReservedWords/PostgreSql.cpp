@@ -268,8 +268,7 @@ static_assert(std::size(kRedshiftWords) == 159);
 } // namespace
 
 constinit const std::span<const std::string_view> kPostgreSqlReservedWords{kPostgreSqlWords};
-constinit const std::span<const std::string_view> kVPostgresReservedWords{kPostgreSql9Words};
-constinit const std::span<const std::string_view> kEnterpriseDbPpssReservedWords{kPostgreSql9Words};
+constinit const std::span<const std::string_view> kPostgreSql9ReservedWords{kPostgreSql9Words};
 constinit const std::span<const std::string_view> kEnterpriseDbPpasReservedWords{kEnterpriseDbPpasWords};
 constinit const std::span<const std::string_view> kGreenplumReservedWords{kGreenplumWords};
 constinit const std::span<const std::string_view> kRedshiftReservedWords{kRedshiftWords};

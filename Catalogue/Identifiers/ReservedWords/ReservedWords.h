@@ -1,4 +1,4 @@
-// The lists of reserved words, one for each database or language that has one.
+// The lists of reserved words, one for each database or language that has one; equal lists are one.
 #pragma once
 
 #include <span>
@@ -11,7 +11,6 @@ extern const std::span<const std::string_view> kAseReservedWords;
 extern const std::span<const std::string_view> kCSharpReservedWords;
 extern const std::span<const std::string_view> kDb2ReservedWords;
 extern const std::span<const std::string_view> kEnterpriseDbPpasReservedWords;
-extern const std::span<const std::string_view> kEnterpriseDbPpssReservedWords;
 extern const std::span<const std::string_view> kFirebirdReservedWords;
 extern const std::span<const std::string_view> kGBaseReservedWords;
 extern const std::span<const std::string_view> kGreenplumReservedWords;
@@ -26,6 +25,7 @@ extern const std::span<const std::string_view> kNuoDbReservedWords;
 extern const std::span<const std::string_view> kOracleReservedWords;
 extern const std::span<const std::string_view> kParadoxReservedWords;
 extern const std::span<const std::string_view> kPervasiveReservedWords;
+extern const std::span<const std::string_view> kPostgreSql9ReservedWords;
 extern const std::span<const std::string_view> kPostgreSqlReservedWords;
 extern const std::span<const std::string_view> kProgressReservedWords;
 extern const std::span<const std::string_view> kRedshiftReservedWords;
@@ -36,5 +36,4 @@ extern const std::span<const std::string_view> kSpliceMachineReservedWords;
 extern const std::span<const std::string_view> kSqlServerReservedWords;
 extern const std::span<const std::string_view> kSqrReservedWords;
 extern const std::span<const std::string_view> kTeradataReservedWords;
-extern const std::span<const std::string_view> kVPostgresReservedWords;
 extern const std::span<const std::string_view> kVerticaReservedWords;
