@@ -1,4 +1,5 @@
 #include "Catalogue/Types/UVDBDataTypes.h"
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Tests/Support/MemoryLog.h"
 
@@ -13,11 +14,7 @@ namespace {
 using testing::ElementsAre;
 
 constexpr std::uint64_t kNone = UVDB_NO_VERSION_WORD;
-constexpr std::uint64_t kDb2 = 0;
-constexpr std::uint64_t kOracle = 1;
-constexpr std::uint64_t kSqlServer = 2;
-constexpr std::uint64_t kJava = 66;
-constexpr std::uint64_t kKindWithoutTables = 64;
+constexpr std::uint64_t kKindWithoutTables = UVDB_DB_COMMON;
 
 DB_VERSION_INFO Of(std::uint64_t db, std::uint64_t subType = kNone)
 {
@@ -34,27 +31,28 @@ struct SKeyCase
 };
 
 constexpr SKeyCase kKeys[] = {
-    {kOracle, -1, "number", "NUMBER", ""},
-    {kOracle, -1, "varchar2(10 char)", "VARCHAR2()", "10 CHAR;"}, // parameters are upper-cased too
-    {kOracle, -1, "TIMESTAMP(3) WITH TIME ZONE", "TIMESTAMP() WITH TIME ZONE", "3;"},
-    {kOracle, -1, "INTERVAL DAY(2) TO SECOND(6)", "INTERVAL DAY() TO SECOND()", "2;6;"},
-    {kOracle, -1, "INTERVAL DAY() TO SECOND(6)", "INTERVAL DAY() TO SECOND()", ";6;"}, // an empty pair counts
-    {kOracle, -1, "NUMBER(10,2)", "NUMBER()", "10,2;"},
-    {kOracle, -1, "A((B))", "A())", "(B;"}, // pairs don't nest
-    {kOracle, -1, "NUMBER(10", "NUMBER(10", ""},
-    {kOracle, -1, "DAY(2) TO SECOND(6", "DAY() TO SECOND(6", "2;"},
-    {kOracle, -1, ")(", ")(", ""},
-    {kSqlServer, -1, "VARCHAR(10)", "VARCHAR", "10;"},
-    {kSqlServer, -1, "nvarchar(max)", "NVARCHAR", "MAX;"},
-    {kSqlServer, -1, "NVARCHAR()", "NVARCHAR", ";"},
-    {kSqlServer, -1, "DECIMAL(10,2) IDENTITY", "DECIMAL() IDENTITY", "10,2;"},
-    {kSqlServer, -1, "VARCHAR(10) ", "VARCHAR() ", "10;"}, // no longer at the end
-    {kJava, 3, "byte[]", "byte[]", ""},
-    {kJava, UVDB_TYPE_NAME_AS_WRITTEN, "String(a)", "String()", "a;"},
-    {kJava, 2, "String", "STRING", ""},
-    {kOracle, -1, "stra\u00DFe(\u00E9)", "STRASSE()", "\u00C9;"},
-    {kOracle, -1, "", "", ""},
-    {kOracle, -1, nullptr, "", ""},
+    {UVDB_DB_ORA, -1, "number", "NUMBER", ""},
+    {UVDB_DB_ORA, -1, "varchar2(10 char)", "VARCHAR2()", "10 CHAR;"}, // parameters are upper-cased too
+    {UVDB_DB_ORA, -1, "TIMESTAMP(3) WITH TIME ZONE", "TIMESTAMP() WITH TIME ZONE", "3;"},
+    {UVDB_DB_ORA, -1, "INTERVAL DAY(2) TO SECOND(6)", "INTERVAL DAY() TO SECOND()", "2;6;"},
+    {UVDB_DB_ORA, -1, "INTERVAL DAY() TO SECOND(6)", "INTERVAL DAY() TO SECOND()",
+     ";6;"}, // an empty pair counts
+    {UVDB_DB_ORA, -1, "NUMBER(10,2)", "NUMBER()", "10,2;"},
+    {UVDB_DB_ORA, -1, "A((B))", "A())", "(B;"}, // pairs don't nest
+    {UVDB_DB_ORA, -1, "NUMBER(10", "NUMBER(10", ""},
+    {UVDB_DB_ORA, -1, "DAY(2) TO SECOND(6", "DAY() TO SECOND(6", "2;"},
+    {UVDB_DB_ORA, -1, ")(", ")(", ""},
+    {UVDB_DB_MSSQL, -1, "VARCHAR(10)", "VARCHAR", "10;"},
+    {UVDB_DB_MSSQL, -1, "nvarchar(max)", "NVARCHAR", "MAX;"},
+    {UVDB_DB_MSSQL, -1, "NVARCHAR()", "NVARCHAR", ";"},
+    {UVDB_DB_MSSQL, -1, "DECIMAL(10,2) IDENTITY", "DECIMAL() IDENTITY", "10,2;"},
+    {UVDB_DB_MSSQL, -1, "VARCHAR(10) ", "VARCHAR() ", "10;"}, // no longer at the end
+    {UVDB_DB_JAVA, 3, "byte[]", "byte[]", ""},
+    {UVDB_DB_JAVA, UVDB_TYPE_NAME_AS_WRITTEN, "String(a)", "String()", "a;"},
+    {UVDB_DB_JAVA, 2, "String", "STRING", ""},
+    {UVDB_DB_ORA, -1, "stra\u00DFe(\u00E9)", "STRASSE()", "\u00C9;"},
+    {UVDB_DB_ORA, -1, "", "", ""},
+    {UVDB_DB_ORA, -1, nullptr, "", ""},
 };
 
 TEST(TypeNames, KeyKeepsPairsAndTakesOutWhatStandsInThem)
@@ -69,16 +67,16 @@ TEST(TypeNames, KeyKeepsPairsAndTakesOutWhatStandsInThem)
         }
     }
     Uve::U8CString text("FLOAT(24)");
-    EXPECT_EQ(NormalizeTypeName(text.c_str(), text, Of(kOracle), -1), "FLOAT()");
+    EXPECT_EQ(NormalizeTypeName(text.c_str(), text, Of(UVDB_DB_ORA), -1), "FLOAT()");
     EXPECT_EQ(text, "24;");
 }
 
 TEST(TypeTableChoice, SubtypeComesBeforeKindAndVersionsDontCount)
 {
     const auto rowsOf = [](DB_VERSION_INFO version) { return GetDBMSDataTypeParamsList(version).data(); };
-    EXPECT_EQ(rowsOf(Of(kDb2, 1)), rowsOf(Of(kDb2)));
-    EXPECT_NE(rowsOf(Of(kDb2, 2)), rowsOf(Of(kDb2)));
-    EXPECT_EQ(rowsOf(MakeDbVersionInfo(kDb2, 2, 5, 4)), rowsOf(Of(kDb2, 2)));
+    EXPECT_EQ(rowsOf(Of(UVDB_DB_DB2, 1)), rowsOf(Of(UVDB_DB_DB2)));
+    EXPECT_NE(rowsOf(Of(UVDB_DB_DB2, 2)), rowsOf(Of(UVDB_DB_DB2)));
+    EXPECT_EQ(rowsOf(MakeDbVersionInfo(UVDB_DB_DB2, 2, 5, 4)), rowsOf(Of(UVDB_DB_DB2, 2)));
     // Kinds whose keys stand apart, and the ends of the list of kinds.
     EXPECT_FALSE(GetDBMSDataTypeParamsList(Of(14)).empty());
     EXPECT_FALSE(GetDBMSDataTypeParamsList(Of(33)).empty());
@@ -94,18 +92,18 @@ TEST(TypeTableChoice, SubtypeComesBeforeKindAndVersionsDontCount)
 
 TEST(TypeTableChoice, MapsTellWhereNamesBeginAndEnd)
 {
-    const auto rows = GetDBMSDataTypeParamsList(Of(kOracle));
-    const auto first = GetDBMSDataTypeParamsMapFirst(Of(kOracle)).find("NUMBER");
-    const auto last = GetDBMSDataTypeParamsMapLast(Of(kOracle)).find("NUMBER");
+    const auto rows = GetDBMSDataTypeParamsList(Of(UVDB_DB_ORA));
+    const auto first = GetDBMSDataTypeParamsMapFirst(Of(UVDB_DB_ORA)).find("NUMBER");
+    const auto last = GetDBMSDataTypeParamsMapLast(Of(UVDB_DB_ORA)).find("NUMBER");
     ASSERT_TRUE(first && last);
     EXPECT_STREQ(rows[*first].name, "NUMBER");
     EXPECT_STRNE(rows[*first - 1].name, "NUMBER");
     EXPECT_STREQ(rows[*last].name, "NUMBER");
     EXPECT_STRNE(rows[*last + 1].name, "NUMBER");
     // Keys are exact, so names of languages are found as they are written there.
-    EXPECT_TRUE(GetDBMSDataTypeParamsMapLast(Of(kJava)).find("String"));
-    EXPECT_FALSE(GetDBMSDataTypeParamsMapLast(Of(kJava)).find("STRING"));
-    EXPECT_FALSE(GetDBMSDataTypeParamsMapLast(Of(kOracle)).find("number"));
+    EXPECT_TRUE(GetDBMSDataTypeParamsMapLast(Of(UVDB_DB_JAVA)).find("String"));
+    EXPECT_FALSE(GetDBMSDataTypeParamsMapLast(Of(UVDB_DB_JAVA)).find("STRING"));
+    EXPECT_FALSE(GetDBMSDataTypeParamsMapLast(Of(UVDB_DB_ORA)).find("number"));
 }
 
 struct SLadderCase
@@ -131,25 +129,25 @@ TEST(OracleTypes, SizeAndScaleChooseTheRung)
 {
     for (const SLadderCase& c : kNumber) {
         SCOPED_TRACE(testing::Message() << (c.name ? c.name : "null") << ' ' << c.size << ',' << c.scale);
-        EXPECT_EQ(DBMSToUVDBDataType(Of(kOracle), c.name, c.size, 0, c.scale), c.type);
-        const SDataTypeParams* const row = FindDBMSDataTypeRow(Of(kOracle), c.name, c.size, c.scale);
+        EXPECT_EQ(DBMSToUVDBDataType(Of(UVDB_DB_ORA), c.name, c.size, 0, c.scale), c.type);
+        const SDataTypeParams* const row = FindDBMSDataTypeRow(Of(UVDB_DB_ORA), c.name, c.size, c.scale);
         EXPECT_EQ(row ? row->uvdbType : -1, c.type);
     }
-    EXPECT_EQ(DBMSToUVDBDataType(Of(kOracle), "NUMBER", 5, 99, 0), 14) << "the precision isn't read";
-    EXPECT_EQ(DBMSToUVDBDataType(Of(kOracle), "Number"), 25);
-    EXPECT_EQ(DBMSToUVDBDataType(Of(kOracle), "NOSUCH"), -1);
-    EXPECT_EQ(DBMSToUVDBDataType(Of(kSqlServer), "varchar(20)"),
-              DBMSToUVDBDataType(Of(kSqlServer), "VARCHAR"));
+    EXPECT_EQ(DBMSToUVDBDataType(Of(UVDB_DB_ORA), "NUMBER", 5, 99, 0), 14) << "the precision isn't read";
+    EXPECT_EQ(DBMSToUVDBDataType(Of(UVDB_DB_ORA), "Number"), 25);
+    EXPECT_EQ(DBMSToUVDBDataType(Of(UVDB_DB_ORA), "NOSUCH"), -1);
+    EXPECT_EQ(DBMSToUVDBDataType(Of(UVDB_DB_MSSQL), "varchar(20)"),
+              DBMSToUVDBDataType(Of(UVDB_DB_MSSQL), "VARCHAR"));
 }
 
 TEST(OracleTypes, EachRowLookedAtIsTraced)
 {
     const CLogCapture log;
-    DBMSToUVDBDataType(Of(kOracle), "NUMBER", 0, 0, 0);
+    DBMSToUVDBDataType(Of(UVDB_DB_ORA), "NUMBER", 0, 0, 0);
     EXPECT_THAT(log.Lines(), ElementsAre("SourceDataType: 46, NUMBER, 0, 0, 0"));
-    DBMSToUVDBDataType(Of(kOracle), "NUMBER", 39, 0, 0);
+    DBMSToUVDBDataType(Of(UVDB_DB_ORA), "NUMBER", 39, 0, 0);
     UVDB::CArray<const SDataTypeParams*> rows;
-    DBMSToUVDBDataTypeRange(Of(kOracle), "NUMBER", rows);
+    DBMSToUVDBDataTypeRange(Of(UVDB_DB_ORA), "NUMBER", rows);
     EXPECT_EQ(log.Lines().size(), 1 + rows.size());
     EXPECT_EQ(log.Lines().back(), "SourceDataType: 25, NUMBER, 38, -84, 127");
 }
@@ -157,31 +155,31 @@ TEST(OracleTypes, EachRowLookedAtIsTraced)
 TEST(OracleTypes, RowsOfANameAreFoundByType)
 {
     UVDB::CArray<const SDataTypeParams*> rows{&kNullSDataTypeParams};
-    DBMSToUVDBDataTypeRange(Of(kOracle), "NOSUCH", rows);
+    DBMSToUVDBDataTypeRange(Of(UVDB_DB_ORA), "NOSUCH", rows);
     EXPECT_EQ(rows.size(), 1u);
-    DBMSToUVDBDataTypeRange(Of(kOracle), "number", rows);
+    DBMSToUVDBDataTypeRange(Of(UVDB_DB_ORA), "number", rows);
     ASSERT_GT(rows.size(), 2u);
     EXPECT_EQ(rows[1]->uvdbType, 46) << "appended, from the first rung on";
 
     const auto row = [](long type) -> const SDataTypeParams& {
-        return GetDBMSDataTypeParams(Of(kOracle), "Number", type);
+        return GetDBMSDataTypeParams(Of(UVDB_DB_ORA), "Number", type);
     };
     EXPECT_EQ(row(14).columnSize, 2u) << "the first of several";
     EXPECT_TRUE(row(74).isSynonym);
     for (const long type : {25L, -1L, 999L})
         EXPECT_EQ(&row(type), rows.back()) << type;
 
-    const SDataTypeParams& null = GetDBMSDataTypeParams(Of(kOracle), "NOSUCH", 25);
+    const SDataTypeParams& null = GetDBMSDataTypeParams(Of(UVDB_DB_ORA), "NOSUCH", 25);
     EXPECT_EQ(null.uvdbType, -1);
     EXPECT_STREQ(null.name, "%inVlD%");
-    EXPECT_STREQ(GetDBMSDataTypeCreateParams(Of(kOracle), "NOSUCH", 25), "");
-    EXPECT_FALSE(IsDBMSDataTypeScaleValid(Of(kOracle), "NOSUCH", 25));
-    EXPECT_TRUE(IsDBMSDataTypeScaleValid(Of(kOracle), "NUMBER", 25));
-    EXPECT_FALSE(IsDBMSDataTypeScaleValid(Of(kOracle), "NUMBER", 46));
-    EXPECT_STREQ(GetDBMSDataTypeCreateParams(Of(kOracle), "TIMESTAMP", 53), "SCALE");
-    EXPECT_TRUE(IsDBMSDataTypeLeadingPrecisionValid(Of(kOracle), "INTERVAL DAY() TO SECOND()", 68));
-    EXPECT_EQ(GetDBMSDataTypeColumnSizePurpose(Of(kOracle), "NUMBER", 25), 1u);
-    EXPECT_EQ(GetDBMSDataTypeColumnSizePurpose(Of(kOracle), "NUMBER", 46), 0u);
+    EXPECT_STREQ(GetDBMSDataTypeCreateParams(Of(UVDB_DB_ORA), "NOSUCH", 25), "");
+    EXPECT_FALSE(IsDBMSDataTypeScaleValid(Of(UVDB_DB_ORA), "NOSUCH", 25));
+    EXPECT_TRUE(IsDBMSDataTypeScaleValid(Of(UVDB_DB_ORA), "NUMBER", 25));
+    EXPECT_FALSE(IsDBMSDataTypeScaleValid(Of(UVDB_DB_ORA), "NUMBER", 46));
+    EXPECT_STREQ(GetDBMSDataTypeCreateParams(Of(UVDB_DB_ORA), "TIMESTAMP", 53), "SCALE");
+    EXPECT_TRUE(IsDBMSDataTypeLeadingPrecisionValid(Of(UVDB_DB_ORA), "INTERVAL DAY() TO SECOND()", 68));
+    EXPECT_EQ(GetDBMSDataTypeColumnSizePurpose(Of(UVDB_DB_ORA), "NUMBER", 25), 1u);
+    EXPECT_EQ(GetDBMSDataTypeColumnSizePurpose(Of(UVDB_DB_ORA), "NUMBER", 46), 0u);
 }
 
 TEST(InternalTypes, FirstOfEqualNamesAndNumbersAnswers)
@@ -214,7 +212,7 @@ TEST(InternalTypes, FirstOfEqualNamesAndNumbersAnswers)
 TEST(OdbcTypes, NameGoesBeforeNumber)
 {
     const auto type = [](long odbcType, const char* name) {
-        return ODBCToUVDBDataType(Of(kOracle), odbcType, name, 0, 0, 0);
+        return ODBCToUVDBDataType(Of(UVDB_DB_ORA), odbcType, name, 0, 0, 0);
     };
     EXPECT_EQ(type(12, "NUMBER"), 46);
     EXPECT_EQ(type(12, "NOSUCH"), 1);
@@ -224,9 +222,9 @@ TEST(OdbcTypes, NameGoesBeforeNumber)
     EXPECT_EQ(type(-11, nullptr), 103);
     EXPECT_EQ(type(0, "NOSUCH"), -1);
 
-    EXPECT_EQ(UVDBToODBCDataType(Of(kOracle), 48), 9) << "not 91, which stands behind it";
-    EXPECT_EQ(UVDBToODBCDataType(Of(kOracle), 14), 12);
-    EXPECT_EQ(UVDBToODBCDataType(Of(kOracle), -1), 12);
+    EXPECT_EQ(UVDBToODBCDataType(Of(UVDB_DB_ORA), 48), 9) << "not 91, which stands behind it";
+    EXPECT_EQ(UVDBToODBCDataType(Of(UVDB_DB_ORA), 14), 12);
+    EXPECT_EQ(UVDBToODBCDataType(Of(UVDB_DB_ORA), -1), 12);
 }
 
 } // namespace

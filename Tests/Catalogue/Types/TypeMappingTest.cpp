@@ -1,4 +1,5 @@
 #include "Catalogue/Types/UVDBTypeMapping.h"
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
 #include "Tests/Support/MemoryLog.h"
 
@@ -14,22 +15,14 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr std::uint64_t kNone = UVDB_NO_VERSION_WORD;
-constexpr std::uint64_t kOracle = 1;
-constexpr std::uint64_t kSqlServer = 2;
-constexpr std::uint64_t kSybase = 4;
-constexpr std::uint64_t kMySql = 5;
-constexpr std::uint64_t kPervasive = 6;
-constexpr std::uint64_t kPostgreSql = 8;
-constexpr std::uint64_t kCommon = 64;
-constexpr std::uint64_t kSingleStore = 130;
 
 DB_VERSION_INFO Oracle102()
 {
-    return MakeDbVersionInfo(kOracle, kNone, 10, 2);
+    return MakeDbVersionInfo(UVDB_DB_ORA, kNone, 10, 2);
 }
 DB_VERSION_INFO SqlServer11()
 {
-    return MakeDbVersionInfo(kSqlServer, kNone, 11, 0);
+    return MakeDbVersionInfo(UVDB_DB_MSSQL, kNone, 11, 0);
 }
 
 struct SVersionCase
@@ -39,38 +32,38 @@ struct SVersionCase
 };
 
 constexpr SVersionCase kVersions[] = {
-    {kOracle, kNone, 11, 2, kNone, 10, 2}, // newer than all
-    {kOracle, kNone, 10, 2, kNone, 10, 2},
-    {kOracle, kNone, 10, 1, kNone, 10, 2},
-    {kOracle, kNone, 9, 0, kNone, 9, 2}, // the oldest that isn't below
-    {kOracle, kNone, 9, 3, kNone, 9, 2}, // the major counts before the minor
-    {kOracle, kNone, 8, 0, kNone, 8, 3},
-    {kOracle, kNone, 5, 0, kNone, 8, 3},
-    {kOracle, kNone, kNone, kNone, kNone, 10, 2},
-    {kOracle, 7, 9, 0, kNone, 10, 2}, // a subtype without sheaves gets the last one, whatever its version
-    {kSqlServer, kNone, 10, 50, kNone, 10, 0},
-    {kSqlServer, kNone, 9, 0, kNone, 9, 0},
-    {kSqlServer, kNone, 7, 0, kNone, 8, 0},
-    {kSqlServer, kNone, 16, 0, kNone, 11, 0},
-    {kMySql, kNone, 4, 5, kNone, 4, 1}, // no such minor: the newest of the major
-    {kMySql, kNone, 4, 0, kNone, 4, 0},
-    {kMySql, kNone, 3, 23, kNone, 4, 0},
-    {kMySql, kNone, 5, 0, kNone, 5, 0},
-    {kMySql, kNone, 8, 0, kNone, 5, 1},
-    {kMySql, kNone, kNone, kNone, kNone, 5, 1},
-    {kMySql, 1, 10, 3, 1, 0, 0},
-    {kMySql, 2, 5, 0, 1, 0, 0}, // MariaDB's stands last
-    {kPostgreSql, kNone, 8, 1, kNone, 8, 4},
-    {kPostgreSql, kNone, 8, 2, kNone, 8, 2},
-    {kPostgreSql, kNone, 15, 0, kNone, 8, 4},
-    {kSybase, 0, 9, 0, 0, 9, 0},
-    {kSybase, 0, 11, 0, 0, 12, 0},
-    {kSybase, 1, kNone, kNone, 1, 12, 5},
-    {kSybase, 2, 9, 0, kNone, 12, 5},
-    {kSybase, 3, 15, 0, 3, 9, 0},
-    {kSybase, kNone, 9, 0, kNone, 9, 0},
-    {kSingleStore, kNone, 7, 3, kNone, 7, 0},
-    {kSingleStore, kNone, 6, 0, kNone, 7, 0},
+    {UVDB_DB_ORA, kNone, 11, 2, kNone, 10, 2}, // newer than all
+    {UVDB_DB_ORA, kNone, 10, 2, kNone, 10, 2},
+    {UVDB_DB_ORA, kNone, 10, 1, kNone, 10, 2},
+    {UVDB_DB_ORA, kNone, 9, 0, kNone, 9, 2}, // the oldest that isn't below
+    {UVDB_DB_ORA, kNone, 9, 3, kNone, 9, 2}, // the major counts before the minor
+    {UVDB_DB_ORA, kNone, 8, 0, kNone, 8, 3},
+    {UVDB_DB_ORA, kNone, 5, 0, kNone, 8, 3},
+    {UVDB_DB_ORA, kNone, kNone, kNone, kNone, 10, 2},
+    {UVDB_DB_ORA, 7, 9, 0, kNone, 10, 2}, // a subtype without sheaves gets the last one, whatever its version
+    {UVDB_DB_MSSQL, kNone, 10, 50, kNone, 10, 0},
+    {UVDB_DB_MSSQL, kNone, 9, 0, kNone, 9, 0},
+    {UVDB_DB_MSSQL, kNone, 7, 0, kNone, 8, 0},
+    {UVDB_DB_MSSQL, kNone, 16, 0, kNone, 11, 0},
+    {UVDB_DB_MySQL, kNone, 4, 5, kNone, 4, 1}, // no such minor: the newest of the major
+    {UVDB_DB_MySQL, kNone, 4, 0, kNone, 4, 0},
+    {UVDB_DB_MySQL, kNone, 3, 23, kNone, 4, 0},
+    {UVDB_DB_MySQL, kNone, 5, 0, kNone, 5, 0},
+    {UVDB_DB_MySQL, kNone, 8, 0, kNone, 5, 1},
+    {UVDB_DB_MySQL, kNone, kNone, kNone, kNone, 5, 1},
+    {UVDB_DB_MySQL, 1, 10, 3, 1, 0, 0},
+    {UVDB_DB_MySQL, 2, 5, 0, 1, 0, 0}, // MariaDB's stands last
+    {UVDB_DB_POSTGRESQL, kNone, 8, 1, kNone, 8, 4},
+    {UVDB_DB_POSTGRESQL, kNone, 8, 2, kNone, 8, 2},
+    {UVDB_DB_POSTGRESQL, kNone, 15, 0, kNone, 8, 4},
+    {UVDB_DB_SYBASE, 0, 9, 0, 0, 9, 0},
+    {UVDB_DB_SYBASE, 0, 11, 0, 0, 12, 0},
+    {UVDB_DB_SYBASE, 1, kNone, kNone, 1, 12, 5},
+    {UVDB_DB_SYBASE, 2, 9, 0, kNone, 12, 5},
+    {UVDB_DB_SYBASE, 3, 15, 0, 3, 9, 0},
+    {UVDB_DB_SYBASE, kNone, 9, 0, kNone, 9, 0},
+    {UVDB_DB_SingleStoreDB, kNone, 7, 3, kNone, 7, 0},
+    {UVDB_DB_SingleStoreDB, kNone, 6, 0, kNone, 7, 0},
 };
 
 TEST(SheafChoice, VersionsAreServedByTheOldestThatIsNotBelow)
@@ -95,10 +88,10 @@ TEST(SheafChoice, EachSheafServesTheVeryVersionItIsDeclaredFor)
 
 TEST(SheafChoice, UnknownDatabasesAreServedByCommonIfItIsThere)
 {
-    const long common = GetIndex(MakeDbVersionInfo(kCommon, kNone, kNone, kNone));
+    const long common = GetIndex(MakeDbVersionInfo(UVDB_DB_COMMON, kNone, kNone, kNone));
     for (const std::uint64_t db : {std::uint64_t{60}, std::uint64_t{127}, std::uint64_t{5000}, kNone})
         EXPECT_EQ(GetIndex(MakeDbVersionInfo(db, 1, 2, 3)), common) << db;
-    EXPECT_EQ(kMappingSheaves[static_cast<std::size_t>(common)].db, kCommon);
+    EXPECT_EQ(kMappingSheaves[static_cast<std::size_t>(common)].db, UVDB_DB_COMMON);
 
     const auto withoutCommon = kMappingSheaves.first(static_cast<std::size_t>(common));
     EXPECT_EQ(ChooseMappingSheaf(withoutCommon, MakeDbVersionInfo(60, kNone, kNone, kNone)), -1);
@@ -143,7 +136,7 @@ TEST(Mapping, SizeChoosesTheName)
     };
     EXPECT_EQ(name(Oracle102(), 1, 100, 0), "VARCHAR2");
     EXPECT_EQ(name(Oracle102(), 1, 5000, 0), "CLOB");
-    const DB_VERSION_INFO postgreSql = MakeDbVersionInfo(kPostgreSql, kNone, 8, 4);
+    const DB_VERSION_INFO postgreSql = MakeDbVersionInfo(UVDB_DB_POSTGRESQL, kNone, 8, 4);
     EXPECT_EQ(name(postgreSql, 27, 1, 0), "BOOLEAN");
     EXPECT_EQ(name(postgreSql, 27, 2, 0), "BIT");
     EXPECT_EQ(name(postgreSql, 25, 500, 7), "DECIMAL");
@@ -182,11 +175,11 @@ TEST(Mapping, IdentityHasNamesOfItsOwn)
         return std::string(
             UVDBToDBMSDataType(MakeDbVersionInfo(db, kNone, kNone, kNone), type, 5, 0, 0, identity));
     };
-    EXPECT_EQ(name(kPervasive, 34, true), "SMALLIDENTITY");
-    EXPECT_EQ(name(kPervasive, 35, true), "IDENTITY");
-    EXPECT_EQ(name(kSybase, 35, true), "NUMERIC");
-    EXPECT_NE(name(kPervasive, 34, false), "SMALLIDENTITY");
-    EXPECT_EQ(name(kSqlServer, 34, true), name(kSqlServer, 34, false));
+    EXPECT_EQ(name(UVDB_DB_PERVASIVE, 34, true), "SMALLIDENTITY");
+    EXPECT_EQ(name(UVDB_DB_PERVASIVE, 35, true), "IDENTITY");
+    EXPECT_EQ(name(UVDB_DB_SYBASE, 35, true), "NUMERIC");
+    EXPECT_NE(name(UVDB_DB_PERVASIVE, 34, false), "SMALLIDENTITY");
+    EXPECT_EQ(name(UVDB_DB_MSSQL, 34, true), name(UVDB_DB_MSSQL, 34, false));
 }
 
 TEST(Mapping, DefaultIsAVarcharOf255)
