@@ -30,6 +30,9 @@ constexpr auto NewerWords()
 {
     static_assert(AreReservedWords(kOlder) && AreReservedWords(kAdded) && AreReservedWords(kGone));
     static_assert(std::ranges::includes(kOlder, kGone), "what goes must have been there");
+    static_assert(std::ranges::none_of(
+                      kAdded, [](std::string_view word) { return std::ranges::binary_search(kOlder, word); }),
+                  "what is added mustn't have been there");
 
     std::array<std::string_view, std::size(kOlder) - std::size(kGone)> kept{};
     std::ranges::set_difference(kOlder, kGone, kept.begin());
