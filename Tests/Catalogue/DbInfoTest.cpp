@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,7 +21,7 @@ const UVDB::DbinfoHelper& Catalogue()
 
 TEST(DbInfo, EveryRowAnswersForItsOwnKey)
 {
-    ASSERT_EQ(Catalogue().getRowCount(), 142u);
+    ASSERT_EQ(Catalogue().getRowCount(), std::size(kCatalogueRows));
     for (const SDbInfoLiteral& literal : kCatalogueRows) {
         SCOPED_TRACE(literal.resourceIndex);
         const DB_INFO_ROW& row = Catalogue().findDbInfo(static_cast<int>(literal.resourceIndex));
