@@ -1,8 +1,7 @@
 #include "Parser/ScriptFormatter.h"
 
-#include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Interfaces/IUVDBObjectInfo.h"
-#include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Parser/ParseAnswers.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Preparation/Formatters/Asp.h"
 #include "Preparation/Formatters/Cobol.h"
@@ -15,30 +14,9 @@
 #include "Preparation/Preprocessor.h"
 #include "UVEnvironment/LogSystem.h"
 
-#include <charconv>
 #include <utility>
 
 using Uve::U8CString;
-
-template <class T>
-T ScriptFormatter::Option(const char* name, T value) const
-{
-    CUVDBOptionWrapper::GetParam(m_Parser.m_DatabaseInfo, name, value);
-    return value;
-}
-
-template <class T>
-T ScriptFormatter::ObjectOption(const char* name, T value) const
-{
-    if (m_Parser.m_ConvertingObject)
-        CUVDBOptionWrapper::GetParam(m_Parser.m_ConvertingObject, name, value);
-    return value;
-}
-
-bool ScriptFormatter::IsFaithful() const
-{
-    return Option("SOURCE_FORMS", U8CString()).CollateNoCase("FAITHFUL") == 0;
-}
 
 void ScriptFormatter::Take(SPreparedText prepared)
 {
@@ -57,9 +35,8 @@ void ScriptFormatter::FormatCPP()
 {
     SPreparedText prepared;
     U8CString errors;
-    const bool isPrepared =
-        m_Parser.m_Preprocessor->Run(m_Parser.m_Query, ObjectOption("FilePath", U8CString()), prepared.text,
-                                     errors, &prepared.sourceLines, &prepared.notes);
+    const bool isPrepared = m_Parser.m_Preprocessor->Run(m_Parser.m_Query, m_Options.filePath, prepared.text,
+                                                         errors, &prepared.sourceLines, &prepared.notes);
     if (!errors.empty())
         CLogWrapper::WriteTraceF("%s", errors.c_str());
     if (isPrepared) {
@@ -82,69 +59,62 @@ void ScriptFormatter::FormatCPP()
 void ScriptFormatter::Format4GL_PROGRESS()
 {
     SProgressOptions options;
-    options.filePath = ObjectOption("FilePath", U8CString());
-    options.includeRoot = Option("INCLUDE_ROOT", U8CString());
-    options.propath = Option("PROPATH", U8CString());
-    Take(IsFaithful() ? FormatProgressFaithfully(m_Parser.m_Query, options)
-                      : FormatProgress(m_Parser.m_Query, options));
+    options.filePath = m_Options.filePath;
+    options.includeRoot = m_Options.includeRoot;
+    options.propath = m_Options.propath;
+    Take(m_Options.isFaithful ? FormatProgressFaithfully(m_Parser.m_Query, options)
+                              : FormatProgress(m_Parser.m_Query, options));
 }
 
 void ScriptFormatter::FormatASP()
 {
     SAspOptions options;
-    options.filePath = ObjectOption("FilePath", U8CString());
-    options.includeRoot = Option("INCLUDE_ROOT", U8CString());
+    options.filePath = m_Options.filePath;
+    options.includeRoot = m_Options.includeRoot;
     SAspPage page = FormatAsp(m_Parser.m_Query, options);
     for (const U8CString& message : page.messages)
         CLogWrapper::WriteLogF("%s", message.c_str());
-    for (const SAspBlock& block : page.blocks)
-        CUVDBOptionWrapper::SetParam(m_Parser.m_ConvertingObject, block.marker, block.text);
+    WriteScript(m_Parser.m_DatabaseInfo, m_Parser.m_ConvertingObject, m_Options.objectId, page);
     Take(std::move(page.prepared));
-    const U8CString objectId = ObjectOption("ObjectID", U8CString());
-    CUVDBOptionWrapper::SetParam(m_Parser.m_DatabaseInfo, objectId + "VBPart", page.script);
 }
 
 void ScriptFormatter::FormatPASCAL()
 {
-    Take(FormatPascal(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
+    Take(FormatPascal(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
 }
 
 void ScriptFormatter::FormatCOBOL()
 {
-    const U8CString format = Option("COBOLFORMAT", U8CString("NO"));
+    const U8CString& format = m_Options.cobolFormat;
     SCobolOptions options;
     if (format.CollateNoCase("ANSI") == 0)
         options.format = enCobolFormat::Fixed;
     else if (format.CollateNoCase("FREE") == 0)
         options.format = enCobolFormat::Free;
     options.formatName = format;
-    options.isFaithful = IsFaithful();
-    options.savesDebugInfo = Option("SAVE_COBOL_DEBUG_INFO", U8CString("NO")) == "YES";
-    options.removesFormatting = Option("REMOVE_SRC_FORMATTING", U8CString("0")) == "1";
-    options.tabWidth = Option("COBOL_TAB_WIDTH", options.tabWidth);
+    options.isFaithful = m_Options.isFaithful;
+    options.savesDebugInfo = m_Options.savesCobolDebugInfo;
+    options.removesFormatting = m_Options.removesCobolFormatting;
+    options.tabWidth = m_Options.cobolTabWidth;
     Take(FormatCobol(m_Parser.m_Query, options));
 }
 
 void ScriptFormatter::FormatIBM_RPG()
 {
-    SIbmRpgOptions options;
-    options.isFaithful = IsFaithful();
-    const U8CString version = Option("IBMRPG_VERSION", U8CString());
-    std::from_chars(version.data(), version.data() + version.size(), options.layout);
-    Take(FormatIbmRpg(m_Parser.m_Query, options));
+    Take(FormatIbmRpg(m_Parser.m_Query, {.layout = m_Options.rpgLayout, .isFaithful = m_Options.isFaithful}));
 }
 
 void ScriptFormatter::FormatJCL()
 {
-    Take(FormatJcl(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
+    Take(FormatJcl(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
 }
 
 void ScriptFormatter::FormatIBM_CL()
 {
-    Take(FormatIbmCl(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
+    Take(FormatIbmCl(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
 }
 
 void ScriptFormatter::FormatFoxProPrograms()
 {
-    Take(FormatFoxPro(m_Parser.m_Query, {.isFaithful = IsFaithful()}));
+    Take(FormatFoxPro(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
 }

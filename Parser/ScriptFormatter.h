@@ -1,5 +1,5 @@
-// The preparation passes as the parser object calls them. Each operation reads its options, hands the query
-// to the pass of one language, and puts what it makes of it in the query's place. The passes themselves are
+// The preparation passes as the parser object calls them. Each operation hands the query to the pass of one
+// language, with its options, and puts what it makes of it in the query's place. The passes themselves are
 // plain functions in Preparation/.
 #pragma once
 
@@ -8,12 +8,15 @@
 #include <vector>
 
 class CUVDBSQLParser;
+struct SParseOptions;
 
 class ScriptFormatter
 {
 public:
-    // Borrows the parser.
-    explicit ScriptFormatter(CUVDBSQLParser& parser) : m_Parser(parser) {}
+    // Borrows both.
+    ScriptFormatter(CUVDBSQLParser& parser, const SParseOptions& options)
+        : m_Parser(parser), m_Options(options)
+    {}
 
     // Leaves an empty query and an error record if the source can't be read.
     void FormatCPP();
@@ -29,14 +32,9 @@ public:
     void FormatFoxProPrograms();
 
 private:
-    template <class T>
-    T Option(const char* name, T value) const;
-    template <class T>
-    T ObjectOption(const char* name, T value) const;
-    // Does the host want forms that real sources survive, not those of the letter?
-    bool IsFaithful() const;
     void Take(SPreparedText prepared);
     void TakeNotes(std::vector<SPreparationNote> notes);
 
     CUVDBSQLParser& m_Parser;
+    const SParseOptions& m_Options;
 };

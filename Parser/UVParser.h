@@ -29,6 +29,8 @@
 #include <string>
 #include <vector>
 
+struct SParseOptions;
+
 class CUVDBSQLParser : public IUVDBSQLParser
 {
 public:
@@ -111,36 +113,32 @@ protected:
 
     // ---- The way of a text ----
 
-    int ParseQuery(bool showErrors);
-    int ExecuteParsing(bool showErrors);
+    // Reads `options` as soon as there is an info to read them from.
+    int ParseQuery(bool showErrors, SParseOptions& options);
+    SParseOptions ReadOptions() const;
+    int ExecuteParsing(const SParseOptions& options);
     // Returns: UVDB_OK if there is a text to parse; UVDB_NO_DATA if not; UVDB_ERROR if a formatter failed.
-    int PrepareToParse();
+    int PrepareToParse(const SParseOptions& options);
     // Returns: 0; the parser's own code if the grammar refuses the text; UVDB_ERROR for an exception.
-    int ExecuteParsingInternal(bool showErrors);
-    int ExecuteParsingColoring(bool showErrors);
+    int ExecuteParsingInternal(const SParseOptions& options);
+    int ExecuteParsingColoring(const SParseOptions& options);
+    void TryOtherQuoteRule(const SParseOptions& options);
     int FlattenResult();
     void DefineStylesheets();
-    // Whether `info` asks for the stylesheet itself.
-    static bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info);
     // Whether the flattener does the work of the stylesheet.
     bool IsFlattenedNatively(const std::shared_ptr<IUVDBDatabaseInfo2>& info) const;
     // `declaration` saves the result a shift by the difference of the declarations; the stylesheet knows its
     // own one alone.
     int Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
                 std::string_view declaration);
-    bool IsForPreparationOnly() const;
     void replaceXmlHeader();
     // The text itself as the result, for sources that no grammar reads.
     int ExecuteEmbeddedParsing();
-    int ExecuteParsingTool(bool showErrors);
-    bool IsPropertiesFile() const;
-    void GiveQueryToParser();
+    static bool IsPropertiesFile(const SParseOptions& options);
+    void GiveQueryToParser(const SParseOptions& options);
     // Follows RESTART_POSITIONS.
-    void ForgetTexts();
-    bool IsOptionSet(const char* name) const;
-    int ReportErrors();
-    int ReportPreparedLines();
-    int ReportPreparationNotes();
+    void ForgetTexts(const SParseOptions& options);
+    int ReportErrors(const SParseOptions& options);
 
     // ---- Errors ----
 
@@ -150,7 +148,6 @@ protected:
     static int ExtractLineNumber(const std::string& errorMessage);
     // `place` stays as it is if there is no such line.
     static void GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place);
-    void UpdateWarningsInfo();
 
     std::shared_ptr<CSQLGrammarLexer> m_Lexer;
     std::shared_ptr<CSQLGrammarParser> m_Parser;

@@ -2,6 +2,7 @@
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/UVAssessorOption.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
@@ -51,7 +52,7 @@ int CUVDBSQLParser::TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info)
     if (!m_DatabaseInfo)
         return kNoDatabaseInfo;
     if (!m_Lexer) {
-        if (IsForPreparationOnly())
+        if (IsPreparationOnly(m_DatabaseInfo))
             return UVDB_OK;
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "set_DatabaseInfo before Load");
         return UVDB_ERROR;

@@ -1,5 +1,3 @@
-#include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserText.h"
@@ -75,25 +73,4 @@ void CUVDBSQLParser::GetErrorPlace(unsigned long lineNumber, const std::string& 
         return;
     if (auto quote = QuoteLinesAround(lineNumber, text))
         place = std::move(*quote);
-}
-
-void CUVDBSQLParser::UpdateWarningsInfo()
-{
-    constexpr char kWarningsCount[] = "WARNINGS_COUNT";
-    constexpr char kWarningsTypes[] = "WARNINGS_TYPES";
-    const auto& tokens = m_Parser->m_Extension.m_mapErrors;
-
-    int objectType = 0;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "CONVERTED_OBJECT_TYPE", objectType);
-    // An object type without a single unexpected token gets its entry too: hosts count parsed types by it.
-    std::map<int, unsigned long> counts;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kWarningsCount, counts);
-    counts[objectType] += tokens.size();
-    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, kWarningsCount, counts);
-
-    std::map<std::string, int> types;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kWarningsTypes, types);
-    for (const auto& [line, token] : tokens)
-        ++types[token];
-    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, kWarningsTypes, types);
 }

@@ -1,7 +1,7 @@
 // The last step of a parse: the parser's tree, flattened by the stylesheet that is part of the library.
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"
@@ -67,14 +67,6 @@ int CUVDBSQLParser::ExecuteTree2Serial()
 int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
 {
     return GuardMemory([&] { return Flatten(info, xml, kXmlDeclaration); });
-}
-
-bool CUVDBSQLParser::IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info)
-{
-    Uve::U8CString isForced;
-    if (info)
-        CUVDBOptionWrapper::GetParam(info, "TREE2SERIAL_STYLESHEET", isForced);
-    return isForced == "1";
 }
 
 int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,

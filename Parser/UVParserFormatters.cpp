@@ -1,9 +1,7 @@
 #include "Parser/UVParserFormatters.h"
 
 #include "Catalogue/UVDBDatabaseKinds.h"
-#include "Interfaces/IUVDBDatabaseInfo.h"
-#include "Interfaces/IUVDBObjectInfo.h"
-#include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/ScriptFormatter.h"
 #include "Parser/UVParserText.h"
 
@@ -14,54 +12,42 @@ namespace {
 
 using Uve::U8CString;
 
-U8CString ReadText(const SFormatterOptions& options, const char* name, const char* defaultValue)
-{
-    U8CString value = defaultValue;
-    CUVDBOptionWrapper::GetParam(options.databaseInfo, name, value);
-    return value;
-}
-
-bool Always(const SFormatterOptions&)
+bool Always(const SParseOptions&)
 {
     return true;
 }
 
-bool IsPreprocessed(const SFormatterOptions& options)
+bool IsPreprocessed(const SParseOptions& options)
 {
-    return options.isPreprocessorEnabled;
+    return options.isPreprocessed;
 }
 
-bool IncludesFiles(const SFormatterOptions& options)
+bool IncludesFiles(const SParseOptions& options)
 {
-    return ReadText(options, "INCLUDE_FILES", "FALSE").CollateNoCase("YES") == 0;
+    return options.includesFiles;
 }
 
-bool IsAspFile(const SFormatterOptions& options)
+bool IsAspFile(const SParseOptions& options)
 {
-    U8CString path;
-    if (options.convertingObject)
-        CUVDBOptionWrapper::GetParam(options.convertingObject, "FilePath", path);
     // A path without a dot is compared as a whole.
-    const U8CString extension = TextBehindLastDot(path).value_or(path);
+    const U8CString extension = TextBehindLastDot(options.filePath).value_or(options.filePath);
     return extension.CollateNoCase("asp") == 0 || extension.CollateNoCase("inc") == 0;
 }
 
-bool ResolvesDefines(const SFormatterOptions& options)
+bool ResolvesDefines(const SParseOptions& options)
 {
-    return ReadText(options, "UNIK_DEFINE", "No").CollateNoCase("Yes") == 0;
+    return options.resolvesDefines;
 }
 
 // Every text but "NO" names a column format.
-bool HasCobolFormat(const SFormatterOptions& options)
+bool HasCobolFormat(const SParseOptions& options)
 {
-    return ReadText(options, "COBOLFORMAT", "NO").CollateNoCase("NO") != 0;
+    return options.cobolFormat.CollateNoCase("NO") != 0;
 }
 
-// The case of the letters counts here.
-bool HasJclFormat(const SFormatterOptions& options)
+bool HasJclFormat(const SParseOptions& options)
 {
-    const U8CString value = ReadText(options, "JCLANSIFORMAT", "FALSE");
-    return value == "1" || value == "YES";
+    return options.hasJclFormat;
 }
 
 // clang-format off

@@ -3,6 +3,7 @@
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"
@@ -61,7 +62,7 @@ int CUVDBSQLParser::Init(const char* mode)
         m_ColoringMode = false;
         m_CommentMode = false;
     }
-    const bool isForPreparationOnly = IsForPreparationOnly();
+    const bool isForPreparationOnly = IsPreparationOnly(m_DatabaseInfo);
     if (!isForPreparationOnly && (!m_Lexer || !m_Parser)) {
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Init before Load");
         return UVDB_ERROR;
@@ -113,7 +114,7 @@ int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
     return GuardEdge([&] {
         if (m_ColoringMode)
             out = WrapInElement("Coloring", m_Result.Text());
-        else if (IsOptionSet("HAND_OVER_RESULT"))
+        else if (IsResultHandedOver(m_DatabaseInfo))
             out = std::exchange(m_Result.Text(), {});
         else
             out = m_Result.Text();

@@ -2,15 +2,14 @@
 // rule for quoted identifiers, flattening.
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBErrorInfo.h"
-#include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
-#include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Parser/ParseAnswers.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/ScriptFormatter.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserFormatters.h"
 #include "Parser/UVParserGuard.h"
-#include "Parser/UVParserReports.h"
 #include "Parser/UVParserText.h"
 #include "UVEnvironment/LogSystem.h"
 
@@ -94,7 +93,8 @@ private:
 int CUVDBSQLParser::Parse(bool showErrors)
 {
     m_IsOutOfMemory = false;
-    const int result = GuardMemory([&] { return ParseQuery(showErrors); });
+    SParseOptions options;
+    const int result = GuardMemory([&] { return ParseQuery(showErrors, options); });
     // What nobody has flattened becomes text before the next text comes.
     GuardMemory([&] {
         m_Result.Text();
@@ -108,12 +108,14 @@ int CUVDBSQLParser::Parse(bool showErrors)
         });
     // A host that asked for the list takes a missing one for a clean parse.
     const int reported = GuardEdge([&] {
-        return std::min({ReportPreparedLines(), ReportPreparationNotes(), ReportErrors()});
+        const int prepared =
+            WritePreparationReports(m_DatabaseInfo, options, m_PreparedBy, m_SourceLines, m_PreparationNotes);
+        return std::min(prepared, ReportErrors(options));
     });
     return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
 }
 
-int CUVDBSQLParser::ParseQuery(bool showErrors)
+int CUVDBSQLParser::ParseQuery(bool showErrors, SParseOptions& options)
 {
     m_LastError.reset(); // what follows can fail, and would leave the error of the text before
     CLogWrapper::WriteTraceF("\nParsing...");
@@ -128,9 +130,10 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "DatabaseInfo or query is empty");
         return UVDB_ERROR;
     }
-    ForgetTexts();
-    if (IsForPreparationOnly()) {
-        const int prepared = PrepareToParse();
+    options = ReadOptions();
+    ForgetTexts(options);
+    if (options.isPreparationOnly) {
+        const int prepared = PrepareToParse(options);
         if (prepared == UVDB_OK)
             m_Result.SetText(m_Query);
         return prepared;
@@ -141,29 +144,27 @@ int CUVDBSQLParser::ParseQuery(bool showErrors)
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", kNotReady);
         return UVDB_ERROR;
     }
-    return ExecuteParsing(showErrors);
+    return ExecuteParsing(options);
 }
 
-int CUVDBSQLParser::ExecuteParsing(bool showErrors)
+int CUVDBSQLParser::ExecuteParsing(const SParseOptions& options)
 {
-    if (IsPropertiesFile())
+    if (IsPropertiesFile(options))
         return ExecuteEmbeddedParsing();
     if (!m_PatternProcess) {
-        const int prepared = PrepareToParse();
+        const int prepared = PrepareToParse(options);
         if (prepared != UVDB_OK)
             return prepared;
     }
 
     const bool isColoring = m_ColoringMode || m_CommentMode;
-    const int parsed = isColoring ? ExecuteParsingColoring(showErrors) : ExecuteParsingInternal(showErrors);
+    const int parsed = isColoring ? ExecuteParsingColoring(options) : ExecuteParsingInternal(options);
     if (m_TryOtherOpts && !m_IsSecondAttempt && (IsParseHasErrors() || parsed < UVDB_OK)) {
-        TryParseWithOtherOpts(showErrors);
+        TryOtherQuoteRule(options);
         return m_Result.IsEmpty() ? UVDB_ERROR : FlattenResult();
     }
 
-    bool isChild = false;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "ORVA_CHILD", isChild);
-    if (parsed != UVDB_OK || (isChild && m_Parser->HasErrors())) {
+    if (parsed != UVDB_OK || (options.isChild && m_Parser->HasErrors())) {
         // An exception has left a record of its own, which says more than the parser's message.
         if (parsed >= UVDB_OK)
             SetLastError();
@@ -188,25 +189,22 @@ int CUVDBSQLParser::FlattenResult()
     return flattened;
 }
 
-int CUVDBSQLParser::PrepareToParse()
+int CUVDBSQLParser::PrepareToParse(const SParseOptions& options)
 {
-    bool parsesDirectives = true;
-    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "PARSE_DIRECTIVES", parsesDirectives);
     if (m_Lexer)
-        WriteLexers(
-            [&](CSQLGrammarLexer& lexer) { lexer.m_Extension.m_bCppDirectiveParse = parsesDirectives; });
+        WriteLexers([&](CSQLGrammarLexer& lexer) {
+            lexer.m_Extension.m_bCppDirectiveParse = options.parsesDirectives;
+        });
 
     ReplaceZeroWidthSpaces(m_Query);
     m_SourceLines.clear();
     m_PreparedBy = "";
-    const bool isPreprocessorEnabled = m_Preprocessor && m_Preprocessor->IsEnabled();
-    const SFormatterRow* const row = FindFormatter(GetVersion().db);
-    const SFormatterOptions options{m_DatabaseInfo, m_ConvertingObject, isPreprocessorEnabled};
+    const SFormatterRow* const row = FindFormatter(options.kind);
     if (row != nullptr && row->isWanted(options)) {
         m_PreparedBy = row->name;
-        ScriptFormatter formatter(*this);
+        ScriptFormatter formatter(*this, options);
         (formatter.*row->format)();
-    } else if (IsForPreparationOnly()) {
+    } else if (options.isPreparationOnly) {
         const char* const reason =
             row != nullptr ? row->unwanted : "texts of this language need no preparation";
         m_PreparationNotes.push_back({false, 0, "", std::string("not prepared: ") + reason});
@@ -220,9 +218,16 @@ int CUVDBSQLParser::PrepareToParse()
     return m_LastError && HasDescription(*m_LastError) ? UVDB_ERROR : UVDB_NO_DATA;
 }
 
-void CUVDBSQLParser::ForgetTexts()
+SParseOptions CUVDBSQLParser::ReadOptions() const
 {
-    if (!m_Lexer || !m_Parser || !IsOptionSet("RESTART_POSITIONS"))
+    SParseOptions options = ReadParseOptions(m_DatabaseInfo, m_ConvertingObject);
+    options.isPreprocessed = m_Preprocessor && m_Preprocessor->IsEnabled();
+    return options;
+}
+
+void CUVDBSQLParser::ForgetTexts(const SParseOptions& options)
+{
+    if (!m_Lexer || !m_Parser || !options.restartsPositions)
         return;
     WriteLexers([](CSQLGrammarLexer& lexer) { lexer.ForgetTexts(); });
     m_Parser->ForgetTexts();
@@ -230,16 +235,16 @@ void CUVDBSQLParser::ForgetTexts()
     TakeDatabaseInfo(m_DatabaseInfo);
 }
 
-void CUVDBSQLParser::GiveQueryToParser()
+void CUVDBSQLParser::GiveQueryToParser(const SParseOptions& options)
 {
     m_Parser->m_Extension.set_Query(static_cast<const std::string&>(m_Query));
-    m_Lexer->set_Query(m_Query, static_cast<int>(GetVersion().db));
+    m_Lexer->set_Query(m_Query, static_cast<int>(options.kind));
 }
 
-int CUVDBSQLParser::ExecuteParsingInternal(bool)
+int CUVDBSQLParser::ExecuteParsingInternal(const SParseOptions& options)
 {
-    GiveQueryToParser();
-    m_Parser->set_FragmentsWanted(!IsStylesheetForced(m_DatabaseInfo));
+    GiveQueryToParser(options);
+    m_Parser->set_FragmentsWanted(!options.isStylesheetForced);
     int parsed = UVDB_ERROR;
     try {
         parsed = m_Parser->yyparse();
@@ -254,14 +259,14 @@ int CUVDBSQLParser::ExecuteParsingInternal(bool)
         return parsed;
     m_Lexer->DropQuery(); // the flattened tree needs the room
     m_Result.TakeTree(m_Parser);
-    UpdateWarningsInfo();
+    UpdateWarningsInfo(m_DatabaseInfo, options.convertedObjectType, m_Parser->m_Extension.m_mapErrors);
     return UVDB_OK;
 }
 
-int CUVDBSQLParser::ExecuteParsingColoring(bool)
+int CUVDBSQLParser::ExecuteParsingColoring(const SParseOptions& options)
 {
     m_ColoringLexer.m_Extension.m_strColoring.clear();
-    m_ColoringLexer.set_Query(m_Query, static_cast<int>(GetVersion().db));
+    m_ColoringLexer.set_Query(m_Query, static_cast<int>(options.kind));
     // A grammar that doesn't know the state gets it with number 0, its first one.
     if (m_CommentMode)
         m_ColoringLexer.SetState(m_Lexer->m_mapStartConditions["SS_FIND_COMMENT"]);
@@ -280,15 +285,22 @@ int CUVDBSQLParser::ExecuteParsingColoring(bool)
     return UVDB_OK;
 }
 
-void CUVDBSQLParser::TryParseWithOtherOpts(bool showErrors)
+void CUVDBSQLParser::TryParseWithOtherOpts(bool)
 {
     GuardMemory([&] {
-        if (!m_DatabaseInfo || !m_IsConnected)
-            return static_cast<int>(UVDB_ERROR);
+        if (m_DatabaseInfo && m_IsConnected)
+            TryOtherQuoteRule(ReadOptions());
+        return UVDB_OK;
+    });
+}
+
+void CUVDBSQLParser::TryOtherQuoteRule(const SParseOptions& options)
+{
+    GuardMemory([&] {
         m_Result.Text(); // its fragments would go with the second parse
         {
             CSecondAttempt attempt(*this);
-            const int result = ExecuteParsing(showErrors);
+            const int result = ExecuteParsing(options);
             if (result >= UVDB_OK && !IsParseHasErrors()) {
                 attempt.Accept(result);
                 return result;
@@ -304,25 +316,22 @@ std::string CUVDBSQLParser::FastParse()
 {
     if (!m_IsConnected)
         return {};
-    ForgetTexts();
+    const SParseOptions options = ReadOptions();
+    ForgetTexts(options);
     m_Parser->m_Extension.m_lstUnexpected.clear();
     m_Parser->m_Extension.m_lstDiscarded.clear();
     m_Result.Text(); // a result that is still in fragments lives in the parser
-    GiveQueryToParser();
+    GiveQueryToParser(options);
     m_Parser->set_FragmentsWanted(false);
     m_Parser->yyparse();
     m_Unfinished = m_Lexer->Unfinished();
-    GuardEdge([&] { return ReportErrors(); });
+    GuardEdge([&] { return ReportErrors(options); });
     return std::move(m_Parser->m_Extension.m_strParsedXml);
 }
 
-bool CUVDBSQLParser::IsPropertiesFile() const
+bool CUVDBSQLParser::IsPropertiesFile(const SParseOptions& options)
 {
-    if (!m_ConvertingObject)
-        return false;
-    U8CString path;
-    CUVDBOptionWrapper::GetParam(m_ConvertingObject, "FilePath", path);
-    const auto extension = TextBehindLastDot(path);
+    const auto extension = TextBehindLastDot(options.filePath);
     return extension && extension->CollateNoCase("properties") == 0;
 }
 
@@ -333,57 +342,14 @@ int CUVDBSQLParser::ExecuteEmbeddedParsing()
     return UVDB_OK;
 }
 
-int CUVDBSQLParser::ExecuteParsingTool(bool)
-{
-    UpdateWarningsInfo();
-    return UVDB_OK;
-}
-
 void CUVDBSQLParser::replaceXmlHeader()
 {
     ReplaceXmlHeader(m_Result.Text());
 }
 
-bool CUVDBSQLParser::IsOptionSet(const char* name) const
-{
-    U8CString value;
-    if (m_DatabaseInfo)
-        CUVDBOptionWrapper::GetParam(m_DatabaseInfo, name, value);
-    return value == "1";
-}
-
-bool CUVDBSQLParser::IsForPreparationOnly() const
-{
-    return IsOptionSet("PREPARE_ONLY");
-}
-
-int CUVDBSQLParser::ReportErrors()
+int CUVDBSQLParser::ReportErrors(const SParseOptions& options)
 {
     if (!m_Parser)
         return UVDB_OK;
-    const CSQLGrammarParserImplementation& found = m_Parser->m_Extension;
-    const auto report = [&](const char* wish, const char* option, auto&& makeList) {
-        return IsOptionSet(wish) ? CUVDBOptionWrapper::SetParam(m_DatabaseInfo, option, makeList()) : UVDB_OK;
-    };
-    return std::min(report("REPORT_UNEXPECTED_TOKENS", "UNEXPECTED_TOKENS",
-                           [&] { return FormatUnexpectedTokens(m_Query, found.m_lstUnexpected); }),
-                    report("REPORT_LOST_TEXT", "LOST_TEXT", [&] {
-                        return FormatLostText(m_Query, found.DiscardedStretches(), m_Unfinished);
-                    }));
-}
-
-int CUVDBSQLParser::ReportPreparedLines()
-{
-    if (!IsOptionSet("REPORT_PREPARED_LINES"))
-        return UVDB_OK;
-    CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_BY", U8CString(m_PreparedBy));
-    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARED_LINES", FormatPreparedLines(m_SourceLines));
-}
-
-int CUVDBSQLParser::ReportPreparationNotes()
-{
-    if (!IsOptionSet("REPORT_PREPARATION_NOTES"))
-        return UVDB_OK;
-    return CUVDBOptionWrapper::SetParam(m_DatabaseInfo, "PREPARATION_NOTES",
-                                        FormatPreparationNotes(m_PreparationNotes));
+    return WriteErrorReports(m_DatabaseInfo, options, m_Query, m_Parser->m_Extension, m_Unfinished);
 }

@@ -3,6 +3,7 @@
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
+#include "Parser/ParseOptions.h"
 #include "Parser/UVParserFormatters.h"
 
 #include <gtest/gtest.h>
@@ -50,15 +51,16 @@ TEST(Formatters, KindAndOptionsChoose)
                      << c.kind << ' ' << (c.option ? c.option : "") << '=' << (c.value ? c.value : ""));
         const DB_VERSION_INFO version =
             MakeDbVersionInfo(c.kind, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD);
-        SFormatterOptions options{UVDBMakeObject<CUVDBDatabaseInfo>(version), nullptr};
+        const std::shared_ptr<IUVDBDatabaseInfo2> info = UVDBMakeObject<CUVDBDatabaseInfo>(version);
+        std::shared_ptr<IUVDBObjectInfo> object;
         if (c.option && std::string_view(c.option) == "FilePath") {
-            options.databaseInfo->create_new_object(options.convertingObject, 0);
-            CUVDBOptionWrapper::SetParam(options.convertingObject, c.option, Uve::U8CString(c.value));
+            info->create_new_object(object, 0);
+            CUVDBOptionWrapper::SetParam(object, c.option, Uve::U8CString(c.value));
         } else if (c.option) {
-            CUVDBOptionWrapper::SetParam(options.databaseInfo, c.option, Uve::U8CString(c.value));
+            CUVDBOptionWrapper::SetParam(info, c.option, Uve::U8CString(c.value));
         }
         const SFormatterRow* const row = FindFormatter(c.kind);
-        EXPECT_STREQ(row && row->isWanted(options) ? row->name : nullptr, c.formatter);
+        EXPECT_STREQ(row && row->isWanted(ReadParseOptions(info, object)) ? row->name : nullptr, c.formatter);
     }
 }
 

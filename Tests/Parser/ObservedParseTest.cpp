@@ -152,6 +152,22 @@ TEST_F(ObservedParse, SecondAttemptBeginsWithoutTheFirstOnesFindings)
                                          Flattening(" [error] [tokens]") + kReports);
 }
 
+// What is changed in the middle of a parse has no effect half way, and no option is looked up per attempt.
+TEST_F(ObservedParse, OptionsAreReadOnce)
+{
+    UseInfo(UVDB_DB_COMMON);
+    SetOption("OPTION_VARYING_PARSING", "YES");
+    SetOption("TREE2SERIAL_STYLESHEET", "0");
+    Start();
+    Observe("print \"x\"; use \"y\";");
+    for (const char* const option :
+         {"PARSE_DIRECTIVES", "ORVA_CHILD", "CONVERTED_OBJECT_TYPE", "RESTART_POSITIONS", "PREPARE_ONLY",
+          "REPORT_PREPARED_LINES", "REPORT_UNEXPECTED_TOKENS"})
+        EXPECT_EQ(m_Observed->m_Reads[option], 1) << option;
+    // a language without a pass asks for none of theirs
+    EXPECT_EQ(m_Observed->m_Reads.count("SOURCE_FORMS"), 0u);
+}
+
 TEST_F(ObservedParse, ScriptOfAPageIsHandedOverBeforeItsText)
 {
     UseInfo(UVDB_DB_ASP);
