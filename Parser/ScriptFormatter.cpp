@@ -1,9 +1,6 @@
 #include "Parser/ScriptFormatter.h"
 
-#include "Parser/ParseAnswers.h"
 #include "Parser/ParseOptions.h"
-#include "Parser/UVParser.h"
-#include "Preparation/Formatters/Asp.h"
 #include "Preparation/Formatters/Cobol.h"
 #include "Preparation/Formatters/FoxPro.h"
 #include "Preparation/Formatters/IbmCl.h"
@@ -18,72 +15,57 @@
 
 using Uve::U8CString;
 
-void ScriptFormatter::Take(SPreparedText prepared)
+SFormattedText ScriptFormatter::FormatCPP(const U8CString& text) const
 {
-    m_Parser.set_Query(prepared.text.c_str());
-    m_Parser.m_SourceLines = std::move(prepared.sourceLines);
-    TakeNotes(std::move(prepared.notes));
-}
-
-void ScriptFormatter::TakeNotes(std::vector<SPreparationNote> notes)
-{
-    if (!m_Parser.m_IsSecondAttempt)
-        m_Parser.m_PreparationNotes = std::move(notes);
-}
-
-void ScriptFormatter::FormatCPP()
-{
-    SPreparedText prepared;
+    SFormattedText formatted;
+    SPreparedText& prepared = formatted.prepared;
     U8CString errors;
-    const bool isPrepared = m_Parser.m_Preprocessor->Run(m_Parser.m_Query, m_Options.filePath, prepared.text,
-                                                         errors, &prepared.sourceLines, &prepared.notes);
+    const bool isPrepared = m_Preprocessor->Run(text, m_Options.filePath, prepared.text, errors,
+                                                &prepared.sourceLines, &prepared.notes);
     if (!errors.empty())
         CLogWrapper::WriteTraceF("%s", errors.c_str());
-    if (isPrepared) {
-        Take(std::move(prepared));
-        return;
-    }
+    if (isPrepared)
+        return formatted;
     // A failure that isn't about a character leaves the source to the parser as it stands.
-    if (const auto message = PreprocessorFailureMessage(errors)) {
-        m_Parser.SetLastError(0, message->c_str(), nullptr, nullptr);
+    formatted.error = PreprocessorFailureMessage(errors);
+    if (formatted.error) {
         // the error record says the same
         std::erase_if(prepared.notes, [](const SPreparationNote& note) { return note.isError; });
-        Take(std::move(prepared));
-        return;
+        return formatted;
     }
-    m_Parser.m_PreparedBy = "";
+    formatted.isLeftAlone = true;
     prepared.notes.push_back({true, 0, {}, "the macro processor failed: the whole text goes on unprepared"});
-    TakeNotes(std::move(prepared.notes));
+    return formatted;
 }
 
-void ScriptFormatter::Format4GL_PROGRESS()
+SFormattedText ScriptFormatter::Format4GL_PROGRESS(const U8CString& text) const
 {
     SProgressOptions options;
     options.filePath = m_Options.filePath;
     options.includeRoot = m_Options.includeRoot;
     options.propath = m_Options.propath;
-    Take(m_Options.isFaithful ? FormatProgressFaithfully(m_Parser.m_Query, options)
-                              : FormatProgress(m_Parser.m_Query, options));
+    return {m_Options.isFaithful ? FormatProgressFaithfully(text, options) : FormatProgress(text, options)};
 }
 
-void ScriptFormatter::FormatASP()
+SFormattedText ScriptFormatter::FormatASP(const U8CString& text) const
 {
     SAspOptions options;
     options.filePath = m_Options.filePath;
     options.includeRoot = m_Options.includeRoot;
-    SAspPage page = FormatAsp(m_Parser.m_Query, options);
+    SAspPage page = FormatAsp(text, options);
     for (const U8CString& message : page.messages)
         CLogWrapper::WriteLogF("%s", message.c_str());
-    WriteScript(m_Parser.m_DatabaseInfo, m_Parser.m_ConvertingObject, m_Options.objectId, page);
-    Take(std::move(page.prepared));
+    SFormattedText formatted{std::exchange(page.prepared, {})};
+    formatted.page = std::move(page);
+    return formatted;
 }
 
-void ScriptFormatter::FormatPASCAL()
+SFormattedText ScriptFormatter::FormatPASCAL(const U8CString& text) const
 {
-    Take(FormatPascal(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
+    return {FormatPascal(text, {.isFaithful = m_Options.isFaithful})};
 }
 
-void ScriptFormatter::FormatCOBOL()
+SFormattedText ScriptFormatter::FormatCOBOL(const U8CString& text) const
 {
     const U8CString& format = m_Options.cobolFormat;
     SCobolOptions options;
@@ -96,25 +78,25 @@ void ScriptFormatter::FormatCOBOL()
     options.savesDebugInfo = m_Options.savesCobolDebugInfo;
     options.removesFormatting = m_Options.removesCobolFormatting;
     options.tabWidth = m_Options.cobolTabWidth;
-    Take(FormatCobol(m_Parser.m_Query, options));
+    return {FormatCobol(text, options)};
 }
 
-void ScriptFormatter::FormatIBM_RPG()
+SFormattedText ScriptFormatter::FormatIBM_RPG(const U8CString& text) const
 {
-    Take(FormatIbmRpg(m_Parser.m_Query, {.layout = m_Options.rpgLayout, .isFaithful = m_Options.isFaithful}));
+    return {FormatIbmRpg(text, {.layout = m_Options.rpgLayout, .isFaithful = m_Options.isFaithful})};
 }
 
-void ScriptFormatter::FormatJCL()
+SFormattedText ScriptFormatter::FormatJCL(const U8CString& text) const
 {
-    Take(FormatJcl(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
+    return {FormatJcl(text, {.isFaithful = m_Options.isFaithful})};
 }
 
-void ScriptFormatter::FormatIBM_CL()
+SFormattedText ScriptFormatter::FormatIBM_CL(const U8CString& text) const
 {
-    Take(FormatIbmCl(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
+    return {FormatIbmCl(text, {.isFaithful = m_Options.isFaithful})};
 }
 
-void ScriptFormatter::FormatFoxProPrograms()
+SFormattedText ScriptFormatter::FormatFoxProPrograms(const U8CString& text) const
 {
-    Take(FormatFoxPro(m_Parser.m_Query, {.isFaithful = m_Options.isFaithful}));
+    return {FormatFoxPro(text, {.isFaithful = m_Options.isFaithful})};
 }

@@ -1,40 +1,44 @@
-// The preparation passes as the parser object calls them. Each operation hands the query to the pass of one
-// language, with its options, and puts what it makes of it in the query's place. The passes themselves are
-// plain functions in Preparation/.
+// The preparation passes, each with its options: a text in, a value out. The passes themselves are plain
+// functions in Preparation/; where the value goes is the business of whoever calls.
 #pragma once
 
+#include "Preparation/Formatters/Asp.h"
 #include "Preparation/PreparedText.h"
+#include "UVEnvironment/UVEUnicodeString.h"
 
-#include <vector>
+#include <optional>
 
-class CUVDBSQLParser;
+class Preprocessor;
 struct SParseOptions;
+
+// What a pass has made of a text.
+struct SFormattedText
+{
+    SPreparedText prepared;
+    bool isLeftAlone = false;              // the text goes on unprepared; of `prepared` only the notes count
+    std::optional<Uve::U8CString> error{}; // for the error record: the text is refused
+    std::optional<SAspPage> page{};        // the script in a page; its own `prepared` is empty
+};
 
 class ScriptFormatter
 {
 public:
-    // Borrows both.
-    ScriptFormatter(CUVDBSQLParser& parser, const SParseOptions& options)
-        : m_Parser(parser), m_Options(options)
+    // Borrows both. Only FormatCPP needs a preprocessor, which is one that Init has seen.
+    ScriptFormatter(const SParseOptions& options, Preprocessor* preprocessor)
+        : m_Options(options), m_Preprocessor(preprocessor)
     {}
 
-    // Leaves an empty query and an error record if the source can't be read.
-    void FormatCPP();
-    void Format4GL_PROGRESS();
-    // The blocks of script become options: of the object being converted by their markers, and of the
-    // database info all together, named by the object's ObjectID and "VBPart".
-    void FormatASP();
-    void FormatPASCAL();
-    void FormatCOBOL();
-    void FormatIBM_RPG();
-    void FormatJCL();
-    void FormatIBM_CL();
-    void FormatFoxProPrograms();
+    SFormattedText FormatCPP(const Uve::U8CString& text) const;
+    SFormattedText Format4GL_PROGRESS(const Uve::U8CString& text) const;
+    SFormattedText FormatASP(const Uve::U8CString& text) const;
+    SFormattedText FormatPASCAL(const Uve::U8CString& text) const;
+    SFormattedText FormatCOBOL(const Uve::U8CString& text) const;
+    SFormattedText FormatIBM_RPG(const Uve::U8CString& text) const;
+    SFormattedText FormatJCL(const Uve::U8CString& text) const;
+    SFormattedText FormatIBM_CL(const Uve::U8CString& text) const;
+    SFormattedText FormatFoxProPrograms(const Uve::U8CString& text) const;
 
 private:
-    void Take(SPreparedText prepared);
-    void TakeNotes(std::vector<SPreparationNote> notes);
-
-    CUVDBSQLParser& m_Parser;
     const SParseOptions& m_Options;
+    Preprocessor* m_Preprocessor;
 };

@@ -29,6 +29,7 @@
 #include <string>
 #include <vector>
 
+struct SFormattedText;
 struct SParseOptions;
 
 class CUVDBSQLParser : public IUVDBSQLParser
@@ -119,6 +120,7 @@ protected:
     int ExecuteParsing(const SParseOptions& options);
     // Returns: UVDB_OK if there is a text to parse; UVDB_NO_DATA if not; UVDB_ERROR if a formatter failed.
     int PrepareToParse(const SParseOptions& options);
+    void TakeFormatted(SFormattedText formatted, const SParseOptions& options);
     // Returns: 0; the parser's own code if the grammar refuses the text; UVDB_ERROR for an exception.
     int ExecuteParsingInternal(const SParseOptions& options);
     int ExecuteParsingColoring(const SParseOptions& options);
@@ -174,7 +176,6 @@ protected:
     std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
 
 private:
-    friend class ScriptFormatter;
     class CSecondAttempt;
 
     // GuardEdge, which remembers that memory was short.

@@ -1,9 +1,11 @@
 // Which texts are rewritten before they are scanned: by the kind of their language, and by options.
 #pragma once
 
+#include "Parser/ScriptFormatter.h"
+#include "UVEnvironment/UVEUnicodeString.h"
+
 #include <cstdint>
 
-class ScriptFormatter;
 struct SParseOptions;
 
 struct SFormatterRow
@@ -12,7 +14,7 @@ struct SFormatterRow
     const char* name;
     bool (*isWanted)(const SParseOptions& options);
     const char* unwanted; // why it isn't, as the end of a sentence
-    void (ScriptFormatter::*format)();
+    SFormattedText (ScriptFormatter::*format)(const Uve::U8CString& text) const;
 };
 
 // Returns: the formatter for texts of this kind, wanted or not; null if there is none.

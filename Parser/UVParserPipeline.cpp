@@ -14,6 +14,7 @@
 #include "UVEnvironment/LogSystem.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -202,8 +203,8 @@ int CUVDBSQLParser::PrepareToParse(const SParseOptions& options)
     const SFormatterRow* const row = FindFormatter(options.kind);
     if (row != nullptr && row->isWanted(options)) {
         m_PreparedBy = row->name;
-        ScriptFormatter formatter(*this, options);
-        (formatter.*row->format)();
+        const ScriptFormatter formatter(options, m_Preprocessor.get());
+        TakeFormatted((formatter.*row->format)(m_Query), options);
     } else if (options.isPreparationOnly) {
         const char* const reason =
             row != nullptr ? row->unwanted : "texts of this language need no preparation";
@@ -216,6 +217,25 @@ int CUVDBSQLParser::PrepareToParse(const SParseOptions& options)
     }
     CLogWrapper::WriteTraceF("\nFormatted query is empty.\n");
     return m_LastError && HasDescription(*m_LastError) ? UVDB_ERROR : UVDB_NO_DATA;
+}
+
+void CUVDBSQLParser::TakeFormatted(SFormattedText formatted, const SParseOptions& options)
+{
+    if (formatted.page)
+        WriteScript(m_DatabaseInfo, m_ConvertingObject, options.objectId, *formatted.page);
+    if (formatted.error)
+        SetLastError(0, formatted.error->c_str(), nullptr, nullptr);
+    if (!m_IsSecondAttempt)
+        m_PreparationNotes = std::move(formatted.prepared.notes);
+    if (formatted.isLeftAlone) {
+        m_PreparedBy = "";
+        return;
+    }
+    CParseResult().swap(m_Result); // it was of another text
+    m_Query = std::move(formatted.prepared.text);
+    // Macros and format strings can make a NUL, at which a text ends.
+    m_Query.resize(std::strlen(m_Query.c_str()));
+    m_SourceLines = std::move(formatted.prepared.sourceLines);
 }
 
 SParseOptions CUVDBSQLParser::ReadOptions() const

@@ -198,6 +198,18 @@ TEST_F(ScriptFormatters, FaithfulFormsAreAskedFor)
     }
 }
 
+// As a host's text does.
+TEST_F(ScriptFormatters, PreparedTextEndsAtANul)
+{
+    const CScratchFolder folder;
+    folder.Write("a.i", "[{&v}]");
+    StartPreparation(UVDB_DB_4GL_PROGRESS);
+    SetFilePath(folder.Path("main.p").c_str());
+    SetOption("INCLUDE_FILES", "YES");
+    EXPECT_EQ(Prepare("{a.i &v=\\x00} rest"), UVDB_OK);
+    EXPECT_EQ(Tree(), "[");
+}
+
 TEST_F(ScriptFormatters, IncludeFilesLieBelowTheRoot)
 {
     const CScratchFolder folder;
