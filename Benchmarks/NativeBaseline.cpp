@@ -41,24 +41,28 @@ struct SMeasure
     bool isDone = false;
 };
 
-class CMeasuredParser : public CUVDBSQLParser
+std::unique_ptr<CUVDBSQLParser> MakeMeasuredParser(bool isStylesheetForced = false)
 {
-public:
-    explicit CMeasuredParser(bool isStylesheetForced = false)
-    {
-        Load(kParserName);
-        DB_VERSION_INFO version;
-        version.db = kPostgreSql;
-        const auto info = std::make_shared<CUVDBDatabaseInfo>(version);
-        if (isStylesheetForced)
-            CUVDBOptionWrapper::SetParam(info, "TREE2SERIAL_STYLESHEET", Uve::U8CString("1"));
-        set_DatabaseInfo(info);
-        Init("");
-    }
+    auto parser = std::make_unique<CUVDBSQLParser>();
+    parser->Load(kParserName);
+    DB_VERSION_INFO version;
+    version.db = kPostgreSql;
+    const auto info = std::make_shared<CUVDBDatabaseInfo>(version);
+    CUVDBOptionWrapper::SetParam(info, "HAND_OVER_RESULT", Uve::U8CString("1"));
+    if (isStylesheetForced)
+        CUVDBOptionWrapper::SetParam(info, "TREE2SERIAL_STYLESHEET", Uve::U8CString("1"));
+    parser->set_DatabaseInfo(info);
+    parser->Init("");
+    return parser;
+}
 
-    // Without the copy that a host gets.
-    std::size_t ResultSize() { return m_Result.Text().size(); }
-};
+// The host takes the result over instead of copying it.
+std::size_t ResultSize(CUVDBSQLParser& parser)
+{
+    Uve::U8CString tree;
+    parser.get_SQLTree(tree);
+    return tree.size();
+}
 
 SMeasure EngineScan(const std::string& text)
 {
@@ -85,11 +89,11 @@ SMeasure CompiledScan(const std::string& text)
 
 SMeasure EngineParse(const std::string& text)
 {
-    static CMeasuredParser parser;
+    static const auto parser = MakeMeasuredParser();
     SMeasure measure;
-    parser.set_Query(text.c_str());
+    parser->set_Query(text.c_str());
     const double start = CpuSeconds();
-    const std::string xml = parser.FastParse();
+    const std::string xml = parser->FastParse();
     measure.seconds = CpuSeconds() - start;
     measure.output = xml.size();
     return measure;
@@ -108,22 +112,22 @@ SMeasure CompiledParse(const std::string& text)
 
 SMeasure WholeParse(const std::string& text)
 {
-    static CMeasuredParser parser;
+    static const auto parser = MakeMeasuredParser();
     SMeasure measure;
-    parser.set_Query(text.c_str());
+    parser->set_Query(text.c_str());
     const double start = CpuSeconds();
-    const int result = parser.Parse(false);
+    const int result = parser->Parse(false);
     measure.seconds = CpuSeconds() - start;
-    measure.output = result == UVDB_OK ? parser.ResultSize() : 0;
+    measure.output = result == UVDB_OK ? ResultSize(*parser) : 0;
     return measure;
 }
 
 SMeasure Flatten(const std::string& text)
 {
     static const std::string raw = [&] {
-        CMeasuredParser parser;
-        parser.set_Query(text.c_str());
-        return parser.FastParse();
+        const auto parser = MakeMeasuredParser();
+        parser->set_Query(text.c_str());
+        return parser->FastParse();
     }();
     SMeasure measure;
     std::string flat;
@@ -136,17 +140,17 @@ SMeasure Flatten(const std::string& text)
 
 SMeasure FlattenByStylesheet(const std::string& text)
 {
-    static CMeasuredParser parser(true);
+    static const auto parser = MakeMeasuredParser(true);
     static const Uve::U8CString raw = [&] {
-        parser.set_Query(text.c_str());
-        return parser.FastParse();
+        parser->set_Query(text.c_str());
+        return parser->FastParse();
     }();
     SMeasure measure;
     Uve::U8CString xml = raw;
     std::shared_ptr<IUVDBDatabaseInfo2> info;
-    parser.get_DatabaseInfo(info);
+    parser->get_DatabaseInfo(info);
     const double start = CpuSeconds();
-    const int result = parser.Tree2Serial(info, xml);
+    const int result = parser->Tree2Serial(info, xml);
     measure.seconds = CpuSeconds() - start;
     measure.output = result == UVDB_OK ? xml.size() : 0;
     return measure;
