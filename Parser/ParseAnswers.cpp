@@ -39,31 +39,30 @@ void WriteScript(const DatabaseInfoPointer& info, const std::shared_ptr<IUVDBObj
 }
 
 int WritePreparationReports(const DatabaseInfoPointer& info, const SParseOptions& options,
-                            const char* preparedBy, const std::vector<std::uint32_t>& sourceLines,
-                            const std::vector<SPreparationNote>& notes)
+                            const SParsedText& parsed)
 {
     int result = UVDB_OK;
     if (options.reportsPreparedLines) {
-        CUVDBOptionWrapper::SetParam(info, "PREPARED_BY", U8CString(preparedBy));
-        result = CUVDBOptionWrapper::SetParam(info, "PREPARED_LINES", FormatPreparedLines(sourceLines));
+        CUVDBOptionWrapper::SetParam(info, "PREPARED_BY", U8CString(parsed.preparedBy));
+        result =
+            CUVDBOptionWrapper::SetParam(info, "PREPARED_LINES", FormatPreparedLines(parsed.sourceLines));
     }
     if (options.reportsPreparationNotes)
-        result = std::min(
-            result, CUVDBOptionWrapper::SetParam(info, "PREPARATION_NOTES", FormatPreparationNotes(notes)));
+        result = std::min(result, CUVDBOptionWrapper::SetParam(info, "PREPARATION_NOTES",
+                                                               FormatPreparationNotes(parsed.notes)));
     return result;
 }
 
 int WriteErrorReports(const DatabaseInfoPointer& info, const SParseOptions& options, std::string_view text,
-                      const CSQLGrammarParserImplementation& found,
-                      const std::optional<SUnfinishedText>& unfinished)
+                      const SParseFindings& findings)
 {
     int result = UVDB_OK;
     if (options.reportsLostText)
         result = CUVDBOptionWrapper::SetParam(info, "LOST_TEXT",
-                                              FormatLostText(text, found.DiscardedStretches(), unfinished));
+                                              FormatLostText(text, findings.discarded, findings.unfinished));
     if (options.reportsUnexpectedTokens)
-        result = std::min(result,
-                          CUVDBOptionWrapper::SetParam(info, "UNEXPECTED_TOKENS",
-                                                       FormatUnexpectedTokens(text, found.m_lstUnexpected)));
+        result =
+            std::min(result, CUVDBOptionWrapper::SetParam(info, "UNEXPECTED_TOKENS",
+                                                          FormatUnexpectedTokens(text, findings.unexpected)));
     return result;
 }

@@ -14,19 +14,15 @@
 // The two on warnings add up over parses; the others are written anew.
 #pragma once
 
-#include "Grammar/UVGrammarLexer.h"
-#include "Grammar/UVGrammarParser.h"
 #include "Parser/ParseOptions.h"
+#include "Parser/ParsedText.h"
 #include "Preparation/Formatters/Asp.h"
-#include "Preparation/PreparedText.h"
+#include "UVEnvironment/UVEUnicodeString.h"
 
-#include <cstdint>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 class IUVDBDatabaseInfo2;
 class IUVDBObjectInfo;
@@ -45,8 +41,6 @@ void WriteScript(const DatabaseInfoPointer& info, const std::shared_ptr<IUVDBObj
 // The lists that `options` ask for.
 // Returns: as CUVDBOptionWrapper::SetParam; UVDB_OK for what nobody asked for.
 int WritePreparationReports(const DatabaseInfoPointer& info, const SParseOptions& options,
-                            const char* preparedBy, const std::vector<std::uint32_t>& sourceLines,
-                            const std::vector<SPreparationNote>& notes);
+                            const SParsedText& parsed);
 int WriteErrorReports(const DatabaseInfoPointer& info, const SParseOptions& options, std::string_view text,
-                      const CSQLGrammarParserImplementation& found,
-                      const std::optional<SUnfinishedText>& unfinished);
+                      const SParseFindings& findings);

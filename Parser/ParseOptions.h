@@ -81,7 +81,11 @@ struct SParseOptions
 
     // ---- What earlier calls have settled. No options, or not read here. ----
 
-    bool isPreprocessed = false; // PREPROCESSOR, by Init: C and C++ have no pass without it
+    bool comesPrepared = false;       // by Load: texts of a process for patterns have no preparation
+    bool isColoring = false;          // the mode, by Init: a coloring map is made
+    bool findsComments = false;       // likewise, of the comments alone
+    bool isPreprocessed = false;      // PREPROCESSOR, by Init: C and C++ have no pass without it
+    bool triesOtherQuoteRule = false; // OPTION_VARYING_PARSING, by set_DatabaseInfo
 };
 
 // Reads everything but what earlier calls have settled. An option that isn't there, or of a type that can't

@@ -2,37 +2,31 @@
 // options and a text from its host, and makes the result. What a host may call, and when, is told at the
 // interface.
 //
-// Its parts, each in a source of its own:
-//     UVParserObject        the object, what it owns
-//     UVParserDatabaseInfo  the options
-//     UVParserPipeline      the way from a text to its result
-//     UVParserFlatten       the flattening of the tree
-//     UVParserErrors        errors and statistics
+// The work is done elsewhere, on values:
+//     LoadedGrammar   the tables, scanner and parser
+//     ScannerOptions  the options that set_DatabaseInfo reads
+//     ParseOptions    the options of each parse
+//     ParsePipeline   the way from a text to its result
+//     ParseErrors     the error record
+//     ParseAnswers    the options that a parse writes
+// Here stand the operations (UVParserObject) and the flattening (UVParserFlatten).
 #pragma once
 
-#include "Grammar/UVGrammarLexer.h"
-#include "Grammar/UVGrammarParser.h"
-#include "Interfaces/DB_VERSION_INFO.h"
 #include "Interfaces/IUVDBSQLParser.h"
-#include "Parser/ParseResult.h"
-#include "Parser/UVParserGuard.h"
-#include "Preparation/PreparedText.h"
+#include "Parser/LoadedGrammar.h"
+#include "Parser/ParsePipeline.h"
+#include "Parser/ParsedText.h"
+#include "Parser/ScannerOptions.h"
 #include "Preparation/Preprocessor.h"
 #include "Stylesheets/Resources.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
-#include <cstdint>
 #include <map>
 #include <memory>
-#include <new>
-#include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
-struct SFormattedText;
-struct SParseOptions;
-
-class CUVDBSQLParser : public IUVDBSQLParser
+class CUVDBSQLParser final : public IUVDBSQLParser, private IParseOwner
 {
 public:
     // An object that isn't ready (Load missing, or Init after the last Load) answers UVDB_ERROR where it
@@ -93,106 +87,43 @@ public:
                                         unsigned long querySize) override;
     void CreateUVTranslatorCmdParameterList(std::string& commandLine, int querySize) override;
 
-protected:
-    // ---- Options ----
+private:
+    // ---- What the pipeline asks for ----
 
+    bool ReadOptions(SParseOptions& options, bool isNewText) override;
+    void TakeScript(const SParseOptions& options, const SAspPage& page) override;
+    void CountWarnings(const SParseOptions& options,
+                       const std::multimap<unsigned long, std::string>& tokens) override;
+    int Flatten(const SParseOptions& options, CParseResult& result) override;
+
+    // ---- The work of the operations ----
+
+    CParsePipeline Pipeline() { return {m_Grammar, m_Preprocessor.get(), m_Parsed, *this}; }
     int TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info);
-    void ReadParsingOptions();
-    // Returns: false for the kinds that leave no choice about quotes.
-    bool SelectQuoteRule(const DB_VERSION_INFO& version);
-    void TakeLanguage(const DB_VERSION_INFO& version);
-    void ReadPascalDefines();
-    void FillLexerOptions();
-    // Runs `write` on the scanner and on the coloring scanner: their fields follow the same options.
-    template <class Write>
-    void WriteLexers(Write&& write)
-    {
-        write(*m_Lexer);
-        write(m_ColoringLexer);
-    }
-    DB_VERSION_INFO GetVersion() const;
+    int WriteReports(const SParseOptions& options);
+    // An object that only prepares has no lists of errors.
+    int WriteErrorReports(const SParseOptions& options, const SParseFindings& findings);
 
-    // ---- The way of a text ----
-
-    // Reads `options` as soon as there is an info to read them from.
-    int ParseQuery(bool showErrors, SParseOptions& options);
-    SParseOptions ReadOptions() const;
-    int ExecuteParsing(const SParseOptions& options);
-    // Returns: UVDB_OK if there is a text to parse; UVDB_NO_DATA if not; UVDB_ERROR if a formatter failed.
-    int PrepareToParse(const SParseOptions& options);
-    void TakeFormatted(SFormattedText formatted, const SParseOptions& options);
-    // Returns: 0; the parser's own code if the grammar refuses the text; UVDB_ERROR for an exception.
-    int ExecuteParsingInternal(const SParseOptions& options);
-    int ExecuteParsingColoring(const SParseOptions& options);
-    void TryOtherQuoteRule(const SParseOptions& options);
-    int FlattenResult();
     void DefineStylesheets();
-    // Whether the flattener does the work of the stylesheet.
-    bool IsFlattenedNatively(const std::shared_ptr<IUVDBDatabaseInfo2>& info) const;
+    int FlattenResult(CParseResult& result, bool isStylesheetForced);
     // `declaration` saves the result a shift by the difference of the declarations; the stylesheet knows its
     // own one alone.
-    int Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                std::string_view declaration);
-    void replaceXmlHeader();
-    // The text itself as the result, for sources that no grammar reads.
-    int ExecuteEmbeddedParsing();
-    static bool IsPropertiesFile(const SParseOptions& options);
-    void GiveQueryToParser(const SParseOptions& options);
-    // Follows RESTART_POSITIONS.
-    void ForgetTexts(const SParseOptions& options);
-    int ReportErrors(const SParseOptions& options);
-
-    // ---- Errors ----
-
-    void SetLastError(long code, const char* description, const char* nativeInfo,
-                      std::multimap<unsigned long, std::string>* tokens);
-    // The number that the parser's message begins with: -1 without one, 0 if it doesn't begin with a number.
-    static int ExtractLineNumber(const std::string& errorMessage);
-    // `place` stays as it is if there is no such line.
-    static void GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place);
-
-    std::shared_ptr<CSQLGrammarLexer> m_Lexer;
-    std::shared_ptr<CSQLGrammarParser> m_Parser;
-    CSQLGrammarLexer m_ColoringLexer; // of the same grammar, without a parser
-    std::shared_ptr<IUVDBDatabaseInfo2> m_DatabaseInfo;
-    std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
-    std::shared_ptr<IUVDBErrorInfo> m_LastError;
-    Uve::U8CString m_Query; // rewritten in place by the preparation
-    CParseResult m_Result;
-    bool m_ColoringMode = false;
-    bool m_CommentMode = false;
-    std::shared_ptr<ILog> m_Log;
-    int m_ExtParserSize = 102400;
-    int m_ExtParserSizeCopy = 10240000;
-    bool m_TryOtherOpts = false;
-    bool m_ResourcesDefined = false;
-    bool m_PatternProcess = false; // texts come prepared, and the grammar is the one for patterns
-    std::shared_ptr<Preprocessor> m_Preprocessor;
-    std::vector<std::uint32_t> m_SourceLines; // of the prepared query; empty if no pass kept them
-    const char* m_PreparedBy = "";
-    std::optional<SUnfinishedText> m_Unfinished; // of the parse that stands
-    // Of the first attempt: the second one prepares a prepared text.
-    std::vector<SPreparationNote> m_PreparationNotes;
-    std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
-
-private:
-    class CSecondAttempt;
-
-    // GuardEdge, which remembers that memory was short.
-    template <class Operation>
-    int GuardMemory(Operation&& operation)
+    int FlattenText(Uve::U8CString& xml, bool isStylesheetForced, std::string_view declaration);
+    // Whether the flattener does the work of the stylesheet.
+    bool IsFlattenedNatively(bool isStylesheetForced) const
     {
-        return GuardEdge([&] {
-            try {
-                return operation();
-            } catch (const std::bad_alloc&) {
-                m_IsOutOfMemory = true;
-                throw;
-            }
-        });
+        return m_ResourcesDefined && !isStylesheetForced;
     }
 
-    bool m_IsOutOfMemory = false;   // in the running Parse
-    bool m_IsConnected = false;     // scanner and parser are linked: texts can be parsed
-    bool m_IsSecondAttempt = false; // the second attempt doesn't start a third
+    CLoadedGrammar m_Grammar;
+    std::shared_ptr<Preprocessor> m_Preprocessor;
+    std::shared_ptr<IUVDBDatabaseInfo2> m_DatabaseInfo;
+    std::shared_ptr<IUVDBObjectInfo> m_ConvertingObject;
+    std::shared_ptr<ILog> m_Log;
+    SScannerOptions m_ScannerOptions;
+    SParsedText m_Parsed; // what a host may ask for, also while it is being made
+    bool m_ColoringMode = false;
+    bool m_CommentMode = false;
+    bool m_ResourcesDefined = false;
+    std::unique_ptr<XsltResourceManager> m_XsltResources = std::make_unique<XsltResourceManager>();
 };

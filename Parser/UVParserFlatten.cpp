@@ -40,41 +40,46 @@ void CUVDBSQLParser::DefineStylesheets()
     m_ResourcesDefined = true;
 }
 
-bool CUVDBSQLParser::IsFlattenedNatively(const std::shared_ptr<IUVDBDatabaseInfo2>& info) const
+int CUVDBSQLParser::ExecuteTree2Serial()
 {
-    return m_ResourcesDefined && !IsStylesheetForced(info);
+    return FlattenResult(m_Parsed.findings.result, IsStylesheetForced(m_DatabaseInfo));
 }
 
-int CUVDBSQLParser::ExecuteTree2Serial()
+int CUVDBSQLParser::Flatten(const SParseOptions& options, CParseResult& result)
+{
+    return FlattenResult(result, options.isStylesheetForced);
+}
+
+int CUVDBSQLParser::FlattenResult(CParseResult& result, bool isStylesheetForced)
 {
     const auto start = std::chrono::steady_clock::now();
     CLogWrapper::WriteTraceF("\nExecuteTree2Serial: used internal execution");
-    const int result = GuardMemory([&]() -> int {
-        if (m_Result.IsEmpty())
+    const int code = GuardMemory(m_Parsed.isOutOfMemory, [&]() -> int {
+        if (result.IsEmpty())
             return UVDB_OK;
-        if (IsFlattenedNatively(m_DatabaseInfo) && m_Result.FlattenFragments(kXmlHeader))
+        if (IsFlattenedNatively(isStylesheetForced) && result.FlattenFragments(kXmlHeader))
             return UVDB_OK;
-        return Flatten(m_DatabaseInfo, m_Result.Text(), kXmlHeader);
+        return FlattenText(result.Text(), isStylesheetForced, kXmlHeader);
     });
     const auto elapsed = std::chrono::steady_clock::now() - start;
     CLogWrapper::WriteTraceF(
         "\nExecuteTree2Serial: elapsed %lld ms",
         static_cast<long long>(std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()));
-    replaceXmlHeader();
-    return result;
+    ReplaceXmlHeader(result.Text());
+    return code;
 }
 
 int CUVDBSQLParser::Tree2Serial(std::shared_ptr<IUVDBDatabaseInfo2> info, Uve::U8CString& xml)
 {
-    return GuardMemory([&] { return Flatten(info, xml, kXmlDeclaration); });
+    return GuardMemory(m_Parsed.isOutOfMemory,
+                       [&] { return FlattenText(xml, IsStylesheetForced(info), kXmlDeclaration); });
 }
 
-int CUVDBSQLParser::Flatten(const std::shared_ptr<IUVDBDatabaseInfo2>& info, Uve::U8CString& xml,
-                            std::string_view declaration)
+int CUVDBSQLParser::FlattenText(Uve::U8CString& xml, bool isStylesheetForced, std::string_view declaration)
 {
     std::string flattened;
     // Putting the stylesheet together takes longer than a small parse.
-    if (IsFlattenedNatively(info) && FlattenTree(xml, flattened, declaration)) {
+    if (IsFlattenedNatively(isStylesheetForced) && FlattenTree(xml, flattened, declaration)) {
         xml = std::move(flattened);
         return UVDB_OK;
     }

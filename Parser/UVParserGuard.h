@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 // Whether the exception that is being handled tells of short memory.
 bool IsMemoryShort() noexcept;
 
@@ -18,4 +20,18 @@ int GuardEdge(Operation&& operation)
     } catch (...) {
         return TraceCurrentException();
     }
+}
+
+// GuardEdge, which sets `isOutOfMemory` if memory was short.
+template <class Operation>
+int GuardMemory(bool& isOutOfMemory, Operation&& operation)
+{
+    return GuardEdge([&] {
+        try {
+            return operation();
+        } catch (const std::bad_alloc&) {
+            isOutOfMemory = true;
+            throw;
+        }
+    });
 }

@@ -3,6 +3,8 @@
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
 #include "Interfaces/UVDBResults.h"
+#include "Parser/ParseAnswers.h"
+#include "Parser/ParseErrors.h"
 #include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
@@ -10,12 +12,12 @@
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVECompat.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-// What yycreate answers when the stacks and buffers are there.
-constexpr int kConnected = 1;
+constexpr int kNoDatabaseInfo = 1;
 
 bool IsPatternProcess()
 {
@@ -30,24 +32,9 @@ int CUVDBSQLParser::Load(const char* parserName)
     if (parserName == nullptr)
         return UVDB_INVALID_ARGUMENT;
     const bool isPatternProcess = IsPatternProcess();
-    CLogWrapper::WriteTraceF("\nUVParser%s : Creation...", parserName);
-    auto lexer = std::make_shared<CSQLGrammarLexer>(parserName, isPatternProcess);
-    auto parser = std::make_shared<CSQLGrammarParser>(parserName, isPatternProcess);
-    auto preprocessor = std::make_shared<Preprocessor>();
-    // Only the coloring scanner's map is ever read.
-    lexer->set_ColoringWanted(false);
-    // The coloring scanner starts with the same flags as the new one, whatever was written to it for an
-    // earlier grammar.
-    CSQLGrammarLexerImplementation coloringExtension;
-    CLogWrapper::WriteTraceF("OK");
-
-    // The last step that can fail. From here on the object has the new grammar.
-    m_ColoringLexer.ShareTables(*lexer);
-    m_ColoringLexer.m_Extension = std::move(coloringExtension);
-    m_PatternProcess = isPatternProcess;
-    m_IsConnected = false;
-    m_Lexer = std::move(lexer);
-    m_Parser = std::move(parser);
+    auto preprocessor =
+        std::make_shared<Preprocessor>(); // first, since the grammar is the old or the new one
+    m_Grammar.Load(parserName, isPatternProcess);
     m_Preprocessor = std::move(preprocessor);
     return UVDB_OK;
 }
@@ -63,16 +50,13 @@ int CUVDBSQLParser::Init(const char* mode)
         m_CommentMode = false;
     }
     const bool isForPreparationOnly = IsPreparationOnly(m_DatabaseInfo);
-    if (!isForPreparationOnly && (!m_Lexer || !m_Parser)) {
+    if (!isForPreparationOnly && !m_Grammar.IsLoaded()) {
         CLogWrapper::WriteTraceF("\nFAILED: %s\n", "Init before Load");
         return UVDB_ERROR;
     }
     const int connected = GuardEdge([&] {
         // A connection that can't be made is no failure of Init: the parse that needs it fails.
-        m_IsConnected = false;
-        m_IsConnected = m_Lexer && m_Parser && m_Parser->yycreate(m_Lexer.get()) == kConnected &&
-                        m_Lexer->yycreate(m_Parser.get()) == kConnected &&
-                        m_ColoringLexer.yycreate() == kConnected;
+        m_Grammar.Connect();
         return UVDB_OK;
     });
     const int prepared = GuardEdge([&] {
@@ -83,6 +67,24 @@ int CUVDBSQLParser::Init(const char* mode)
         return UVDB_OK;
     });
     return connected != UVDB_OK ? connected : prepared;
+}
+
+int CUVDBSQLParser::set_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info)
+{
+    return GuardEdge([&] { return TakeDatabaseInfo(std::move(info)); });
+}
+
+int CUVDBSQLParser::TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info)
+{
+    m_DatabaseInfo = std::move(info);
+    if (!m_DatabaseInfo)
+        return kNoDatabaseInfo;
+    if (m_Grammar.IsLoaded())
+        return TakeScannerOptions(m_DatabaseInfo, m_Grammar, m_ScannerOptions);
+    if (IsPreparationOnly(m_DatabaseInfo))
+        return UVDB_OK;
+    CLogWrapper::WriteTraceF("\nFAILED: %s\n", "set_DatabaseInfo before Load");
+    return UVDB_ERROR;
 }
 
 int CUVDBSQLParser::get_DatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2>& out)
@@ -102,22 +104,99 @@ int CUVDBSQLParser::set_Log(std::shared_ptr<ILog> log)
 int CUVDBSQLParser::set_Query(const char* text)
 {
     return GuardEdge([&] {
-        CParseResult().swap(m_Result); // gives the memory of a large result back
+        CParseResult().swap(m_Parsed.findings.result); // gives the memory of a large result back
         if (text != nullptr)
-            m_Query = text;
+            m_Parsed.text = text;
         return UVDB_OK;
     });
 }
+
+// ---- A text ----
+
+int CUVDBSQLParser::Parse(bool showErrors)
+{
+    CParsePipeline pipeline = Pipeline();
+    const int result = pipeline.Parse(showErrors);
+    // A host that asked for the list takes a missing one for a clean parse.
+    const int reported = GuardEdge([&] { return WriteReports(pipeline.Options()); });
+    return result >= UVDB_OK && reported < UVDB_OK ? reported : result;
+}
+
+std::string CUVDBSQLParser::FastParse()
+{
+    CParsePipeline pipeline = Pipeline();
+    SParseFindings findings;
+    std::string tree = pipeline.FastParse(findings);
+    GuardEdge([&] { return WriteErrorReports(pipeline.Options(), findings); });
+    return tree;
+}
+
+void CUVDBSQLParser::TryParseWithOtherOpts(bool)
+{
+    Pipeline().TryParseWithOtherOpts();
+}
+
+bool CUVDBSQLParser::IsParseHasErrors()
+{
+    return m_Grammar.IsLoaded() && m_Grammar.Parser()->HasErrors();
+}
+
+void CUVDBSQLParser::SetLastError()
+{
+    ::SetLastError(m_Parsed, m_Grammar.IsLoaded() ? &m_Grammar.Found() : nullptr);
+}
+
+bool CUVDBSQLParser::ReadOptions(SParseOptions& options, bool isNewText)
+{
+    options = ReadParseOptions(m_DatabaseInfo, m_ConvertingObject);
+    if (isNewText && options.restartsPositions && m_Grammar.IsLoaded()) {
+        m_Grammar.ForgetTexts();
+        // the scanners' switches went with the texts
+        TakeDatabaseInfo(m_DatabaseInfo);
+    }
+    options.comesPrepared = m_Grammar.IsPatternVersion();
+    options.isColoring = m_ColoringMode;
+    options.findsComments = m_CommentMode;
+    options.isPreprocessed = m_Preprocessor && m_Preprocessor->IsEnabled();
+    options.triesOtherQuoteRule = m_ScannerOptions.triesOtherQuoteRule;
+    return m_DatabaseInfo != nullptr;
+}
+
+void CUVDBSQLParser::TakeScript(const SParseOptions& options, const SAspPage& page)
+{
+    WriteScript(m_DatabaseInfo, m_ConvertingObject, options.objectId, page);
+}
+
+void CUVDBSQLParser::CountWarnings(const SParseOptions& options,
+                                   const std::multimap<unsigned long, std::string>& tokens)
+{
+    UpdateWarningsInfo(m_DatabaseInfo, options.convertedObjectType, tokens);
+}
+
+int CUVDBSQLParser::WriteReports(const SParseOptions& options)
+{
+    const int prepared = WritePreparationReports(m_DatabaseInfo, options, m_Parsed);
+    return std::min(prepared, WriteErrorReports(options, m_Parsed.findings));
+}
+
+int CUVDBSQLParser::WriteErrorReports(const SParseOptions& options, const SParseFindings& findings)
+{
+    if (!m_Grammar.IsLoaded())
+        return UVDB_OK;
+    return ::WriteErrorReports(m_DatabaseInfo, options, m_Parsed.text, findings);
+}
+
+// ---- What became of it ----
 
 int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
 {
     return GuardEdge([&] {
         if (m_ColoringMode)
-            out = WrapInElement("Coloring", m_Result.Text());
+            out = WrapInElement("Coloring", m_Parsed.findings.result.Text());
         else if (IsResultHandedOver(m_DatabaseInfo))
-            out = std::exchange(m_Result.Text(), {});
+            out = std::exchange(m_Parsed.findings.result.Text(), {});
         else
-            out = m_Result.Text();
+            out = m_Parsed.findings.result.Text();
         return UVDB_OK;
     });
 }
@@ -125,7 +204,7 @@ int CUVDBSQLParser::get_SQLTree(Uve::U8CString& out)
 int CUVDBSQLParser::get_ColoringMap(Uve::U8CString& out)
 {
     return GuardEdge([&] {
-        out = m_Result.Text();
+        out = m_Parsed.findings.result.Text();
         return UVDB_OK;
     });
 }
@@ -149,21 +228,21 @@ std::shared_ptr<std::map<std::string, std::string>> CUVDBSQLParser::GetUndefines
 
 int CUVDBSQLParser::get_LastError(std::shared_ptr<IUVDBErrorInfo>& out)
 {
-    out = m_LastError;
+    out = m_Parsed.error;
     return UVDB_OK;
 }
 
 int CUVDBSQLParser::set_ParserDevelopmentMode(bool isOn)
 {
-    if (!m_Parser)
+    if (!m_Grammar.IsLoaded())
         return UVDB_ERROR;
-    m_Parser->m_Extension.set_DevelopmentMode(isOn);
+    m_Grammar.Found().set_DevelopmentMode(isOn);
     return UVDB_OK;
 }
 
 std::string CUVDBSQLParser::GetParsedXml()
 {
-    return static_cast<const std::string&>(m_Result.Text());
+    return static_cast<const std::string&>(m_Parsed.findings.result.Text());
 }
 
 void CUVDBSQLParser::CreateUVParserCmdParameterList(std::string&, bool, unsigned long) {}

@@ -1,3 +1,5 @@
+#include "Parser/ParseErrors.h"
+#include "Parser/ParsedText.h"
 #include "Tests/Parser/ParserFixture.h"
 
 namespace {
@@ -12,7 +14,7 @@ TEST(ParserErrors, LineNumberIsTheFirstPieceOfTheMessage)
         {"12 'select'", 12}, {"12", -1}, {"", -1}, {"word rest", 0}, {"7x y", 7}, {"-3 x", -3},
     };
     for (const auto& c : kCases)
-        EXPECT_EQ(CParserProbe::ExtractLineNumber(c.message), c.line) << c.message;
+        EXPECT_EQ(ExtractLineNumber(c.message), c.line) << c.message;
 }
 
 TEST(ParserErrors, PlaceQuotesTheLineWithItsNeighbours)
@@ -43,23 +45,24 @@ TEST(ParserErrors, PlaceQuotesTheLineWithItsNeighbours)
     for (const auto& c : kCases) {
         SCOPED_TRACE(testing::Message() << c.line << " of " << testing::PrintToString(c.text));
         std::string place = "before";
-        CParserProbe::GetErrorPlace(c.line, c.text, place);
+        GetErrorPlace(c.line, c.text, place);
         EXPECT_EQ(place, c.quoted ? "Code lines:\n<<<<\n" + std::string(c.quoted) + "\n>>>>\n" : "before");
     }
 }
 
-class ParserErrorRecords : public ParserTest
-{};
-
-TEST_F(ParserErrorRecords, RepeatedTokenStandsOnceInTheList)
+TEST(ParserErrors, RepeatedTokenStandsOnceInTheList)
 {
     std::multimap<unsigned long, std::string> tokens = {{1, "x"}, {2, "x"}, {2, "y"}};
-    m_Parser.SetLastError(3, "text", "native", &tokens);
-    EXPECT_EQ(LastDescription(), "text");
-    EXPECT_EQ(LastErrorList(), (std::map<std::string, int>{{"x", 1}, {"y", 1}}));
-    m_Parser.SetLastError(3, nullptr, nullptr, nullptr);
-    EXPECT_EQ(LastDescription(), "");
+    SParsedText parsed;
+    SetLastError(parsed, 3, "text", "native", &tokens);
+    EXPECT_EQ(DescriptionOf(parsed.error.get()), "text");
+    EXPECT_EQ(ErrorListOf(parsed.error.get()), (std::map<std::string, int>{{"x", 1}, {"y", 1}}));
+    SetLastError(parsed, 3, nullptr);
+    EXPECT_EQ(DescriptionOf(parsed.error.get()), "");
 }
+
+class ParserErrorRecords : public ParserTest
+{};
 
 TEST_F(ParserErrorRecords, FailedParseTellsMessagePlaceAndTokens)
 {

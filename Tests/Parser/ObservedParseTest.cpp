@@ -162,7 +162,7 @@ TEST_F(ObservedParse, OptionsAreReadOnce)
     Observe("print \"x\"; use \"y\";");
     for (const char* const option :
          {"PARSE_DIRECTIVES", "ORVA_CHILD", "CONVERTED_OBJECT_TYPE", "RESTART_POSITIONS", "PREPARE_ONLY",
-          "REPORT_PREPARED_LINES", "REPORT_UNEXPECTED_TOKENS"})
+          "TREE2SERIAL_STYLESHEET", "REPORT_PREPARED_LINES", "REPORT_UNEXPECTED_TOKENS"})
         EXPECT_EQ(m_Observed->m_Reads[option], 1) << option;
     // a language without a pass asks for none of theirs
     EXPECT_EQ(m_Observed->m_Reads.count("SOURCE_FORMS"), 0u);

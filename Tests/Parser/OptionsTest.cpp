@@ -1,3 +1,5 @@
+#include "Parser/LoadedGrammar.h"
+#include "Parser/ScannerOptions.h"
 #include "Parser/UVAssessorOption.h"
 #include "Tests/Parser/ParserFixture.h"
 #include "Tests/Support/ScratchFolder.h"
@@ -7,11 +9,28 @@
 
 namespace {
 
+// From the options of the database info to the scanners of a grammar.
 class ParserOptions : public ParserTest
 {
 protected:
-    const CSQLGrammarLexerImplementation& Scanner() { return m_Parser.m_Lexer->m_Extension; }
-    const CSQLGrammarLexerImplementation& ColoringScanner() { return m_Parser.m_ColoringLexer.m_Extension; }
+    void Load()
+    {
+        try {
+            m_Grammar.Load(kFixtureGrammar, false);
+        } catch (const Uve::U8CString& message) {
+            FAIL() << message;
+        }
+    }
+    int Take() { return TakeScannerOptions(m_Info, m_Grammar, m_Options); }
+
+    const CSQLGrammarLexerImplementation& Scanner() { return m_Grammar.Scanner().m_Extension; }
+    const CSQLGrammarLexerImplementation& ColoringScanner()
+    {
+        return m_Grammar.ColoringScanner().m_Extension;
+    }
+
+    CLoadedGrammar m_Grammar;
+    SScannerOptions m_Options;
 };
 
 struct SQuoteCase
@@ -58,11 +77,11 @@ TEST_F(ParserOptions, KindVersionAndOptionSettleTheQuoteRule)
         if (c.option)
             SetOption("ANSI_QUOTED_IDENTIFIERS", c.option);
         Load();
-        ASSERT_EQ(m_Parser.set_DatabaseInfo(m_Info), UVDB_OK);
+        ASSERT_EQ(Take(), UVDB_OK);
         EXPECT_EQ(Scanner().m_bMSSQLQID, c.isIdentifier);
         EXPECT_EQ(ColoringScanner().m_bMSSQLQID, c.isIdentifier);
-        EXPECT_EQ(m_Parser.m_Lexer->m_nDBVersionMajor, static_cast<int>(c.major));
-        EXPECT_EQ(m_Parser.m_Lexer->m_nDBVersionMinor, static_cast<int>(c.minor));
+        EXPECT_EQ(m_Grammar.Scanner().m_nDBVersionMajor, static_cast<int>(c.major));
+        EXPECT_EQ(m_Grammar.Scanner().m_nDBVersionMinor, static_cast<int>(c.minor));
     }
 }
 
@@ -73,8 +92,8 @@ TEST_F(ParserOptions, DirectivesBelongToTwoLanguages)
     for (const auto& [kind, hasDirectives] : kKinds) {
         SetDatabase(kind, 0);
         Load();
-        m_Parser.m_Lexer->m_Extension.m_bCppDirectiveParse = !hasDirectives;
-        m_Parser.set_DatabaseInfo(m_Info);
+        m_Grammar.Scanner().m_Extension.m_bCppDirectiveParse = !hasDirectives;
+        Take();
         EXPECT_EQ(Scanner().m_bCppDirectiveParse, hasDirectives) << kind;
     }
 }
@@ -86,10 +105,10 @@ TEST_F(ParserOptions, OptionsReachBothScanners)
     SetOption("PERCENT_AS_COMMENT", "1");
     SetOption("OPTION_VARYING_PARSING", "yes");
     SetOption("EXT_PARSER_SIZE", "77");
-    Start();
-    EXPECT_TRUE(m_Parser.m_TryOtherOpts);
-    EXPECT_EQ(m_Parser.m_ExtParserSize, 77);
-    EXPECT_EQ(m_Parser.m_ExtParserSizeCopy, 77);
+    Load();
+    EXPECT_EQ(Take(), UVDB_OK);
+    EXPECT_TRUE(m_Options.triesOtherQuoteRule);
+    EXPECT_EQ(m_Options.extParserSize, 77);
     for (const auto* scanner : {&Scanner(), &ColoringScanner()}) {
         EXPECT_EQ(scanner->m_strAPISourceDB, "ESQLC");
         EXPECT_EQ(scanner->m_strSrcUIType, "FORMS");
@@ -99,18 +118,18 @@ TEST_F(ParserOptions, OptionsReachBothScanners)
 
     SetOption("PERCENT_AS_COMMENT", "0");
     SetOption("PARSER_PR_4GL", "WIN");
-    m_Parser.set_DatabaseInfo(m_Info);
+    Take();
     EXPECT_EQ(Scanner().m_mapOptions.at("PERCENT_AS_COMMENT"), "1"); // the first value stays
     Load();
-    m_Parser.set_DatabaseInfo(m_Info);
+    Take();
     EXPECT_EQ(ColoringScanner().m_mapOptions.at("PERCENT_AS_COMMENT"), "0"); // until another Load
     EXPECT_TRUE(Scanner().m_bParserPR4GL);
     EXPECT_TRUE(ColoringScanner().m_bParserPR4GL);
 
     SetDatabase(UVDB_DB_COMMON); // another info, without a size
-    m_Parser.set_DatabaseInfo(m_Info);
-    EXPECT_EQ(m_Parser.m_ExtParserSize, 102400);
-    EXPECT_EQ(m_Parser.m_ExtParserSizeCopy, 102400);
+    Take();
+    EXPECT_FALSE(m_Options.triesOtherQuoteRule);
+    EXPECT_EQ(m_Options.extParserSize, 102400);
 }
 
 TEST_F(ParserOptions, UnknownStartStateLeavesTheLaterOptionsUnread)
@@ -119,19 +138,17 @@ TEST_F(ParserOptions, UnknownStartStateLeavesTheLaterOptionsUnread)
     SetOption("SRC_UI_TYPE", "FORMS");
     SetOption("ANSI_QUOTED_IDENTIFIERS", "0");
     Load();
-    m_Parser.m_Lexer->m_mapStartConditions.erase("SS_GENERAL");
-    EXPECT_EQ(m_Parser.set_DatabaseInfo(m_Info), UVDB_INVALID_ARGUMENT);
+    m_Grammar.Scanner().m_mapStartConditions.erase("SS_GENERAL");
+    EXPECT_EQ(Take(), UVDB_INVALID_ARGUMENT);
     EXPECT_EQ(Scanner().m_strAPISourceDB, "ESQLC");
     EXPECT_EQ(Scanner().m_strSrcUIType, "");
     EXPECT_TRUE(Scanner().m_bMSSQLQID);
-    // Hosts go on from here.
-    EXPECT_EQ(m_Parser.Init(""), UVDB_OK);
-    EXPECT_EQ(Parse("print 1;"), UVDB_OK);
 }
 
 TEST_F(ParserOptions, EmptyDatabaseInfoIsStoredAndTold)
 {
-    Start();
+    ParserTest::Load();
+    ASSERT_EQ(m_Parser.set_DatabaseInfo(m_Info), UVDB_OK);
     EXPECT_EQ(m_Parser.set_DatabaseInfo(nullptr), 1);
     std::shared_ptr<IUVDBDatabaseInfo2> info = m_Info;
     EXPECT_EQ(m_Parser.get_DatabaseInfo(info), UVDB_OK);
@@ -160,7 +177,7 @@ TEST_F(PascalDefines, AreWrittenOverTheFileAndAppendedInOrder)
     m_Folder.Write(m_File, "0123456789012345678901234");
     SetOption("DEFINES", "one;;two;\xC3\xA9");
     const std::size_t known = Scanner().m_lstDefines.size();
-    m_Parser.set_DatabaseInfo(m_Info);
+    Take();
 
     EXPECT_EQ(m_Folder.Read(m_File), "DEFINES=ONE;;TWO;\xC3\x89"
                                      "901234"); // what the new text doesn't reach stays
@@ -177,7 +194,7 @@ TEST_F(PascalDefines, AreLeftAloneWhereTheOptionSaysNo)
     SetOption("DEFINES", "one");
     SetOption("USE_DEFINES", "no");
     const std::size_t known = Scanner().m_lstDefines.size();
-    m_Parser.set_DatabaseInfo(m_Info);
+    Take();
     EXPECT_TRUE(Scanner().m_bIgnoreDefines);
     EXPECT_EQ(Scanner().m_lstDefines.size(), known);
     EXPECT_FALSE(std::filesystem::exists(m_File));
@@ -186,10 +203,11 @@ TEST_F(PascalDefines, AreLeftAloneWhereTheOptionSaysNo)
 TEST_F(ParserOptions, AssessorFlagFollowsTheOption)
 {
     SetOption("AssessorIsParent", true);
-    Start();
+    Load();
+    Take();
     EXPECT_TRUE(GetAssessorIsParentOpt());
     SetOption("AssessorIsParent", false); // then the parent's name decides, and it is no wizard
-    m_Parser.set_DatabaseInfo(m_Info);
+    Take();
     EXPECT_FALSE(GetAssessorIsParentOpt());
 }
 

@@ -1,4 +1,4 @@
-// A parser over the fixture grammar Basic, with its insides in reach, a database info and a log.
+// A parser over the fixture grammar Common, as a host has it, with a database info and a log.
 //
 // The grammar takes double-quoted text in `use` statements as an identifier and in `print` statements as a
 // string, so the first is clean under one rule for quoted identifiers and the second under the other.
@@ -12,42 +12,15 @@
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Parser/UVParser.h"
+#include "Tests/Parser/ErrorRecord.h"
 #include "Tests/Parser/TreeText.h"
 #include "Tests/Support/MemoryLog.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
-
-class CParserProbe : public CUVDBSQLParser
-{
-public:
-    using CUVDBSQLParser::ExtractLineNumber;
-    using CUVDBSQLParser::GetErrorPlace;
-    using CUVDBSQLParser::m_ColoringLexer;
-    using CUVDBSQLParser::m_ColoringMode;
-    using CUVDBSQLParser::m_CommentMode;
-    using CUVDBSQLParser::m_ExtParserSize;
-    using CUVDBSQLParser::m_ExtParserSizeCopy;
-    using CUVDBSQLParser::m_Lexer;
-    using CUVDBSQLParser::m_Parser;
-    using CUVDBSQLParser::m_PatternProcess;
-    using CUVDBSQLParser::m_TryOtherOpts;
-    using CUVDBSQLParser::m_Unfinished;
-    using CUVDBSQLParser::SetLastError;
-
-    int ExecuteTree2Serial() override
-    {
-        ++m_FlattenCount;
-        return m_Flatten ? m_Flatten() : CUVDBSQLParser::ExecuteTree2Serial();
-    }
-
-    int m_FlattenCount = 0;
-    std::function<int()> m_Flatten;
-};
 
 inline constexpr char kFixtureGrammar[] = "Common";
 
@@ -117,28 +90,18 @@ protected:
     {
         std::shared_ptr<IUVDBErrorInfo> error;
         m_Parser.get_LastError(error);
-        if (!error)
-            return "no record";
-        std::size_t length = 0;
-        error->get_Description(nullptr, 0, &length);
-        std::string description(length + 1, '\0');
-        error->get_Description(description.data(), description.size(), &length);
-        description.resize(length);
-        return description;
+        return DescriptionOf(error.get());
     }
 
     std::map<std::string, int> LastErrorList()
     {
         std::shared_ptr<IUVDBErrorInfo> error;
         m_Parser.get_LastError(error);
-        void* list = nullptr;
-        if (!error || error->get_ErrorList(&list) != UVDB_OK)
-            return {};
-        return *static_cast<std::map<std::string, int>*>(list);
+        return ErrorListOf(error.get());
     }
 
     CLogCapture m_Log;
     std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(
         MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
-    CParserProbe m_Parser;
+    CUVDBSQLParser m_Parser;
 };

@@ -1,5 +1,7 @@
+#include "Parser/ParseErrors.h"
+
+#include "Parser/ParsedText.h"
 #include "Parser/UVDBErrorInfo.h"
-#include "Parser/UVParser.h"
 #include "Parser/UVParserText.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEEncoding.h"
@@ -8,13 +10,8 @@
 #include <sstream>
 #include <utility>
 
-bool CUVDBSQLParser::IsParseHasErrors()
-{
-    return m_Parser && m_Parser->HasErrors();
-}
-
-void CUVDBSQLParser::SetLastError(long code, const char* description, const char* nativeInfo,
-                                  std::multimap<unsigned long, std::string>* tokens)
+void SetLastError(SParsedText& parsed, long code, const char* description, const char* nativeInfo,
+                  const std::multimap<unsigned long, std::string>* tokens)
 {
     auto error = std::make_shared<CUVDBErrorInfo>();
     error->Code = code;
@@ -25,30 +22,30 @@ void CUVDBSQLParser::SetLastError(long code, const char* description, const char
         for (const auto& [line, token] : *tokens)
             error->ErrorList.emplace(token, 1);
     }
-    m_LastError = std::move(error);
+    parsed.error = std::move(error);
 }
 
-void CUVDBSQLParser::SetLastError()
+void SetLastError(SParsedText& parsed, const CSQLGrammarParserImplementation* found)
 {
     std::string message;
     std::multimap<unsigned long, std::string> tokens;
-    if (m_Parser) {
-        message = m_Parser->m_Extension.m_strLastError;
-        for (const auto& [line, token] : m_Parser->m_Extension.m_mapErrors) {
+    if (found != nullptr) {
+        message = found->m_strLastError;
+        for (const auto& [line, token] : found->m_mapErrors) {
             std::string text;
             UVDB::UTF8Toisolat1(token, text);
             tokens.emplace(line, std::move(text));
         }
     }
     std::string place;
-    GetErrorPlace(static_cast<unsigned long>(ExtractLineNumber(message)), m_Query, place);
+    GetErrorPlace(static_cast<unsigned long>(ExtractLineNumber(message)), parsed.text, place);
     message += ' ';
     message += place;
-    SetLastError(0, message.c_str(), nullptr, &tokens);
+    SetLastError(parsed, 0, message.c_str(), nullptr, &tokens);
     CLogWrapper::WriteTraceF("\nFAILED: %s\n", message.c_str());
 }
 
-int CUVDBSQLParser::ExtractLineNumber(const std::string& errorMessage)
+int ExtractLineNumber(const std::string& errorMessage)
 {
     if (errorMessage.empty()) {
         CLogWrapper::WriteTraceF("\nUVParser: ExtractLineNumber(): errorMessage == Empty\n");
@@ -63,7 +60,7 @@ int CUVDBSQLParser::ExtractLineNumber(const std::string& errorMessage)
     return lineNumber;
 }
 
-void CUVDBSQLParser::GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place)
+void GetErrorPlace(unsigned long lineNumber, const std::string& text, std::string& place)
 {
     if (lineNumber == static_cast<unsigned long>(-1)) {
         CLogWrapper::WriteTraceF("\nUVParser: GetErrorPlace(): numLine == -1\n");
