@@ -103,6 +103,8 @@ int CParsePipeline::ParseText(bool showErrors)
     CLogWrapper::WriteTraceF("\nParsing...");
     m_Parsed.error = std::make_shared<CUVDBErrorInfo>();
     m_Parsed.notes.clear();
+    m_Parsed.sourceLines.clear();
+    m_Parsed.preparedBy = "";
     m_Parsed.findings.unexpected.clear();
     m_Parsed.findings.discarded.clear();
     m_Parsed.findings.unfinished.reset();

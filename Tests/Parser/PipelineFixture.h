@@ -30,7 +30,7 @@ protected:
     {
         m_NewTexts += isNewText;
         options = m_Options;
-        return m_HasInfo;
+        return true;
     }
     void TakeScript(const SParseOptions&, const SAspPage& page) override { m_Script = page.script; }
     void CountWarnings(const SParseOptions&, const std::multimap<unsigned long, std::string>& tokens) override
@@ -61,7 +61,6 @@ protected:
     CLoadedGrammar m_Grammar;
     SParseOptions m_Options;
     SParsedText m_Parsed;
-    bool m_HasInfo = true;
     std::function<int()> m_Flatten; // null: as the parser object does
     int m_NewTexts = 0;
     int m_FlattenCount = 0;

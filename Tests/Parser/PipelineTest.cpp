@@ -58,16 +58,21 @@ TEST_F(Pipeline, PassLeavesTextLinesAndNotes)
     EXPECT_EQ(m_Parsed.notes[0].text, "not prepared: COBOLFORMAT is not set");
 }
 
-TEST_F(Pipeline, NothingIsParsedWithoutAnInfoOrAConnection)
+// Not every text comes to its preparation.
+TEST_F(Pipeline, LinesAndPassAreNeverThoseOfAnEarlierText)
 {
-    m_HasInfo = false;
-    EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
-    EXPECT_EQ(Description(), "");
-    m_HasInfo = true;
-    m_Grammar.Load("Common", false);
-    EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
-    EXPECT_EQ(Description(), "Parse before Load and Init");
-    EXPECT_EQ(Result(), "");
+    m_Options.kind = UVDB_DB_FOXPRO_PROGRAMS;
+    for (const bool isProperties : {true, false}) {
+        m_Options.filePath = "";
+        m_Options.comesPrepared = false;
+        Parse("print ;\n 1;");
+        ASSERT_STREQ(m_Parsed.preparedBy, "FormatFoxProPrograms");
+        m_Options.filePath = isProperties ? "a.properties" : "";
+        m_Options.comesPrepared = !isProperties;
+        Parse("print 1;");
+        EXPECT_STREQ(m_Parsed.preparedBy, "");
+        EXPECT_TRUE(m_Parsed.sourceLines.empty());
+    }
 }
 
 TEST_F(Pipeline, TextsThatComePreparedStayAsTheyAre)
