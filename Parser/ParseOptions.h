@@ -94,7 +94,7 @@ struct SParseOptions
 SParseOptions ReadParseOptions(const std::shared_ptr<IUVDBDatabaseInfo2>& info,
                                const std::shared_ptr<IUVDBObjectInfo>& object);
 
-// Three of them are asked for outside of a parse as well, or there alone. False without an info.
+// Asked for outside of a parse as well; the last one there alone. False without an info.
 
 bool IsPreparationOnly(const std::shared_ptr<IUVDBDatabaseInfo2>& info);
 bool IsStylesheetForced(const std::shared_ptr<IUVDBDatabaseInfo2>& info);

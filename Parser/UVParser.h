@@ -98,7 +98,7 @@ private:
 
     // ---- The work of the operations ----
 
-    CParsePipeline Pipeline() { return {m_Grammar, m_Preprocessor.get(), m_Parsed, *this}; }
+    CParsePipeline MakePipeline() { return {m_Grammar, m_Preprocessor.get(), m_Parsed, *this}; }
     int TakeDatabaseInfo(std::shared_ptr<IUVDBDatabaseInfo2> info);
     int WriteReports(const SParseOptions& options);
     // An object that only prepares has no lists of errors.

@@ -115,7 +115,7 @@ int CUVDBSQLParser::set_Query(const char* text)
 
 int CUVDBSQLParser::Parse(bool showErrors)
 {
-    CParsePipeline pipeline = Pipeline();
+    CParsePipeline pipeline = MakePipeline();
     const int result = pipeline.Parse(showErrors);
     // A host that asked for the list takes a missing one for a clean parse.
     const int reported = GuardEdge([&] { return WriteReports(pipeline.Options()); });
@@ -124,7 +124,7 @@ int CUVDBSQLParser::Parse(bool showErrors)
 
 std::string CUVDBSQLParser::FastParse()
 {
-    CParsePipeline pipeline = Pipeline();
+    CParsePipeline pipeline = MakePipeline();
     SParseFindings findings;
     std::string tree = pipeline.FastParse(findings);
     GuardEdge([&] { return WriteErrorReports(pipeline.Options(), findings); });
@@ -133,7 +133,7 @@ std::string CUVDBSQLParser::FastParse()
 
 void CUVDBSQLParser::TryParseWithOtherOpts(bool)
 {
-    Pipeline().TryParseWithOtherOpts();
+    MakePipeline().TryParseWithOtherOpts();
 }
 
 bool CUVDBSQLParser::IsParseHasErrors()
