@@ -66,7 +66,7 @@ private:
 class ObservedParse : public ParserTest
 {
 protected:
-    ~ObservedParse() override { CLogWrapper::Init(m_Earlier); }
+    void TearDown() override { CLogWrapper::Init(m_Earlier); }
 
     void UseInfo(std::uint64_t kind)
     {

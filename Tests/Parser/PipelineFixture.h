@@ -53,7 +53,7 @@ protected:
         m_Parsed.text = text;
         return MakePipeline().Parse(false);
     }
-    std::string Result() { return m_Parsed.findings.result.Text(); }
+    std::string Result() { return static_cast<const std::string&>(m_Parsed.findings.result.Text()); }
     std::string Description() { return DescriptionOf(m_Parsed.error.get()); }
     bool IsQuotedIdentifier() { return m_Grammar.Scanner().m_Extension.m_bMSSQLQID; }
 
@@ -65,5 +65,5 @@ protected:
     int m_NewTexts = 0;
     int m_FlattenCount = 0;
     std::size_t m_Warnings = 0;
-    std::string m_Script;
+    Uve::U8CString m_Script;
 };
