@@ -14,6 +14,10 @@ endif()
 
 # Flags that all code of the project is compiled with.
 add_library(uv_flags INTERFACE)
+# A start pays for every pointer in the data and for every library that is linked: what nothing uses is left out of
+# what ships.
+target_compile_options(uv_flags INTERFACE "$<$<CONFIG:Release>:-ffunction-sections;-fdata-sections>")
+target_link_options(uv_flags INTERFACE "$<$<CONFIG:Release>:LINKER:--gc-sections;LINKER:--as-needed>")
 target_compile_options(uv_flags INTERFACE -Wall -Wextra -Wshadow -Wconversion -Wsign-conversion
                        -Wold-style-cast $<$<BOOL:${UV_WERROR}>:-Werror>)
 target_include_directories(uv_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/Libraries/Static)
