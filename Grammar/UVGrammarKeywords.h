@@ -40,6 +40,7 @@ enum class enGrammarKeyword
 };
 
 inline constexpr int kGrammarKeywordCount = static_cast<int>(enGrammarKeyword::Yytext) + 1;
+inline constexpr int kMostOperands = 5; // of a keyword
 
 // What an operand names, so that a grammar can be checked before it is used.
 //   t token, without its leading T     s start condition     p token of the parser that holds a start
@@ -48,7 +49,7 @@ inline constexpr int kGrammarKeywordCount = static_cast<int>(enGrammarKeyword::Y
 struct SGrammarKeyword
 {
     const char* name = "";
-    int operands = 0; // 0 to 5
+    int operands = 0; // up to kMostOperands
     enGrammarKeyword keyword = enGrammarKeyword::ActionByOption;
     bool isLexer = false;   // the scanner's interpreter executes it
     bool isParser = false;  // the parser's interpreter accepts it

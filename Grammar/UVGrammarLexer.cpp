@@ -26,23 +26,12 @@ constexpr int kDelphiNumber = 116;
 constexpr int kDelphiFormNumber = 117;
 constexpr int kUnknownNumber = 60;
 
-CActionsMap CopyActions(const CActionsMap& actions)
+// The interpreter of such an operation asks for nothing but the numbers that its operands came to.
+bool RunsWithoutTexts(enGrammarKeyword keyword)
 {
-    CActionsMap copy;
-    try {
-        for (const auto& [number, operations] : actions) {
-            COperationsMap*& target = copy[number];
-            target = new COperationsMap;
-            for (const auto& [key, operands] : *operations) {
-                auto*& added = (*target)[key];
-                added = operands ? new std::vector<std::string>(*operands) : nullptr;
-            }
-        }
-    } catch (...) {
-        FreeActionsMap(copy);
-        throw;
-    }
-    return copy;
+    using enum enGrammarKeyword;
+    return keyword == TokenAction || keyword == TokenActionE || keyword == CodeAction ||
+           keyword == SelecTokenByAPISourceDBVal || keyword == ColoringFunc || keyword == Yytext;
 }
 
 } // namespace
@@ -51,12 +40,7 @@ CSQLGrammarLexer::CSQLGrammarLexer() = default;
 
 CSQLGrammarLexer::CSQLGrammarLexer(const char* parserName, bool isPatternVersion)
 {
-    try {
-        yytables(parserName, isPatternVersion);
-    } catch (...) {
-        Cleanup();
-        throw;
-    }
+    yytables(parserName, isPatternVersion);
 }
 
 CSQLGrammarLexer::CSQLGrammarLexer(const boost::program_options::variables_map& parameters)
@@ -73,17 +57,14 @@ CSQLGrammarLexer::CSQLGrammarLexer(const boost::program_options::variables_map& 
     m_Extension.m_strSrcUIType = parameters["SRC_UI_TYPE"].as<std::string>();
 }
 
-CSQLGrammarLexer::~CSQLGrammarLexer()
-{
-    Cleanup();
-}
+CSQLGrammarLexer::~CSQLGrammarLexer() = default;
 
 void CSQLGrammarLexer::Cleanup()
 {
     m_lstOperations.clear();
     m_lstRules.clear();
     m_lstQuotedOperands.clear();
-    FreeActionsMap(m_mapActions);
+    m_lstOperands.clear();
 }
 
 void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
@@ -91,12 +72,11 @@ void CSQLGrammarLexer::yytables(const char* parserName, bool isPatternVersion)
     m_strParserName = parserName;
     m_bPatternVersion = isPatternVersion;
     const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Lexer");
-    SScannerFiles files;
-    ReadScannerFiles(directory, files);
-    ProveScannerFiles(directory, files);
-    m_mapActions.swap(files.actions);
-    m_mapStartConditions = std::move(files.startConditions);
-    yyset_tables(std::move(files.tables));
+    SLoadedScanner loaded = LoadScanner(directory);
+    Cleanup();
+    m_Actions = std::move(loaded.actions);
+    m_mapStartConditions = std::move(loaded.startConditions);
+    yyset_tables(std::move(loaded.tables));
     yy_text_initial_size = kInitialTextSize;
 }
 
@@ -105,12 +85,11 @@ void CSQLGrammarLexer::ShareTables(const CSQLGrammarLexer& other)
     // What can fail comes first: the lexer has one grammar or the other, never a part of it.
     std::string parserName = other.m_strParserName;
     auto startConditions = other.m_mapStartConditions;
-    CActionsMap actions = CopyActions(other.m_mapActions);
     Cleanup();
     m_strParserName.swap(parserName);
     m_bPatternVersion = other.m_bPatternVersion;
     m_mapStartConditions.swap(startConditions);
-    m_mapActions.swap(actions);
+    m_Actions = other.m_Actions;
     yyset_tables(other.m_spTables);
     yy_text_initial_size = other.yy_text_initial_size;
 }
@@ -191,8 +170,7 @@ void CSQLGrammarLexer::NoteEnd()
     const int firstRule = yy_end_of_buffer_action + 1;
     const int condition = yystart_condition();
     if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||
-        m_mapActions.lower_bound(firstRule) == m_mapActions.end() ||
-        m_mapActions.contains(firstRule + condition))
+        !m_Actions.HasFrom(firstRule) || m_Actions.Has(firstRule + condition))
         return;
     const auto name =
         std::ranges::find(m_mapStartConditions, condition, &std::pair<const std::string, int>::second);
@@ -282,8 +260,8 @@ int CSQLGrammarLexer::GetUVDBNumByParserName(const std::string& name)
     return number;
 }
 
-// The text form of the actions is what is loaded; what runs is this: one look-up by rule number, names
-// resolved against the parser that is linked.
+// What runs is not the records but this: one look-up by rule number, names resolved against the parser that is
+// linked.
 void CSQLGrammarLexer::CompileActions()
 {
     const bool isNew = m_lstOperations.empty(); // nothing has run since the actions were loaded
@@ -291,36 +269,51 @@ void CSQLGrammarLexer::CompileActions()
     m_lstRules.assign(static_cast<std::size_t>(yy_end_of_buffer_action) + 1, SRule());
     m_lstTokens.clear();
     m_mapTokens.clear();
-    for (auto& [number, operations] : m_mapActions) {
-        if (number < 0 || static_cast<std::size_t>(number) >= m_lstRules.size() || !operations)
+    auto operands = m_lstOperands.begin();
+    for (std::size_t record = 0; record < m_Actions.Count(); ++record) {
+        const auto& [number, first, count] = m_Actions.Record(record);
+        if (number < 0 || static_cast<std::size_t>(number) >= m_lstRules.size())
             continue; // no rule of the tables ever asks for it
         SRule& rule = m_lstRules[static_cast<std::size_t>(number)];
         rule.first = static_cast<std::uint32_t>(m_lstOperations.size());
-        for (auto& [key, operands] : *operations) {
-            const SGrammarKeyword* const keyword =
-                FindGrammarKeyword(std::string_view(key).substr(0, key.find('#')));
-            if (!keyword || !operands)
-                continue;
+        rule.count = count;
+        for (std::size_t index = first; index < std::size_t{first} + count; ++index) {
+            const CActionRecords::SOperation& stored = m_Actions.Operation(index);
             SOperation operation;
-            operation.keyword = keyword->keyword;
-            operation.operands = operands;
-            ResolveOperands(operation);
-            if (isNew && !operands->empty() && operands->front().starts_with('"'))
-                m_lstQuotedOperands.push_back({&operands->front(), operands->front()});
+            operation.keyword = stored.Keyword();
+            ResolveOperands(operation, stored);
+            if (!RunsWithoutTexts(operation.keyword)) {
+                if (isNew)
+                    operands = AddOperands(stored);
+                operation.operands = &*operands++;
+            }
             m_lstOperations.push_back(operation);
         }
-        rule.count = static_cast<std::uint32_t>(m_lstOperations.size()) - rule.first;
     }
 }
 
-void CSQLGrammarLexer::ResolveOperands(SOperation& operation)
+// Returns: where they are.
+std::deque<std::vector<std::string>>::iterator
+CSQLGrammarLexer::AddOperands(const CActionRecords::SOperation& record)
 {
-    const std::vector<std::string>& operands = *operation.operands;
+    std::vector<std::string>& operands = m_lstOperands.emplace_back();
+    for (int index = 0; index < GetGrammarKeyword(record.Keyword()).operands; ++index)
+        operands.emplace_back(m_Actions.Operand(record, static_cast<std::size_t>(index)));
+    if (!operands.empty() && operands.front().starts_with('"'))
+        m_lstQuotedOperands.push_back({&operands.front(), operands.front()});
+    return m_lstOperands.end() - 1;
+}
+
+void CSQLGrammarLexer::ResolveOperands(SOperation& operation, const CActionRecords::SOperation& record)
+{
+    std::array<std::string_view, kMostOperands> operands;
     const char* const roles = GetGrammarKeyword(operation.keyword).roles;
-    for (std::size_t index = 0; index < operands.size(); ++index)
+    for (std::size_t index = 0; roles[index] != '\0'; ++index) {
+        operands[index] = m_Actions.Operand(record, index);
         if (roles[index] == 'n')
             std::from_chars(operands[index].data(), operands[index].data() + operands[index].size(),
                             operation.number);
+    }
     switch (operation.keyword) {
     case enGrammarKeyword::TokenAction:
     case enGrammarKeyword::TokenActionE:
@@ -338,29 +331,29 @@ void CSQLGrammarLexer::ResolveOperands(SOperation& operation)
         break;
     case enGrammarKeyword::ActionByOption:
         operation.tokens = {CompileToken(operands[2]), CompileToken(operands[4])};
-        operation.states = {ResolveBegin(operands[2]), ResolveBegin(operands[4])};
+        operation.states = {ResolveBegin(std::string(operands[2])), ResolveBegin(std::string(operands[4]))};
         break;
     case enGrammarKeyword::Begin:
-        operation.states[0] = ResolveBegin(operands[0]);
+        operation.states[0] = ResolveBegin(std::string(operands[0]));
         break;
     case enGrammarKeyword::ConditionalBegin:
-        operation.states = {ResolveBegin(operands[1]), ResolveBegin(operands[2])};
+        operation.states = {ResolveBegin(std::string(operands[1])), ResolveBegin(std::string(operands[2]))};
         break;
     case enGrammarKeyword::GetFirstIfCppDirectiveParseOn:
     case enGrammarKeyword::PatternsAction:
-        operation.states = {ResolveNamed(operands[0]), ResolveNamed(operands[1])};
+        operation.states = {ResolveNamed(std::string(operands[0])), ResolveNamed(std::string(operands[1]))};
         break;
     case enGrammarKeyword::PatternAction:
-        operation.states[0] = ResolveNamed(operands[1]);
+        operation.states[0] = ResolveNamed(std::string(operands[1]));
         break;
     default:
         break;
     }
 }
 
-std::uint32_t CSQLGrammarLexer::CompileToken(const std::string& name)
+std::uint32_t CSQLGrammarLexer::CompileToken(std::string_view name)
 {
-    const std::string fullName = "T" + name;
+    const std::string fullName = std::string("T").append(name);
     const auto [entry, isNew] = m_mapTokens.emplace(fullName, static_cast<std::uint32_t>(m_lstTokens.size()));
     if (isNew) {
         SToken token;

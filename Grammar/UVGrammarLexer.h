@@ -3,11 +3,12 @@
 #include "Grammar/ParserNode.h"
 #include "Grammar/Runtime/yyBisonParser.h"
 #include "Grammar/Runtime/yyFlexLexer.h"
-#include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarActionRecords.h"
 #include "Grammar/UVGrammarLexerImplementation.h"
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <map>
 #include <optional>
 #include <string>
@@ -58,8 +59,8 @@ public:
     // below Grammar.CR.
     // Throws: Uve::U8CString with the line for the log if a file is missing, damaged or can't be proved.
     void yytables(const char* parserName, bool isPatternVersion);
-    // Takes the grammar of another lexer, its name included; its own is released. The tables are shared, the
-    // actions copied.
+    // Takes the grammar of another lexer, its name included; its own is released. Both share what
+    // the files said.
     // Throws: std::bad_alloc; the grammar is the earlier one then.
     void ShareTables(const CSQLGrammarLexer& other);
 
@@ -160,7 +161,6 @@ public:
     bool m_bPatternVersion = false;
     int m_nDBVersionMajor = 0; // of the database that the texts are for
     int m_nDBVersionMinor = 0;
-    CActionsMap m_mapActions;
 
 private:
     // A token's name with what it stands for, found out once.
@@ -180,7 +180,7 @@ private:
     struct SOperation
     {
         enGrammarKeyword keyword = enGrammarKeyword::TextAction;
-        std::vector<std::string>* operands = nullptr; // owned by m_mapActions
+        std::vector<std::string>* operands = nullptr; // in m_lstOperands
         std::array<std::uint32_t, 2> tokens{};        // into m_lstTokens
         std::array<int, 2> states{kByName, kByName};  // start conditions
         int number = 0;                               // the operand that is one
@@ -201,8 +201,9 @@ private:
 
     void Cleanup();
     void CompileActions();
-    void ResolveOperands(SOperation& operation);
-    std::uint32_t CompileToken(const std::string& name);
+    std::deque<std::vector<std::string>>::iterator AddOperands(const CActionRecords::SOperation& record);
+    void ResolveOperands(SOperation& operation, const CActionRecords::SOperation& record);
+    std::uint32_t CompileToken(std::string_view name);
     void FindEofRules();
     bool IsEndOfText(int act);
     void NoteEnd();
@@ -265,10 +266,13 @@ private:
     // An operand that loses its quotes when its operation runs, as it was loaded.
     struct SQuotedOperand
     {
-        std::string* stored = nullptr; // owned by m_mapActions
+        std::string* stored = nullptr; // in m_lstOperands
         std::string loaded;
     };
 
+    CActionRecords m_Actions; // as they were loaded
+    // The operands that are read as texts when their operation runs, in the order of the operations.
+    std::deque<std::vector<std::string>> m_lstOperands;
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
     std::vector<SQuotedOperand> m_lstQuotedOperands;

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kRootName = "SQL";
 constexpr std::size_t kInitialDepth = 200;
 
-int ToNumber(const std::string& text)
+int ToNumber(std::string_view text)
 {
     int number = 0;
     std::from_chars(text.data(), text.data() + text.size(), number);
@@ -27,12 +27,7 @@ CSQLGrammarParser::CSQLGrammarParser() = default;
 
 CSQLGrammarParser::CSQLGrammarParser(const char* parserName, bool isPatternVersion)
 {
-    try {
-        yytables(parserName, isPatternVersion);
-    } catch (...) {
-        CleanUp();
-        throw;
-    }
+    yytables(parserName, isPatternVersion);
 }
 
 CSQLGrammarParser::CSQLGrammarParser(const boost::program_options::variables_map& parameters)
@@ -43,13 +38,7 @@ CSQLGrammarParser::CSQLGrammarParser(const boost::program_options::variables_map
 
 CSQLGrammarParser::~CSQLGrammarParser()
 {
-    CleanUp();
     yydestroy();
-}
-
-void CSQLGrammarParser::CleanUp()
-{
-    FreeActionsMap(m_mapActions);
 }
 
 void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
@@ -57,51 +46,48 @@ void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
     m_strParserName = parserName;
     m_bPatternVersion = isPatternVersion;
     const std::string directory = ComposeGrammarDirectory(m_strParserName, m_bPatternVersion, "Parser");
-    SParserFiles files;
-    ReadParserFiles(directory, files);
-    ProveParserFiles(directory, files);
-    m_mapActions.swap(files.actions);
-    m_mapDefines = std::move(files.tokens);
-    yyset_tables(std::move(files.tables));
+    SLoadedParser loaded = LoadParser(directory);
+    m_Actions = std::move(loaded.actions);
+    m_mapDefines = std::move(loaded.tokens);
+    yyset_tables(std::move(loaded.tables));
     CompileActions();
     yyinitdepth = kInitialDepth;
     yymaxdepth = 0;
 }
 
-// The text form of the actions is what is loaded; what runs is this: one look-up by rule number, names
-// resolved.
+// What runs is not the records but this: one look-up by rule number, names resolved.
 void CSQLGrammarParser::CompileActions()
 {
     const std::size_t rules = m_spTables->Rules();
     m_lstOperations.clear();
+    m_lstStartConditions.clear();
     m_lstRules.assign(rules, SRule());
     m_nRootElement = m_Fragments.Names().Intern(kRootName);
-    for (const auto& [number, operations] : m_mapActions) {
-        if (number < 0 || static_cast<std::size_t>(number) >= rules || !operations)
+    for (std::size_t record = 0; record < m_Actions.Count(); ++record) {
+        const auto& [number, first, count] = m_Actions.Record(record);
+        if (number < 0 || static_cast<std::size_t>(number) >= rules)
             continue; // no rule of the tables ever asks for it
         SRule& rule = m_lstRules[static_cast<std::size_t>(number)];
         rule.first = static_cast<std::uint32_t>(m_lstOperations.size());
         rule.isKnown = true;
-        for (const auto& [key, operands] : *operations) {
-            const SGrammarKeyword* const keyword =
-                FindGrammarKeyword(std::string_view(key).substr(0, key.find('#')));
-            if (!keyword || !operands)
-                continue;
+        for (std::size_t index = first; index < std::size_t{first} + count; ++index) {
+            const CActionRecords::SOperation& stored = m_Actions.Operation(index);
+            const auto operand = [&](std::size_t at) { return m_Actions.Operand(stored, at); };
             SOperation operation;
-            operation.keyword = keyword->keyword;
-            switch (keyword->keyword) {
+            operation.keyword = stored.Keyword();
+            switch (operation.keyword) {
             case enGrammarKeyword::CreateNodeWithError:
-                operation.errorIndex = ToNumber((*operands)[2]);
+                operation.errorIndex = ToNumber(operand(2));
                 [[fallthrough]];
             case enGrammarKeyword::CreateNode:
-                operation.childCount = ToNumber((*operands)[1]);
+                operation.childCount = ToNumber(operand(1));
                 [[fallthrough]];
             case enGrammarKeyword::Empty:
-                operation.element = m_Fragments.Names().Intern((*operands)[0]);
-                operation.isRoot = (*operands)[0] == kRootName;
+                operation.element = m_Fragments.Names().Intern(std::string(operand(0)));
+                operation.isRoot = operand(0) == kRootName;
                 break;
             case enGrammarKeyword::YylexerptrYybegin:
-                operation.startCondition = &(*operands)[0];
+                operation.startCondition = &m_lstStartConditions.emplace_back(operand(0));
                 break;
             default:
                 continue; // loaded and ignored

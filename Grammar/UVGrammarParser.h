@@ -3,11 +3,12 @@
 #include "Grammar/ParserNode.h"
 #include "Grammar/Runtime/yyBisonParser.h"
 #include "Grammar/Runtime/yyFlexLexer.h"
-#include "Grammar/UVGrammarKeeper.h"
+#include "Grammar/UVGrammarActionRecords.h"
 #include "Grammar/UVGrammarParserImplementation.h"
 #include "Tree/FragmentTree.h"
 #include "UVEnvironment/LogSystem.h"
 
+#include <deque>
 #include <map>
 #include <string>
 #include <vector>
@@ -107,7 +108,6 @@ public:
     CSQLGrammarParserImplementation m_Extension;
     yyFlexLexer* yylexerptr = nullptr;       // borrowed
     std::map<std::string, int> m_mapDefines; // token name to number; the scanner reads it too
-    CActionsMap m_mapActions;
     std::string m_strParserName;
     bool m_bPatternVersion = false;
 
@@ -120,7 +120,7 @@ private:
         std::uint32_t element = 0; // node name
         int childCount = 0;
         int errorIndex = -1;
-        const std::string* startCondition = nullptr; // owned by m_mapActions
+        const std::string* startCondition = nullptr; // in m_lstStartConditions
     };
     struct SRule
     {
@@ -135,7 +135,6 @@ private:
         int lastChildErrorPos = -1; // where text begins that the error symbol stands for
     };
 
-    void CleanUp();
     void RunActions(const SRule& actions);
     static void TraceEmptyAction(int rule);
     void CompileActions();
@@ -157,6 +156,8 @@ private:
         SpliceFragments(m_Fragments, node.m_pFirst, node.m_pLast, fragment, fragment);
     }
 
+    CActionRecords m_Actions; // as they were loaded
+    std::deque<std::string> m_lstStartConditions;
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
     CFragmentPool m_Fragments;

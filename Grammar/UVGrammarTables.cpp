@@ -1,11 +1,14 @@
 #include "Grammar/UVGrammarTables.h"
 
 #include "Grammar/UVGrammarActionChecks.h"
+#include "Grammar/UVGrammarCache.h"
 #include "Grammar/UVGrammarManifest.h"
 #include "Grammar/UVGrammarTextChecks.h"
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -20,6 +23,59 @@ bool ReadTokensBeside(const std::string& scannerDirectory, std::map<std::string,
         return false;
     UVDBGrammarKeeper::CreateDefinesMap(GetDatFile(directory, directory, "defines.dat"), tokens);
     return true;
+}
+
+// What the tables of a part come from, seen from its folder.
+constexpr const char* kScannerFiles[] = {
+    "../manifest.txt", "../Parser/defines.dat",
+    "actions.dat",     "defines.dat",
+    "accept.dat",      "base.dat",
+    "chk.dat",         "def.dat",
+    "NUL_trans.dat",   "nxt.dat",
+    "acclist.dat",     "rule_can_match_eol.dat",
+};
+constexpr const char* kParserFiles[] = {
+    "../manifest.txt", "actions.dat", "defines.dat", "const.dat", "pact.dat", "defact.dat", "pgoto.dat",
+    "defgoto.dat",     "table.dat",   "check.dat",   "stos.dat",  "r1.dat",   "r2.dat",     "translate.dat",
+};
+
+// The names are kept as the text that they were read from.
+bool ReadKept(const CTableCache& cache, SLoadedScanner& loaded)
+{
+    std::optional<CTableImageReader> image = cache.Find();
+    const auto tables = std::make_shared<CScannerTables>();
+    std::string conditions;
+    if (!image || !tables->ReadFrom(*image) || !loaded.actions.ReadFrom(*image) ||
+        !image->TakeText(conditions) || !image->AtEnd())
+        return false;
+    UVDBGrammarKeeper::CreateDefinesMap(conditions, loaded.startConditions);
+    loaded.tables = tables;
+    return true;
+}
+
+bool ReadKept(const CTableCache& cache, SLoadedParser& loaded)
+{
+    std::optional<CTableImageReader> image = cache.Find();
+    const auto tables = std::make_shared<CParserTables>();
+    std::string tokens;
+    if (!image || !tables->ReadFrom(*image) || !loaded.actions.ReadFrom(*image) || !image->TakeText(tokens) ||
+        !image->AtEnd())
+        return false;
+    UVDBGrammarKeeper::CreateDefinesMap(tokens, loaded.tokens);
+    loaded.tables = tables;
+    return true;
+}
+
+template <class Loaded>
+void Keep(const CTableCache& cache, const Loaded& loaded, const std::string& names)
+{
+    if (cache.IsOff())
+        return;
+    CTableImageWriter image;
+    loaded.tables->WriteTo(image);
+    loaded.actions.WriteTo(image);
+    image.AddText(names);
+    cache.Keep(image);
 }
 
 } // namespace
@@ -88,4 +144,32 @@ void ProveParserFiles(const std::string& directory, const SParserFiles& files)
     files.tables->Validate(directory);
     CheckTokenNumbers(directory, files.tokens, *files.tables);
     CheckParserActions(directory, files.actions, *files.tables);
+}
+
+SLoadedScanner LoadScanner(const std::string& directory)
+{
+    const CTableCache cache(directory, kScannerFiles);
+    SLoadedScanner loaded;
+    if (ReadKept(cache, loaded))
+        return loaded;
+    SScannerFiles files;
+    ReadScannerFiles(directory, files);
+    ProveScannerFiles(directory, files);
+    loaded = {CActionRecords(files.actions), std::move(files.startConditions), std::move(files.tables)};
+    Keep(cache, loaded, files.conditionText);
+    return loaded;
+}
+
+SLoadedParser LoadParser(const std::string& directory)
+{
+    const CTableCache cache(directory, kParserFiles);
+    SLoadedParser loaded;
+    if (ReadKept(cache, loaded))
+        return loaded;
+    SParserFiles files;
+    ReadParserFiles(directory, files);
+    ProveParserFiles(directory, files);
+    loaded = {CActionRecords(files.actions), std::move(files.tokens), std::move(files.tables)};
+    Keep(cache, loaded, files.tokenText);
+    return loaded;
 }

@@ -4,6 +4,7 @@
 
 #include "Grammar/Runtime/ParserTables.h"
 #include "Grammar/Runtime/ScannerTables.h"
+#include "Grammar/UVGrammarActionRecords.h"
 #include "Grammar/UVGrammarKeeper.h"
 
 #include <map>
@@ -51,3 +52,24 @@ void ReadParserFiles(const std::string& directory, SParserFiles& files);
 // Throws: Uve::U8CString with the line for the log, which names the file and what is wrong with it.
 void ProveScannerFiles(const std::string& directory, SScannerFiles& files);
 void ProveParserFiles(const std::string& directory, const SParserFiles& files);
+
+// A scanner ready to run.
+struct SLoadedScanner
+{
+    CActionRecords actions;
+    std::map<std::string, int> startConditions;
+    std::shared_ptr<const CScannerTables> tables;
+};
+
+// A parser ready to run.
+struct SLoadedParser
+{
+    CActionRecords actions;
+    std::map<std::string, int> tokens;
+    std::shared_ptr<const CParserTables> tables;
+};
+
+// Read and prove a part's folder, or take what CTableCache kept of it.
+// Throws: as reading and proving.
+SLoadedScanner LoadScanner(const std::string& directory);
+SLoadedParser LoadParser(const std::string& directory);

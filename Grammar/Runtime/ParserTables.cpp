@@ -137,6 +137,28 @@ void CParserTables::Validate(const std::string& directory) const
                "the end of a text doesn't lead to the accepting state " + std::to_string(final_));
 }
 
+void CParserTables::WriteTo(CTableImageWriter& image) const
+{
+    for (const int constant : {final_, ntokens, maxutok, base_ninf})
+        image.AddNumber(constant);
+    for (const STable<int>* const values : {&pact, &pgoto, &defgoto, &table, &check})
+        image.Add(*values);
+    for (const STable<unsigned>* const values : {&defact, &stos, &r1, &r2, &translate})
+        image.Add(*values);
+}
+
+bool CParserTables::ReadFrom(CTableImageReader& image)
+{
+    bool isRead = true;
+    for (int* const constant : {&final_, &ntokens, &maxutok, &base_ninf})
+        isRead = isRead && image.TakeNumber(*constant);
+    for (STable<int>* const values : {&pact, &pgoto, &defgoto, &table, &check})
+        isRead = isRead && image.Take(*values);
+    for (STable<unsigned>* const values : {&defact, &stos, &r1, &r2, &translate})
+        isRead = isRead && image.Take(*values);
+    return isRead;
+}
+
 int CParserTables::RowAction(std::size_t state, int terminal) const
 {
     const int slot = pact[state] + terminal;

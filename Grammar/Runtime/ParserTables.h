@@ -23,6 +23,11 @@ public:
     //         wrong.
     void Validate(const std::string& directory) const;
 
+    void WriteTo(CTableImageWriter& image) const;
+    // Returns: false if the image holds something else; the tables are of no use then. What it holds isn't
+    //          proved.
+    [[nodiscard]] bool ReadFrom(CTableImageReader& image);
+
     // Both for valid tables. What a whole text is reduced to: after it the end leads to the accepting state.
     // Returns: the symbol's number, -1 if there is none.
     int StartSymbol() const;

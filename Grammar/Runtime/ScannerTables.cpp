@@ -134,7 +134,7 @@ void CScannerTables::ResolveRows(const std::string& directory)
 {
     const std::size_t states = base.count;
     const int lastNext = LastState() + 1;
-    m_next.assign(states << m_classBits, 0);
+    std::vector<std::uint16_t> rows(states << m_classBits, kUnset);
     enum : std::uint8_t
     {
         New,
@@ -153,9 +153,9 @@ void CScannerTables::ResolveRows(const std::string& directory)
                             "the defaults of state " + std::to_string(first) + " run in a circle");
             mark[index] = Open;
             chain.push_back(state);
-            std::uint16_t* const row = &m_next[index << m_classBits];
-            const int* const check = &chk.values[static_cast<std::size_t>(base[index])];
-            const int* const next = &nxt.values[static_cast<std::size_t>(base[index])];
+            std::uint16_t* const row = &rows[index << m_classBits];
+            const int* const check = chk.values.get() + base[index];
+            const int* const next = nxt.values.get() + base[index];
             std::size_t own = 0;
             for (std::size_t column = 0; column < m_leaders.size(); ++column) {
                 const std::uint8_t byte = m_leaders[column];
@@ -181,14 +181,14 @@ void CScannerTables::ResolveRows(const std::string& directory)
         // and down again, each row completed by its default's
         for (; !chain.empty(); chain.pop_back()) {
             const auto index = static_cast<std::size_t>(chain.back());
-            std::uint16_t* const row = &m_next[index << m_classBits];
-            const std::uint16_t* const fallback =
-                &m_next[static_cast<std::size_t>(def[index]) << m_classBits];
+            std::uint16_t* const row = &rows[index << m_classBits];
+            const std::uint16_t* const fallback = &rows[static_cast<std::size_t>(def[index]) << m_classBits];
             for (std::size_t column = 0; column < m_leaders.size(); ++column)
                 row[column] = row[column] == kUnset ? fallback[column] : row[column];
             mark[index] = Done;
         }
     }
+    m_next = STable<std::uint16_t>(std::move(rows));
 }
 
 // A scanner that backs up finds a rule at the latest after the first byte: the generator adds one for any
@@ -262,14 +262,66 @@ void CScannerTables::Compile(const std::string& directory, int startConditions)
     CheckEndOfBuffer(directory);
     // the states after the last one have lent their rows to others, and nothing leads to them
     const std::size_t states = static_cast<std::size_t>(LastState()) + 2;
-    m_next.resize(states << m_classBits);
-    m_isJam.assign(states, 0);
+    m_next.count = states << m_classBits;
+    std::vector<std::uint8_t> isJam(states);
     for (std::size_t state = 1; state < states; ++state)
-        m_isJam[state] = base[state] == base[states - 1];
+        isJam[state] = base[state] == base[states - 1];
+    m_isJam = STable<std::uint8_t>(std::move(isJam));
+}
+
+void CScannerTables::WriteTo(CTableImageWriter& image) const
+{
+    image.AddNumber(m_nStartConditions);
+    image.AddNumber(m_classBits);
+    image.AddText({reinterpret_cast<const char*>(m_classOf.data()), m_classOf.size()});
+    image.Add(m_next);
+    image.Add(m_isJam);
+    for (const STable<int>* const table : {&accept, &base, &NUL_trans, &rule_can_match_eol, &acclist})
+        image.Add(*table);
+}
+
+bool CScannerTables::ReadFrom(CTableImageReader& image)
+{
+    STable<std::uint8_t> classes;
+    bool isRead = image.TakeNumber(m_nStartConditions) && image.TakeNumber(m_classBits) &&
+                  image.Take(classes) && image.Take(m_next) && image.Take(m_isJam);
+    for (STable<int>* const table : {&accept, &base, &NUL_trans, &rule_can_match_eol, &acclist})
+        isRead = isRead && image.Take(*table);
+    if (!isRead || classes.count != m_classOf.size())
+        return false;
+    std::copy_n(classes.values.get(), classes.count, m_classOf.begin());
+    return IsWithinBounds();
+}
+
+// Nothing that the walk forms leaves the tables.
+bool CScannerTables::IsWithinBounds() const
+{
+    constexpr unsigned kMostClassBits = 8;
+    if (accept.count < 5 || accept.count > kMostStates || m_classBits > kMostClassBits ||
+        m_nStartConditions < 1 || m_nStartConditions > LastState() / 2)
+        return false;
+    const auto states = static_cast<std::size_t>(LastState()) + 2;
+    if (m_next.count != states << m_classBits || m_isJam.count != states || base.count < states ||
+        NUL_trans.count < states - 1 || rule_can_match_eol.count > kMostRules)
+        return false;
+    // a largest value is found many at a time; a negative number is too large
+    const auto isBelow = [](std::size_t end, const auto* values, std::size_t count) {
+        auto largest = *values;
+        for (std::size_t i = 1; i < count; ++i)
+            largest = std::max(largest, values[i]);
+        return largest < end;
+    };
+    const auto isNumbersBelow = [&](std::size_t end, const STable<int>& table) {
+        static_assert(sizeof(int) == sizeof(unsigned));
+        return isBelow(end, reinterpret_cast<const unsigned*>(table.values.get()), table.count);
+    };
+    const std::uint8_t highest = *std::max_element(m_classOf.begin(), m_classOf.end());
+    return highest >> m_classBits == 0 && isBelow(states, m_next.values.get(), m_next.count) &&
+           isNumbersBelow(states, NUL_trans) && isNumbersBelow(acclist.count + 1, accept);
 }
 
 void CScannerTables::DropCompiled()
 {
-    m_next.clear();
-    m_isJam.clear();
+    m_next = {};
+    m_isJam = {};
 }

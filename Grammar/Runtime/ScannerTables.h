@@ -1,21 +1,12 @@
 #pragma once
 
+#include "Grammar/Runtime/TableImage.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
-
-// One table as it is read from its file.
-template <class T>
-struct STable
-{
-    std::unique_ptr<T[]> values;
-    std::size_t count = 0;
-
-    const T& operator[](std::size_t index) const { return values[index]; }
-};
 
 // The tables of one scanner. Once loaded and compiled they never change, so several scanners may share them.
 //
@@ -35,11 +26,17 @@ public:
     //         wrong.
     void Compile(const std::string& directory, int startConditions);
 
+    // The compiled form and what goes with it. The tables that it was made of stay behind: what is read has no
+    // compressed form to go back to.
+    void WriteTo(CTableImageWriter& image) const;
+    // Returns: false if the image holds something else; the tables are of no use then.
+    [[nodiscard]] bool ReadFrom(CTableImageReader& image);
+
     // Number of the last state; the jam state is the one after it.
     int LastState() const { return static_cast<int>(accept.count) - 3; }
     int StartConditions() const { return m_nStartConditions; }
 
-    bool IsCompiled() const { return !m_next.empty(); }
+    bool IsCompiled() const { return m_next.count != 0; }
     // Goes back to the compressed walk, which gives the same result more slowly.
     void DropCompiled();
 
@@ -58,7 +55,7 @@ public:
         // True if nothing leads on from `state`: the walk ends there.
         bool IsJam(int state) const { return isJam[static_cast<std::size_t>(state)] != 0; }
     };
-    SWalk Walk() const { return {m_next.data(), m_isJam.data(), m_classOf.data(), m_classBits}; }
+    SWalk Walk() const { return {m_next.values.get(), m_isJam.values.get(), m_classOf.data(), m_classBits}; }
     int Next(int state, unsigned char byte) const { return Walk().Next(state, byte); }
 
 private:
@@ -68,9 +65,10 @@ private:
     void CheckEndOfBuffer(const std::string& directory) const;
     void FoldClasses();
     void ResolveRows(const std::string& directory);
+    bool IsWithinBounds() const;
 
-    std::vector<std::uint16_t> m_next;
-    std::vector<std::uint8_t> m_isJam;
+    STable<std::uint16_t> m_next;
+    STable<std::uint8_t> m_isJam;
     std::array<std::uint8_t, 256> m_classOf{};
     std::vector<std::uint8_t> m_leaders; // the first byte of each class
     unsigned m_classBits = 8;
