@@ -42,7 +42,10 @@ class CProgramFixture : public testing::Test
 {
 protected:
     // `program` stands in the folder of built programs.
-    explicit CProgramFixture(std::string program) : m_Program(std::move(program)) {}
+    explicit CProgramFixture(std::string program) : m_Program(std::move(program))
+    {
+        setenv("UVPARSER_CACHE", "", 1); // nothing is kept in the user's own folder
+    }
 
     void Put(const std::string& name, const std::string& content)
     {

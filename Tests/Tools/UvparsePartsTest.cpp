@@ -6,11 +6,13 @@
 #include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourcePlaces.h"
 #include "Tools/uvparse/SourceText.h"
+#include "Tools/uvparse/TableCache.h"
 #include "Tools/uvparse/TreeText.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -608,6 +610,38 @@ TEST(UvparseOptions, AreThoseThatTheLibraryReads)
     EXPECT_GT(read.size(), 20u);
     for (const std::string& name : read)
         EXPECT_TRUE(known(name) || others.contains(name)) << name << " is read, and uvparse refuses it";
+}
+
+// The user's own word goes first, then the cache folder of the desktop, then the one in the home folder.
+TEST(UvparseTableCache, StandsInTheUsersCacheFolder)
+{
+    const struct
+    {
+        const char *own, *caches, *home; // null: not in the environment
+        const char* folder;
+    } kCases[] = {
+        {nullptr, "/c", "/h", "/c/uvparser"},
+        {nullptr, nullptr, "/h", "/h/.cache/uvparser"},
+        {nullptr, "c", "/h", "/h/.cache/uvparser"}, // a relative path means nothing
+        {nullptr, "", "", nullptr},
+        {"/own", "/c", "/h", "/own"},
+        {"", "/c", "/h", ""}, // off
+    };
+    const auto set = [](const char* name, const char* value) {
+        if (value != nullptr)
+            setenv(name, value, 1);
+        else
+            unsetenv(name);
+    };
+    for (const auto& [own, caches, home, folder] : kCases) {
+        set("UVPARSER_CACHE", own);
+        set("XDG_CACHE_HOME", caches);
+        set("HOME", home);
+        ChooseTableCache(true);
+        EXPECT_STREQ(std::getenv("UVPARSER_CACHE"), folder);
+        ChooseTableCache(false);
+        EXPECT_EQ(std::getenv("UVPARSER_CACHE"), nullptr);
+    }
 }
 
 } // namespace

@@ -36,6 +36,7 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
         ("stat", po::bool_switch(&line.isStat), "count statements read and lost, unexpected tokens, bytes a second")
+        ("no-cache", po::bool_switch(&line.isWithoutCache), "read the tables of the languages from their own files, and keep nothing of them for the next run")
         ("quiet", po::bool_switch(&line.isQuiet), "no progress and no messages but about what could not run")
         ("version", po::bool_switch(&line.isVersion), "print the version")
         ("help", po::bool_switch(&line.isHelp), "print this help");
@@ -87,6 +88,8 @@ constexpr char kAfterOptions[] =
     "Sources are prepared in their faithful forms; -o SOURCE_FORMS=LITERAL asks for the literal ones.\n"
     "Include files are taken in from wherever sources name them; -o INCLUDE_ROOT=FOLDER takes only those in\n"
     "from below this folder (links and \"..\" resolved), as is good for foreign texts.\n"
+    "Prepared tables are kept in uvparser in the user's cache folder; the environment's UVPARSER_CACHE names\n"
+    "another one, or none if it is empty.\n"
     "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
     "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines was\n"
     "asked of a preparation that keeps no source lines;\n"

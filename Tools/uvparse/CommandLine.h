@@ -31,6 +31,7 @@ struct SCommandLine
     bool isTime = false;
     bool isStat = false;
     bool isQuiet = false;
+    bool isWithoutCache = false;
     bool isListLanguages = false;
     bool isHelp = false;
     bool isVersion = false;

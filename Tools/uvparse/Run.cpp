@@ -15,6 +15,7 @@
 #include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourcePlaces.h"
 #include "Tools/uvparse/SourceText.h"
+#include "Tools/uvparse/TableCache.h"
 #include "Tools/uvparse/TraceFile.h"
 #include "Tools/uvparse/TreeText.h"
 #include "UVEnvironment/FileHelper.h"
@@ -512,6 +513,7 @@ int CRun::Run()
     if (!m_Line.traceFile.empty())
         m_Trace = std::make_shared<CTraceFile>(m_Line.traceFile);
 
+    ChooseTableCache(!m_Line.isWithoutCache);
     for (const std::string& path : m_Line.files) {
         m_Progress.Step(ShownName(path));
         try {
