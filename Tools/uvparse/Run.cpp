@@ -539,9 +539,14 @@ int CRun::Run()
         Tell("sum of " + std::to_string(m_Counted) + " texts", m_Sum.Text());
     if (m_Selector && !m_HasSelected)
         Worsen(kToolFindings);
-    m_Hosts.clear();
-    if (m_Trace)
+    if (m_Trace) {
+        m_Hosts.clear();
         m_Trace->Close();
+    } else {
+        // The process ends with the run: the system takes its memory back sooner than its objects could.
+        static auto* const forTheSystem = new decltype(m_Hosts);
+        forTheSystem->merge(m_Hosts);
+    }
     return m_ExitCode;
 }
 
