@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <locale>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -39,15 +40,52 @@ boost::regex Expression(const char* expression)
     return compiled;
 }
 
+void SkipBlanks(std::string_view& text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+}
+
+bool Skip(std::string_view& text, std::string_view word)
+{
+    if (!text.starts_with(word))
+        return false;
+    text.remove_prefix(word.size());
+    return true;
+}
+
+// The id that stands first in the element. Read by hand, since it is asked for at every start.
+// Returns: nothing if `text`, what follows "<xslt:stylesheet", has none.
+std::optional<std::string> TakeId(std::string_view text)
+{
+    const std::size_t size = text.size();
+    SkipBlanks(text);
+    if (text.size() == size || !Skip(text, "id"))
+        return {};
+    SkipBlanks(text);
+    if (!Skip(text, "="))
+        return {};
+    SkipBlanks(text);
+    if (!Skip(text, "\""))
+        return {};
+    constexpr std::string_view kLetters =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_.\\/";
+    const std::size_t end = text.find_first_not_of(kLetters);
+    if (end == text.npos || text[end] != '"')
+        return {};
+    return std::string(text.substr(0, end));
+}
+
 std::string StylesheetId(const std::string& text)
 {
-    static const boost::regex kId = Expression(R"re(<xslt:stylesheet\s+id\s*=\s*"([\w.\\\/]*)")re");
-    boost::smatch match;
-    if (!boost::regex_search(text, match, kId))
+    constexpr std::string_view kElement = "<xslt:stylesheet";
+    std::optional<std::string> id;
+    for (std::size_t at = text.find(kElement); at != text.npos && !id; at = text.find(kElement, at + 1))
+        id = TakeId(std::string_view(text).substr(at + kElement.size()));
+    if (!id)
         throw std::runtime_error("unable to extract stylesheet id");
-    if (match.length(1) == 0)
+    if (id->empty())
         throw std::runtime_error("empty stylesheet id is not allowed");
-    return match.str(1);
+    return *id;
 }
 
 } // namespace
