@@ -1,5 +1,7 @@
 #include "Stylesheets/XslMessages.h"
 
+#include "Stylesheets/XsltVariables.h"
+
 #include <libxml/xmlerror.h>
 #include <libxslt/xsltInternals.h>
 #include <libxslt/xsltutils.h>
@@ -21,10 +23,10 @@ constexpr std::string_view kLeftOut = "\n...\n";
 xmlGenericErrorFunc DefaultXsltHandler()
 {
     static const xmlGenericErrorFunc handler = [] {
-        const xmlGenericErrorFunc current = xsltGenericError;
-        void* const currentContext = xsltGenericErrorContext;
+        const xmlGenericErrorFunc current = XsltErrorHandler();
+        void* const currentContext = XsltErrorContext();
         xsltSetGenericErrorFunc(nullptr, nullptr);
-        const xmlGenericErrorFunc standard = xsltGenericError;
+        const xmlGenericErrorFunc standard = XsltErrorHandler();
         xsltSetGenericErrorFunc(currentContext, current);
         return standard;
     }();
@@ -62,7 +64,7 @@ __attribute__((format(printf, 1, 0))) std::string Format(const char* format, va_
 
 CXslMessages::CXslMessages() : m_Thread(std::this_thread::get_id())
 {
-    m_CatchesXslt = xsltGenericError == DefaultXsltHandler() && IsDefaultContext(xsltGenericErrorContext);
+    m_CatchesXslt = XsltErrorHandler() == DefaultXsltHandler() && IsDefaultContext(XsltErrorContext());
     if (m_CatchesXslt)
         xsltSetGenericErrorFunc(this, &CXslMessages::Receive);
     m_CatchesXml = xmlStructuredError == nullptr && xmlGenericError == DefaultXmlHandler() &&

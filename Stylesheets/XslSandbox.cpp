@@ -2,6 +2,7 @@
 
 #include "Stylesheets/OwnStack.h"
 #include "Stylesheets/RulesFolder.h"
+#include "Stylesheets/XsltVariables.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/UVEXmlRead.h"
 
@@ -216,7 +217,7 @@ bool IsTreeDeeperThan(const xmlDoc* document, std::size_t limit)
 struct CXslSandbox::SEarlier
 {
     xsltSecurityPrefs* prefs = xsltGetDefaultSecurityPrefs();
-    xsltDocLoaderFunc loader = xsltDocDefaultLoader;
+    xsltDocLoaderFunc loader = XsltDefaultLoader();
     int xinclude = xsltGetXIncludeDefault();
 };
 

@@ -3,8 +3,10 @@
 #include "Stylesheets/OwnStack.h"
 #include "Stylesheets/XslMessages.h"
 #include "Stylesheets/XslSandbox.h"
+#include "Stylesheets/XsltVariables.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVEXmlRead.h"
+#include "UVEnvironment/UVEXmlTree.h"
 
 #include <libxml/hash.h>
 #include <libxml/tree.h>
@@ -147,7 +149,7 @@ class CXsltHandlerScope
 {
 public:
     CXsltHandlerScope(void* context, xmlGenericErrorFunc handler)
-        : m_EarlierHandler(xsltGenericError), m_EarlierContext(xsltGenericErrorContext)
+        : m_EarlierHandler(XsltErrorHandler()), m_EarlierContext(XsltErrorContext())
     {
         xsltSetGenericErrorFunc(context, handler);
     }
@@ -172,7 +174,7 @@ void AddXmlParam(xsltTransformContext* context, const xmlChar* name, const xmlCh
         return;
     }
     // libxslt frees it with the table, by its own allocator.
-    auto* const element = static_cast<xsltStackElem*>(xmlMalloc(sizeof(xsltStackElem)));
+    auto* const element = static_cast<xsltStackElem*>(AllocateXml(sizeof(xsltStackElem)));
     if (element == nullptr) {
         report("xsltNewStackElem : malloc failed\n");
         return;
@@ -184,7 +186,7 @@ void AddXmlParam(xsltTransformContext* context, const xmlChar* name, const xmlCh
     element->value = xmlXPathNewNodeSet(node);
     if (xmlHashAddEntry2(context->globalVars, name, uri, element) != 0) {
         xmlXPathFreeObject(element->value);
-        xmlFree(element);
+        FreeXml(element);
         report(kDefinedTwice);
     }
 }

@@ -78,6 +78,35 @@ function(uv_version_script list script)
          CONTENT "{\nglobal:\n${plain}    extern \"C++\" {\n${mangled}    };\nlocal:\n    *;\n};\n")
 endfunction()
 
+# uv_delay_libraries(<target> OBJECTS <object library>... LIBRARIES <imported target>...)
+# The target loads the libraries when it first calls one of their functions, not when it is loaded itself: most runs
+# need none of them, and each brings others along. Only what ships does so, and only where the entries can be written.
+function(uv_delay_libraries target)
+    cmake_parse_arguments(arg "" "" "OBJECTS;LIBRARIES" ${ARGN})
+    if(NOT CMAKE_BUILD_TYPE STREQUAL "Release" OR NOT CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64" OR UV_SANITIZE)
+        return()
+    endif()
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}Objects.txt)
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}Delayed.cpp)
+    set(objects "")
+    foreach(library IN LISTS arg_OBJECTS)
+        list(APPEND objects $<TARGET_OBJECTS:${library}>)
+    endforeach()
+    set(libraries "")
+    foreach(library IN LISTS arg_LIBRARIES)
+        list(APPEND libraries $<TARGET_FILE:${library}>)
+    endforeach()
+    file(GENERATE OUTPUT ${list} CONTENT "$<JOIN:${objects},\n>\n")
+    add_custom_command(
+        OUTPUT ${source}
+        COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/cmake/delay_libraries.py --nm ${CMAKE_NM}
+                --readelf ${CMAKE_READELF} --objects ${list} --output ${source} ${libraries}
+        DEPENDS ${PROJECT_SOURCE_DIR}/cmake/delay_libraries.py ${list} ${objects}
+        VERBATIM
+    )
+    target_sources(${target} PRIVATE ${source})
+endfunction()
+
 # Makes uv_all (every subsystem's objects), uv_host (what a host links beside the interfaces: foundation, catalogue,
 # options and metadata), the library itself, and uv_tested (every subsystem as one shared library, which the test
 # programs share instead of linking all objects each).
@@ -89,6 +118,8 @@ macro(uv_finish_subsystems)
     add_library(UVParser SHARED)
     target_link_libraries(UVParser PRIVATE uv_all)
     set_target_properties(UVParser PROPERTIES LINKER_LANGUAGE CXX)
+    uv_delay_libraries(UVParser OBJECTS ${uv_subsystems}
+                       LIBRARIES LibXml2::LibXml2 LibXslt::LibXslt Boost::regex)
     # Once loaded it stays in the process. What it leaves with its host may need its code after the last object is
     # gone: an exception that is caught, the value of an option.
     target_link_options(UVParser PRIVATE LINKER:-z,nodelete)

@@ -8,12 +8,26 @@
 #include <array>
 #include <cstring>
 #include <functional>
+#include <memory>
 #include <new>
 #include <utility>
 
 namespace uvparse {
 
 namespace {
+
+// The name by which libxml2 knows its text nodes, by its address. As a variable of libxml2 it would keep that from
+// being loaded later.
+const char* TextName()
+{
+    static const char* const name = [] {
+        const std::unique_ptr<xmlNode, decltype(&xmlFreeNode)> text(xmlNewText(nullptr), &xmlFreeNode);
+        if (!text)
+            throw std::bad_alloc();
+        return reinterpret_cast<const char*>(text->name);
+    }();
+    return name;
+}
 
 // Elements of few levels alone are divided: all of them are made anew for each part.
 constexpr std::size_t kDeepestDivided = 8;
@@ -390,7 +404,7 @@ xmlNode* CCompactTree::ValueOf(std::string_view text)
 {
     xmlNode*& value = m_Values[std::hash<std::string_view>()(text) % m_Values.size()];
     if (value == nullptr || text != reinterpret_cast<const char*>(value->content)) {
-        value = MakeNode(XML_TEXT_NODE, nullptr, reinterpret_cast<const char*>(xmlStringText));
+        value = MakeNode(XML_TEXT_NODE, nullptr, TextName());
         value->content = Characters(m_Nodes.Copy(text));
     }
     return value;
@@ -450,7 +464,7 @@ bool CCompactTree::TakeText(std::string_view text)
     const SPlainText found = Examine(text, false);
     if (!found.isPlain || (found.hasReferences && !Unescape(text, false)))
         return false;
-    xmlNode* const node = MakeNode(XML_TEXT_NODE, text.data(), reinterpret_cast<const char*>(xmlStringText));
+    xmlNode* const node = MakeNode(XML_TEXT_NODE, text.data(), TextName());
     node->content = Characters(m_Nodes.Copy(found.hasReferences ? std::string_view(m_Unescaped) : text));
     node->psvi = const_cast<char*>(text.data() + text.size());
     AddNode(node);

@@ -3,6 +3,7 @@
 #include "Tools/uvparse/CompactTree.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "UVEnvironment/UVEXmlRead.h"
+#include "UVEnvironment/UVEXmlTree.h"
 
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
@@ -26,7 +27,7 @@ struct SFree
     void operator()(xmlXPathCompExpr* expression) const { xmlXPathFreeCompExpr(expression); }
     void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
     void operator()(xmlBuffer* buffer) const { xmlBufferFree(buffer); }
-    void operator()(xmlChar* text) const { xmlFree(text); }
+    void operator()(xmlChar* text) const { Uve::FreeXml(text); }
 };
 
 template <class T>

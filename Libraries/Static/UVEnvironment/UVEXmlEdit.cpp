@@ -15,7 +15,7 @@ constexpr std::size_t kLengthLimit = 0x80000000;
 
 struct SFreeText
 {
-    void operator()(xmlChar* text) const { xmlFree(text); }
+    void operator()(xmlChar* text) const { FreeXml(text); }
 };
 using CText = std::unique_ptr<xmlChar, SFreeText>;
 

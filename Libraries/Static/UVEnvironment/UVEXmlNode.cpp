@@ -12,7 +12,7 @@ u8string Content(const xmlNode* node)
 {
     if (node == nullptr)
         return {};
-    const auto release = [](xmlChar* text) { xmlFree(text); };
+    const auto release = [](xmlChar* text) { FreeXml(text); };
     const std::unique_ptr<xmlChar, decltype(release)> text(xmlNodeGetContent(node), release);
     return text ? u8string(FromXml(text.get())) : u8string();
 }

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <libxml/tree.h>
+#include <libxml/xmlmemory.h>
+
+#include <cstddef>
 
 namespace Uve {
 
@@ -30,6 +33,21 @@ inline bool IsAttributeNode(const xmlNode* node)
 inline bool HasOwnChildren(const xmlNode* node)
 {
     return IsTreeNode(node) && node->type != XML_ENTITY_REF_NODE && node->children != nullptr;
+}
+
+// Memory as libxml2 has it. Its variables of these names would keep it from being loaded later.
+inline void FreeXml(void* memory)
+{
+    xmlFreeFunc release = nullptr;
+    xmlMemGet(&release, nullptr, nullptr, nullptr);
+    release(memory);
+}
+
+inline void* AllocateXml(std::size_t size)
+{
+    xmlMallocFunc allocate = nullptr;
+    xmlMemGet(nullptr, &allocate, nullptr, nullptr);
+    return allocate(size);
 }
 
 inline const xmlChar* ToXml(const char* text)
