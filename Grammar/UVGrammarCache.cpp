@@ -2,7 +2,6 @@
 
 #include <array>
 #include <bit>
-#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -121,13 +120,21 @@ bool WriteAll(int handle, const void* bytes, std::size_t size)
     return true;
 }
 
-// The folder itself and the one above it, for their owner alone.
-void MakeFolder(const std::string& path)
+std::string FolderOf(const std::string& path)
 {
-    if (mkdir(path.c_str(), S_IRWXU) == 0 || errno != ENOENT)
-        return;
-    mkdir(path.substr(0, path.find_last_of('/')).c_str(), S_IRWXU);
-    mkdir(path.c_str(), S_IRWXU);
+    return path.substr(0, path.find_last_of('/'));
+}
+
+// Makes the folder, and those above it up to `levels` in all, for their owner alone. In a folder of somebody
+// else, as another user's home may be, nothing is made: its owner could not use it.
+// Returns: true if there is the folder and the user owns it.
+bool HasOwnFolder(const std::string& path, int levels)
+{
+    struct stat folder
+    {};
+    if (stat(path.c_str(), &folder) == 0)
+        return S_ISDIR(folder.st_mode) && folder.st_uid == geteuid();
+    return levels > 0 && HasOwnFolder(FolderOf(path), levels - 1) && mkdir(path.c_str(), S_IRWXU) == 0;
 }
 
 } // namespace
@@ -199,7 +206,8 @@ try {
     std::memcpy(content.data(), &head, sizeof head);
 
     // Nobody sees it before it is whole: another run may do the same at this moment, or read what was there.
-    MakeFolder(m_Path.substr(0, m_Path.find_last_of('/')));
+    if (!HasOwnFolder(FolderOf(m_Path), 2))
+        return;
     std::string temporary = m_Path + ".XXXXXX";
     const CFileHandle file(mkostemp(temporary.data(), O_CLOEXEC));
     if (!file)
