@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 #include <stdexcept>
+#include <string>
 
 namespace Uve {
 
@@ -9,13 +10,17 @@ namespace {
 
 constexpr const char* kLibrary = "libxslt.so.1";
 
+// A program that uses the variable itself may hold it in its own memory, which libxslt then uses too: what the
+// program sees goes first.
 template <class T>
 const T& Variable(const char* name)
 {
     static void* const library = dlopen(kLibrary, RTLD_LAZY);
-    const void* const address = library != nullptr ? dlsym(library, name) : nullptr;
+    const void* address = dlsym(RTLD_DEFAULT, name);
+    if (address == nullptr && library != nullptr)
+        address = dlsym(library, name);
     if (address == nullptr)
-        throw std::runtime_error(dlerror());
+        throw std::runtime_error(std::string(kLibrary) + " has no " + name);
     return *static_cast<const T*>(address);
 }
 
