@@ -16,9 +16,8 @@ import sys
 HEAD = """\
 // Entries of libraries that are loaded when the first of their functions is called.
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
 #include <dlfcn.h>
+#include <stdexcept>
 
 namespace {
 
@@ -37,16 +36,15 @@ RESOLVER = """\
 } // namespace
 
 // Called by the entries alone: the function's address.
-extern "C" __attribute__((visibility("hidden"), used)) void* uv_load_delayed(unsigned long index) noexcept
+// Throws: std::runtime_error through the entry to its caller, if the library can't be loaded.
+extern "C" __attribute__((visibility("hidden"), used)) void* uv_load_delayed(unsigned long index)
 {
     const int error = errno;
     const SDelayed& wanted = kDelayed[index];
     void* const library = dlopen(wanted.library, RTLD_LAZY | RTLD_LOCAL);
     void* const function = library != nullptr ? dlsym(library, wanted.name) : nullptr;
-    if (function == nullptr) {
-        std::fprintf(stderr, "%s\\n", dlerror());
-        std::abort();
-    }
+    if (function == nullptr)
+        throw std::runtime_error(dlerror());
     errno = error;
     return function;
 }
