@@ -1,5 +1,7 @@
 #include "Tools/uvparse/PathScope.h"
 
+#include "Tools/uvparse/PathTokens.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -8,61 +10,6 @@
 namespace uvparse {
 
 namespace {
-
-enum class enToken
-{
-    End,
-    Name, // also of functions, axes and operators
-    Number,
-    Literal,
-    Symbol
-};
-
-struct SToken
-{
-    enToken kind = enToken::End;
-    std::string_view text;
-};
-
-// What can't be read ends the list with the symbol "?", which nothing expects.
-std::vector<SToken> Tokens(std::string_view text)
-{
-    const auto isNameStart = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || (c & 0x80) != 0;
-    };
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    std::vector<SToken> tokens;
-    std::size_t at = 0;
-    const auto take = [&](enToken kind, std::size_t size) {
-        tokens.push_back({kind, text.substr(at, size)});
-        at += size;
-    };
-    const auto sizeWhile = [&](auto&& belongs) {
-        const std::string_view rest = text.substr(at);
-        return static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), belongs) - rest.begin());
-    };
-    while ((at = std::min(text.find_first_not_of(" \t\r\n", at), text.size())) < text.size()) {
-        const char c = text[at];
-        const std::string_view two = text.substr(at, 2);
-        if (isNameStart(c)) {
-            take(enToken::Name,
-                 sizeWhile([&](char n) { return isNameStart(n) || isDigit(n) || n == '-' || n == '.'; }));
-        } else if (isDigit(c) || (c == '.' && two.size() == 2 && isDigit(two[1]))) {
-            take(enToken::Number, sizeWhile([&](char n) { return isDigit(n) || n == '.'; }));
-        } else if (c == '"' || c == '\'') {
-            const std::size_t end = text.find(c, at + 1);
-            if (end == std::string_view::npos)
-                break;
-            take(enToken::Literal, end + 1 - at);
-        } else if (two == "::" || two == "//" || two == ".." || two == "!=" || two == "<=" || two == ">=") {
-            take(enToken::Symbol, 2);
-        } else {
-            take(enToken::Symbol, 1);
-        }
-    }
-    tokens.push_back(at == text.size() ? SToken{} : SToken{enToken::Symbol, "?"});
-    return tokens;
-}
 
 enum class enAxis
 {
@@ -123,7 +70,7 @@ struct SValue
 class CScopeReader
 {
 public:
-    explicit CScopeReader(std::string_view expression) : m_Tokens(Tokens(expression)) {}
+    explicit CScopeReader(std::string_view expression) : m_Tokens(ReadPathTokens(expression)) {}
 
     SPathScope Read()
     {
@@ -139,23 +86,23 @@ public:
         } else {
             ReadUnion();
         }
-        if (Peek().kind != enToken::End)
+        if (Peek().kind != enPathToken::End)
             Refuse();
         return std::move(m_Scope);
     }
 
 private:
-    const SToken& Peek(std::size_t ahead = 0) const
+    const SPathToken& Peek(std::size_t ahead = 0) const
     {
         return m_Tokens[std::min(m_At + ahead, m_Tokens.size() - 1)];
     }
     bool IsSymbol(std::string_view text, std::size_t ahead = 0) const
     {
-        return Peek(ahead).kind == enToken::Symbol && Peek(ahead).text == text;
+        return Peek(ahead).kind == enPathToken::Symbol && Peek(ahead).text == text;
     }
     bool IsOperator(std::initializer_list<std::string_view> texts) const
     {
-        return (Peek().kind == enToken::Symbol || Peek().kind == enToken::Name) &&
+        return (Peek().kind == enPathToken::Symbol || Peek().kind == enPathToken::Name) &&
                IsOneOf(Peek().text, texts);
     }
     bool Accept(std::string_view text)
@@ -198,7 +145,7 @@ private:
     bool IsStep() const
     {
         return IsSymbol(".") || IsSymbol("..") || IsSymbol("@") || IsSymbol("*") ||
-               Peek().kind == enToken::Name;
+               Peek().kind == enPathToken::Name;
     }
 
     // Without its predicates.
@@ -211,7 +158,7 @@ private:
         SStep step;
         if (Accept("@")) {
             step.axis = enAxis::Attribute;
-        } else if (Peek().kind == enToken::Name && IsSymbol("::", 1)) {
+        } else if (Peek().kind == enPathToken::Name && IsSymbol("::", 1)) {
             step.axis = AxisOf(Peek().text);
             m_At += 2;
         }
@@ -220,7 +167,7 @@ private:
         step.isElements = step.axis != enAxis::Attribute;
         if (Accept("*"))
             return step;
-        if (Peek().kind != enToken::Name || IsSymbol(":", 1)) {
+        if (Peek().kind != enPathToken::Name || IsSymbol(":", 1)) {
             Refuse();
             return step;
         }
@@ -384,15 +331,15 @@ private:
 
     bool IsFunction() const
     {
-        return Peek().kind == enToken::Name && IsSymbol("(", 1) &&
+        return Peek().kind == enPathToken::Name && IsSymbol("(", 1) &&
                !IsOneOf(Peek().text, {"node", "text", "comment", "processing-instruction"});
     }
 
     SValue ReadOperand()
     {
         SValue value;
-        if (Peek().kind == enToken::Number || Peek().kind == enToken::Literal) {
-            value.isNumber = Peek().kind == enToken::Number;
+        if (Peek().kind == enPathToken::Number || Peek().kind == enPathToken::Literal) {
+            value.isNumber = Peek().kind == enPathToken::Number;
             ++m_At;
         } else if (IsFunction()) {
             value = ReadFunction();
@@ -459,7 +406,7 @@ private:
 
     static constexpr int kDeepest = 100;
 
-    std::vector<SToken> m_Tokens;
+    std::vector<SPathToken> m_Tokens;
     std::size_t m_At = 0;
     int m_Depth = 0;            // of expressions in each other
     std::string_view m_Subject; // the name of the elements that the innermost predicate is about
