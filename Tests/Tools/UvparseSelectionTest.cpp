@@ -1,5 +1,6 @@
 // Trees that are searched part by part, against the same trees searched as one document.
 #include "Tools/uvparse/CompactTree.h"
+#include "Tools/uvparse/PathNeeds.h"
 #include "Tools/uvparse/PathScope.h"
 #include "Tools/uvparse/Selection.h"
 
@@ -228,6 +229,35 @@ const char* const kExpressions[] = {
     "//b[string(@q)]/@q",
     "//a/../b",
     "not(//zzz)",
+    // what is seen of elements that have no part in the expression
+    "string(/)",
+    "string()",
+    "/",
+    "string(//a/..)",
+    "string(//a[last()]/..)",
+    "//a[. = string(..)]",
+    "//b[../@p]/../@q",
+    "//b/ancestor::node()[2]",
+    "//c[count(ancestor::*) > 2 and position() = 1]",
+    "//a/following::b[1] | //a/preceding::c[2]",
+    "//a/self::node()[c]",
+    "count(//a/child::node())",
+    "//..",
+    "(//self::*)[3]",
+    "//parent::a",
+    "//following-sibling::a",
+    "//a[-b < 1]",
+    "//a[3 > -@p]",
+    "//a[@p = @p/..]",
+    "//a[name() = 'b' or name(..) = 'b']",
+    "//a[node()]",
+    "//a[*]",
+    "(//a | //b)[last()]/..",
+    "normalize-space(//a[2]) = //a",
+    "//@*[. = 1]",
+    "//a/@*",
+    "concat(//a[b]/c, name(//d[a]), count(//a) > 3)",
+    "//a[lang('en')]",
 };
 
 TEST(UvparseSelection, PartsGiveWhatTheWholeGives)
@@ -246,7 +276,8 @@ TEST(UvparseSelection, PartsGiveWhatTheWholeGives)
 enPart EndOfSearch(std::string_view tree, std::size_t& parts)
 {
     const SPathScope scope = ScopeOfPath("//a/@p");
-    CCompactTree compact(tree, scope, 1);
+    const SPathNeeds needs = NeedsOfPath("//a/@p");
+    CCompactTree compact(tree, scope, needs, 1);
     enPart part = compact.Next();
     for (parts = 0; part == enPart::Made; part = compact.Next())
         ++parts;

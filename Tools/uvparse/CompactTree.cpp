@@ -1,5 +1,6 @@
 #include "Tools/uvparse/CompactTree.h"
 
+#include "Tools/uvparse/MarkupScanner.h"
 #include "UVEnvironment/UVEEncoding.h"
 
 #include <libxml/parserInternals.h>
@@ -32,6 +33,7 @@ const char* TextName()
 // Elements of few levels alone are divided: all of them are made anew for each part.
 constexpr std::size_t kDeepestDivided = 8;
 constexpr std::size_t kValues = 4096;
+constexpr std::size_t kTags = 4096;
 
 constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" ?>";
 constexpr std::string_view kBlanks = " \t\r\n";
@@ -207,10 +209,11 @@ void CCompactTree::SFreeDocument::operator()(xmlDoc* document) const
     xmlFreeDoc(document);
 }
 
-CCompactTree::CCompactTree(std::string_view tree, const SPathScope& scope, std::size_t partSize)
-    : m_Tree(tree), m_Scope(scope), m_Undivided(scope.undivided.begin(), scope.undivided.end()),
+CCompactTree::CCompactTree(std::string_view tree, const SPathScope& scope, const SPathNeeds& needs,
+                           std::size_t partSize)
+    : m_Tree(tree), m_Needs(needs), m_Undivided(scope.undivided.begin(), scope.undivided.end()),
       m_UndividedParents(scope.undividedParents.begin(), scope.undividedParents.end()), m_PartSize(partSize),
-      m_Scanner(tree), m_Values(kValues), m_Document(xmlNewDoc(nullptr))
+      m_Tags(kTags), m_Values(kValues), m_Document(xmlNewDoc(nullptr))
 {
     if (!m_Document)
         throw std::bad_alloc();
@@ -221,36 +224,21 @@ CCompactTree::~CCompactTree() = default;
 enPart CCompactTree::Next()
 {
     if (m_HasRoot && m_Open.empty())
-        return m_Scanner.IsAtEnd() ? enPart::None : enPart::NotPlain;
+        return m_Offset == m_Tree.size() ? enPart::None : enPart::NotPlain;
     BeginPart();
-    const std::size_t begin = m_Scanner.GetOffset();
+    const std::size_t begin = m_Offset;
     m_PartBegin = m_Tree.data() + begin;
-    for (SMarkup markup; m_Scanner.Next(markup);) {
-        bool isTaken = true;
-        switch (markup.kind) {
-        case enMarkup::Start:
-        case enMarkup::Empty:
-            isTaken = TakeTag(markup);
-            break;
-        case enMarkup::End:
-            isTaken = TakeEnd(markup);
-            break;
-        case enMarkup::Text:
-            isTaken = TakeText(markup.text);
-            break;
-        case enMarkup::Other:
-            isTaken = m_Scanner.GetOffsetOf(markup) == 0 && markup.text == kDeclaration;
-            break;
-        }
-        if (!isTaken)
+    while (m_Offset < m_Tree.size()) {
+        const bool isMarkup = m_Tree[m_Offset] == '<';
+        const bool isEnd = isMarkup && m_Tree.substr(m_Offset + 1, 1) == "/";
+        if (isEnd ? !TakeEnd() : isMarkup ? !TakeDeclaration() && !TakeTag() : !TakeText())
             return enPart::NotPlain;
         if (m_IsTooLarge)
             return enPart::TooLarge;
-        if (m_PartSize > 0 && markup.kind == enMarkup::End && m_Scanner.GetOffset() - begin >= m_PartSize &&
-            MayDivide())
+        if (isEnd && m_PartSize > 0 && m_Offset - begin >= m_PartSize && MayDivide())
             return enPart::Made;
     }
-    return m_Scanner.IsAtEnd() && m_HasRoot && m_Open.empty() ? enPart::Made : enPart::NotPlain;
+    return m_HasRoot && m_Open.empty() ? enPart::Made : enPart::NotPlain;
 }
 
 // With the elements that are open, as they were without their contents.
@@ -260,12 +248,15 @@ void CCompactTree::BeginPart()
     std::ranges::fill(m_Values, nullptr);
     m_Document->children = nullptr;
     m_Document->last = nullptr;
-    std::vector<SOpenElement> open = std::exchange(m_Open, {});
-    for (SOpenElement& element : open) {
-        element.node = AddElement({enMarkup::Start, element.tag, element.name});
+    m_Texts.clear();
+    m_TextsMade = 0;
+    m_Made = 0;
+    for (SOpenElement& element : m_Open) {
+        element.node = nullptr;
+        element.textBegin = 0;
         element.isDivided = true;
-        m_Open.push_back(element);
     }
+    MakeOpenElements();
 }
 
 bool CCompactTree::MayDivide() const
@@ -275,13 +266,13 @@ bool CCompactTree::MayDivide() const
                m_Open, [](const SOpenElement& element) { return element.isWanted || element.holdsWanted; });
 }
 
+// Appends to `unescaped`.
 // Returns: false for a reference that isn't one of the entities.
-bool CCompactTree::Unescape(std::string_view text, bool isValue)
+bool CCompactTree::Unescape(std::string_view text, bool isValue, std::string& unescaped)
 {
-    m_Unescaped.clear();
     while (true) {
         const std::size_t at = text.find('&');
-        m_Unescaped += text.substr(0, at);
+        unescaped += text.substr(0, at);
         if (at == std::string_view::npos)
             return true;
         text.remove_prefix(at);
@@ -289,7 +280,7 @@ bool CCompactTree::Unescape(std::string_view text, bool isValue)
         if (entity == nullptr)
             return false;
         m_IsWrittenTheSame = m_IsWrittenTheSame && IsWritten(*entity, isValue);
-        m_Unescaped += entity->character;
+        unescaped += entity->character;
         text.remove_prefix(entity->text.size());
     }
 }
@@ -307,7 +298,9 @@ const char* CCompactTree::EndOf(const xmlNode* node) const
         node = node->children;
     if (node->type == XML_ATTRIBUTE_NODE)
         return static_cast<const char*>(reinterpret_cast<const xmlAttr*>(node)->psvi);
-    return static_cast<const char*>(node->psvi);
+    if (node->type == XML_TEXT_NODE)
+        return m_Tree.data() + m_Tree.find('<', static_cast<std::size_t>(BeginOf(node) - m_Tree.data()));
+    return reinterpret_cast<const char*>(node->nsDef);
 }
 
 bool CCompactTree::IsShared(const xmlNode* node) const
@@ -316,9 +309,13 @@ bool CCompactTree::IsShared(const xmlNode* node) const
     return node->type == XML_DOCUMENT_NODE || BeginOf(element) < m_PartBegin || EndOf(element) == nullptr;
 }
 
+// No more of it than a search looks at: of a text up to its content, of an element up to its attributes. What
+// is next in an element, where none has namespaces, is where it ends.
 xmlNode* CCompactTree::MakeNode(xmlElementType type, const char* begin, const char* name)
 {
-    xmlNode* const node = m_Nodes.Make<xmlNode>();
+    const std::size_t size =
+        type == XML_ELEMENT_NODE ? offsetof(xmlNode, psvi) : offsetof(xmlNode, properties);
+    auto* const node = static_cast<xmlNode*>(m_Nodes.Make(size));
     node->type = type;
     node->name = reinterpret_cast<const xmlChar*>(name);
     node->doc = m_Document.get();
@@ -326,76 +323,107 @@ xmlNode* CCompactTree::MakeNode(xmlElementType type, const char* begin, const ch
     return node;
 }
 
+// To the innermost of the open elements that were made.
 void CCompactTree::AddNode(xmlNode* node)
 {
     xmlNode* const parent =
-        m_Open.empty() ? reinterpret_cast<xmlNode*>(m_Document.get()) : m_Open.back().node;
+        m_Made == 0 ? reinterpret_cast<xmlNode*>(m_Document.get()) : m_Open[m_Made - 1].node;
     node->parent = parent;
     node->prev = parent->last;
     (parent->last != nullptr ? parent->last->next : parent->children) = node;
     parent->last = node;
 }
 
-// Null if it isn't plain.
-xmlNode* CCompactTree::AddElement(const SMarkup& markup)
+void CCompactTree::MakeOpenElements()
 {
-    const char* const name = NameOf(markup.name);
-    if (name == nullptr)
-        return nullptr;
-    xmlNode* const element = MakeNode(XML_ELEMENT_NODE, markup.text.data(), name);
+    while (m_Made < m_Open.size()) {
+        SOpenElement& element = m_Open[m_Made];
+        MakeText(element.textBegin);
+        element.node = MakeElement(element.tag, element.storedName);
+        ++m_Made;
+    }
+    MakeTexts();
+}
+
+// A node of the texts that have none yet, up to `end` in m_Texts. They may have stood in several elements that
+// weren't made: together they are what the one around them holds.
+void CCompactTree::MakeText(std::size_t end)
+{
+    if (end > m_TextsMade) {
+        xmlNode* const node = MakeNode(XML_TEXT_NODE, nullptr, TextName());
+        node->content =
+            Characters(m_Nodes.Copy(std::string_view(m_Texts).substr(m_TextsMade, end - m_TextsMade)));
+        AddNode(node);
+        m_TextsMade = end;
+    }
+}
+
+// When all open elements are made.
+void CCompactTree::MakeTexts()
+{
+    MakeText(m_Texts.size());
+    m_Texts.clear();
+    m_TextsMade = 0;
+}
+
+xmlNode* CCompactTree::MakeElement(std::string_view tag, const char* name)
+{
+    xmlNode* const element = MakeNode(XML_ELEMENT_NODE, tag.data(), name);
     // The number in document order, as libxml2 notes it when it is told to; it saves walks through the tree.
     --m_Order;
     static_assert(sizeof element->content == sizeof m_Order);
     std::memcpy(&element->content, &m_Order, sizeof m_Order);
-    std::string_view attributes = markup.text;
-    attributes.remove_prefix(1 + markup.name.size());
-    attributes.remove_suffix(markup.kind == enMarkup::Empty ? 2 : 1);
-    if (!AddAttributes(element, attributes))
-        return nullptr;
+    if (m_Needs.areAllAttributes || !m_Needs.attributes.empty())
+        MakeAttributes(element, tag);
     AddNode(element);
     return element;
 }
 
-bool CCompactTree::AddAttributes(xmlNode* element, std::string_view attributes)
+// Takes the first one off `attributes`. What is left once they are all taken closes the tag.
+// Returns: false if it isn't plain.
+bool CCompactTree::ReadAttribute(std::string_view& attributes, std::string_view& name,
+                                 std::string_view& value)
 {
-    m_AttributeNames.clear();
+    const std::size_t equals = attributes.find('=');
+    if (attributes.front() != ' ' || equals == std::string_view::npos ||
+        attributes.substr(equals + 1, 1) != "\"")
+        return false;
+    const std::size_t close = attributes.find('"', equals + 2);
+    if (close == std::string_view::npos)
+        return false;
+    name = attributes.substr(1, equals - 1);
+    value = attributes.substr(equals + 2, close - equals - 2);
+    attributes.remove_prefix(close + 1);
+    return true;
+}
+
+void CCompactTree::MakeAttributes(xmlNode* element, std::string_view tag)
+{
     xmlAttr* last = nullptr;
-    while (!attributes.empty()) {
-        const std::size_t equals = attributes.find('=');
-        if (attributes.front() != ' ' || equals == std::string_view::npos ||
-            attributes.substr(equals + 1, 1) != "\"")
-            return false;
-        const std::size_t close = attributes.find('"', equals + 2);
-        if (close == std::string_view::npos)
-            return false;
-        const char* const begin = attributes.data() + 1;
-        const char* const name = NameOf(attributes.substr(1, equals - 1));
-        const std::string_view value = attributes.substr(equals + 2, close - equals - 2);
-        const SPlainText found = Examine(value, true);
-        if (name == nullptr || attributes.substr(1, equals - 1) == "xmlns" ||
-            std::ranges::find(m_AttributeNames, name) != m_AttributeNames.end() || !found.isPlain ||
-            (found.hasReferences && !Unescape(value, true)))
-            return false;
-        m_AttributeNames.push_back(name);
-        attributes.remove_prefix(close + 1);
-        if (!m_Scope.needsAttributes)
+    std::string_view rest = tag.substr(std::min(tag.find(' '), tag.size()));
+    std::string_view name;
+    std::string_view value;
+    while (rest.starts_with(' ') && ReadAttribute(rest, name, value)) {
+        if (!m_Needs.areAllAttributes &&
+            std::ranges::find(m_Needs.attributes, name) == m_Needs.attributes.end())
             continue;
-        xmlAttr* const attribute = m_Nodes.Make<xmlAttr>();
+        auto* const attribute = static_cast<xmlAttr*>(m_Nodes.Make(sizeof(xmlAttr)));
         attribute->type = XML_ATTRIBUTE_NODE;
-        attribute->name = reinterpret_cast<const xmlChar*>(name);
+        attribute->name = reinterpret_cast<const xmlChar*>(NameOf(name));
         attribute->doc = m_Document.get();
         attribute->parent = element;
         attribute->prev = last;
-        attribute->_private = const_cast<char*>(begin);
-        attribute->psvi = const_cast<char*>(attributes.data());
+        attribute->_private = const_cast<char*>(name.data());
+        attribute->psvi = const_cast<char*>(rest.data());
         (last != nullptr ? last->next : element->properties) = attribute;
         last = attribute;
         if (!value.empty()) {
-            attribute->children = ValueOf(found.hasReferences ? std::string_view(m_Unescaped) : value);
+            m_Value.clear();
+            Unescape(value, true, m_Value);
+            attribute->children = ValueOf(m_Value);
             attribute->last = attribute->children;
         }
     }
-    return true;
 }
 
 // The text node of a value, the same for attributes of the same value where that is easily found out. A
@@ -410,64 +438,144 @@ xmlNode* CCompactTree::ValueOf(std::string_view text)
     return value;
 }
 
-// Null for what is no name.
+// The same for the same name.
 const char* CCompactTree::NameOf(std::string_view name)
 {
     const auto known = m_NameTable.find(name);
     if (known != m_NameTable.end())
         return known->second;
-    if (!IsName(name))
-        return nullptr;
     const char* const copy = m_Names.Copy(name);
     m_NameTable.emplace(std::string_view(copy, name.size()), copy);
     return copy;
 }
 
-bool CCompactTree::TakeTag(const SMarkup& markup)
+// Null if it isn't plain.
+const CCompactTree::STag* CCompactTree::TagAt(std::string_view text)
 {
-    if (m_Open.empty() && std::exchange(m_HasRoot, true))
+    STag& tag = m_Tags[std::hash<std::string_view>()(text) % m_Tags.size()];
+    return tag.text == text || ReadTag(text, tag) ? &tag : nullptr;
+}
+
+bool CCompactTree::ReadTag(std::string_view text, STag& tag)
+{
+    tag = {};
+    std::string_view rest = text.substr(1, text.size() - 2);
+    tag.isEmpty = rest.ends_with('/');
+    rest.remove_suffix(tag.isEmpty ? 1 : 0);
+    tag.name = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(tag.name.size());
+    if (!IsName(tag.name))
         return false;
-    if (!m_Open.empty() && !m_UndividedParents.empty() && m_UndividedParents.contains(markup.name)) {
+    std::vector<std::string_view> names;
+    std::string_view name;
+    std::string_view value;
+    while (!rest.empty()) {
+        if (!ReadAttribute(rest, name, value) || !IsName(name) || name == "xmlns" ||
+            std::ranges::find(names, name) != names.end())
+            return false;
+        m_Value.clear();
+        if (!Examine(value, true).isPlain || !Unescape(value, true, m_Value))
+            return false;
+        names.push_back(name);
+    }
+    tag.isNeeded =
+        m_Needs.areAllElements || std::ranges::find(m_Needs.elements, tag.name) != m_Needs.elements.end();
+    tag.isUndivided = m_Undivided.contains(tag.name);
+    tag.isParentUndivided = m_UndividedParents.contains(tag.name);
+    tag.storedName = NameOf(tag.name);
+    tag.text = text;
+    return true;
+}
+
+bool CCompactTree::TakeDeclaration()
+{
+    if (m_Offset > 0 || !m_Tree.starts_with(kDeclaration))
+        return false;
+    m_Offset = kDeclaration.size();
+    return true;
+}
+
+bool CCompactTree::TakeTag()
+{
+    // No value of a plain tree holds such a bracket.
+    const std::size_t close = m_Tree.find('>', m_Offset);
+    if (close == std::string_view::npos || (m_Open.empty() && std::exchange(m_HasRoot, true)))
+        return false;
+    const std::string_view text = m_Tree.substr(m_Offset, close + 1 - m_Offset);
+    const STag* const tag = TagAt(text);
+    if (tag == nullptr)
+        return false;
+    m_Offset = close + 1;
+    if (tag->isParentUndivided && !m_Open.empty()) {
         m_Open.back().holdsWanted = true;
         m_IsTooLarge = m_Open.back().isDivided;
     }
-    xmlNode* const element = AddElement(markup);
-    if (element == nullptr)
-        return false;
-    if (markup.kind == enMarkup::Start)
-        m_Open.push_back(
-            {markup.text, markup.name, element, false, m_Undivided.contains(markup.name), false});
-    else
-        element->psvi = const_cast<char*>(markup.text.data() + markup.text.size());
+    const bool isMade = tag->isNeeded || m_Open.empty(); // the document has its root in any case
+    if (tag->isEmpty && !isMade)
+        return true;
+    m_Open.push_back({text, text.substr(1, tag->name.size()), tag->storedName, nullptr, m_Texts.size(), false,
+                      tag->isUndivided, false});
+    if (isMade)
+        MakeOpenElements();
+    if (tag->isEmpty)
+        Close();
     return true;
 }
 
-bool CCompactTree::TakeEnd(const SMarkup& markup)
+bool CCompactTree::TakeEnd()
 {
-    if (m_Open.empty() || m_Open.back().name != markup.name ||
-        markup.text.size() != markup.name.size() + std::string_view("</>").size())
+    if (m_Open.empty())
         return false;
     const SOpenElement& closing = m_Open.back();
-    const char* const end = markup.text.data() + markup.text.size();
-    closing.node->psvi = const_cast<char*>(end);
-    m_IsWrittenTheSame = m_IsWrittenTheSame && markup.text.data() != closing.tag.data() + closing.tag.size();
-    if (closing.isDivided)
-        m_DividedEnds.emplace(closing.tag.data(), end);
-    m_Open.pop_back();
+    const std::string_view rest = m_Tree.substr(m_Offset + 2);
+    if (!rest.starts_with(closing.name) || rest.substr(closing.name.size(), 1) != ">")
+        return false;
+    const char* const begin = m_Tree.data() + m_Offset;
+    m_Offset += closing.name.size() + std::string_view("</>").size();
+    m_IsWrittenTheSame = m_IsWrittenTheSame && begin != closing.tag.data() + closing.tag.size();
+    Close();
     return true;
 }
 
-bool CCompactTree::TakeText(std::string_view text)
+void CCompactTree::Close()
 {
+    const SOpenElement& closing = m_Open.back();
+    const char* const end = m_Tree.data() + m_Offset;
+    if (closing.isDivided)
+        m_DividedEnds.emplace(closing.tag.data(), end);
+    if (closing.node != nullptr) {
+        MakeTexts();
+        closing.node->nsDef = reinterpret_cast<xmlNs*>(const_cast<char*>(end));
+        --m_Made;
+    }
+    m_Open.pop_back();
+}
+
+bool CCompactTree::TakeText()
+{
+    const std::string_view text = m_Tree.substr(m_Offset, m_Tree.find('<', m_Offset) - m_Offset);
+    m_Offset += text.size();
     if (m_Open.empty())
         return text.find_first_not_of(kBlanks) == std::string_view::npos;
     const SPlainText found = Examine(text, false);
-    if (!found.isPlain || (found.hasReferences && !Unescape(text, false)))
+    if (!found.isPlain)
         return false;
-    xmlNode* const node = MakeNode(XML_TEXT_NODE, text.data(), TextName());
-    node->content = Characters(m_Nodes.Copy(found.hasReferences ? std::string_view(m_Unescaped) : text));
-    node->psvi = const_cast<char*>(text.data() + text.size());
-    AddNode(node);
+    const std::size_t begin = m_Texts.size();
+    if (!found.hasReferences)
+        m_Texts += text;
+    else if (!Unescape(text, false, m_Texts))
+        return false;
+    switch (m_Needs.texts) {
+    case enPathTexts::None:
+        m_Texts.resize(begin);
+        break;
+    case enPathTexts::Joined:
+        break;
+    case enPathTexts::Nodes:
+        MakeTexts();
+        m_Open.back().node->last->_private = const_cast<char*>(text.data());
+        break;
+    }
     return true;
 }
 

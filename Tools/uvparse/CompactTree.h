@@ -1,10 +1,10 @@
 // The text of a tree as documents for libxml2 to search, part by part or as a whole. They are made straight
-// from the text, take no more than a search needs and are good for nothing else: nothing in them may be
+// from the text, hold no more than a search needs and are good for nothing else: nothing in them may be
 // changed or freed.
 #pragma once
 
-#include "Tools/uvparse/MarkupScanner.h"
 #include "Tools/uvparse/NodeArena.h"
+#include "Tools/uvparse/PathNeeds.h"
 #include "Tools/uvparse/PathScope.h"
 
 #include <libxml/tree.h>
@@ -39,7 +39,8 @@ public:
     // character references, with single blanks between attributes. Comments, namespaces, CDATA sections and
     // control characters are not.
     // `partSize`: bytes of text that a part has at least; 0: the whole is one part. Borrows all arguments.
-    CCompactTree(std::string_view tree, const SPathScope& scope, std::size_t partSize);
+    CCompactTree(std::string_view tree, const SPathScope& scope, const SPathNeeds& needs,
+                 std::size_t partSize);
     ~CCompactTree();
 
     CCompactTree(const CCompactTree&) = delete;
@@ -70,11 +71,25 @@ private:
         void operator()(xmlDoc* document) const;
     };
 
+    // An opening tag that was found to be plain. Trees repeat the same tags over and over.
+    struct STag
+    {
+        std::string_view text; // empty: none
+        std::string_view name;
+        const char* storedName = nullptr;
+        bool isEmpty = false;
+        bool isNeeded = false;
+        bool isUndivided = false;
+        bool isParentUndivided = false;
+    };
+
     struct SOpenElement
     {
         std::string_view tag; // the opening one
         std::string_view name;
-        xmlNode* node = nullptr;
+        const char* storedName = nullptr; // the same for the same name, as nodes have it
+        xmlNode* node = nullptr;          // null until something in the element is needed
+        std::size_t textBegin = 0;        // of what is in it, in m_Texts
         bool isDivided = false;
         bool isWanted = false;    // whole
         bool holdsWanted = false; // a child that wants its parent whole
@@ -82,37 +97,48 @@ private:
 
     void BeginPart();
     bool MayDivide() const;
-    bool TakeTag(const SMarkup& markup);
-    bool TakeEnd(const SMarkup& markup);
-    bool TakeText(std::string_view text);
-    xmlNode* AddElement(const SMarkup& markup);
-    bool AddAttributes(xmlNode* element, std::string_view attributes);
-    void AddNode(xmlNode* node);
+    bool TakeDeclaration();
+    bool TakeTag();
+    bool TakeEnd();
+    bool TakeText();
+    void Close();
+    const STag* TagAt(std::string_view text);
+    bool ReadTag(std::string_view text, STag& tag);
+    bool ReadAttribute(std::string_view& attributes, std::string_view& name, std::string_view& value);
+    void MakeOpenElements();
+    void MakeText(std::size_t end);
+    void MakeTexts();
+    xmlNode* MakeElement(std::string_view tag, const char* name);
+    void MakeAttributes(xmlNode* element, std::string_view tag);
     xmlNode* MakeNode(xmlElementType type, const char* begin, const char* name);
-    bool Unescape(std::string_view text, bool isValue);
+    void AddNode(xmlNode* node);
+    bool Unescape(std::string_view text, bool isValue, std::string& unescaped);
     const char* NameOf(std::string_view name);
     xmlNode* ValueOf(std::string_view text);
 
     std::string_view m_Tree;
-    const SPathScope& m_Scope;
+    const SPathNeeds& m_Needs;
     std::unordered_set<std::string_view> m_Undivided;
     std::unordered_set<std::string_view> m_UndividedParents;
     std::size_t m_PartSize;
-    CMarkupScanner m_Scanner;
+    std::size_t m_Offset = 0;          // in m_Tree
     const char* m_PartBegin = nullptr; // what begins before was open already
+    std::vector<STag> m_Tags;          // by a hash of their text
     CNodeArena m_Nodes;
     CNodeArena m_Names;
     std::unordered_map<std::string_view, const char*> m_NameTable;
     std::vector<xmlNode*> m_Values; // of attributes, by a hash of their text
     std::unique_ptr<xmlDoc, SFreeDocument> m_Document;
     std::vector<SOpenElement> m_Open;
+    std::size_t m_Made = 0;                           // of the open elements, from the outermost on
     std::map<const char*, const char*> m_DividedEnds; // of divided elements, by where they begin
     std::ptrdiff_t m_Order = 0;
     bool m_HasRoot = false;
     bool m_IsTooLarge = false;
     bool m_IsWrittenTheSame = true;
-    std::vector<const char*> m_AttributeNames; // of the element at hand
-    std::string m_Unescaped;
+    std::string m_Texts; // read, and not in a node yet
+    std::size_t m_TextsMade = 0;
+    std::string m_Value; // of an attribute
 };
 
 } // namespace uvparse

@@ -12,17 +12,13 @@ namespace uvparse {
 class CNodeArena
 {
 public:
-    // A record of nothing but pointers and numbers, all of them zero.
-    template <class T>
-    T* Make()
-    {
-        return static_cast<T*>(std::memset(Take(sizeof(T)), 0, sizeof(T)));
-    }
+    // Zeroes, aligned for a record of pointers and numbers.
+    void* Make(std::size_t size) { return std::memset(Take(size, alignof(void*)), 0, size); }
 
     // A copy with a NUL at its end.
     char* Copy(std::string_view text)
     {
-        char* const copy = static_cast<char*>(Take(text.size() + 1));
+        char* const copy = static_cast<char*>(Take(text.size() + 1, 1));
         std::memcpy(copy, text.data(), text.size());
         copy[text.size()] = '\0';
         return copy;
@@ -44,10 +40,10 @@ private:
         std::size_t size;
     };
 
-    void* Take(std::size_t size)
+    void* Take(std::size_t size, std::size_t alignment)
     {
-        size = (size + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1);
-        while (m_Block < m_Blocks.size() && m_Blocks[m_Block].size - m_Used < size) {
+        m_Used = (m_Used + alignment - 1) & ~(alignment - 1);
+        while (m_Block < m_Blocks.size() && m_Blocks[m_Block].size < m_Used + size) {
             ++m_Block;
             m_Used = 0;
         }

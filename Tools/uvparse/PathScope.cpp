@@ -417,11 +417,7 @@ private:
 
 SPathScope ScopeOfPath(std::string_view expression)
 {
-    SPathScope scope = CScopeReader(expression).Read();
-    scope.needsAttributes = expression.find('@') != std::string_view::npos ||
-                            expression.find("attribute") != std::string_view::npos;
-    scope.needsNamespaces = expression.find("namespace") != std::string_view::npos;
-    return scope;
+    return CScopeReader(expression).Read();
 }
 
 } // namespace uvparse

@@ -19,8 +19,6 @@ struct SPathScope
     std::vector<std::string> undividedParents; // - nor the parent of an element of these names.
     // It asks for the number of the nodes that this expression selects, and all of the above is about them.
     std::string counted;
-    bool needsAttributes = true;
-    bool needsNamespaces = true;
 };
 
 // `expression` is one that XPath 1.0 allows. What isn't surely divisible is not.

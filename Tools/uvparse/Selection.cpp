@@ -239,8 +239,8 @@ struct CSelector::SResult
 };
 
 CSelector::CSelector(std::string expression, std::size_t partSize)
-    : m_Text(std::move(expression)), m_Scope(ScopeOfPath(m_Text)), m_PartSize(partSize),
-      m_Expression(std::make_unique<CExpression>(m_Text))
+    : m_Text(std::move(expression)), m_Scope(ScopeOfPath(m_Text)), m_Needs(NeedsOfPath(m_Text)),
+      m_PartSize(partSize), m_Expression(std::make_unique<CExpression>(m_Text))
 {
     if (m_Scope.isDivisible && !m_Scope.counted.empty())
         m_Counted = std::make_unique<CExpression>(m_Scope.counted);
@@ -260,7 +260,7 @@ CSelector::SResult CSelector::Search(std::string_view tree, std::size_t partSize
     std::size_t count = 0; // of nodes that are told by their number alone
     const bool isCounting = partSize > 0 && m_Counted;
     const CExpression& expression = isCounting ? *m_Counted : *m_Expression;
-    CCompactTree parts(tree, m_Scope, partSize);
+    CCompactTree parts(tree, m_Scope, m_Needs, partSize);
     while ((found.ended = parts.Next()) == enPart::Made) {
         const TOwner<xmlXPathObject> result = expression.Evaluate(parts.GetDocument(), m_Text);
         if (result->type != XPATH_NODESET) {
@@ -312,7 +312,7 @@ bool CSelector::Write(std::string_view tree, const std::string& name, const SSel
 {
     if (tree.empty())
         return false;
-    if (m_Scope.needsNamespaces)
+    if (m_Needs.areNamespaces)
         return WriteFromDocument(tree, name, look, sink);
     SResult found = Search(tree, m_Scope.isDivisible ? m_PartSize : 0);
     if (found.ended == enPart::TooLarge)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvparse/PathNeeds.h"
 #include "Tools/uvparse/PathScope.h"
 
 #include <cstddef>
@@ -47,6 +48,7 @@ private:
 
     std::string m_Text;
     SPathScope m_Scope;
+    SPathNeeds m_Needs;
     std::size_t m_PartSize;
     std::unique_ptr<CExpression> m_Expression;
     std::unique_ptr<CExpression> m_Counted; // the path, where the expression is the number of its nodes
