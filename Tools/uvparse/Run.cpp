@@ -113,7 +113,7 @@ private:
     void Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
                 CParserHost& host);
     void TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark);
-    void TellTime(const std::string& path, CParserHost& host, double readSeconds, const char* work,
+    void TellTime(const std::string& path, double loadSeconds, double readSeconds, const char* work,
                   double workSeconds, Clock::time_point writing);
     std::string OutputOf(const std::string& path) const;
     void WriteResult(const std::string& path, const std::string& result);
@@ -404,12 +404,12 @@ void CRun::WritePrepared(const std::string& path, const std::string& text, const
     file.Close();
 }
 
-void CRun::TellTime(const std::string& path, CParserHost& host, double readSeconds, const char* work,
+void CRun::TellTime(const std::string& path, double loadSeconds, double readSeconds, const char* work,
                     double workSeconds, Clock::time_point writing)
 {
     if (!m_Line.isTime)
         return;
-    Tell(ShownName(path), "load " + std::to_string(Milliseconds(host.TakeLoadSeconds())) + " ms, read " +
+    Tell(ShownName(path), "load " + std::to_string(Milliseconds(loadSeconds)) + " ms, read " +
                               std::to_string(Milliseconds(readSeconds)) + " ms, " + work + ' ' +
                               std::to_string(Milliseconds(workSeconds)) + " ms, write " +
                               std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
@@ -449,10 +449,14 @@ void CRun::ParseFile(const SLanguage& language, const std::string& path, const s
         ++m_Counted;
     }
 
+    const double loadSeconds = host.TakeLoadSeconds();
     const Clock::time_point writing = Clock::now();
+    // A search wants memory of its own.
+    if (m_Selector && text.size() > kLongText)
+        m_Hosts.clear();
     if (result.isParsed)
         WriteResult(path, result.output);
-    TellTime(path, host, readSeconds, "parse", result.seconds, writing);
+    TellTime(path, loadSeconds, readSeconds, "parse", result.seconds, writing);
 }
 
 void CRun::PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
@@ -467,7 +471,7 @@ void CRun::PrepareFile(const SLanguage& language, const std::string& path, const
     const Clock::time_point writing = Clock::now();
     if (result.isParsed)
         WritePrepared(path, text, result);
-    TellTime(path, host, readSeconds, "prepare", result.seconds, writing);
+    TellTime(path, host.TakeLoadSeconds(), readSeconds, "prepare", result.seconds, writing);
 }
 
 void CRun::RunFile(const std::string& path)
