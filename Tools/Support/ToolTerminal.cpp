@@ -1,5 +1,7 @@
 #include "Tools/Support/ToolTerminal.h"
 
+#include "UVEnvironment/UVECodePoints.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
@@ -8,11 +10,12 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+namespace CodePoints = Uve::CodePoints;
+
 namespace {
 
 constexpr std::size_t kPlainWidth = 130;
 constexpr std::size_t kTabWidth = 8;
-constexpr char32_t kReplacement = 0xFFFD;
 constexpr char32_t kControlSigns = 0x2400;
 constexpr char32_t kDeleteSign = 0x2421;
 constexpr char kEllipsis[] = "\xE2\x80\xA6";
@@ -25,48 +28,17 @@ bool IsDirection(char32_t codePoint)
 // Takes one character, or one byte that belongs to none, off the front.
 char32_t TakeCodePoint(std::string_view& text)
 {
-    const auto lead = static_cast<unsigned char>(text.front());
-    text.remove_prefix(1);
-    if (lead < 0x80)
-        return lead;
-    const std::size_t behind = lead >= 0xF0 && lead < 0xF5   ? 3
-                               : lead >= 0xE0 && lead < 0xF0 ? 2
-                               : lead >= 0xC2 && lead < 0xE0 ? 1
-                                                             : 0;
-    if (behind == 0 || text.size() < behind)
-        return kReplacement;
-    char32_t codePoint = lead & (0x3Fu >> behind);
-    for (std::size_t i = 0; i < behind; ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if ((byte & 0xC0) != 0x80)
-            return kReplacement;
-        codePoint = codePoint << 6 | (byte & 0x3F);
-    }
-    constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
-    if (codePoint < kLeast[behind] || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF))
-        return kReplacement;
-    text.remove_prefix(behind);
-    return codePoint;
+    const CodePoints::SDecoded decoded =
+        CodePoints::DecodeUtf8(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    const bool isCharacter = decoded.kind == CodePoints::enDecoded::Character;
+    text.remove_prefix(isCharacter ? decoded.length : 1);
+    return isCharacter ? decoded.codePoint : CodePoints::kReplacement;
 }
 
 void AppendCodePoint(char32_t codePoint, std::string& out)
 {
-    const auto put = [&](char32_t bits) { out += static_cast<char>(static_cast<unsigned char>(bits)); };
-    if (codePoint < 0x80) {
-        put(codePoint);
-    } else if (codePoint < 0x800) {
-        put(0xC0 | codePoint >> 6);
-        put(0x80 | (codePoint & 0x3F));
-    } else if (codePoint < 0x10000) {
-        put(0xE0 | codePoint >> 12);
-        put(0x80 | (codePoint >> 6 & 0x3F));
-        put(0x80 | (codePoint & 0x3F));
-    } else {
-        put(0xF0 | codePoint >> 18);
-        put(0x80 | (codePoint >> 12 & 0x3F));
-        put(0x80 | (codePoint >> 6 & 0x3F));
-        put(0x80 | (codePoint & 0x3F));
-    }
+    char bytes[4];
+    out.append(bytes, static_cast<std::size_t>(CodePoints::EncodeUtf8(codePoint, bytes)));
 }
 
 // What stands for a character that can't be shown as it is.
@@ -77,7 +49,7 @@ char32_t Shown(char32_t codePoint)
     if (codePoint == 0x7F)
         return kDeleteSign;
     if ((codePoint >= 0x80 && codePoint < 0xA0) || IsDirection(codePoint))
-        return kReplacement;
+        return CodePoints::kReplacement;
     return codePoint;
 }
 

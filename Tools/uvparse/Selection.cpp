@@ -2,6 +2,7 @@
 
 #include "Tools/uvparse/CompactTree.h"
 #include "Tools/uvparse/PrettyTree.h"
+#include "Tools/uvparse/SourcePlaces.h"
 #include "UVEnvironment/UVEXmlRead.h"
 #include "UVEnvironment/UVEXmlTree.h"
 
@@ -102,13 +103,6 @@ private:
     bool m_HasFailed = false;
 };
 
-std::size_t CountCodePoints(std::string_view text)
-{
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    }));
-}
-
 std::string_view View(const xmlChar* text)
 {
     return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);
@@ -136,7 +130,7 @@ public:
             Dump(node);
         }
         std::string_view text = View(xmlBufferContent(m_Buffer.get()));
-        // An attribute comes with the blank that parts it from the one before.
+        // An attribute comes with the blank that separates it from the one before.
         if (node->type == XML_ATTRIBUTE_NODE || node->type == XML_NAMESPACE_DECL)
             text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
         return text;
