@@ -232,10 +232,10 @@ TEST_F(Uvrules, ConditionsThatAreNeverMetAreShownWithTheirPlace)
     const std::string file = "host/rules/.Precompiled/GlobalVariables.xslt:";
     EXPECT_EQ(run.err,
               file +
-                  "3: warning: this condition is never met: no blank may stand behind a name alone\n"
+                  "3: warning: this condition is never met: no blank may stand after a name alone\n"
                   "    <!-- Condition: One -->\n" +
                   file +
-                  "6: warning: this condition is never met: a list needs a second name in front of it, which "
+                  "6: warning: this condition is never met: a list needs a second name before it, which "
                   "may be *\n"
                   "      <!--Condition:Two [x]--><two/><!--End Condition-->\n" +
                   file +

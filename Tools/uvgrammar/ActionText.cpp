@@ -195,7 +195,7 @@ private:
             if (AtEnd())
                 return;
             if (!TakeComment()) {
-                Problem("what stands behind the first closing brace is lost");
+                Problem("what stands after the first closing brace is lost");
                 return;
             }
         }
@@ -288,7 +288,7 @@ private:
         m_At = close + 1;
         Skip(" \t\r\n;");
         if (Peek() != '}') {
-            Problem("what stands behind yytext[...] is lost");
+            Problem("what stands after yytext[...] is lost");
             return false;
         }
         return true;

@@ -261,7 +261,7 @@ void CheckScannerRules(const CGrammarSource& source, const SGeneratedFiles& file
     for (const SEndOfFileAction& action : actions.endsOfFile) {
         if (!IsEndOfText(action.body))
             messages.Write(enSeverity::Error, source.Place(action.line),
-                           "an action behind <<EOF>> is lost, unless it is { yyterminate(); }");
+                           "an action after <<EOF>> is lost, unless it is { yyterminate(); }");
     }
     const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
     if (static_cast<int>(actions.cases.size()) != defaultRule ||

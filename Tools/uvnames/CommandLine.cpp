@@ -134,7 +134,7 @@ std::string HelpText()
             "       uvnames limits DB\n"
             "What the objects of a database are called in another one: legal there, unique, and why.\n\n"
          << ShownOptions(raw)
-         << "\nA line of input is one name, in fields parted by tabs: type, server, schema, object, "
+         << "\nA line of input is one name, in fields separated by tabs: type, server, schema, object, "
             "sub-object, "
             "and a\n"
             "word such as temp. Fields at the end may be left out; \\t, \\n, \\r and \\\\ stand for what "

@@ -110,7 +110,7 @@ ToolDetails Explain(CNameMapping& mapping, const SName& name, const SConvertedNa
     tell("sub-object", name.sub, name.type);
 
     if (converted.reasons & UVDB_NAME_MADE_UNIQUE)
-        details.emplace_back("unique", "another object has the name already: a number goes behind it");
+        details.emplace_back("unique", "another object has the name already: a number goes after it");
     if (const Uve::U8CString joined = converted.target.Joined(); converted.written != joined)
         details.emplace_back("script", Quoted(joined) + " is written " + converted.written);
     for (const std::string& reason : ReasonTexts(converted.reasons))

@@ -25,7 +25,7 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("record-length", po::value(&line.recordLength)->value_name("N"), "the input has no line ends but records of N bytes each")
         ("prepare", po::bool_switch(&line.isPrepare), "print the prepared text instead of parsing it; needs no language tables")
         ("diff", po::bool_switch(&line.isDiff), "with --prepare: source and prepared text side by side, with line numbers")
-        ("lines", po::bool_switch(&line.isLines), "print the number of each prepared line and of the source line that it comes from; with --prepare: the prepared text, the source line's number in front")
+        ("lines", po::bool_switch(&line.isLines), "print the number of each prepared line and of the source line that it comes from; with --prepare: the prepared text, the source line's number before it")
         ("raw", po::bool_switch(&line.isRaw), "the tree of the text as it stands, neither prepared nor flattened")
         ("pretty", po::bool_switch(&line.isPretty), "an element a line, indented; texts stay as they are")
         ("xpath", po::value(&line.xpath)->value_name("EXPR"), "what this XPath 1.0 expression selects, instead of the whole tree")

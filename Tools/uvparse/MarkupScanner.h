@@ -33,7 +33,7 @@ public:
     bool Next(SMarkup& markup);
 
     bool IsAtEnd() const { return m_Offset == m_Tree.size(); }
-    // In bytes, behind what Next gave last.
+    // In bytes, after what Next gave last.
     std::size_t GetOffset() const { return m_Offset; }
     std::size_t GetOffsetOf(const SMarkup& markup) const
     {

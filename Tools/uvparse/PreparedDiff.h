@@ -32,7 +32,7 @@ struct SDiffLook
 void WriteDiff(std::string_view source, std::string_view prepared, const CPreparedLines& lines,
                const SDiffLook& look, const TTextSink& sink);
 
-// Writes a line for each prepared line, behind `prefix`: its number, a tab and the number of its source line,
+// Writes a line for each prepared line, after `prefix`: its number, a tab and the number of its source line,
 // or with `isText` the number of its source line, a colon and the line itself. "-" stands for a source line
 // that isn't known.
 void WriteLines(std::string_view prepared, const CPreparedLines& lines, const std::string& prefix,

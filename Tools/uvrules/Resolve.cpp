@@ -21,9 +21,9 @@ const char* ReasonText(enDeadCondition reason)
 {
     switch (reason) {
     case enDeadCondition::BlankBehindName:
-        return "no blank may stand behind a name alone";
+        return "no blank may stand after a name alone";
     case enDeadCondition::ListWithoutSecondName:
-        return "a list needs a second name in front of it, which may be *";
+        return "a list needs a second name before it, which may be *";
     case enDeadCondition::Malformed:
         break;
     }

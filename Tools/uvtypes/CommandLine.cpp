@@ -178,19 +178,18 @@ std::string HelpText(const std::string& topic)
     for (const SCommand& command : kCommands)
         if (topic.empty() || topic == command.name)
             AddCommandHelp(command, text);
-    text
-        << "\nDB is a database by number or by any of its names, with a version if one is meant: Oracle, "
-           "Oracle:11.2,\n"
-           "MSSQL:10, 'DB2 AS400'. A subtype without a name of its own goes between: MySQL:1:. Without a "
-           "version the\n"
-           "newest known one counts. It is the target whose version matters.\n"
-           "\nResults go to standard output, messages to standard error. --help behind a command tells of it "
-           "alone,\n"
-           "--version prints the version.\n"
-           "Exit code: 0 clean; 1 a type isn't known, or --check found a loss; 2 something could not run: "
-           "bad "
-           "arguments,\n"
-           "an unknown database, files that can't be read, failed writes.\n";
+    text << "\nDB is a database by number or by any of its names, with a version if one is meant: Oracle, "
+            "Oracle:11.2,\n"
+            "MSSQL:10, 'DB2 AS400'. A subtype without a name of its own goes between: MySQL:1:. Without a "
+            "version the\n"
+            "newest known one counts. It is the target whose version matters.\n"
+            "\nResults go to standard output, messages to standard error. --help after a command tells of it "
+            "alone,\n"
+            "--version prints the version.\n"
+            "Exit code: 0 clean; 1 a type isn't known, or --check found a loss; 2 something could not run: "
+            "bad "
+            "arguments,\n"
+            "an unknown database, files that can't be read, failed writes.\n";
     return text.str();
 }
 
