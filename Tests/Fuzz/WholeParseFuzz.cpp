@@ -6,7 +6,7 @@
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Parser/UVParser.h"
-#include "Tests/Parser/TreeText.h"
+#include "Tests/Support/TreeText.h"
 #include "UVEnvironment/UVEEncoding.h"
 
 #include <cstdint>
@@ -82,7 +82,7 @@ public:
     {
         m_Parser.set_Query(source.c_str());
         const std::string raw = m_Parser.FastParse();
-        Expect(raw.empty() || WithoutControls(TreeText(raw)) == WithoutControls(source),
+        Expect(raw.empty() || WithoutControls(TextOfTree(raw)) == WithoutControls(source),
                "raw parse lost text", source, raw);
 
         Uve::U8CString prepared = source;
@@ -92,7 +92,7 @@ public:
         m_Parser.get_SQLTree(tree);
         Expect(result == UVDB_OK || tree.empty() || !UVDB::IsValidUTF8(prepared), "failure with a tree",
                source, tree);
-        Expect(result != UVDB_OK || AsRead(TreeText(tree)) == AsRead(prepared), "parse lost text", source,
+        Expect(result != UVDB_OK || AsRead(TextOfTree(tree)) == AsRead(prepared), "parse lost text", source,
                tree);
         Uve::U8CString unexpected;
         CUVDBOptionWrapper::GetParam(m_Info, "UNEXPECTED_TOKENS", unexpected);

@@ -158,7 +158,7 @@ private:
 
 protected:
     // Parses as a host does that knows of no trouble.
-    bool ParsesWell() { return Parse(kText) == UVDB_OK && TreeText(Tree()) == kText; }
+    bool ParsesWell() { return Parse(kText) == UVDB_OK && TextOfTree(Tree()) == kText; }
     bool ParsesWellAfterInit() { return m_Parser.Init("") == UVDB_OK && ParsesWell(); }
 
     static constexpr char kText[] = "print 'a<b';\nuse b; -- c\n";
@@ -229,9 +229,9 @@ TEST_F(MemoryFailure, OfATextLeavesAnObjectThatParsesTheNext)
             Tree();
             LastDescription();
         };
-        const std::string wanted = Parse(text) == UVDB_OK ? TreeText(Tree()) : "";
+        const std::string wanted = Parse(text) == UVDB_OK ? TextOfTree(Tree()) : "";
         const SRuns runs = FailEach(
-            parse, [&] { return (result != UVDB_OK || TreeText(Tree()) == wanted) && ParsesWell(); });
+            parse, [&] { return (result != UVDB_OK || TextOfTree(Tree()) == wanted) && ParsesWell(); });
         EXPECT_GT(runs.runs, 30);
     }
 }

@@ -13,8 +13,8 @@
 #include "Metadata/UVDBDatabaseInfo.h"
 #include "Parser/UVParser.h"
 #include "Tests/Parser/ErrorRecord.h"
-#include "Tests/Parser/TreeText.h"
 #include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/TreeText.h"
 
 #include <gtest/gtest.h>
 

@@ -101,7 +101,7 @@ TEST_F(ParserObject, ResultFollowsTheText)
         SCOPED_TRACE(c.text);
         EXPECT_EQ(Parse(c.text), c.result);
         EXPECT_EQ(m_Parser.IsParseHasErrors(), c.hasErrors);
-        EXPECT_EQ(TreeText(Tree()), c.prepared ? c.prepared : c.text);
+        EXPECT_EQ(TextOfTree(Tree()), c.prepared ? c.prepared : c.text);
         EXPECT_EQ(m_Parser.GetParsedXml(), Tree());
     }
 }
@@ -116,7 +116,7 @@ TEST_F(ParserObject, ResultIsGivenAwayOnceWhereTheHostAsksForThat)
     EXPECT_EQ(Tree(), tree);
     EXPECT_EQ(Tree(), "");
     ASSERT_EQ(Parse("print 2;"), UVDB_OK);
-    EXPECT_EQ(TreeText(Tree()), "print 2;");
+    EXPECT_EQ(TextOfTree(Tree()), "print 2;");
 }
 
 TEST_F(ParserObject, TraceTellsTheSteps)
@@ -140,7 +140,7 @@ TEST_F(ParserObject, QueryStaysAndResultGoesWithANullText)
     EXPECT_EQ(m_Parser.set_Query(nullptr), UVDB_OK);
     EXPECT_EQ(Tree(), "");
     EXPECT_EQ(m_Parser.Parse(false), UVDB_OK);
-    EXPECT_EQ(TreeText(Tree()), "print 1;");
+    EXPECT_EQ(TextOfTree(Tree()), "print 1;");
 }
 
 TEST_F(ParserObject, FastParseGivesTheTreeAndKeepsTheResult)
@@ -148,7 +148,7 @@ TEST_F(ParserObject, FastParseGivesTheTreeAndKeepsTheResult)
     Start();
     ASSERT_EQ(Parse("print 1;"), UVDB_OK);
     m_Parser.set_Query("print\xE2\x80\x8B 2;"); // isn't prepared: the space of no width is no token
-    EXPECT_EQ(TreeText(m_Parser.FastParse()), "print\xE2\x80\x8B 2;");
+    EXPECT_EQ(TextOfTree(m_Parser.FastParse()), "print\xE2\x80\x8B 2;");
     EXPECT_TRUE(m_Parser.IsParseHasErrors());
     EXPECT_EQ(Tree(), "");
     m_Parser.set_Query("print 3");
@@ -290,7 +290,7 @@ TEST_F(ParserObject, ColoringMapsTheTokens)
 
     ASSERT_EQ(m_Parser.Init(""), UVDB_OK);
     ASSERT_EQ(Parse("print 1;"), UVDB_OK);
-    EXPECT_EQ(TreeText(Tree()), "print 1;");
+    EXPECT_EQ(TextOfTree(Tree()), "print 1;");
 }
 
 TEST_F(ParserObject, CommentModeFindsCommentsAlone)

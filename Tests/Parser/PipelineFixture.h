@@ -5,8 +5,8 @@
 #include "Parser/ParsePipeline.h"
 #include "Parser/UVParserText.h"
 #include "Tests/Parser/ErrorRecord.h"
-#include "Tests/Parser/TreeText.h"
 #include "Tests/Support/MemoryLog.h"
+#include "Tests/Support/TreeText.h"
 
 #include <gtest/gtest.h>
 

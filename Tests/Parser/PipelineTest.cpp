@@ -82,7 +82,7 @@ TEST_F(Pipeline, TextsThatComePreparedStayAsTheyAre)
     EXPECT_NE(Result(), "");
     m_Log.Clear();
     Parse("print\xE2\x80\x8B 1;");
-    EXPECT_EQ(TreeText(Result()), "print\xE2\x80\x8B 1;");
+    EXPECT_EQ(TextOfTree(Result()), "print\xE2\x80\x8B 1;");
     EXPECT_EQ(m_Log.Text().find("Formatted query"), std::string::npos);
 }
 
@@ -102,7 +102,7 @@ TEST_F(Pipeline, FlatteningThatFailsIsTold)
     EXPECT_EQ(Parse("print 1;"), -7);
     EXPECT_EQ(Description(), "can't transform tree to serial");
     EXPECT_TRUE(m_Log.Text().ends_with("\nFAILED: can't transform tree to serial\n"));
-    EXPECT_EQ(TreeText(Result()), "print 1;");
+    EXPECT_EQ(TextOfTree(Result()), "print 1;");
 
     m_Flatten = []() -> int { throw Uve::U8CString("no stylesheet"); };
     EXPECT_EQ(Parse("print 1;"), UVDB_ERROR);
@@ -189,7 +189,7 @@ TEST_F(Pipeline, SecondAttemptTriesTheOtherQuoteRule)
         m_FlattenCount = 0;
         m_Warnings = 0;
         EXPECT_EQ(Parse(c.text), c.result);
-        EXPECT_EQ(TreeText(Result()), c.hasTree ? c.text : "");
+        EXPECT_EQ(TextOfTree(Result()), c.hasTree ? c.text : "");
         EXPECT_EQ(m_Grammar.Parser()->HasErrors(), c.hasErrors);
         EXPECT_EQ(m_Parsed.findings.unexpected.empty(), !c.hasErrors);
         EXPECT_EQ(IsQuotedIdentifier(), c.isIdentifier);
@@ -251,7 +251,7 @@ TEST_F(Pipeline, TextOfAnyBytesSurvives)
           "-- " + std::string(1 << 20, 'x')}) {
         m_Flatten = [] { return UVDB_OK; };
         EXPECT_EQ(Parse(text), UVDB_OK);
-        EXPECT_TRUE(TreeText(Result()) == text) << text.substr(0, 20);
+        EXPECT_TRUE(TextOfTree(Result()) == text) << text.substr(0, 20);
     }
 }
 

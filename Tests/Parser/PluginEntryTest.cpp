@@ -44,7 +44,7 @@ TEST(PluginEntry, HostWalksTheCallingOrder)
     parser->set_Query("print 'a<b';");
     ASSERT_EQ(parser->Parse(false), UVDB_OK);
     ASSERT_EQ(parser->get_SQLTree(tree), UVDB_OK);
-    EXPECT_EQ(TreeText(tree), "print 'a<b';");
+    EXPECT_EQ(TextOfTree(tree), "print 'a<b';");
 
     // The texts and records below are made by the library and read here.
     parser->set_Query("print 1 1");

@@ -63,7 +63,7 @@ TEST_F(UnexpectedTokensOption, AListThatCantBeHandedOverFailsTheParse)
     SetOption("UNEXPECTED_TOKENS", std::map<int, unsigned long>()); // no text goes there
     Start();
     EXPECT_LT(Parse("print 1;"), UVDB_OK);
-    EXPECT_EQ(TreeText(Tree()), "print 1;");
+    EXPECT_EQ(TextOfTree(Tree()), "print 1;");
 }
 
 TEST_F(UnexpectedTokensOption, TellsOfTheParseThatStands)

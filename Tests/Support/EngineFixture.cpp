@@ -81,21 +81,6 @@ void Set(SEngineSettings& settings, const std::string& key, const std::string& v
         settings.options[key] = value;
 }
 
-// Calls visit with the name of each tag ("/name" for an end tag) and the text behind it, as it stands. The
-// trees hold no other markup.
-template <class Visit>
-void ForEachTag(std::string_view tree, const Visit& visit)
-{
-    while (!tree.empty()) {
-        const std::size_t end = tree.find('>');
-        const std::size_t next = std::min(tree.find('<', 1), tree.size());
-        if (tree.front() != '<' || end == std::string_view::npos || end > next)
-            throw std::runtime_error("the tree is broken before " + std::string(tree.substr(0, 40)));
-        visit(tree.substr(1, std::min(tree.find(' '), end) - 1), tree.substr(end + 1, next - end - 1));
-        tree.remove_prefix(next);
-    }
-}
-
 // 'text', with line feeds and other bytes that a case file can't show escaped.
 std::string Quoted(const std::string& text)
 {
@@ -116,24 +101,6 @@ std::string Quoted(const std::string& text)
 }
 
 } // namespace
-
-void AppendPlain(std::string_view text, std::string& plain)
-{
-    constexpr std::pair<std::string_view, char> kEntities[] = {
-        {"&lt;", '<'}, {"&gt;", '>'}, {"&apos;", '\''}, {"&quot;", '"'}, {"&amp;", '&'}};
-    for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&')) {
-        plain += text.substr(0, at);
-        text.remove_prefix(at);
-        const auto entity =
-            std::find_if(std::begin(kEntities), std::end(kEntities),
-                         [&](const auto& candidate) { return text.starts_with(candidate.first); });
-        if (entity == std::end(kEntities))
-            throw std::runtime_error("the tree holds a bare &");
-        plain += entity->second;
-        text.remove_prefix(entity->first.size());
-    }
-    plain += text;
-}
 
 std::ostream& operator<<(std::ostream& out, const SParseOutcome& outcome)
 {
@@ -264,13 +231,6 @@ std::string Sketch(std::string_view tree)
         }
     });
     return sketch;
-}
-
-std::string TextOfTree(std::string_view tree)
-{
-    std::string text;
-    ForEachTag(tree, [&](std::string_view, std::string_view escaped) { AppendPlain(escaped, text); });
-    return text;
 }
 
 bool FitsIntoXml(std::string_view text)

@@ -4,6 +4,7 @@
 
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
+#include "Tests/Support/TreeText.h"
 
 #include <filesystem>
 #include <map>
@@ -72,10 +73,6 @@ std::shared_ptr<CScannerTables> ReadScannerTables(const std::string& grammar);
 // the two outer nodes left out. A node whose first child has its own name takes that child's children: lists
 // come flat.
 std::string Sketch(std::string_view tree);
-// Appends `text` with its entities undone.
-void AppendPlain(std::string_view text, std::string& plain);
-// The text of a tree, entities undone.
-std::string TextOfTree(std::string_view tree);
 // False for a text with one of the two control characters that have no place in XML: a tree holds others for
 // them.
 bool FitsIntoXml(std::string_view text);
