@@ -148,10 +148,10 @@ constexpr SPass kPasses[] = {
     {"pascal",        enSourceKind::Pascal,             Pascal,                             10},
     {"progress",      enSourceKind::Progress,           Progress,                           10},
     {"asp",           enSourceKind::Asp,                Asp,                                10},
-    {"macro-0",       enSourceKind::MacroC,             MacroProcessor<0>,                   5},
-    {"macro-1",       enSourceKind::MacroC,             MacroProcessor<1>,                   5},
-    {"macro-2",       enSourceKind::MacroC,             MacroProcessor<2>,                   5},
-    {"embedded-sql",  enSourceKind::EmbeddedSql,        EmbeddedSql,                         5},
+    {"macro-0",       enSourceKind::MacroC,             MacroProcessor<0>,                  45},
+    {"macro-1",       enSourceKind::MacroC,             MacroProcessor<1>,                  45},
+    {"macro-2",       enSourceKind::MacroC,             MacroProcessor<2>,                  45},
+    {"embedded-sql",  enSourceKind::EmbeddedSql,        EmbeddedSql,                        30},
 };
 // clang-format on
 
