@@ -11,9 +11,9 @@
 namespace MacroPreprocessorChecker::internal {
 
 // Brings a text into the form that the reader takes: without a byte order mark, one byte for a character,
-// with
-// "\n" at every line's end. A wide character above 127 becomes the byte 255, which the reader refuses outside
-// of comments and strings.
+// with "\n" at every line's end, which may have been "\r\n" or "\r". A wide character above 127 becomes the
+// byte 255, which the reader refuses outside of comments and strings. For sources with macros and what they
+// include alone: other passes keep line ends, and it is the flattened tree that has line feeds only.
 std::string DecodeText(std::string bytes);
 
 // Whether DecodeText() would change the text.

@@ -50,7 +50,9 @@ public:
     static void DecryptBuffer(void* buffer, int length);
 };
 
-// Reads a gzip file. A file that isn't one is read as it stands.
+// Reads a gzip file, for whoever reads the tables of grammars: it takes every sound file, of several members
+// too, and tells what is wrong with another. A file that isn't gzip is read as it stands. Rule files are
+// never gzip.
 class ZFile
 {
 public:

@@ -5,7 +5,7 @@
 #include <string>
 
 // Hands each line of the file over, and its number from 1; "-" is the standard input. Lines come without
-// their end, the first one without a byte order mark. `flush` is called before the input may have to wait for
+// their end, LF or CR LF, the first one without a byte order mark. `flush` is called before the input may have to wait for
 // more, and now and then: whoever writes a line and waits gets its answer, and many lines don't pile up.
 // Throws: CToolFailure, and what the functions throw.
 void ReadToolLines(const std::string& path,

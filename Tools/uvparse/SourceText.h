@@ -14,8 +14,8 @@ struct SSourceForm
 };
 
 // The whole of a file, a pipe, or standard input ("-") as UTF-8 without its byte order mark. The line ends of
-// mainframes, NEL and NL, become line feeds where the encoding is of the EBCDIC family. Reading stops at the
-// first NUL, since what never ends is full of them.
+// mainframes, NEL and NL, become line feeds where the encoding is of the EBCDIC family; CR LF stays. Reading
+// stops at the first NUL, since what never ends is full of them.
 // Throws: CToolFailure if it can't be read or isn't text.
 std::string ReadSourceText(const std::string& path, const SSourceForm& form);
 

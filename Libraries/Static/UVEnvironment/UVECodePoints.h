@@ -1,5 +1,7 @@
 // One code point in each of the encoding forms. The plain pieces that the conversions are made of: no
-// allocation, no reading or writing outside what they are told.
+// allocation, no reading or writing outside what they are told. Its decoder is the one for bytes that may not
+// be UTF-8: it tells what is malformed, and nothing of it gets through. UVEUnicode.h walks the texts of the
+// system, which it takes as they are.
 #pragma once
 
 #include <cstddef>

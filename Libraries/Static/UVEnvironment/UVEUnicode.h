@@ -12,7 +12,8 @@
 //
 // UTF-8 is walked by lead bytes alone. Malformed text is never refused: a stray continuation byte counts as
 // one character, and a sequence that the end of the text cuts off ends there. Nothing here reads outside the
-// text it is given. Code points are 31 bits wide; forms of five and six bytes are accepted.
+// text it is given. Code points are 31 bits wide; forms of five and six bytes are accepted. Whether foreign
+// bytes are UTF-8 at all is told by UVECodePoints.h, and of a whole text by UVEEncoding.h.
 namespace Uve {
 
 namespace Detail {
