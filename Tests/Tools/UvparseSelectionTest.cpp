@@ -91,6 +91,49 @@ TEST(UvparsePathScope, TellsWhatMayNotBeDivided)
     EXPECT_FALSE(ScopeOfPath("//a" + std::string(100000, '[')).isDivisible);
 }
 
+struct SNeedsCase
+{
+    const char* expression;
+    const char* elements; // names, in order; null: all
+    enPathTexts texts;
+    const char* attributes; // likewise
+};
+
+const SNeedsCase kNeedsCases[] = {
+    {"(//a)[1]", "a", enPathTexts::None, ""},
+    {"string(//a)", "a", enPathTexts::Joined, ""},
+    {"string(/)", "", enPathTexts::Joined, ""},
+    {"count(//a) > 1 and not(//b)", "a b", enPathTexts::None, ""},
+    {"//a[@p = 3]/..", "a", enPathTexts::None, "p"},
+    {"//a[b = 3]", "a b", enPathTexts::Joined, ""},
+    {"//a[@p/.. = 3]", "a", enPathTexts::Joined, "p"},
+    {"//a[last() - 1]/ancestor::*[2]", "a", enPathTexts::None, ""},
+    {"//div div //mod", "div mod", enPathTexts::Joined, ""},
+    {"//a['text() * @p']", "a", enPathTexts::None, ""}, // words in a literal say nothing
+    {"//*[1]", nullptr, enPathTexts::None, ""},
+    {"//a[*]", nullptr, enPathTexts::None, ""},
+    {"//a/@*", "a", enPathTexts::None, nullptr},
+    {"//@p", nullptr, enPathTexts::Nodes, "p"},
+    {"(//text())[1]", nullptr, enPathTexts::Nodes, ""},
+    {"//parent::a", nullptr, enPathTexts::Nodes, ""}, // any node may have it as its parent
+};
+
+// What is needed too little shows in what is found; what is needed too much, in memory alone.
+TEST(UvparsePathNeeds, AreNoMoreThanAnExpressionCanSee)
+{
+    for (const auto& c : kNeedsCases) {
+        SCOPED_TRACE(c.expression);
+        const SPathNeeds needs = NeedsOfPath(c.expression);
+        EXPECT_EQ(needs.areAllElements, c.elements == nullptr);
+        if (c.elements != nullptr) {
+            EXPECT_EQ(Joined(needs.elements), c.elements);
+        }
+        EXPECT_EQ(needs.texts, c.texts);
+        EXPECT_EQ(needs.areAllAttributes, c.attributes == nullptr);
+        EXPECT_EQ(Joined(needs.attributes), c.attributes == nullptr ? "" : c.attributes);
+    }
+}
+
 std::string Select(const std::string& expression, const std::string& tree, std::size_t partSize)
 {
     std::string text;
