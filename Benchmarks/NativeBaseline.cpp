@@ -1,6 +1,7 @@
-// native_baseline [--repeat N] FILE...: the table-driven engine beside the natively compiled grammar, and the
+// native_baseline [--repeat N] [--only ROW] FILE...: the table-driven engine beside the natively compiled grammar, and the
 // flattening beside the stylesheet that defines it, on the same texts in one run. Each measurement runs in a
-// process of its own, so that its peak memory is its own too. Seconds are processor time.
+// process of its own, so that its peak memory is its own too. Seconds are processor time. With --only the row of
+// that name alone is measured, for a profiler.
 
 #include "Benchmarks/MeasuredProcess.h"
 #include "Benchmarks/Native/NativeParse.h"
@@ -220,15 +221,18 @@ SMeasure Measure(Work work, const char* path, int repeat)
 int main(int argc, char** argv)
 {
     int repeat = 3;
+    const char* only = nullptr;
     std::vector<const char*> files;
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--repeat") == 0 && i + 1 < argc)
             repeat = std::max(1, std::atoi(argv[++i]));
+        else if (std::strcmp(argv[i], "--only") == 0 && i + 1 < argc)
+            only = argv[++i];
         else
             files.push_back(argv[i]);
     }
     if (files.empty()) {
-        std::fprintf(stderr, "usage: native_baseline [--repeat N] FILE...\n");
+        std::fprintf(stderr, "usage: native_baseline [--repeat N] [--only ROW] FILE...\n");
         return 2;
     }
 
@@ -278,6 +282,8 @@ int main(int argc, char** argv)
         for (std::size_t row = 0; row < kRowCount; ++row) {
             if (rows[row].work == nullptr || bytes > rows[row].mostBytes)
                 continue;
+            if (only && std::strcmp(only, rows[row].name) != 0)
+                continue;
             WarmMemory(static_cast<std::size_t>(bytes) * kMostMemoryPerByte);
             const SMeasure measure = Measure(rows[row].work, file, repeat);
             isAllDone = isAllDone && measure.isDone;
@@ -294,6 +300,8 @@ int main(int argc, char** argv)
                 wholePeak = peak;
             }
         }
+        if (only)
+            continue;
         std::printf("engine to native: scan %.2f, parse %.2f\n", seconds[kNativeScan] / seconds[kEngineScan],
                     seconds[kNativeParse] / seconds[kEngineParse]);
         std::printf("to the raw parse: flatten %.2f, whole Parse %.2f; peak of the whole to its tree %.2f\n",
