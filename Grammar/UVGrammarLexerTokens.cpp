@@ -81,9 +81,13 @@ void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, b
         // an action may have put another text in the place of the match
         const bool isSource = isMatch || (start >= 0 && static_cast<std::size_t>(start) <= query.size() &&
                                           query.substr(static_cast<std::size_t>(start), text.size()) == text);
-        node.m_pFirst = isSource ? pool.NewToken(element, static_cast<std::uint32_t>(start),
-                                                 static_cast<std::uint32_t>(text.size()), node.m_nLine, pos)
-                                 : pool.NewTokenText(element, text, node.m_nLine, pos);
+        if (isSource) {
+            node.m_pFirst = pool.NewToken(element, static_cast<std::uint32_t>(start),
+                                          static_cast<std::uint32_t>(text.size()), node.m_nLine, pos);
+            pool.TakeSlice(m_Extension.m_strQuery.c_str(), static_cast<std::size_t>(start), text.size());
+        } else {
+            node.m_pFirst = pool.NewTokenText(element, text, node.m_nLine, pos);
+        }
         node.m_pLast = node.m_pFirst;
     }
     AddColoring(color, start, m_Extension.m_nChar - 1);

@@ -131,6 +131,8 @@ private:
     // Where the children joined so far have led.
     struct SJoin
     {
+        std::uint32_t element = 0;  // of the node
+        std::uint32_t marks = 0;    // for its start tag
         int lastChildStartPos = -1; // end of the last child that had text
         int lastChildErrorPos = -1; // where text begins that the error symbol stands for
     };

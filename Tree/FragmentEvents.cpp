@@ -25,7 +25,57 @@ constexpr SEscapes FlatEscapes()
 
 constexpr SEscapes kFlatEscapes = FlatEscapes();
 
+void MakeLeaf(STreeEvent& event, std::size_t bytes)
+{
+    event.kind = enTreeEvent::Leaf;
+    event.extent = static_cast<std::uint32_t>(bytes);
+    event.flags = bytes != 0 ? STreeEvent::kHasCharacters : 0;
+}
+
 } // namespace
+
+inline void CFragmentEvents::ReadFragment()
+{
+    const SFragment& fragment = (*m_Tree.pool)[m_Next];
+    m_Tree.pool->FetchAhead(m_Next);
+    STreeEvent& event = Append();
+    event.offset = m_Next;
+    event.name = fragment.Element();
+    event.length = 0;
+    event.extent = 0;
+    event.flags = 0;
+    m_Next = fragment.next;
+    switch (fragment.Kind()) {
+    case enFragment::Open:
+        event.kind = enTreeEvent::Start;
+        event.flags = fragment.Marks();
+        m_Open.push_back(End() - 1);
+        return;
+    case enFragment::Close: {
+        event.kind = enTreeEvent::End;
+        const std::uint64_t start = m_Open.back();
+        m_Open.pop_back();
+        if (IsRetained(start))
+            Stored(start).extent = static_cast<std::uint32_t>(End() - 1 - start);
+        return;
+    }
+    case enFragment::Empty:
+        MakeLeaf(event, 0);
+        return;
+    case enFragment::Space: {
+        const std::string_view text = m_Tree.TextOf(static_cast<const SSpaceFragment&>(fragment));
+        // form feeds are none in the raw tree
+        const bool hasCharacters =
+            !text.empty() && (text.front() != '\f' || text.find_first_not_of('\f') != std::string_view::npos);
+        MakeLeaf(event, hasCharacters ? text.size() : 0);
+        return;
+    }
+    case enFragment::Token:
+    case enFragment::TokenText:
+        MakeLeaf(event, static_cast<const STokenFragment&>(fragment).length);
+        return;
+    }
+}
 
 void CFragmentEvents::ReadOn()
 {
@@ -38,43 +88,6 @@ void CFragmentEvents::ReadOn()
                     .extent = 0,
                     .kind = enTreeEvent::Finish,
                     .flags = 0};
-}
-
-void CFragmentEvents::ReadFragment()
-{
-    const SFragment& fragment = (*m_Tree.pool)[m_Next];
-    m_Tree.pool->FetchAhead(m_Next);
-    STreeEvent& event = Append();
-    event.offset = m_Next;
-    event.name = fragment.Element();
-    event.length = 0;
-    event.extent = 0;
-    event.flags = fragment.Marks();
-    m_Next = fragment.next;
-    switch (fragment.Kind()) {
-    case enFragment::Open:
-        event.kind = enTreeEvent::Start;
-        m_Open.push_back(End() - 1);
-        return;
-    case enFragment::Close: {
-        event.kind = enTreeEvent::End;
-        const std::uint64_t start = m_Open.back();
-        m_Open.pop_back();
-        if (IsRetained(start))
-            Stored(start).extent = static_cast<std::uint32_t>(End() - 1 - start);
-        return;
-    }
-    case enFragment::Empty:
-    case enFragment::Space:
-    case enFragment::Token:
-    case enFragment::TokenText:
-        event.kind = enTreeEvent::Leaf;
-        if ((event.flags & STreeEvent::kHasCharacters) != 0)
-            event.extent = fragment.Kind() == enFragment::Space
-                               ? static_cast<const SSpaceFragment&>(fragment).length
-                               : static_cast<const STokenFragment&>(fragment).length;
-        return;
-    }
 }
 
 void CFragmentEvents::Forgotten(const STreeEvent* events)

@@ -14,7 +14,7 @@
 class CFragmentEvents final : public CTreeEvents
 {
 public:
-    // Of a tree for which MarkTree gave true. Uses the fragments up: their memory goes as their events are
+    // Of a tree that is plain by IsPlainTree. Uses the fragments up: their memory goes as their events are
     // forgotten.
     explicit CFragmentEvents(const SFragmentTree& tree) : m_Tree(tree), m_Next(tree.first) {}
 

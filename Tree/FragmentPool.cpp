@@ -1,5 +1,7 @@
 #include "Tree/FragmentPool.h"
 
+#include "Tree/TreeCharacters.h"
+
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -37,6 +39,7 @@ FragmentRef CFragmentPool::NewTokenText(std::uint32_t element, std::string_view 
 {
     const auto number = static_cast<std::uint32_t>(m_texts.size());
     m_texts.emplace_back(text);
+    m_isPlain = m_isPlain && IsTreeText(text);
     m_markupBytes += text.size() * kMostEscapedBytes;
     const FragmentRef fragment =
         NewToken(element, number, static_cast<std::uint32_t>(text.size()), line, pos);
@@ -54,4 +57,5 @@ void CFragmentPool::Release() noexcept
     m_end = 0;
     m_count = 0;
     m_markupBytes = 0;
+    m_isPlain = true;
 }

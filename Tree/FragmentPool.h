@@ -2,6 +2,7 @@
 
 #include "Tree/ElementNames.h"
 #include "Tree/LargeMemory.h"
+#include "Tree/TreeEvents.h"
 #include "Tree/TreeNames.h"
 
 #include <array>
@@ -19,6 +20,12 @@
 //
 // Fragments are addressed by number, not by pointer: half the size, and the list of a long script is what a
 // parse spends its memory on.
+//
+// Note: plain trees
+// Flattening reads the fragments as they are, if they are what a raw tree's text has to be: elements properly
+// nested, texts of whole characters. And it asks of an element what it will hold before it comes to that.
+// Both is known where an element gets a child, so it is noted there: the marks in the parent's start tag, and
+// in the pool whether all was in order. A tree that isn't plain goes on as text.
 
 using FragmentRef = std::uint32_t;
 constexpr FragmentRef kNoFragment = 0;
@@ -36,9 +43,10 @@ enum class enFragment : std::uint32_t
 struct SFragment
 {
     FragmentRef next;
-    std::uint32_t info; // kind in the low 3 bits, 3 bits of marks, element number above
+    std::uint32_t info; // kind in the low 3 bits, 2 bits of marks, a bit of a child, element number above
 
     static constexpr unsigned kMarkShift = 3;
+    static constexpr std::uint32_t kIsChild = 1u << 5;
     static constexpr unsigned kElementShift = 6;
     static std::uint32_t Info(enFragment kind, std::uint32_t element)
     {
@@ -47,8 +55,8 @@ struct SFragment
 
     enFragment Kind() const { return static_cast<enFragment>(info & 7); }
     std::uint32_t Element() const { return info >> kElementShift; }
-    // Of STreeEvent's flags those that say something about an element's content; see MarkTree.
-    std::uint8_t Marks() const { return static_cast<std::uint8_t>(info >> kMarkShift & 7); }
+    // Of STreeEvent's flags kHasItsName and kHasLabeled, in a start tag.
+    std::uint8_t Marks() const { return static_cast<std::uint8_t>(info >> kMarkShift & 3); }
     void Mark(std::uint32_t marks) { info |= marks << kMarkShift; }
 };
 
@@ -93,6 +101,21 @@ public:
 
     const std::string& Text(std::uint32_t number) const { return m_texts[number]; }
     const std::vector<std::string>& Texts() const { return m_texts; }
+
+    // ---- See the note on plain trees ----
+
+    // Says that the finished element that begins with `child` is put into an element named `parent`.
+    // Returns: the marks that it brings its parent.
+    std::uint32_t TakeChild(std::uint32_t parent, FragmentRef child);
+    // Says that a fragment stands for this slice of the query, which ends in a NUL.
+    void TakeSlice(const char* query, std::size_t start, std::size_t length)
+    {
+        if (IsInsideCharacter(query[start]) || IsInsideCharacter(query[start + length])) [[unlikely]]
+            m_isPlain = false;
+    }
+    // Whether all was in order since the last Release: no element was put into two others or is a space that
+    // holds elements, no character was cut, no token was given a text that is none.
+    bool IsPlain() const { return m_isPlain; }
 
     // How many fragments were made since the last Release.
     std::size_t Count() const { return m_count; }
@@ -150,6 +173,7 @@ private:
     }
     // Throws: std::length_error beyond 32 GiB of fragments.
     void NewChunk();
+    static bool IsInsideCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
     CElementNames m_names;
     std::vector<SChunk> m_chunks;
@@ -159,12 +183,15 @@ private:
     std::uint32_t m_end = 0;  // end of the last chunk
     std::size_t m_count = 0;
     std::size_t m_markupBytes = 0;
+    bool m_isPlain = true;
 };
 
 inline FragmentRef CFragmentPool::NewTag(enFragment kind, std::uint32_t element)
 {
     FragmentRef fragment = kNoFragment;
     Allocate<SFragment>(fragment, kind, element);
+    if (element == TreeNames::kSpace) [[unlikely]]
+        m_isPlain = false; // whether it will hold characters isn't marked
     // every start tag has its end tag, so half of a pair is counted for each
     m_markupBytes += m_names[element].close.size() << (kind == enFragment::Empty ? 1 : 0);
     return fragment;
@@ -194,6 +221,17 @@ inline FragmentRef CFragmentPool::NewToken(std::uint32_t element, std::uint32_t 
     m_markupBytes += name.tokenOpen.size() + kTokenPos.size() + kTokenEnd + name.close.size();
     m_markupBytes += line < 10000 && pos < 100 ? 6 : 2 * kMostDigits;
     return fragment;
+}
+
+inline std::uint32_t CFragmentPool::TakeChild(std::uint32_t parent, FragmentRef child)
+{
+    SFragment& first = (*this)[child];
+    if ((first.info & SFragment::kIsChild) != 0) [[unlikely]]
+        m_isPlain = false;
+    first.info |= SFragment::kIsChild;
+    const std::uint32_t element = first.Element();
+    return (element == parent ? STreeEvent::kHasItsName : 0U) |
+           (element == TreeNames::kLabeledStatement ? STreeEvent::kHasLabeled : 0U);
 }
 
 // Appends one list of fragments to another; both ends of each list are known, so the length doesn't matter.

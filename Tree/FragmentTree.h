@@ -30,15 +30,13 @@ struct SFragmentTree
     }
 };
 
-// Marks in the start tags what flattening asks of an element before it has seen its content.
-// Returns: false for a tree that isn't in the plain form of names, characters and nesting which CTextEvents
-//          reads in the raw tree: its text is for the stylesheet.
-// Throws:  std::runtime_error if the list runs in a circle, which only damaged tables can bring about.
-[[nodiscard]] bool MarkTree(const SFragmentTree& tree);
+// Whether the fragments are in the plain form of names, characters and nesting which CTextEvents reads in the
+// raw tree: otherwise its text is for the stylesheet. See the note on plain trees.
+[[nodiscard]] bool IsPlainTree(const SFragmentTree& tree);
 
 // Puts the XML text of the tree in the place of `out`. Token text has the five special characters of XML
 // escaped; of the space between tokens, form feeds go and data link escapes become a word as well.
-// Throws: as MarkTree.
+// Throws: as ForEachFragment.
 void WriteTree(const SFragmentTree& tree, std::string& out);
 
 // At least the bytes of that text, and few more, so that room for it is reserved in one step.
@@ -48,7 +46,7 @@ std::size_t MeasureTree(const SFragmentTree& tree);
 void AppendRawText(std::string_view text, bool isSpace, std::string& out);
 
 // Walks a list, and doesn't walk for ever.
-// Throws: as MarkTree.
+// Throws: std::runtime_error if the list runs in a circle, which only damaged tables can bring about.
 template <class Visit>
 void ForEachFragment(const SFragmentTree& tree, Visit&& visit)
 {

@@ -1,6 +1,7 @@
 #include "Tree/FragmentTree.h"
 #include "Tree/LargeMemory.h"
 #include "Tree/TextBlock.h"
+#include "Tree/TreeCharacters.h"
 
 namespace {
 
@@ -27,6 +28,11 @@ constexpr SEscapes kTokenEscapes = TokenEscapes();
 constexpr SEscapes kSpaceEscapes = SpaceEscapes();
 
 } // namespace
+
+bool IsPlainTree(const SFragmentTree& tree)
+{
+    return tree.pool->IsPlain() && tree.pool->Names().AreTreeNames() && IsTreeText(tree.query);
+}
 
 void WriteTree(const SFragmentTree& tree, std::string& out)
 {

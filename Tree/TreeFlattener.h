@@ -21,6 +21,6 @@ inline constexpr std::string_view kXmlDeclaration = "<?xml version=\"1.0\" encod
 [[nodiscard]] bool FlattenTree(std::string_view tree, std::string& out,
                                std::string_view declaration = kXmlDeclaration);
 
-// The same for a tree that MarkTree has accepted. Releases the pool, whatever the end; the memory of
+// The same for a tree that is plain by IsPlainTree. Releases the pool, whatever the end; the memory of
 // fragments that are through goes as the result grows.
 void FlattenTree(const SFragmentTree& tree, std::string& out, std::string_view declaration = kXmlDeclaration);

@@ -3,6 +3,7 @@
 #include "Tree/TextEvents.h"
 
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -47,10 +48,10 @@ public:
             const STreeEvent event = m_Events.At(at);
             switch (event.kind) {
             case enTreeEvent::Start:
-                Tag(enFragment::Open, event);
+                Open(event);
                 break;
             case enTreeEvent::End:
-                Tag(enFragment::Close, event);
+                Close();
                 break;
             case enTreeEvent::Leaf:
                 Leaf(event);
@@ -80,9 +81,30 @@ private:
     {
         SpliceFragments(m_Owner.m_Pool, m_First, m_Last, fragment, fragment);
     }
-    void Tag(enFragment kind, const STreeEvent& event)
+    void AppendChild(FragmentRef child)
     {
-        Append(m_Owner.m_Pool.NewTag(kind, Element(m_Events.Name(event.name))));
+        CFragmentPool& pool = m_Owner.m_Pool;
+        if (!m_Open.empty())
+            pool[m_Open.back()].Mark(pool.TakeChild(pool[m_Open.back()].Element(), child));
+        Append(child);
+    }
+    // A space that holds elements isn't plain.
+    std::uint32_t ElementOf(const STreeEvent& event)
+    {
+        const std::string_view name = m_Events.Name(event.name);
+        return Element(name == "T__SPACE" ? "T__b" : name);
+    }
+    void Open(const STreeEvent& event)
+    {
+        const FragmentRef tag = m_Owner.m_Pool.NewTag(enFragment::Open, ElementOf(event));
+        AppendChild(tag);
+        m_Open.push_back(tag);
+    }
+    void Close()
+    {
+        CFragmentPool& pool = m_Owner.m_Pool;
+        Append(pool.NewTag(enFragment::Close, pool[m_Open.back()].Element()));
+        m_Open.pop_back();
     }
 
     void Leaf(const STreeEvent& event)
@@ -91,12 +113,12 @@ private:
         if (name.starts_with("T__")) {
             Token(name, Text(event));
         } else if (event.extent == 0 && Once(2)) {
-            Tag(enFragment::Empty, event);
+            AppendChild(m_Owner.m_Pool.NewTag(enFragment::Empty, ElementOf(event)));
         } else {
-            Tag(enFragment::Open, event);
+            Open(event);
             if (event.extent != 0)
                 Token("T__a", Text(event));
-            Tag(enFragment::Close, event);
+            Close();
         }
     }
 
@@ -124,9 +146,11 @@ private:
         if (name == "T__SPACE")
             Append(pool.NewSpace(start, length));
         else if (isOwnText)
-            Append(pool.NewTokenText(Element(name), text, line, pos));
+            AppendChild(pool.NewTokenText(Element(name), text, line, pos));
         else
-            Append(pool.NewToken(Element(name), start, length, line, pos));
+            AppendChild(pool.NewToken(Element(name), start, length, line, pos));
+        if (!isOwnText)
+            pool.TakeSlice(m_Owner.m_Query.c_str(), start, length);
     }
 
     CTextEvents m_Events;
@@ -134,6 +158,7 @@ private:
     bool m_CanBeOdd;
     std::uint32_t m_Varied;
     FragmentRef m_First = kNoFragment, m_Last = kNoFragment;
+    std::vector<FragmentRef> m_Open; // start tags without their end tags
 };
 
 CFragmentsOfText::CFragmentsOfText(std::string_view text, bool canBeOdd)

@@ -44,7 +44,7 @@ std::optional<std::string> FlattenNatively(std::string_view tree)
 
 std::optional<std::string> FlattenFragments(const SFragmentTree& tree)
 {
-    if (!MarkTree(tree))
+    if (!IsPlainTree(tree))
         return std::nullopt;
     std::string flat;
     FlattenTree(tree, flat);

@@ -1,7 +1,9 @@
-// The raw tree's text, as it is written from fragments.
+// Fragments: the raw tree's text, as it is written from them, and what they say about it.
 #include "Tree/FragmentTree.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -50,6 +52,44 @@ TEST(FragmentText, PoolsServeOneTextAfterTheOther)
         }
         pool.Release();
         EXPECT_EQ(pool.Count(), 0U);
+    }
+}
+
+// What a parse can make and flattening doesn't take, each alone: until the next Release the tree isn't plain.
+TEST(FragmentText, OddPiecesMakeATreeOdd)
+{
+    const std::string query = "a\xC3\xA9 b";
+    CFragmentPool pool;
+    const std::uint32_t element = pool.Names().Intern("a");
+    const struct
+    {
+        const char* what;
+        bool isPlain;
+        std::function<void()> make;
+    } cases[] = {
+        {"an element with a child", true,
+         [&] { pool.TakeChild(element, pool.NewTag(enFragment::Empty, element)); }},
+        {"one child in two places", false,
+         [&] {
+             const FragmentRef child = pool.NewTag(enFragment::Empty, element);
+             pool.TakeChild(element, child);
+             pool.TakeChild(element, child);
+         }},
+        {"whole characters", true, [&] { pool.TakeSlice(query.c_str(), 1, 2); }},
+        {"the end of the query", true, [&] { pool.TakeSlice(query.c_str(), 3, 2); }},
+        {"the first byte of a character", false, [&] { pool.TakeSlice(query.c_str(), 0, 2); }},
+        {"the last byte of a character", false, [&] { pool.TakeSlice(query.c_str(), 2, 1); }},
+        {"a text of its own", true, [&] { pool.NewTokenText(element, "\xC3\xA9", 1, 0); }},
+        {"a text that is none", false, [&] { pool.NewTokenText(element, "\xC3", 1, 0); }},
+        {"a space that holds elements", false,
+         [&] { pool.NewTag(enFragment::Open, pool.Names().Intern("T__SPACE")); }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        c.make();
+        EXPECT_EQ(pool.IsPlain(), c.isPlain);
+        pool.Release();
+        EXPECT_TRUE(pool.IsPlain());
     }
 }
 
