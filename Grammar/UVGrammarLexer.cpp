@@ -133,7 +133,7 @@ void CSQLGrammarLexer::yyfindrule(int& act)
 
 void CSQLGrammarLexer::yyinputbuffer()
 {
-    m_pQueryBuffer = yyscan_string(m_Extension.m_strQuery.c_str());
+    m_pQueryBuffer = yyscan_string(m_Extension.m_strQuery.data());
 }
 
 int CSQLGrammarLexer::yybegin(int state)
@@ -230,7 +230,7 @@ void CSQLGrammarLexer::ForgetTexts()
 void CSQLGrammarLexer::DropQuery()
 {
     yycleanup();
-    m_Extension.m_strQuery = {};
+    m_Extension.m_strQuery = "";
 }
 
 int CSQLGrammarLexer::ComputeGeneralStartState(int db)

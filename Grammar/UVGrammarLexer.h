@@ -80,12 +80,14 @@ public:
 
     // Prepares the scan of `query`, a text for the database kind `db`, from its first byte. What texts leave
     // beyond their end stays: see CSQLGrammarLexerImplementation::clean.
-    // Copies: the query.
+    // Borrows: the query, until the next one comes or the query is dropped.
     void set_Query(const std::string& query, int db);
+    void set_Query(std::string&& query, int db) = delete;
     // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
     // goes as well and has to be written again.
     void ForgetTexts();
-    // After the scan: gives the memory of the text back. Of the text only Unfinished tells anything then.
+    // After the scan: gives the scanner's copy of the text back. Of the text only Unfinished tells anything
+    // then.
     void DropQuery();
     // The next token, in the parser's lookahead value.
     // Returns: the parser's number of it, 0 at the end of the text; what the action interpreter still owes
@@ -290,7 +292,7 @@ private:
     CSQLGrammarParser* m_pGrammarParser = nullptr; // m_pParser, if it is one
     ParserNode m_LocalNode;                        // takes the tokens when there is no parser
     bool m_bColoringWanted = true;
-    const yybuffer_state* m_pQueryBuffer = nullptr; // holds a copy of the query
+    const yybuffer_state* m_pQueryBuffer = nullptr; // holds the scanner's copy of the query
     // The last answer of LineFeedBefore: a scan that went back asks for the same line over and over.
     int m_nLineFeedFrom = -1;
     int m_nLineFeedAt = -1;

@@ -16,7 +16,7 @@ CSQLGrammarLexerImplementation::CSQLGrammarLexerImplementation()
 
 void CSQLGrammarLexerImplementation::clean()
 {
-    m_strQuery.clear();
+    m_strQuery = "";
     m_dequeIndents.clear();
     m_dequePseudoTokens.clear();
     m_mapStacks.clear();

@@ -7,6 +7,7 @@
 #include <map>
 #include <stack>
 #include <string>
+#include <string_view>
 
 // What a grammar lexer holds of one query, and the switches that the front door sets from the options.
 // Positions are bytes of the query.
@@ -19,9 +20,9 @@ public:
     // recorded line start outlive it.
     void clean();
 
-    std::string m_strQuery;
-    Uve::U8CString m_strAPISourceDB; // option API_SOURCE_DB
-    Uve::U8CString m_strSrcUIType;   // option SRC_UI_TYPE
+    std::string_view m_strQuery = ""; // borrowed, with the NUL after it
+    Uve::U8CString m_strAPISourceDB;  // option API_SOURCE_DB
+    Uve::U8CString m_strSrcUIType;    // option SRC_UI_TYPE
     int m_nQueryLength = 0;
     int m_nChar = 0;       // bytes consumed so far
     int m_nStartState = 0; // start condition for this query, as its number

@@ -84,7 +84,7 @@ void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, b
         if (isSource) {
             node.m_pFirst = pool.NewToken(element, static_cast<std::uint32_t>(start),
                                           static_cast<std::uint32_t>(text.size()), node.m_nLine, pos);
-            pool.TakeSlice(m_Extension.m_strQuery.c_str(), static_cast<std::size_t>(start), text.size());
+            pool.TakeSlice(m_Extension.m_strQuery.data(), static_cast<std::size_t>(start), text.size());
         } else {
             node.m_pFirst = pool.NewTokenText(element, text, node.m_nLine, pos);
         }
@@ -98,7 +98,7 @@ int CSQLGrammarLexer::LineFeedBefore(int from)
 {
     const int stop = from >= m_nLineFeedFrom ? m_nLineFeedFrom : -1;
     int at = from;
-    while (at > stop && m_Extension.m_strQuery[static_cast<std::size_t>(at)] != '\n')
+    while (at > stop && m_Extension.m_strQuery.data()[at] != '\n')
         --at;
     if (at > stop || stop == -1)
         m_nLineFeedAt = at;
@@ -119,7 +119,7 @@ int CSQLGrammarLexer::ColumnOfMatch()
     int lineStart = m_Extension.m_nLineStart;
     if (end > previous) {
         int at = beforeMatch;
-        while (at >= previous && m_Extension.m_strQuery[static_cast<std::size_t>(at)] != '\n')
+        while (at >= previous && m_Extension.m_strQuery.data()[at] != '\n')
             --at;
         if (at > lineStart) {
             m_Extension.m_nLineStart = at;

@@ -118,7 +118,7 @@ void CSQLGrammarParser::ReportRemainingErrors()
             CLogWrapper::WriteLogF("%s", summary.c_str());
             WriteMessageToErrorStream(summary);
         }
-        const std::string query = "<<<<\n" + m_Extension.m_strQuery + ">>>>\n";
+        const std::string query = "<<<<\n" + std::string(m_Extension.m_strQuery) + ">>>>\n";
         CLogWrapper::WriteTraceF("%s%s", summary.c_str(), query.c_str());
         WriteMessageToErrorStream(summary + query);
     } catch (...) {

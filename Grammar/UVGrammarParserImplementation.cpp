@@ -1,14 +1,13 @@
 #include "Grammar/UVGrammarParserImplementation.h"
 
 #include <algorithm>
-#include <utility>
 
-void CSQLGrammarParserImplementation::set_Query(std::string query)
+void CSQLGrammarParserImplementation::set_Query(const std::string& query)
 {
     m_strLastError.clear();
     m_strParsedXml.clear();
     m_strParsedXml.shrink_to_fit();
-    m_strQuery = std::move(query);
+    m_strQuery = query;
     m_lstLineEnds.clear();
     m_bLineEndsKnown = false;
 }
@@ -25,7 +24,7 @@ std::string_view CSQLGrammarParserImplementation::LineText(unsigned long line)
         return {};
     const std::size_t from = line == 1 ? 0 : m_lstLineEnds[line - 2] + 1;
     const std::size_t to = line <= m_lstLineEnds.size() ? m_lstLineEnds[line - 1] : m_strQuery.size();
-    return std::string_view(m_strQuery).substr(from, to - from);
+    return m_strQuery.substr(from, to - from);
 }
 
 std::vector<SDiscardedText> CSQLGrammarParserImplementation::DiscardedStretches() const

@@ -38,9 +38,11 @@ struct SDiscardedText
 class CSQLGrammarParserImplementation
 {
 public:
-    // Takes the text and forgets the last result and message. The unexpected tokens stay until their reader
-    // clears them.
-    void set_Query(std::string query);
+    // Forgets the last result and message. The unexpected tokens stay until their reader clears them.
+    // Borrows: the query, until the next one comes, as long as anything is asked for here or the tree is
+    //          there.
+    void set_Query(const std::string& query);
+    void set_Query(std::string&& query) = delete;
     // In development mode rules with an error symbol don't recover.
     void set_DevelopmentMode(bool on) { m_bDevelopmentMode = on; }
 
@@ -56,7 +58,7 @@ public:
 
     std::string m_strLastError;
     std::string m_strParsedXml;
-    std::string m_strQuery;
+    std::string_view m_strQuery = ""; // borrowed, with the NUL after it
     bool m_bDevelopmentMode = false;
     bool m_bShowErrors = true; // errors go to the log, not only to the trace
     // Line to token, for one line in order of arrival.

@@ -28,7 +28,7 @@ CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJ
     if (node.m_nLine >= static_cast<unsigned>(-2))
         node.m_nLine = child.m_nLine;
     if (join.lastChildStartPos != -1 && child.m_nStart != -1 && child.m_nStart != -2) {
-        const std::string& query = m_Extension.m_strQuery;
+        const std::string_view query = m_Extension.m_strQuery;
         const int gapLength = child.m_nStart - join.lastChildStartPos;
         const auto from = static_cast<std::size_t>(join.lastChildStartPos);
         if (from > query.size())
@@ -37,10 +37,10 @@ CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJ
         if (gapLength > 0 && from < query.size()) {
             const auto length = std::min(static_cast<std::size_t>(gapLength), query.size() - from);
             if (join.lastChildErrorPos != -1 && join.lastChildErrorPos <= child.m_nStart)
-                ReportErrors(child, std::string_view(query).substr(from, length), show);
+                ReportErrors(child, query.substr(from, length), show);
             Append(node, m_Fragments.NewSpace(static_cast<std::uint32_t>(from),
                                               static_cast<std::uint32_t>(length)));
-            m_Fragments.TakeSlice(query.c_str(), from, length);
+            m_Fragments.TakeSlice(query.data(), from, length);
         }
     }
     if (child.m_pFirst != kNoFragment)
@@ -112,7 +112,7 @@ void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
         throw std::out_of_range("the tree ends behind the text");
     const auto lead = static_cast<std::uint32_t>(std::max(root.m_nStart, 0));
     const auto outer = [&](std::size_t from, std::size_t length) {
-        m_Fragments.TakeSlice(m_Extension.m_strQuery.c_str(), from, std::min(length, query.size() - from));
+        m_Fragments.TakeSlice(query.data(), from, std::min(length, query.size() - from));
         return m_Fragments.NewSpace(static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(length));
     };
     ParserNodeValue whole = NewNode();

@@ -130,7 +130,8 @@ TEST_F(EngineReports, EarlierErrorsStayUntilTheirReaderClearsThem)
     CEngine engine("Recovery");
     engine.Parse("; say a;");
     EXPECT_TRUE(engine.m_Parser.HasErrors());
-    engine.m_Parser.m_Extension.set_Query("say b;");
+    const std::string next = "say b;";
+    engine.m_Parser.m_Extension.set_Query(next);
     EXPECT_TRUE(engine.m_Parser.HasErrors());
     EXPECT_EQ(engine.m_Parser.m_Extension.m_strLastError, "");
     EXPECT_EQ(engine.m_Parser.m_Extension.m_strParsedXml, "");

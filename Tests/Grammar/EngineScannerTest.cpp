@@ -139,7 +139,8 @@ TEST(ScannerAlone, SharedTablesOutliveTheirOwner)
     lexer.ShareTables(owner->m_Lexer);
     owner.reset();
     ASSERT_EQ(lexer.yycreate(), 1);
-    lexer.set_Query("a /* b */ c", 0);
+    const std::string text = "a /* b */ c";
+    lexer.set_Query(text, 0);
     int tokens = 0;
     while (lexer.yylex() != 0)
         ++tokens;
@@ -198,7 +199,8 @@ TEST(ScannerAlone, TheEndShowsTheLastMatchNotWhatReplacedIt)
 TEST(ScannerAlone, OwedTokensComeLastInFirstOut)
 {
     CEngine engine("Indent");
-    engine.m_Lexer.set_Query("a", 0);
+    const std::string text = "a";
+    engine.m_Lexer.set_Query(text, 0);
     engine.m_Lexer.m_Extension.m_dequePseudoTokens = {"WORD", "__INDENT", "__UNINDENT"};
     const auto number = [&](const char* name) { return engine.m_Parser.m_mapDefines.at(name); };
     EXPECT_EQ(engine.m_Lexer.yylex(), number("T__UNINDENT"));

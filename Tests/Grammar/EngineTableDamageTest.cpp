@@ -47,7 +47,7 @@ private:
     {
         ASSERT_EQ(parser.yycreate(&lexer), 1);
         ASSERT_EQ(lexer.yycreate(&parser), 1);
-        for (const char* const text : kTexts) {
+        for (const std::string text : kTexts) {
             try {
                 parser.m_Extension.set_Query(text);
                 parser.m_Extension.m_mapErrors.clear();

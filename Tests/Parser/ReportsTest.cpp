@@ -130,7 +130,8 @@ TEST_F(LostText, IsTheTextThatRecoveryThrewAwayAndWhatIsOpenAtTheEnd)
 TEST(LostTextList, AStretchInsideALongerOneIsPartOfIt)
 {
     CSQLGrammarParserImplementation found;
-    found.set_Query("0123 5678 ABCD");
+    const std::string query = "0123 5678 ABCD";
+    found.set_Query(query);
     found.m_lstDiscarded = {{true, 2, 3}, {false, 1, 8}, {false, 5, 6}, {true, 14, 14}, {false, 10, 14}};
     const std::vector<SDiscardedText> stretches = found.DiscardedStretches();
     ASSERT_EQ(stretches.size(), 2u);
@@ -181,7 +182,8 @@ TEST(UnfinishedText, IsThatOfTheInnermostConditionAndOfItsOwnBeginning)
     CSQLGrammarLexer lexer("States", false);
     lexer.yycreate();
     // entered from outside: a condition, another one in it, and back
-    lexer.set_Query("a", 60);
+    const std::string first = "a";
+    lexer.set_Query(first, 60);
     for (const char* const condition : {"COMMENT", "LINE", "COMMENT"})
         lexer.SetState(lexer.m_mapStartConditions.at(condition));
     EXPECT_EQ(lexer.yylex(), 0);
@@ -189,7 +191,8 @@ TEST(UnfinishedText, IsThatOfTheInnermostConditionAndOfItsOwnBeginning)
     EXPECT_EQ(lexer.Unfinished()->condition, "COMMENT");
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
-        lexer.set_Query(c.text, 60);
+        const std::string text = c.text;
+        lexer.set_Query(text, 60);
         while (lexer.yylex() != 0) {
         }
         EXPECT_EQ(lexer.Unfinished() ? lexer.Unfinished()->condition : "", c.condition);

@@ -155,8 +155,9 @@ SParseOutcome CEngine::Parse(const std::string& text, const SEngineSettings& set
     SParseOutcome outcome;
     m_strException.clear();
     try {
-        m_Parser.m_Extension.set_Query(text);
-        m_Lexer.set_Query(text, settings.db);
+        m_strQuery = text;
+        m_Parser.m_Extension.set_Query(m_strQuery);
+        m_Lexer.set_Query(m_strQuery, settings.db);
         outcome.result = m_Parser.yyparse();
     } catch (const std::exception& error) {
         outcome.hasThrown = true;

@@ -57,6 +57,7 @@ public:
 
     CSQLGrammarLexer m_Lexer;
     CSQLGrammarParser m_Parser;
+    std::string m_strQuery;     // the parser's and the scanner's
     std::string m_strException; // of the last parse
 
 private:
