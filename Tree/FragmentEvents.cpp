@@ -93,8 +93,18 @@ void CFragmentEvents::ReadOn()
 void CFragmentEvents::Forgotten(const STreeEvent* events)
 {
     // the end, which has no fragment, is never forgotten
-    for (std::uint64_t at = 0; at <= kBlockMask; ++at)
-        m_Tree.pool->Drop(static_cast<FragmentRef>(events[at].offset));
+    const STreeEvent* const end = events + kBlockMask + 1;
+    while (events != end) {
+        // neighbours stand in one piece of memory, mostly
+        const auto first = static_cast<FragmentRef>(events->offset);
+        std::uint32_t count = 0;
+        while (events != end &&
+               CFragmentPool::AreInOnePiece(first, static_cast<FragmentRef>(events->offset))) {
+            ++events;
+            ++count;
+        }
+        m_Tree.pool->Drop(first, count);
+    }
 }
 
 std::string_view CFragmentEvents::TextOf(const SFragment& fragment) const

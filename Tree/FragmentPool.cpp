@@ -27,11 +27,15 @@ void CFragmentPool::NewChunk()
             m_chunks.pop_back();
             throw;
         }
+    if (number > 0)
+        m_chunks[number - 1].count = static_cast<std::uint32_t>(m_count - m_counted);
+    m_counted = m_count;
     m_used = static_cast<std::uint32_t>((m_chunks.size() - 1) << kChunkBits);
     m_end = m_used +
             (kChunkUnits - 1); // the last unit stays free, so that the end of the last chunk has a number
     if (m_chunks.size() == 1)
         m_used = 1;
+    m_free = Unit(m_used);
 }
 
 FragmentRef CFragmentPool::NewTokenText(std::uint32_t element, std::string_view text, std::uint32_t line,
@@ -54,8 +58,10 @@ void CFragmentPool::Release() noexcept
     m_chunks.clear();
     m_texts = {};
     m_used = 0;
+    m_free = nullptr;
     m_end = 0;
     m_count = 0;
+    m_counted = 0;
     m_markupBytes = 0;
     m_isPlain = true;
 }

@@ -122,12 +122,15 @@ public:
     // At least the bytes of their markup, and few more: what the source adds to them isn't counted.
     std::size_t MarkupBytes() const { return m_markupBytes; }
 
-    // Says that a fragment isn't looked at any more. Once that is said of all in a large piece of memory, it
-    // goes back to the system.
-    void Drop(FragmentRef fragment)
+    // Whether both stand in the same large piece of memory.
+    static bool AreInOnePiece(FragmentRef a, FragmentRef b) { return a >> kChunkBits == b >> kChunkBits; }
+    // Says that this fragment, or `count` in its piece of memory, aren't looked at any more. Once that is said
+    // of all in it the piece goes back to the system; the last one stays.
+    void Drop(FragmentRef fragment, std::uint32_t count = 1)
     {
         SChunk& chunk = m_chunks[fragment >> kChunkBits];
-        if (--chunk.count == 0 && m_chunks.size() > kKeptChunks)
+        chunk.count -= count;
+        if (chunk.count == 0 && m_chunks.size() > kKeptChunks)
             chunk.memory.reset();
     }
 
@@ -146,7 +149,7 @@ private:
     struct SChunk
     {
         LargePage memory;
-        std::uint32_t count = 0; // fragments in use
+        std::uint32_t count = 0; // fragments in use, once the next chunk has begun
     };
 
     std::uint64_t* Unit(FragmentRef fragment) const
@@ -163,10 +166,10 @@ private:
         if (m_used + kUnits > m_end)
             NewChunk();
         fragment = m_used;
+        T* const made = new (m_free) T;
         m_used += kUnits;
+        m_free += kUnits;
         ++m_count;
-        ++m_chunks.back().count;
-        T* const made = new (Unit(fragment)) T;
         made->next = kNoFragment;
         made->info = SFragment::Info(kind, element);
         return *made;
@@ -179,9 +182,11 @@ private:
     std::vector<SChunk> m_chunks;
     std::array<LargePage, kKeptChunks> m_kept; // for the chunk of that number
     std::vector<std::string> m_texts;
-    std::uint32_t m_used = 0; // next free unit
-    std::uint32_t m_end = 0;  // end of the last chunk
+    std::uint32_t m_used = 0;        // next free unit
+    std::uint64_t* m_free = nullptr; // the same in memory
+    std::uint32_t m_end = 0;         // end of the last chunk
     std::size_t m_count = 0;
+    std::size_t m_counted = 0; // in the chunks before the last
     std::size_t m_markupBytes = 0;
     bool m_isPlain = true;
 };

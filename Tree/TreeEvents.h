@@ -102,11 +102,12 @@ protected:
 private:
     static constexpr std::size_t kFirstBlocks = 4; // a power of two, as all sizes of the ring
 
-    STreeEvent* Block(std::uint64_t number) { return m_Ring[number & (m_Ring.size() - 1)].get(); }
+    STreeEvent* Block(std::uint64_t number) { return m_Ring[number & m_RingMask].get(); }
     void NewBlock();
 
     // Block `number` stands at its number modulo the size.
     std::vector<std::unique_ptr<STreeEvent[]>> m_Ring;
+    std::uint64_t m_RingMask = kFirstBlocks - 1;
     std::uint64_t m_FirstBlock = 0;
     std::uint64_t m_End = 0;
 };

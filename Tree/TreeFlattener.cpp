@@ -76,7 +76,7 @@ public:
         m_Out.Write(declaration);
         m_Out.Write('\n');
         const std::size_t declared = m_Out.size();
-        Apply(0, kNoName, false, false);
+        ApplyTo(0, kNoName, false);
         while (!m_Frames.empty())
             Step();
         if (m_Events.At(m_At).kind != enTreeEvent::Finish)
@@ -89,14 +89,23 @@ public:
 private:
     // ---- the walk ----
 
+    // `event` is a copy of the one at `index`: reading ahead moves them.
     void Step();
-    void Child(std::uint64_t index);
-    void BodyChild(std::uint64_t index, std::uint32_t name);
-    void Apply(std::uint64_t index, std::uint32_t parent, bool isBehindDataDivision, bool isExcursion);
+    void Child(std::uint64_t index, const STreeEvent& event);
+    void BodyChild(std::uint64_t index, const STreeEvent& event);
+    void Apply(std::uint64_t index, const STreeEvent& event, std::uint32_t parent, bool isBehindDataDivision,
+               bool isExcursion);
+    void ApplyTo(std::uint64_t index, std::uint32_t parent, bool isExcursion)
+    {
+        const STreeEvent event = m_Events.At(index);
+        Apply(index, event, parent, false, isExcursion);
+    }
     // With the ending EndTag all of a leaf, otherwise its tag, and on to what it holds.
-    void CopyElement(std::uint64_t index, const SFrame& frame);
+    void CopyElement(std::uint64_t index, const STreeEvent& event, const SFrame& frame);
+    void CopyLeaf(std::uint64_t index, const STreeEvent& event, bool isExcursion);
+    bool IsMacro(std::uint32_t name, std::uint32_t parent) const;
     void CopyMacro(std::uint64_t index);
-    void Enter(std::uint64_t index, const SFrame& frame);
+    void Enter(std::uint64_t index, const STreeEvent& event, const SFrame& frame);
     void Leave();
     bool GoToNextDelimiter();
     bool GoToBodyDelimiter();
@@ -183,7 +192,7 @@ void CTreeFlattener<Events>::Step()
     switch (event.kind) {
     case enTreeEvent::Start:
     case enTreeEvent::Leaf:
-        Child(m_At);
+        Child(m_At, event);
         break;
     case enTreeEvent::End:
         Leave();
@@ -206,32 +215,32 @@ void CTreeFlattener<Events>::Step()
 }
 
 template <class Events>
-void CTreeFlattener<Events>::Child(std::uint64_t index)
+void CTreeFlattener<Events>::Child(std::uint64_t index, const STreeEvent& event)
 {
     SFrame& parent = m_Frames.back();
-    const std::uint32_t name = m_Events.At(index).name;
+    const std::uint32_t name = event.name;
     const bool isBehindDataDivision = parent.hasPassedDataDivision;
     parent.hasPassedDataDivision = isBehindDataDivision || name == kDataDivisionClause;
     parent.hasDelimiter = parent.hasDelimiter || name == kDelimiter;
     switch (parent.children) {
     case enChildren::Templates:
     case enChildren::ElementsOnly:
-        Apply(index, parent.name, isBehindDataDivision, false);
+        Apply(index, event, parent.name, isBehindDataDivision, false);
         return;
     case enChildren::ListItems:
         if (name == parent.name)
-            Enter(index, {.name = name, .outName = kNoName, .children = enChildren::ListItems});
+            Enter(index, event, {.name = name, .outName = kNoName, .children = enChildren::ListItems});
         else
-            CopyElement(index, {.name = name, .outName = name, .ending = enEnding::EndTag});
+            CopyElement(index, event, {.name = name, .outName = name, .ending = enEnding::EndTag});
         return;
     case enChildren::Statements:
         if (name == kDelimitedStatements)
-            Enter(index, {.name = name, .outName = kNoName});
+            Enter(index, event, {.name = name, .outName = kNoName});
         else
-            Apply(index, parent.name, isBehindDataDivision, false);
+            Apply(index, event, parent.name, isBehindDataDivision, false);
         return;
     case enChildren::Body:
-        BodyChild(index, name);
+        BodyChild(index, event);
         return;
     case enChildren::LabeledFirst:
         if (name == kDelimiter && parent.delimiter == 0) {
@@ -241,7 +250,7 @@ void CTreeFlattener<Events>::Child(std::uint64_t index)
         [[fallthrough]];
     case enChildren::LabeledContent:
         if (name == kLabeledStatement)
-            Enter(index, {.name = name, .outName = kNoName, .children = enChildren::ElementsOnly});
+            Enter(index, event, {.name = name, .outName = kNoName, .children = enChildren::ElementsOnly});
         else
             m_At = m_Events.After(index);
         return;
@@ -249,14 +258,15 @@ void CTreeFlattener<Events>::Child(std::uint64_t index)
 }
 
 template <class Events>
-void CTreeFlattener<Events>::BodyChild(std::uint64_t index, std::uint32_t name)
+void CTreeFlattener<Events>::BodyChild(std::uint64_t index, const STreeEvent& event)
 {
+    const std::uint32_t name = event.name;
     if (name == kDelimiter) {
         m_At = m_Events.After(index);
         return;
     }
     if (name != kDelimitedStatement) {
-        Apply(index, kBodyStatements, m_Frames.back().hasPassedDataDivision, false);
+        Apply(index, event, kBodyStatements, m_Frames.back().hasPassedDataDivision, false);
         return;
     }
     SFrame frame{.name = name, .outName = kNoName, .ending = enEnding::BodyDelimiter};
@@ -265,15 +275,21 @@ void CTreeFlattener<Events>::BodyChild(std::uint64_t index, std::uint32_t name)
         frame.children = enChildren::LabeledContent;
     else
         EmptyElement(kLabel);
-    Enter(index, frame);
+    Enter(index, event, frame);
 }
 
 // The main template, its cases in their order, and the rules beside it.
 template <class Events>
-void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bool isBehindDataDivision,
-                                   bool isExcursion)
+void CTreeFlattener<Events>::Apply(std::uint64_t index, const STreeEvent& event, std::uint32_t parent,
+                                   bool isBehindDataDivision, bool isExcursion)
 {
-    const std::uint32_t name = m_Events.At(index).name;
+    const std::uint32_t name = event.name;
+    // Tokens and spaces, which are most of a tree: no case is for them.
+    if (event.kind == enTreeEvent::Leaf && event.extent != 0 && name >= kSpace && name != parent &&
+        !IsMacro(name, parent)) {
+        CopyLeaf(index, event, isExcursion);
+        return;
+    }
     SFrame frame{.name = name,
                  .outName = kNoName,
                  .isBehindDataDivision = isBehindDataDivision,
@@ -283,7 +299,7 @@ void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bo
         return;
     }
     if (name == parent && name != kBodyStatements && !IsNestedOnPurpose(name)) {
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     }
     if (name == kBodyStatements) {
@@ -293,7 +309,7 @@ void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bo
             frame.outName = kStatements;
             frame.ending = enEnding::EndTag;
         }
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     }
     if (name != parent && !IsNestedOnPurpose(name) && name != kMainSourceSection &&
@@ -302,7 +318,7 @@ void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bo
         frame.children = enChildren::ListItems;
         frame.outName = name;
         frame.ending = enEnding::EndTag;
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     }
     switch (name) {
@@ -316,12 +332,12 @@ void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bo
             EmptyElement(kLabel);
             frame.ending = enEnding::SuppliedDelimiter;
         }
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     case kLabeledStatement:
         StartFullStatement(false, true);
         frame.ending = enEnding::EmptyDelimiter;
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     case kStatement:
         frame.outName = name;
@@ -331,47 +347,50 @@ void CTreeFlattener<Events>::Apply(std::uint64_t index, std::uint32_t parent, bo
             frame.ending = enEnding::PlainStatement;
         } else
             frame.ending = enEnding::EndTag;
-        CopyElement(index, frame);
+        CopyElement(index, event, frame);
         return;
     case kStatements:
         StartTag(name);
         frame.children = enChildren::Statements;
         frame.outName = name;
         frame.ending = enEnding::EndTag;
-        Enter(index, frame);
+        Enter(index, event, frame);
         return;
     default:
         break;
     }
-    if (m_Events.IsTerminal(name) &&
-        m_Events.Name(name).substr(3) == (parent != kNoName ? m_Events.Name(parent) : std::string_view())) {
+    if (IsMacro(name, parent)) {
         CopyMacro(index);
         return;
     }
     frame.outName = name;
     frame.ending = enEnding::EndTag;
-    CopyElement(index, frame);
+    CopyElement(index, event, frame);
 }
 
 template <class Events>
-void CTreeFlattener<Events>::CopyElement(std::uint64_t index, const SFrame& frame)
+void CTreeFlattener<Events>::CopyElement(std::uint64_t index, const STreeEvent& event, const SFrame& frame)
 {
-    const STreeEvent event = m_Events.At(index);
     if (event.kind == enTreeEvent::Leaf && frame.ending == enEnding::EndTag) {
-        CloseTag();
-        m_Events.WriteLeaf(event, m_Out);
-        m_At = frame.isExcursion ? index : index + 1;
+        CopyLeaf(index, event, frame.isExcursion);
         return;
     }
     StartTag(event);
-    Enter(index, frame);
+    Enter(index, event, frame);
+}
+
+template <class Events>
+void CTreeFlattener<Events>::CopyLeaf(std::uint64_t index, const STreeEvent& event, bool isExcursion)
+{
+    CloseTag();
+    m_Events.WriteLeaf(event, m_Out);
+    m_At = isExcursion ? index : index + 1;
 }
 
 // Goes to the children of the element, or right through a leaf to its ending.
 template <class Events>
-void CTreeFlattener<Events>::Enter(std::uint64_t index, const SFrame& frame)
+void CTreeFlattener<Events>::Enter(std::uint64_t index, const STreeEvent& event, const SFrame& frame)
 {
-    const STreeEvent event = m_Events.At(index);
     m_Frames.push_back(frame);
     m_At = index;
     if (event.kind == enTreeEvent::Start) {
@@ -440,7 +459,7 @@ bool CTreeFlattener<Events>::GoToNextDelimiter()
         return false;
     frame.delimiter =
         FindSibling(m_Events.After(delimiter), [](std::uint32_t name) { return name == kDelimiter; });
-    Apply(delimiter, frame.name, false, true);
+    ApplyTo(delimiter, frame.name, true);
     return true;
 }
 
@@ -456,7 +475,7 @@ bool CTreeFlattener<Events>::GoToBodyDelimiter()
         m_Kept.push_back(frame.end);
         if (const std::uint64_t delimiter = FindDelimiter(frame.end + 1)) {
             frame.hasFoundDelimiter = true;
-            Apply(delimiter, kBodyStatements, false, true);
+            ApplyTo(delimiter, kBodyStatements, true);
             return true;
         }
     }
@@ -468,7 +487,7 @@ bool CTreeFlattener<Events>::GoToBodyDelimiter()
         if (delimiter != 0) {
             frame.hasFoundDelimiter = true;
             const std::size_t depth = m_Frames.size();
-            Apply(delimiter, depth > 2 ? m_Frames[depth - 3].name : kNoName, false, true);
+            ApplyTo(delimiter, depth > 2 ? m_Frames[depth - 3].name : kNoName, true);
             return true;
         }
     }
@@ -504,6 +523,13 @@ std::uint64_t CTreeFlattener<Events>::FindDelimiter(std::uint64_t from)
 }
 
 // ---- Macros ----
+
+template <class Events>
+bool CTreeFlattener<Events>::IsMacro(std::uint32_t name, std::uint32_t parent) const
+{
+    return m_Events.IsTerminal(name) &&
+           m_Events.Name(name).substr(3) == (parent != kNoName ? m_Events.Name(parent) : std::string_view());
+}
 
 // What stands between the first "{" and the next "}" in the element's characters.
 template <class Events>

@@ -22,7 +22,7 @@ enum enTreeName : std::uint32_t
     kAccumulateExpression,
     kMainSourceSection,
     kDataDivisionClause,
-    kSpace,
+    kSpace, // the last: no other name beyond it is special
     kTreeNameCount,
     kNoName = 0xFFFFFFFF
 };
