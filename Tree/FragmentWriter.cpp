@@ -3,6 +3,9 @@
 #include "Tree/TextBlock.h"
 #include "Tree/TreeCharacters.h"
 
+#include <array>
+#include <cstdint>
+
 namespace {
 
 constexpr SEscapes TokenEscapes()
@@ -26,6 +29,15 @@ constexpr SEscapes SpaceEscapes()
 
 constexpr SEscapes kTokenEscapes = TokenEscapes();
 constexpr SEscapes kSpaceEscapes = SpaceEscapes();
+
+// By how much a byte's replacement is longer.
+constexpr std::array<std::uint8_t, 256> kGrowths = [] {
+    std::array<std::uint8_t, 256> growths{};
+    for (std::size_t byte = 0; byte < growths.size(); ++byte)
+        if (const std::size_t bytes = kSpaceEscapes.text[byte].size(); bytes > 1)
+            growths[byte] = static_cast<std::uint8_t>(bytes - 1);
+    return growths;
+}();
 
 } // namespace
 
@@ -77,10 +89,8 @@ std::size_t MeasureTree(const SFragmentTree& tree)
 {
     // every byte of the query stands in one fragment at the most
     std::size_t bytes = tree.pool->MarkupBytes() + tree.query.size();
-    for (const char c : tree.query) {
-        const std::size_t replacement = kSpaceEscapes.text[static_cast<unsigned char>(c)].size();
-        bytes += replacement != 0 ? replacement - 1 : 0;
-    }
+    for (const char c : tree.query)
+        bytes += kGrowths[static_cast<unsigned char>(c)];
     return bytes;
 }
 

@@ -80,9 +80,15 @@ public:
     {
         Markup(name.tokenOpen);
         Need(kReserve);
-        Number(line);
-        Constant(kTokenPos);
-        Number(pos);
+        if (line != m_line)
+            NoteLine(line);
+        // neighbours stand in one line, mostly
+        std::memcpy(m_at, m_lineEnd.data(), m_lineEnd.size());
+        m_at += m_lineSize;
+        if (pos >= 0 && pos < 10)
+            *m_at++ = static_cast<char>('0' + pos);
+        else
+            m_at = std::to_chars(m_at, m_at + kMostDigits, pos).ptr;
         *m_at++ = '"';
     }
 
@@ -92,18 +98,22 @@ public:
         for (std::size_t from = 0; from < text.size(); from += kPiece) {
             const std::string_view piece = text.substr(from, kPiece);
             Need(piece.size());
+            char* to = m_at; // a char may be a part of anything, so m_at would be stored for each
             for (std::size_t at = 0; at < piece.size(); ++at) {
                 const auto byte = static_cast<unsigned char>(piece[at]);
                 if (escapes.kind[byte] == SEscapes::Plain) [[likely]] {
-                    *m_at++ = piece[at];
+                    *to++ = piece[at];
                     continue;
                 }
+                m_at = to;
                 if (escapes.kind[byte] == SEscapes::Left)
                     return from + at;
                 Constant(escapes.text[byte]);
                 // a replacement takes more room than its byte was counted for
                 Need(kPiece);
+                to = m_at;
             }
+            m_at = to;
         }
         return text.size();
     }
@@ -125,10 +135,12 @@ private:
         if (Used() + bytes > kBlock) // the block may be more than full: see m_block
             Flush();
     }
-    template <class T>
-    void Number(T number)
+    void NoteLine(std::uint32_t line)
     {
-        m_at = std::to_chars(m_at, m_at + kMostDigits, number).ptr;
+        char* const end = std::to_chars(m_lineEnd.data(), m_lineEnd.data() + kMostDigits, line).ptr;
+        m_lineSize = static_cast<std::size_t>(end - m_lineEnd.data()) + kTokenPos.size();
+        std::memcpy(end, kTokenPos.data(), kTokenPos.size());
+        m_line = line;
     }
     void Constant(std::string_view text)
     {
@@ -139,4 +151,8 @@ private:
     std::string& m_out;
     std::array<char, kBlock + 64> m_block; // room for one replacement after a piece that fills it
     char* m_at = m_block.data();
+    // The line of the token before, and how its tag goes on from there.
+    std::uint32_t m_line = 0;
+    std::array<char, 32> m_lineEnd{"0\" pos=\""};
+    std::size_t m_lineSize = 1 + kTokenPos.size();
 };

@@ -3,6 +3,7 @@
 #include "UVEnvironment/UVECodePoints.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace {
@@ -24,16 +25,23 @@ bool IsTreeName(std::string_view name)
 
 bool IsTreeText(std::string_view text)
 {
-    const auto isPlain = [](char c) { return c > 0 && static_cast<unsigned char>(c) < 0x80; };
-    for (auto at = text.begin();;) {
-        at = std::find_if_not(at, text.end(), isPlain);
-        if (at == text.end())
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    constexpr std::uint64_t kHighBits = 0x80 * kOnes;
+    for (std::size_t at = 0;;) {
+        // eight bytes in one go, as long as they are ASCII and none is a NUL
+        for (std::uint64_t bytes = 0; at + sizeof bytes <= text.size(); at += sizeof bytes) {
+            std::memcpy(&bytes, text.data() + at, sizeof bytes);
+            if ((((bytes - kOnes) | bytes) & kHighBits) != 0)
+                break;
+        }
+        while (at < text.size() && static_cast<signed char>(text[at]) > 0)
+            ++at;
+        if (at == text.size())
             return true;
-        const std::size_t length =
-            *at == 0 ? 0 : MultibyteLength(text.substr(static_cast<std::size_t>(at - text.begin())));
+        const std::size_t length = text[at] == 0 ? 0 : MultibyteLength(text.substr(at));
         if (length == 0)
             return false;
-        at += static_cast<std::ptrdiff_t>(length);
+        at += length;
     }
 }
 
