@@ -40,10 +40,11 @@ CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJ
                 ReportErrors(child, query.substr(from, length), show);
             Append(node, m_Fragments.NewSpace(static_cast<std::uint32_t>(from),
                                               static_cast<std::uint32_t>(length)));
-            m_Fragments.TakeSlice(query.data(), from, length);
+            if (m_bFragmentsWanted)
+                m_Fragments.TakeSlice(query.data(), from, length);
         }
     }
-    if (child.m_pFirst != kNoFragment)
+    if (m_bFragmentsWanted && child.m_pFirst != kNoFragment)
         join.marks |= m_Fragments.TakeChild(join.element, child.m_pFirst);
     if (child.m_nLength != 0) {
         node.m_nLength += child.m_nLength;
