@@ -1,6 +1,6 @@
 # uv_add_language(NAME <parser name> LEXER <file.l> PARSER <file.y> [OUTPUT <directory>])
 # The tables of a language, made by the project's own uvgrammar beside the programs, where a host finds them:
-# ${CMAKE_BINARY_DIR}/bin/Grammar/<name>/. They are made anew when a source or the tool changes. The target
+# ${CMAKE_BINARY_DIR}/bin/Grammar/<name>/. They are made anew when a source, a file that it includes, or the tool changes. The target
 # language_<name> makes them; it is part of the target languages where there is one.
 function(uv_add_language)
     cmake_parse_arguments(arg "" "NAME;LEXER;PARSER;OUTPUT" "" ${ARGN})
@@ -25,6 +25,8 @@ function(uv_add_language)
     add_custom_command(
         OUTPUT ${tables}
         COMMAND uvgrammar --lexer ${arg_LEXER} --parser ${arg_PARSER} --output ${directory} --name ${arg_NAME}
+            --depfile ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.d
+        DEPFILE ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.d
         DEPENDS uvgrammar ${arg_LEXER} ${arg_PARSER}
         COMMENT "Making the tables of ${arg_NAME}"
         VERBATIM

@@ -1,13 +1,9 @@
 // The built tool over good and bad grammars. A bad grammar is the good one with one text replaced.
 #include "Grammar/UVGrammarKeeper.h"
-#include "Tests/Grammar/GrammarKeeperFiles.h"
+#include "Tests/Grammar/UvgrammarFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <map>
-#include <sys/wait.h>
 
 namespace {
 
@@ -53,23 +49,11 @@ enum class enSource
     Parser
 };
 
-struct SRun
-{
-    int exitCode = -1;
-    std::string output, messages;
-};
+using SRun = SUvgrammarRun;
 
-class Uvgrammar : public testing::Test
+class Uvgrammar : public CUvgrammarFixture
 {
 protected:
-    // A text that isn't in the source would make a case that tests nothing.
-    static std::string Replaced(std::string text, const std::string& from, const std::string& to)
-    {
-        const std::size_t at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        return at == std::string::npos ? text : text.replace(at, from.size(), to);
-    }
-
     SRun Build(const std::string& lexer, const std::string& parser, const std::string& more = "")
     {
         m_Folder.Write("L.l", lexer);
@@ -82,30 +66,6 @@ protected:
         return Build(source == enSource::Lexer ? Replaced(kLexer, from, to) : kLexer,
                      source == enSource::Parser ? Replaced(kParser, from, to) : kParser);
     }
-
-    SRun Run(const std::string& arguments, const std::string& environment = "")
-    {
-        const std::string command = "cd '" + m_Folder.Path() + "' && " + environment +
-                                    " '" UV_BIN_DIR "/uvgrammar' " + arguments + " >stdout 2>stderr";
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, FileContent(m_Folder.Path() + "stdout"),
-                FileContent(m_Folder.Path() + "stderr")};
-    }
-
-    std::string File(const std::string& name) const { return FileContent(m_Folder.Path() + name); }
-
-    // Every file below the folder with its content.
-    std::map<std::string, std::string> Snapshot(const std::string& folder) const
-    {
-        std::map<std::string, std::string> files;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(m_Folder.Path() + folder)) {
-            if (entry.is_regular_file())
-                files[entry.path()] = FileContent(entry.path());
-        }
-        return files;
-    }
-
-    CScratchFolder m_Folder;
 };
 
 TEST_F(Uvgrammar, GoodGrammarGivesADirectoryThatTheEngineReads)

@@ -2,5 +2,6 @@
 set(uv_keeper_tests
     GrammarKeeperTest.cpp
     GrammarKeeperWriteTest.cpp
+    UvgrammarFormsTest.cpp
     UvgrammarTest.cpp
 )

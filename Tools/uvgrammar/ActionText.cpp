@@ -1,5 +1,7 @@
 #include "Tools/uvgrammar/ActionText.h"
 
+#include "Grammar/UVGrammarKeeper.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -128,6 +130,17 @@ std::vector<SActionCase> ReadParserActions(std::string_view text)
             cases.back().body.append(line).append(1, '\n');
     }
     return cases;
+}
+
+std::vector<int> ReadRuleLines(std::string_view text)
+{
+    const std::size_t lines = text.find(" yyrline[] =");
+    if (lines == std::string_view::npos)
+        return {};
+    std::vector<int> table = UVDBGrammarKeeper::GetFileTable<int>(text.substr(text.find('{', lines)));
+    if (!table.empty())
+        table.erase(table.begin()); // its count
+    return table;
 }
 
 namespace {

@@ -35,6 +35,8 @@ struct SScannerActions
 SScannerActions ReadScannerActions(std::string_view text);
 // bison's C file; only rules with an action have a case.
 std::vector<SActionCase> ReadParserActions(std::string_view text);
+// bison's C file: the source's line for each rule of the tables, by number; rule 0 has none.
+std::vector<int> ReadRuleLines(std::string_view text);
 
 struct SActionStatement
 {

@@ -97,6 +97,11 @@ void WriteGeneratorMessage(std::string_view line, std::string_view copy, const C
         TakePrefix(text, "error: ");
     if (text.ends_with("[-Wconflicts-sr]") || text.ends_with("[-Wconflicts-rr]"))
         severity = enSeverity::Error;
+    // What a language doesn't use of shared rules is its own affair.
+    if (severity == enSeverity::Warning && source.IsShared(lineNumber) &&
+        (text.find("useless") != std::string_view::npos ||
+         text.find("cannot be matched") != std::string_view::npos))
+        return;
     messages.Write(severity, source.Place(lineNumber, column), std::string(text));
 }
 

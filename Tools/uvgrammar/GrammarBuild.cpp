@@ -5,6 +5,8 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar/EndRules.h"
 #include "Tools/uvgrammar/GrammarChecks.h"
+#include "Tools/uvgrammar/ParserSource.h"
+#include "Tools/uvgrammar/ScannerSource.h"
 #include "Tools/uvgrammar/TableDirectory.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
@@ -60,7 +62,42 @@ void AppendTables(std::string& report, std::initializer_list<std::pair<const cha
         report += std::string("  ") + name + ": " + std::to_string(entries) + " entries\n";
 }
 
-std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, const SLoadedTables& tables,
+// A blank in a name would separate two names.
+std::string MakeName(const std::string& path)
+{
+    std::string name;
+    for (const char c : path) {
+        if (c == ' ' || c == '#' || c == '\\')
+            name += '\\';
+        name += c;
+        if (c == '$')
+            name += c;
+    }
+    return name;
+}
+
+std::string DependencyRule(const SGrammarBuild& build, const CGrammarSource& lexer,
+                           const CGrammarSource& parser)
+{
+    std::string rule = MakeName(build.outputPath + '/' + kManifestName) + ':';
+    for (const CGrammarSource* const source : {&lexer, &parser}) {
+        for (const std::string& path : source->Paths())
+            rule += " \\\n  " + MakeName(path);
+    }
+    return rule + '\n';
+}
+
+// A list is one rule to its author.
+std::size_t RuleCount(const CGrammarSource& source, const std::vector<int>& ruleLines, std::size_t rules)
+{
+    std::size_t ofLists = 0;
+    for (const int line : ruleLines)
+        ofLists += source.ListOf(line) != 0 ? 1u : 0u;
+    return rules - ofLists + static_cast<std::size_t>(source.ListCount());
+}
+
+std::string ReportText(const SGrammarBuild& build, const CGrammarSource& source, const SGeneratedFiles& files,
+                       const SParserReport& parser, const SLoadedTables& tables,
                        const std::set<std::string>& used)
 {
     const auto number = [](std::size_t value) { return std::to_string(value); };
@@ -74,7 +111,11 @@ std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, 
                           {"nxt", tables.scanner.tables->nxt.count},
                           {"acclist", tables.scanner.tables->acclist.count}});
     report += "\nparser\n";
-    report += "  rules: " + number(parser.rules.size() - 1) + '\n'; // without that of $accept
+    // without that of $accept
+    report +=
+        "  rules: " + number(RuleCount(source, ReadRuleLines(files.parserText), parser.rules.size() - 1)) +
+        '\n';
+    report += "  lists among them: " + std::to_string(source.ListCount()) + '\n';
     report += "  terminals: " + std::to_string(parser.terminals) + '\n';
     report += "  nonterminals: " + std::to_string(parser.nonterminals) + '\n';
     report += "  states: " + number(tables.parser.tables->pact.count) + '\n';
@@ -106,8 +147,12 @@ std::string ReportText(const SGrammarBuild& build, const SParserReport& parser, 
 
 enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report)
 {
-    const CGrammarSource lexer(build.lexerPath);
-    const CGrammarSource parser(build.parserPath);
+    const CGrammarSource lexer = AssembleScanner(build.lexerPath, messages);
+    const CGrammarSource parser = AssembleParser(build.parserPath, messages);
+    if (!build.depfilePath.empty())
+        WriteWholeFile(build.depfilePath, DependencyRule(build, lexer, parser));
+    if (messages.ErrorCount() > 0)
+        return kToolFindings;
     CTableDirectory output(build.outputPath);
     const CTemporaryFolder scratch((std::filesystem::temp_directory_path() / "uvgrammar.").string());
 
@@ -134,7 +179,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
         std::set<std::string> used;
         CheckScannerRules(lexer, files, tables, messages, used);
         CheckParserRules(parser, files, parserReport, tables, messages);
-        report = ReportText(build, parserReport, tables, used);
+        report = ReportText(build, parser, files, parserReport, tables, used);
         if (messages.ErrorCount() > 0)
             return kToolFindings;
         ProveTables(written, tables);

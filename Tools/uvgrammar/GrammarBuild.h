@@ -9,8 +9,9 @@ struct SGrammarBuild
 {
     std::string lexerPath;
     std::string parserPath;
-    std::string outputPath; // the language's directory
-    std::string name;       // of the language
+    std::string outputPath;  // the language's directory
+    std::string name;        // of the language
+    std::string depfilePath; // takes the names of all files that were read, for make or ninja; empty: none
 };
 
 // Writes the tables, unless the grammar is refused; then the directory stays as it was.

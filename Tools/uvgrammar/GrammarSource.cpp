@@ -1,22 +1,21 @@
 #include "Tools/uvgrammar/GrammarSource.h"
 
-#include "Tools/Support/ToolFiles.h"
-
-#include <algorithm>
-
-CGrammarSource::CGrammarSource(const std::string& path) : m_Path(path), m_Text(ReadWholeFile(path))
-{
-    for (std::size_t at = 0; at < m_Text.size();) {
-        const std::size_t end = std::min(m_Text.find('\n', at), m_Text.size());
-        m_Lines.push_back(m_Text.substr(at, end - at));
-        at = end + 1;
-    }
-}
-
 SSourcePlace CGrammarSource::Place(int line, int column) const
 {
-    SSourcePlace place{m_Path, std::max(line, 0), column, {}};
-    if (line > 0 && static_cast<std::size_t>(line) <= m_Lines.size())
-        place.sourceLine = m_Lines[static_cast<std::size_t>(line) - 1];
-    return place;
+    const CAssembledText::SOrigin* const origin = m_Text.OriginOf(line);
+    if (origin == nullptr)
+        return m_Files->Main().PlaceOfLine(0);
+    return origin->file->PlaceOfLine(origin->line, origin->isWrittenOut ? 0 : column);
+}
+
+bool CGrammarSource::IsShared(int line) const
+{
+    const CAssembledText::SOrigin* const origin = m_Text.OriginOf(line);
+    return origin != nullptr && m_Files->IsShared(*origin->file);
+}
+
+int CGrammarSource::ListOf(int line) const
+{
+    const CAssembledText::SOrigin* const origin = m_Text.OriginOf(line);
+    return origin == nullptr ? 0 : origin->list;
 }

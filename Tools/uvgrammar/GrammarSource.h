@@ -1,27 +1,38 @@
-// The two source files of a grammar, and messages that point into them.
+// What a generator reads: the source that its author named, with the fragments that it includes in their places and
+// the tool's own forms written out.
 #pragma once
 
 #include "Tools/Support/ToolMessages.h"
+#include "Tools/uvgrammar/AssembledText.h"
+#include "Tools/uvgrammar/SourceFile.h"
 
+#include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 class CGrammarSource
 {
 public:
-    // Reads the file.
-    // Throws: CToolFailure.
-    explicit CGrammarSource(const std::string& path);
+    CGrammarSource(std::unique_ptr<const CSourceFiles> files, CAssembledText text, int lists = 0)
+        : m_Files(std::move(files)), m_Text(std::move(text)), m_Lists(lists)
+    {}
 
-    const std::string& Path() const { return m_Path; }
-    const std::string& Text() const { return m_Text; }
+    const std::string& Text() const { return m_Text.Text(); }
 
-    // `line` counts from 1; one that the file doesn't have gives a place without a source line.
+    // The author's place of a line of `Text`. Lines count from 1; 0, or one that the text doesn't have, gives the
+    // source without a line.
     SSourcePlace Place(int line, int column = 0) const;
+    // True if the line comes from a file that other languages use too.
+    bool IsShared(int line) const;
+    // The number of the written-out list that the line belongs to, from 1 on; 0 for any other line.
+    int ListOf(int line) const;
+    int ListCount() const { return m_Lists; }
+
+    // Every file that was read.
+    std::vector<std::string> Paths() const { return m_Files->Paths(); }
 
 private:
-    std::string m_Path;
-    std::string m_Text;
-    std::vector<std::string> m_Lines;
+    std::unique_ptr<const CSourceFiles> m_Files;
+    CAssembledText m_Text;
+    int m_Lists;
 };

@@ -21,12 +21,10 @@ class CParserRules
 public:
     CParserRules(const CGrammarSource& source, const SGeneratedFiles& files, const SParserReport& report,
                  const SLoadedTables& tables, CToolMessages& messages)
-        : m_Source(source), m_Report(report), m_Tables(tables), m_Messages(messages)
+        : m_Source(source), m_Report(report), m_Tables(tables), m_Messages(messages),
+          m_RuleLines(ReadRuleLines(files.parserText))
     {
         const std::string_view text = files.parserText;
-        const std::size_t lines = text.find(" yyrline[] =");
-        if (lines != std::string_view::npos)
-            m_RuleLines = UVDBGrammarKeeper::GetFileTable<int>(text.substr(text.find('{', lines)));
         std::set<int> inner;
         for (const SGrammarRule& rule : report.rules) {
             if (IsInner(rule.left))
@@ -61,10 +59,9 @@ private:
         m_Messages.Write(enSeverity::Warning, m_Source.Place(line), text);
     }
 
-    // The table of lines begins with its count and then rule 0.
     int LineOf(const SGrammarRule& rule) const
     {
-        const auto at = static_cast<std::size_t>(rule.number) + 1;
+        const auto at = static_cast<std::size_t>(rule.number);
         return at < m_RuleLines.size() ? m_RuleLines[at] : 0;
     }
 

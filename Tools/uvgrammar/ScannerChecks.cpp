@@ -286,7 +286,8 @@ void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& file
     for (int state = 1; state <= scanner.LastState(); ++state)
         matched.insert(AcceptedRule(scanner, state));
     for (const SActionCase& action : actions.cases) {
-        if (action.number != defaultRule && matched.count(action.number) == 0)
+        if (action.number != defaultRule && matched.count(action.number) == 0 &&
+            !source.IsShared(action.line))
             messages.Write(enSeverity::Warning, source.Place(action.line),
                            "unused rule: what it matches is always taken by earlier rules");
     }

@@ -53,8 +53,10 @@ int Run(int argc, char** argv, CToolMessages& messages)
         ("output", po::value(&build.outputPath)->required()->value_name("DIR"),
          "the language's table directory")                                                                //
         ("name", po::value(&build.name)->value_name("NAME"), "the language's name; else DIR's last part") //
-        ("report", "print counts of rules, states, table sizes, conflicts, unused rules")                 //
-        ("quiet,q", po::bool_switch(&isQuiet), "write errors only")                                       //
+        ("depfile", po::value(&build.depfilePath)->value_name("FILE"),
+         "write the names of all files that were read, as a rule for make or ninja")      //
+        ("report", "print counts of rules, states, table sizes, conflicts, unused rules") //
+        ("quiet,q", po::bool_switch(&isQuiet), "write errors only")                       //
         ("help,h", "print this");
     po::variables_map values;
     try {

@@ -1,0 +1,383 @@
+#include "Tools/uvgrammar/ParserSource.h"
+
+#include "Tools/uvgrammar/BisonReader.h"
+#include "Tools/uvgrammar/KeywordTable.h"
+#include "Tools/uvgrammar/ListRules.h"
+#include "Tools/uvgrammar/ParserRules.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view kNameBytes = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
+
+// "NODE;" or "NODE(name);" in an action.
+struct SNodeForm
+{
+    std::size_t begin = std::string_view::npos;
+    std::size_t end = 0;
+    std::string name;
+};
+
+SNodeForm FindNodeForm(std::string_view action)
+{
+    constexpr std::string_view kWord = "NODE";
+    for (std::size_t at = 0; (at = action.find(kWord, at)) != std::string_view::npos; at += kWord.size()) {
+        if (at > 0 && kNameBytes.find(action[at - 1]) != std::string_view::npos)
+            continue;
+        std::size_t end = action.find_first_not_of(" \t\r\n", at + kWord.size());
+        SNodeForm form{at, 0, {}};
+        if (end != std::string_view::npos && action[end] == '(') {
+            const std::size_t close = action.find(')', end);
+            if (close == std::string_view::npos)
+                continue;
+            form.name = action.substr(end + 1, close - end - 1);
+            std::erase(form.name, ' ');
+            end = action.find_first_not_of(" \t\r\n", close + 1);
+        }
+        if (end == std::string_view::npos || action[end] != ';')
+            continue;
+        form.end = end + 1;
+        return form;
+    }
+    return {};
+}
+
+class CParserAssembler
+{
+public:
+    CParserAssembler(const std::string& path, CToolMessages& messages)
+        : m_Files(std::make_unique<CSourceFiles>(path)), m_Messages(messages)
+    {}
+
+    CGrammarSource Assemble()
+    {
+        const CSourceFile& main = m_Files->Main();
+        const std::size_t sections = ReadDeclarations(main, 0);
+        std::size_t end = main.Text().size();
+        if (sections < end)
+            end = ReadRules(main, sections + 2);
+        CAssembledText text;
+        text.Append(m_Declarations);
+        if (sections < main.Text().size()) {
+            ApplyReplacements();
+            ApplyOmissions();
+            DropUnreached();
+            text.Copy(main, sections, sections + 2);
+            WriteItems(text);
+            text.Copy(main, end, main.Text().size());
+        }
+        return {std::move(m_Files), std::move(text), m_Lists};
+    }
+
+private:
+    void Error(const CSourceFile& file, std::size_t offset, const std::string& text)
+    {
+        m_Messages.Write(enSeverity::Error, file.PlaceAt(offset), text);
+    }
+
+    // ---- Reading ----
+
+    // Returns: the offset of the "%%", or the text's end.
+    std::size_t ReadDeclarations(const CSourceFile& file, std::size_t begin)
+    {
+        CBisonReader words(file.Text(), begin);
+        std::size_t copied = begin;
+        while (true) {
+            const SBisonWord word = words.Next();
+            if (word.kind == enBisonWord::End || word.kind == enBisonWord::Sections) {
+                m_Declarations.Copy(file, copied, word.begin);
+                return word.begin;
+            }
+            if (word.kind != enBisonWord::Directive)
+                continue;
+            const std::string_view name = words.TextOf(word);
+            if (name == "%start" && words.Peek().kind == enBisonWord::Name)
+                m_Start = words.TextOf(words.Peek());
+            if (name != "%include" && name != "%keywords")
+                continue;
+            m_Declarations.Copy(file, copied, word.begin);
+            const SBisonWord operand = words.Next();
+            copied = operand.end;
+            const std::string path = QuotedName(words.TextOf(operand));
+            if (path.empty())
+                Error(file, word.begin, std::string(name) + " takes one path in quotes");
+            else if (name == "%include")
+                IncludeDeclarations(file, word.begin, path);
+            else
+                TakeKeywords(file, word.begin, path);
+        }
+    }
+
+    void IncludeDeclarations(const CSourceFile& file, std::size_t offset, const std::string& name)
+    {
+        const CSourceFile* const fragment = m_Files->Include(file, offset, name, m_Messages);
+        if (fragment != nullptr && ReadDeclarations(*fragment, 0) != fragment->Text().size())
+            Error(file, offset,
+                  fragment->Path() + " has rules: it is included among the rules, after the %%");
+    }
+
+    // Tokens of two words with one name are declared once.
+    void TakeKeywords(const CSourceFile& file, std::size_t offset, const std::string& name)
+    {
+        m_Keywords.Read(*m_Files, file, offset, name, m_Messages);
+        for (const auto& [word, keyword] : m_Keywords.Words()) {
+            if (m_KeywordTokens.insert(keyword.token).second)
+                m_Declarations.Write(*keyword.file, keyword.offset, "%token T" + keyword.token + '\n');
+        }
+    }
+
+    // Returns: where the rules end.
+    std::size_t ReadRules(const CSourceFile& file, std::size_t begin)
+    {
+        CRulesReader reader(file, begin, m_Messages);
+        return reader.Read(m_Items, [&](std::size_t offset, const std::string& name) {
+            if (const CSourceFile* const fragment = m_Files->Include(file, offset, name, m_Messages))
+                ReadFragment(*fragment);
+        });
+    }
+
+    void ReadFragment(const CSourceFile& fragment)
+    {
+        std::size_t begin = 0;
+        CBisonReader words(fragment.Text());
+        SBisonWord word = words.Next();
+        while (word.kind != enBisonWord::End && word.kind != enBisonWord::Sections)
+            word = words.Next();
+        if (word.kind == enBisonWord::Sections)
+            begin = ReadDeclarations(fragment, 0) + 2;
+        const std::size_t end = ReadRules(fragment, begin);
+        if (end != fragment.Text().size())
+            Error(fragment, end, "a fragment ends with its rules");
+    }
+
+    // ---- What files say of each other's rules ----
+
+    bool HasRule(const SRuleItem& item) const
+    {
+        return !item.isDropped && (item.kind == enRuleItem::Rule || item.kind == enRuleItem::List);
+    }
+
+    void ApplyReplacements()
+    {
+        for (const SRuleItem& item : m_Items) {
+            if (!item.replaces)
+                continue;
+            bool isFound = false;
+            for (SRuleItem& other : m_Items) {
+                if (other.left != item.left || other.file == item.file || !HasRule(other))
+                    continue;
+                if (other.replaces) {
+                    Error(*item.file, item.begin,
+                          item.left + " is replaced twice; the other one is at " + PlaceText(other));
+                    continue;
+                }
+                isFound = other.isDropped = true;
+            }
+            if (!isFound)
+                Error(*item.file, item.begin, "no other file has a rule for " + item.left);
+        }
+    }
+
+    void ApplyOmissions()
+    {
+        for (const SRuleItem& item : m_Items) {
+            if (item.kind != enRuleItem::Without)
+                continue;
+            for (const SAlternative& alternative : item.alternatives) {
+                if (!Drop(item, alternative.symbols))
+                    Error(*item.file, alternative.end > alternative.begin ? alternative.mark : item.begin,
+                          "no other file has this alternative for " + item.left);
+            }
+            const bool isLeft = std::any_of(m_Items.begin(), m_Items.end(), [&](const SRuleItem& other) {
+                return other.left == item.left && HasRule(other);
+            });
+            if (!isLeft)
+                Error(*item.file, item.begin,
+                      "nothing is left of " + item.left + "; %replace gives it a rule of its own");
+        }
+    }
+
+    bool Drop(const SRuleItem& omission, const std::vector<std::string>& symbols)
+    {
+        bool isFound = false;
+        for (SRuleItem& other : m_Items) {
+            if (other.kind != enRuleItem::Rule || other.left != omission.left || other.file == omission.file)
+                continue;
+            for (SAlternative& alternative : other.alternatives) {
+                if (alternative.isDropped || !alternative.groups.empty() || alternative.symbols != symbols)
+                    continue;
+                isFound = alternative.isDropped = true;
+            }
+            other.isDropped =
+                other.isDropped ||
+                std::all_of(other.alternatives.begin(), other.alternatives.end(),
+                            [](const SAlternative& alternative) { return alternative.isDropped; });
+        }
+        return isFound;
+    }
+
+    static std::string PlaceText(const SRuleItem& item)
+    {
+        return item.file->Path() + ':' + std::to_string(item.file->LineAt(item.begin));
+    }
+
+    // ---- Reach ----
+
+    static std::vector<std::string> SymbolsOf(const SRuleItem& item)
+    {
+        if (item.kind == enRuleItem::List)
+            return {item.list.item, item.list.separator, item.list.last};
+        std::vector<std::string> symbols;
+        for (const SAlternative& alternative : item.alternatives) {
+            if (!alternative.isDropped)
+                symbols.insert(symbols.end(), alternative.symbols.begin(), alternative.symbols.end());
+        }
+        return symbols;
+    }
+
+    void DropUnreached()
+    {
+        std::multimap<std::string_view, const SRuleItem*> rules;
+        for (const SRuleItem& item : m_Items) {
+            if (!HasRule(item))
+                continue;
+            rules.emplace(item.left, &item);
+            if (m_Start.empty())
+                m_Start = item.left;
+        }
+        std::set<std::string> reached;
+        std::vector<std::string> open{m_Start};
+        while (!open.empty()) {
+            const std::string symbol = open.back();
+            open.pop_back();
+            if (!reached.insert(symbol).second)
+                continue;
+            for (auto [at, end] = rules.equal_range(symbol); at != end; ++at) {
+                for (std::string& next : SymbolsOf(*at->second))
+                    open.push_back(std::move(next));
+            }
+        }
+        for (SRuleItem& item : m_Items) {
+            if (HasRule(item) && m_Files->IsShared(*item.file) && reached.count(item.left) == 0)
+                item.isDropped = true;
+        }
+    }
+
+    // ---- Writing ----
+
+    void WriteItems(CAssembledText& text)
+    {
+        for (const SRuleItem& item : m_Items) {
+            if (item.kind == enRuleItem::Other)
+                text.Copy(*item.file, item.begin, item.end);
+            else if (item.kind == enRuleItem::List && !item.isDropped)
+                text.Write(*item.file, item.begin, ListRules(item.list), ++m_Lists);
+            else if (item.kind == enRuleItem::Rule && !item.isDropped)
+                WriteRule(text, item);
+        }
+    }
+
+    void WriteRule(CAssembledText& text, const SRuleItem& item)
+    {
+        const CSourceFile& file = *item.file;
+        bool isFirst = true;
+        text.Copy(file, item.begin, item.alternatives.front().mark);
+        for (const SAlternative& alternative : item.alternatives) {
+            if (alternative.isDropped)
+                continue;
+            if (!alternative.groups.empty())
+                WriteWords(text, item, alternative, isFirst);
+            else {
+                const bool hasColon = alternative.mark == item.alternatives.front().mark;
+                std::size_t begin = alternative.mark;
+                if (hasColon != isFirst) {
+                    text.Write(file, alternative.mark, isFirst ? ":" : "|");
+                    begin = alternative.begin;
+                }
+                WriteAlternative(text, item, alternative, begin);
+            }
+            isFirst = false;
+        }
+        text.Write(file, item.end - 1, ";\n");
+    }
+
+    void WriteAlternative(CAssembledText& text, const SRuleItem& item, const SAlternative& alternative,
+                          std::size_t begin)
+    {
+        const CSourceFile& file = *item.file;
+        const std::string_view action =
+            std::string_view(file.Text())
+                .substr(alternative.actionBegin, alternative.actionEnd - alternative.actionBegin);
+        const SNodeForm form = FindNodeForm(action);
+        if (form.begin == std::string_view::npos) {
+            text.Copy(file, begin, alternative.end);
+            return;
+        }
+        const std::size_t at = alternative.actionBegin + form.begin;
+        text.Copy(file, begin, at);
+        text.Write(file, at, NodeStatement(form.name.empty() ? item.left : form.name, alternative.symbols));
+        text.Copy(file, alternative.actionBegin + form.end, alternative.end);
+    }
+
+    static std::string NodeStatement(const std::string& name, const std::vector<std::string>& symbols)
+    {
+        const std::string count = std::to_string(symbols.size());
+        if (symbols.empty())
+            return "EMPTY(" + name + ");";
+        const auto error = std::find(symbols.begin(), symbols.end(), "error");
+        if (error == symbols.end())
+            return "CREATE_NODE(" + name + ", " + count + ");";
+        return "CREATE_NODE_WITH_ERROR(" + name + ", " + count + ", " +
+               std::to_string(error - symbols.begin()) + ");";
+    }
+
+    void WriteWords(CAssembledText& text, const SRuleItem& item, const SAlternative& alternative,
+                    bool isFirst)
+    {
+        const CSourceFile& file = *item.file;
+        std::string action =
+            file.Text().substr(alternative.actionBegin, alternative.actionEnd - alternative.actionBegin);
+        if (const SNodeForm form = FindNodeForm(action); form.begin != std::string_view::npos)
+            action.replace(form.begin, form.end - form.begin,
+                           NodeStatement(form.name.empty() ? item.left : form.name, {"word"}));
+        for (const std::string& group : alternative.groups) {
+            if (!m_Keywords.HasGroup(group))
+                Error(file, file.Text().find('%', alternative.begin), "no word is in the group " + group);
+        }
+        std::set<std::string> written;
+        for (const auto& [word, keyword] : m_Keywords.Words()) {
+            const bool isOfGroup =
+                std::find_first_of(alternative.groups.begin(), alternative.groups.end(),
+                                   keyword.groups.begin(), keyword.groups.end()) != alternative.groups.end();
+            if (!isOfGroup || !written.insert(keyword.token).second)
+                continue;
+            text.Write(*keyword.file, keyword.offset,
+                       std::string(isFirst ? "    : T" : "    | T")
+                           .append(keyword.token)
+                           .append(1, ' ')
+                           .append(action)
+                           .append(1, '\n'));
+            isFirst = false;
+        }
+    }
+
+    std::unique_ptr<CSourceFiles> m_Files;
+    CToolMessages& m_Messages;
+    CAssembledText m_Declarations;
+    CKeywordTable m_Keywords;
+    std::set<std::string> m_KeywordTokens;
+    std::string m_Start;
+    std::vector<SRuleItem> m_Items;
+    int m_Lists = 0;
+};
+
+} // namespace
+
+CGrammarSource AssembleParser(const std::string& path, CToolMessages& messages)
+{
+    return CParserAssembler(path, messages).Assemble();
+}
