@@ -108,6 +108,10 @@ item: T__BEGIN items T__END T__SEMI { NODE(block); }
 %%
 )");
     EXPECT_EQ(found, wanted);
+
+    // and what flex and bison were given says the same without any of the files
+    EXPECT_EQ(Run("--lexer own/L.l --parser own/P.y --output out/Lang --expanded own/written").messages, "");
+    EXPECT_EQ(Tables(File("own/written/L.l"), File("own/written/P.y")), wanted);
 }
 
 // A list against its rules written out. `%deep` has too many to write here: the languages' own tests count them.

@@ -87,6 +87,15 @@ std::string DependencyRule(const SGrammarBuild& build, const CGrammarSource& lex
     return rule + '\n';
 }
 
+void WriteExpanded(const std::string& folder, const std::string& path, const CGrammarSource& source)
+{
+    std::error_code ignored; // the write tells
+    std::filesystem::create_directories(folder, ignored);
+    const std::filesystem::path target =
+        std::filesystem::path(folder) / std::filesystem::path(path).filename();
+    WriteWholeFile(target.string(), source.Text());
+}
+
 // A list is one rule to its author.
 std::size_t RuleCount(const CGrammarSource& source, const std::vector<int>& ruleLines, std::size_t rules)
 {
@@ -153,6 +162,10 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
         WriteWholeFile(build.depfilePath, DependencyRule(build, lexer, parser));
     if (messages.ErrorCount() > 0)
         return kToolFindings;
+    if (!build.expandedPath.empty()) {
+        WriteExpanded(build.expandedPath, build.lexerPath, lexer);
+        WriteExpanded(build.expandedPath, build.parserPath, parser);
+    }
     CTableDirectory output(build.outputPath);
     const CTemporaryFolder scratch((std::filesystem::temp_directory_path() / "uvgrammar.").string());
 

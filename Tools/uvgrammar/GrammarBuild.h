@@ -9,9 +9,10 @@ struct SGrammarBuild
 {
     std::string lexerPath;
     std::string parserPath;
-    std::string outputPath;  // the language's directory
-    std::string name;        // of the language
-    std::string depfilePath; // takes the names of all files that were read, for make or ninja; empty: none
+    std::string outputPath;   // the language's directory
+    std::string name;         // of the language
+    std::string depfilePath;  // takes the names of all files that were read, for make or ninja; empty: none
+    std::string expandedPath; // takes the two sources as flex and bison read them; empty: they aren't kept
 };
 
 // Writes the tables, unless the grammar is refused; then the directory stays as it was.

@@ -54,7 +54,9 @@ int Run(int argc, char** argv, CToolMessages& messages)
          "the language's table directory")                                                                //
         ("name", po::value(&build.name)->value_name("NAME"), "the language's name; else DIR's last part") //
         ("depfile", po::value(&build.depfilePath)->value_name("FILE"),
-         "write the names of all files that were read, as a rule for make or ninja")      //
+         "write the names of all files that were read, as a rule for make or ninja") //
+        ("expanded", po::value(&build.expandedPath)->value_name("DIR"),
+         "write the two sources as flex and bison read them")                             //
         ("report", "print counts of rules, states, table sizes, conflicts, unused rules") //
         ("quiet,q", po::bool_switch(&isQuiet), "write errors only")                       //
         ("help,h", "print this");
