@@ -27,62 +27,62 @@
 %%
 
 SQL_ROOT
-    : %empty                                                      { EMPTY(SQL); }
-    | program                                                     { CREATE_NODE(SQL, 1); }
+    : %empty                                                      { NODE(SQL); }
+    | program                                                     { NODE(SQL); }
     ;
 
 /* Statements come in chunks of chunks under one name, so that a long program doesn't become a deep chain. The list of
    delimited statements stands in a list of statements, and that in a node of its own: so whoever flattens the tree
    gives all statements one shape, however many there are. */
 program
-    : pl_sql_statements                                           { CREATE_NODE(program, 1); }
+    : pl_sql_statements                                           { NODE; }
     ;
 pl_sql_statements
-    : delimited_pl_sql_statements                                 { CREATE_NODE(pl_sql_statements, 1); }
+    : delimited_pl_sql_statements                                 { NODE; }
     ;
 %list delimited_pl_sql_statements: delimited %last last_statement %deep ;
 
 /* An error costs its line, but for the label. */
 delimited
-    : pl_sql_statement line_end                                   { CREATE_NODE(delimited_pl_sql_statement, 2); }
-    | labeled_line                                                { CREATE_NODE(delimited_pl_sql_statement, 1); }
+    : pl_sql_statement line_end                                   { NODE(delimited_pl_sql_statement); }
+    | labeled_line                                                { NODE(delimited_pl_sql_statement); }
     | error line_end
-      { CREATE_NODE_WITH_ERROR(delimited_pl_sql_statement, 2, 0); }
+      { NODE(delimited_pl_sql_statement); }
     ;
 /* The line end of a labeled statement is inside, with the comment that may stand in front of it. A label may have its
    line to itself. */
 labeled_line
-    : pl_sql_statement_label line_end                             { CREATE_NODE(labeled_pl_sql_statement, 2); }
-    | pl_sql_statement_label pl_sql_statement line_end            { CREATE_NODE(labeled_pl_sql_statement, 3); }
+    : pl_sql_statement_label line_end                             { NODE(labeled_pl_sql_statement); }
+    | pl_sql_statement_label pl_sql_statement line_end            { NODE(labeled_pl_sql_statement); }
     | pl_sql_statement_label error line_end
-      { CREATE_NODE_WITH_ERROR(labeled_pl_sql_statement, 3, 1); }
+      { NODE(labeled_pl_sql_statement); }
     ;
 line_end
-    : T__LINE_END                                                 { CREATE_NODE(pl_sql_statement_delimiter, 1); }
+    : T__LINE_END                                                 { NODE(pl_sql_statement_delimiter); }
     ;
 
 /* The last line may lack its end. A rule may end in an error where nothing but the end of the text follows. */
 last_statement
-    : pl_sql_statement text_end                                   { CREATE_NODE(delimited_pl_sql_statement, 2); }
-    | last_labeled_line                                           { CREATE_NODE(delimited_pl_sql_statement, 1); }
+    : pl_sql_statement text_end                                   { NODE(delimited_pl_sql_statement); }
+    | last_labeled_line                                           { NODE(delimited_pl_sql_statement); }
     | error
-      { CREATE_NODE_WITH_ERROR(delimited_pl_sql_statement, 1, 0); }
+      { NODE(delimited_pl_sql_statement); }
     ;
 last_labeled_line
-    : pl_sql_statement_label text_end                             { CREATE_NODE(labeled_pl_sql_statement, 2); }
-    | pl_sql_statement_label pl_sql_statement text_end            { CREATE_NODE(labeled_pl_sql_statement, 3); }
+    : pl_sql_statement_label text_end                             { NODE(labeled_pl_sql_statement); }
+    | pl_sql_statement_label pl_sql_statement text_end            { NODE(labeled_pl_sql_statement); }
     | pl_sql_statement_label error
-      { CREATE_NODE_WITH_ERROR(labeled_pl_sql_statement, 2, 1); }
+      { NODE(labeled_pl_sql_statement); }
     ;
 text_end
-    : %empty                                                      { EMPTY(pl_sql_statement_delimiter); }
+    : %empty                                                      { NODE(pl_sql_statement_delimiter); }
     ;
 
 pl_sql_statement_label
-    : T__LABEL T__COLON                                           { CREATE_NODE(pl_sql_statement_label, 2); }
+    : T__LABEL T__COLON                                           { NODE; }
     ;
 pl_sql_statement
-    : command                                                     { CREATE_NODE(pl_sql_statement, 1); }
+    : command                                                     { NODE; }
     ;
 
 /* ---- Commands ---- */
@@ -120,200 +120,200 @@ command
     | subr_statement
     | tfrctl_statement
     | when_statement
-    | T__PROMPT command                                           { CREATE_NODE(prompted_command, 2); }
+    | T__PROMPT command                                           { NODE(prompted_command); }
     ;
 
 /* Any command that the language doesn't treat in a way of its own. A keyword here is a command name with a bracket
    right behind it. */
 command_statement
-    : command_name                                                { CREATE_NODE(command_statement, 1); }
-    | command_name parameter_list                                 { CREATE_NODE(command_statement, 2); }
+    : command_name                                                { NODE; }
+    | command_name parameter_list                                 { NODE; }
     ;
 command_name
-    : T__NAME                                                     { CREATE_NODE(command_name, 1); }
-    | T__KEYWORD                                                  { CREATE_NODE(command_name, 1); }
-    | command_library T__QUALIFIER name_part                      { CREATE_NODE(command_name, 3); }
+    : T__NAME                                                     { NODE; }
+    | T__KEYWORD                                                  { NODE; }
+    | command_library T__QUALIFIER name_part                      { NODE; }
     ;
 command_library
-    : T__NAME                                                     { CREATE_NODE(name, 1); }
+    : T__NAME                                                     { NODE(name); }
     | T__SPECIAL_VALUE
     ;
 
 call_statement
-    : T__CALL                                                     { CREATE_NODE(call_statement, 1); }
-    | T__CALL parameter_list                                      { CREATE_NODE(call_statement, 2); }
+    : T__CALL                                                     { NODE; }
+    | T__CALL parameter_list                                      { NODE; }
     ;
 callprc_statement
-    : T__CALLPRC                                                  { CREATE_NODE(callprc_statement, 1); }
-    | T__CALLPRC parameter_list                                   { CREATE_NODE(callprc_statement, 2); }
+    : T__CALLPRC                                                  { NODE; }
+    | T__CALLPRC parameter_list                                   { NODE; }
     ;
 callsubr_statement
-    : T__CALLSUBR                                                 { CREATE_NODE(callsubr_statement, 1); }
-    | T__CALLSUBR parameter_list                                  { CREATE_NODE(callsubr_statement, 2); }
+    : T__CALLSUBR                                                 { NODE; }
+    | T__CALLSUBR parameter_list                                  { NODE; }
     ;
 chgvar_statement
-    : T__CHGVAR                                                   { CREATE_NODE(chgvar_statement, 1); }
-    | T__CHGVAR parameter_list                                    { CREATE_NODE(chgvar_statement, 2); }
+    : T__CHGVAR                                                   { NODE; }
+    | T__CHGVAR parameter_list                                    { NODE; }
     ;
 copyright_statement
-    : T__COPYRIGHT                                                { CREATE_NODE(copyright_statement, 1); }
-    | T__COPYRIGHT parameter_list                                 { CREATE_NODE(copyright_statement, 2); }
+    : T__COPYRIGHT                                                { NODE; }
+    | T__COPYRIGHT parameter_list                                 { NODE; }
     ;
 dcl_statement
-    : T__DCL                                                      { CREATE_NODE(dcl_statement, 1); }
-    | T__DCL parameter_list                                       { CREATE_NODE(dcl_statement, 2); }
+    : T__DCL                                                      { NODE; }
+    | T__DCL parameter_list                                       { NODE; }
     ;
 dclf_statement
-    : T__DCLF                                                     { CREATE_NODE(dclf_statement, 1); }
-    | T__DCLF parameter_list                                      { CREATE_NODE(dclf_statement, 2); }
+    : T__DCLF                                                     { NODE; }
+    | T__DCLF parameter_list                                      { NODE; }
     ;
 dclprcopt_statement
-    : T__DCLPRCOPT                                                { CREATE_NODE(dclprcopt_statement, 1); }
-    | T__DCLPRCOPT parameter_list                                 { CREATE_NODE(dclprcopt_statement, 2); }
+    : T__DCLPRCOPT                                                { NODE; }
+    | T__DCLPRCOPT parameter_list                                 { NODE; }
     ;
 do_statement
-    : T__DO                                                       { CREATE_NODE(do_statement, 1); }
+    : T__DO                                                       { NODE; }
     ;
 dofor_statement
-    : T__DOFOR                                                    { CREATE_NODE(dofor_statement, 1); }
-    | T__DOFOR parameter_list                                     { CREATE_NODE(dofor_statement, 2); }
+    : T__DOFOR                                                    { NODE; }
+    | T__DOFOR parameter_list                                     { NODE; }
     ;
 dountil_statement
-    : T__DOUNTIL condition                                        { CREATE_NODE(dountil_statement, 2); }
+    : T__DOUNTIL condition                                        { NODE; }
     ;
 dowhile_statement
-    : T__DOWHILE condition                                        { CREATE_NODE(dowhile_statement, 2); }
+    : T__DOWHILE condition                                        { NODE; }
     ;
 else_statement
-    : T__ELSE                                                     { CREATE_NODE(else_statement, 1); }
-    | T__ELSE else_parameter                                      { CREATE_NODE(else_statement, 2); }
+    : T__ELSE                                                     { NODE; }
+    | T__ELSE else_parameter                                      { NODE; }
     ;
 enddo_statement
-    : T__ENDDO                                                    { CREATE_NODE(enddo_statement, 1); }
+    : T__ENDDO                                                    { NODE; }
     ;
 endpgm_statement
-    : T__ENDPGM                                                   { CREATE_NODE(endpgm_statement, 1); }
+    : T__ENDPGM                                                   { NODE; }
     ;
 endselect_statement
-    : T__ENDSELECT                                                { CREATE_NODE(endselect_statement, 1); }
+    : T__ENDSELECT                                                { NODE; }
     ;
 endsubr_statement
-    : T__ENDSUBR                                                  { CREATE_NODE(endsubr_statement, 1); }
-    | T__ENDSUBR parameter_list                                   { CREATE_NODE(endsubr_statement, 2); }
+    : T__ENDSUBR                                                  { NODE; }
+    | T__ENDSUBR parameter_list                                   { NODE; }
     ;
 goto_statement
-    : T__GOTO                                                     { CREATE_NODE(goto_statement, 1); }
-    | T__GOTO parameter_list                                      { CREATE_NODE(goto_statement, 2); }
+    : T__GOTO                                                     { NODE; }
+    | T__GOTO parameter_list                                      { NODE; }
     ;
 if_statement
-    : T__IF condition                                             { CREATE_NODE(if_statement, 2); }
-    | T__IF condition then_parameter                              { CREATE_NODE(if_statement, 3); }
+    : T__IF condition                                             { NODE; }
+    | T__IF condition then_parameter                              { NODE; }
     ;
 include_statement
-    : T__INCLUDE                                                  { CREATE_NODE(include_statement, 1); }
-    | T__INCLUDE parameter_list                                   { CREATE_NODE(include_statement, 2); }
+    : T__INCLUDE                                                  { NODE; }
+    | T__INCLUDE parameter_list                                   { NODE; }
     ;
 iterate_statement
-    : T__ITERATE                                                  { CREATE_NODE(iterate_statement, 1); }
-    | T__ITERATE parameter_list                                   { CREATE_NODE(iterate_statement, 2); }
+    : T__ITERATE                                                  { NODE; }
+    | T__ITERATE parameter_list                                   { NODE; }
     ;
 leave_statement
-    : T__LEAVE                                                    { CREATE_NODE(leave_statement, 1); }
-    | T__LEAVE parameter_list                                     { CREATE_NODE(leave_statement, 2); }
+    : T__LEAVE                                                    { NODE; }
+    | T__LEAVE parameter_list                                     { NODE; }
     ;
 monmsg_statement
-    : T__MONMSG                                                   { CREATE_NODE(monmsg_statement, 1); }
-    | T__MONMSG parameter_list                                    { CREATE_NODE(monmsg_statement, 2); }
+    : T__MONMSG                                                   { NODE; }
+    | T__MONMSG parameter_list                                    { NODE; }
     ;
 otherwise_statement
-    : T__OTHERWISE                                                { CREATE_NODE(otherwise_statement, 1); }
-    | T__OTHERWISE else_parameter                                 { CREATE_NODE(otherwise_statement, 2); }
+    : T__OTHERWISE                                                { NODE; }
+    | T__OTHERWISE else_parameter                                 { NODE; }
     ;
 pgm_statement
-    : T__PGM                                                      { CREATE_NODE(pgm_statement, 1); }
-    | T__PGM parameter_list                                       { CREATE_NODE(pgm_statement, 2); }
+    : T__PGM                                                      { NODE; }
+    | T__PGM parameter_list                                       { NODE; }
     ;
 return_statement
-    : T__RETURN                                                   { CREATE_NODE(return_statement, 1); }
+    : T__RETURN                                                   { NODE; }
     ;
 rtnsubr_statement
-    : T__RTNSUBR                                                  { CREATE_NODE(rtnsubr_statement, 1); }
-    | T__RTNSUBR parameter_list                                   { CREATE_NODE(rtnsubr_statement, 2); }
+    : T__RTNSUBR                                                  { NODE; }
+    | T__RTNSUBR parameter_list                                   { NODE; }
     ;
 select_statement
-    : T__SELECT                                                   { CREATE_NODE(select_statement, 1); }
+    : T__SELECT                                                   { NODE; }
     ;
 subr_statement
-    : T__SUBR                                                     { CREATE_NODE(subr_statement, 1); }
-    | T__SUBR parameter_list                                      { CREATE_NODE(subr_statement, 2); }
+    : T__SUBR                                                     { NODE; }
+    | T__SUBR parameter_list                                      { NODE; }
     ;
 tfrctl_statement
-    : T__TFRCTL                                                   { CREATE_NODE(tfrctl_statement, 1); }
-    | T__TFRCTL parameter_list                                    { CREATE_NODE(tfrctl_statement, 2); }
+    : T__TFRCTL                                                   { NODE; }
+    | T__TFRCTL parameter_list                                    { NODE; }
     ;
 when_statement
-    : T__WHEN condition                                           { CREATE_NODE(when_statement, 2); }
-    | T__WHEN condition then_parameter                            { CREATE_NODE(when_statement, 3); }
+    : T__WHEN condition                                           { NODE; }
+    | T__WHEN condition then_parameter                            { NODE; }
     ;
 
 /* ---- Conditions, and commands inside commands ---- */
 
 condition
-    : condition_keyword T__LPAREN expression T__RPAREN            { CREATE_NODE(condition, 4); }
-    | T__LPAREN expression T__RPAREN                              { CREATE_NODE(condition, 3); }
-    | T__VARIABLE                                                 { CREATE_NODE(condition, 1); }
-    | T__STRING                                                   { CREATE_NODE(condition, 1); }
-    | function_call                                               { CREATE_NODE(condition, 1); }
+    : condition_keyword T__LPAREN expression T__RPAREN            { NODE; }
+    | T__LPAREN expression T__RPAREN                              { NODE; }
+    | T__VARIABLE                                                 { NODE; }
+    | T__STRING                                                   { NODE; }
+    | function_call                                               { NODE; }
     ;
 condition_keyword
-    : T__COND                                                     { CREATE_NODE(parameter_keyword, 1); }
+    : T__COND                                                     { NODE(parameter_keyword); }
     ;
 then_parameter
-    : then_keyword T__LPAREN T__RPAREN                            { CREATE_NODE(command_parameter, 3); }
-    | then_keyword T__LPAREN nested_command T__RPAREN             { CREATE_NODE(command_parameter, 4); }
+    : then_keyword T__LPAREN T__RPAREN                            { NODE(command_parameter); }
+    | then_keyword T__LPAREN nested_command T__RPAREN             { NODE(command_parameter); }
     | positional_command
     ;
 then_keyword
-    : T__THEN                                                     { CREATE_NODE(parameter_keyword, 1); }
+    : T__THEN                                                     { NODE(parameter_keyword); }
     ;
 else_parameter
-    : else_keyword T__LPAREN T__RPAREN                            { CREATE_NODE(command_parameter, 3); }
-    | else_keyword T__LPAREN nested_command T__RPAREN             { CREATE_NODE(command_parameter, 4); }
+    : else_keyword T__LPAREN T__RPAREN                            { NODE(command_parameter); }
+    | else_keyword T__LPAREN nested_command T__RPAREN             { NODE(command_parameter); }
     | positional_command
     ;
 else_keyword
-    : T__CMD                                                      { CREATE_NODE(parameter_keyword, 1); }
+    : T__CMD                                                      { NODE(parameter_keyword); }
     ;
 /* Without brackets it takes in the rest of the line: IF (&A) CALL B. */
 positional_command
-    : T__LPAREN nested_command T__RPAREN                          { CREATE_NODE(command_parameter, 3); }
-    | nested_command                                              { CREATE_NODE(command_parameter, 1); }
+    : T__LPAREN nested_command T__RPAREN                          { NODE(command_parameter); }
+    | nested_command                                              { NODE(command_parameter); }
     ;
 nested_command
-    : command                                                     { CREATE_NODE(nested_command, 1); }
+    : command                                                     { NODE; }
     ;
 
 /* ---- Parameters ---- */
 
 parameter_list
-    : parameter                                                   { CREATE_NODE(parameter_list, 1); }
-    | parameter_list parameter                                    { CREATE_NODE(parameter_list, 2); }
+    : parameter                                                   { NODE; }
+    | parameter_list parameter                                    { NODE; }
     ;
 parameter
     : named_parameter
-    | positional_value                                            { CREATE_NODE(positional_parameter, 1); }
+    | positional_value                                            { NODE(positional_parameter); }
     ;
 named_parameter
     : keyword_parameter
     | command_parameter
     ;
 keyword_parameter
-    : parameter_keyword T__LPAREN T__RPAREN                       { CREATE_NODE(keyword_parameter, 3); }
-    | parameter_keyword T__LPAREN list_content T__RPAREN          { CREATE_NODE(keyword_parameter, 4); }
+    : parameter_keyword T__LPAREN T__RPAREN                       { NODE; }
+    | parameter_keyword T__LPAREN list_content T__RPAREN          { NODE; }
     ;
 parameter_keyword
-    : plain_keyword                                               { CREATE_NODE(parameter_keyword, 1); }
-    | T__SELECTIVE_PROMPT plain_keyword                           { CREATE_NODE(parameter_keyword, 2); }
+    : plain_keyword                                               { NODE; }
+    | T__SELECTIVE_PROMPT plain_keyword                           { NODE; }
     ;
 plain_keyword
     : T__KEYWORD
@@ -321,13 +321,13 @@ plain_keyword
     ;
 /* A parameter that holds a command, or the name of one, or its text. */
 command_parameter
-    : command_keyword T__LPAREN T__RPAREN                         { CREATE_NODE(command_parameter, 3); }
-    | command_keyword T__LPAREN nested_command T__RPAREN          { CREATE_NODE(command_parameter, 4); }
-    | command_keyword T__LPAREN command_text T__RPAREN            { CREATE_NODE(command_parameter, 4); }
+    : command_keyword T__LPAREN T__RPAREN                         { NODE; }
+    | command_keyword T__LPAREN nested_command T__RPAREN          { NODE; }
+    | command_keyword T__LPAREN command_text T__RPAREN            { NODE; }
     ;
 command_keyword
-    : plain_command_keyword                                       { CREATE_NODE(parameter_keyword, 1); }
-    | T__SELECTIVE_PROMPT plain_command_keyword                   { CREATE_NODE(parameter_keyword, 2); }
+    : plain_command_keyword                                       { NODE(parameter_keyword); }
+    | T__SELECTIVE_PROMPT plain_command_keyword                   { NODE(parameter_keyword); }
     ;
 plain_command_keyword
     : T__CMD
@@ -342,15 +342,15 @@ command_text
     | T__SPECIAL_VALUE
     | function_call
     | parenthesized_values
-    | T__VARIABLE T__QUALIFIER name_part                          { CREATE_NODE(qualified_name, 3); }
-    | command_text T__CONCATENATION expression                    { CREATE_NODE(expression, 3); }
+    | T__VARIABLE T__QUALIFIER name_part                          { NODE(qualified_name); }
+    | command_text T__CONCATENATION expression                    { NODE(expression); }
     ;
 /* Outside of brackets a blank ends a value, so there is no arithmetic. */
 positional_value
     : operand
-    | T__PLUS T__NUMBER                                           { CREATE_NODE(expression, 2); }
-    | T__MINUS T__NUMBER                                          { CREATE_NODE(expression, 2); }
-    | positional_value T__CONCATENATION operand                   { CREATE_NODE(expression, 3); }
+    | T__PLUS T__NUMBER                                           { NODE(expression); }
+    | T__MINUS T__NUMBER                                          { NODE(expression); }
+    | positional_value T__CONCATENATION operand                   { NODE(expression); }
     ;
 
 /* ---- Values ---- */
@@ -359,9 +359,9 @@ positional_value
    nothing but its keywords tells that it is one (JOBCMD(CALL PGM(A))). */
 list_content
     : value_list
-    | operator_word                                               { CREATE_NODE(value_list, 1); }
-    | operator_word value_list                                    { CREATE_NODE(value_list, 2); }
-    | value_list named_parameters                                 { CREATE_NODE(embedded_command, 2); }
+    | operator_word                                               { NODE(value_list); }
+    | operator_word value_list                                    { NODE(value_list); }
+    | value_list named_parameters                                 { NODE(embedded_command); }
     ;
 operator_word
     : T__AND
@@ -370,12 +370,12 @@ operator_word
     | T__CONCATENATION
     ;
 named_parameters
-    : named_parameter                                             { CREATE_NODE(parameter_list, 1); }
-    | named_parameters named_parameter                            { CREATE_NODE(parameter_list, 2); }
+    : named_parameter                                             { NODE(parameter_list); }
+    | named_parameters named_parameter                            { NODE(parameter_list); }
     ;
 value_list
-    : value                                                       { CREATE_NODE(value_list, 1); }
-    | value_list value                                            { CREATE_NODE(value_list, 2); }
+    : value                                                       { NODE; }
+    | value_list value                                            { NODE; }
     ;
 value
     : expression %prec VALUE
@@ -383,17 +383,17 @@ value
 
 expression
     : operand
-    | expression T__OR expression                                 { CREATE_NODE(expression, 3); }
-    | expression T__AND expression                                { CREATE_NODE(expression, 3); }
-    | expression T__COMPARISON expression                         { CREATE_NODE(expression, 3); }
-    | expression T__CONCATENATION expression                      { CREATE_NODE(expression, 3); }
-    | expression T__PLUS expression                               { CREATE_NODE(expression, 3); }
-    | expression T__MINUS expression                              { CREATE_NODE(expression, 3); }
-    | expression T__ASTERISK expression                           { CREATE_NODE(expression, 3); }
-    | expression T__SLASH expression                              { CREATE_NODE(expression, 3); }
-    | T__NOT expression                                           { CREATE_NODE(expression, 2); }
-    | T__PLUS expression %prec SIGN                               { CREATE_NODE(expression, 2); }
-    | T__MINUS expression %prec SIGN                              { CREATE_NODE(expression, 2); }
+    | expression T__OR expression                                 { NODE; }
+    | expression T__AND expression                                { NODE; }
+    | expression T__COMPARISON expression                         { NODE; }
+    | expression T__CONCATENATION expression                      { NODE; }
+    | expression T__PLUS expression                               { NODE; }
+    | expression T__MINUS expression                              { NODE; }
+    | expression T__ASTERISK expression                           { NODE; }
+    | expression T__SLASH expression                              { NODE; }
+    | T__NOT expression                                           { NODE; }
+    | T__PLUS expression %prec SIGN                               { NODE; }
+    | T__MINUS expression %prec SIGN                              { NODE; }
     ;
 operand
     : name_part
@@ -406,18 +406,18 @@ operand
     | parenthesized_values
     ;
 parenthesized_values
-    : T__LPAREN T__RPAREN                                         { CREATE_NODE(parenthesized_values, 2); }
-    | T__LPAREN list_content T__RPAREN                            { CREATE_NODE(parenthesized_values, 3); }
+    : T__LPAREN T__RPAREN                                         { NODE; }
+    | T__LPAREN list_content T__RPAREN                            { NODE; }
     ;
 function_call
-    : T__FUNCTION %prec FUNCTION                                  { CREATE_NODE(function_call, 1); }
-    | T__FUNCTION T__LPAREN T__RPAREN                             { CREATE_NODE(function_call, 3); }
-    | T__FUNCTION T__LPAREN value_list T__RPAREN                  { CREATE_NODE(function_call, 4); }
+    : T__FUNCTION %prec FUNCTION                                  { NODE; }
+    | T__FUNCTION T__LPAREN T__RPAREN                             { NODE; }
+    | T__FUNCTION T__LPAREN value_list T__RPAREN                  { NODE; }
     ;
 
 qualified_name
-    : name_part T__QUALIFIER name_part                            { CREATE_NODE(qualified_name, 3); }
-    | qualified_name T__QUALIFIER name_part                       { CREATE_NODE(qualified_name, 3); }
+    : name_part T__QUALIFIER name_part                            { NODE; }
+    | qualified_name T__QUALIFIER name_part                       { NODE; }
     ;
 name_part
     : any_name
@@ -430,37 +430,37 @@ name_part
     ;
 /* No word is reserved. */
 any_name
-    : T__NAME                                                     { CREATE_NODE(name, 1); }
-    | T__CALL                                                     { CREATE_NODE(name, 1); }
-    | T__CALLPRC                                                  { CREATE_NODE(name, 1); }
-    | T__CALLSUBR                                                 { CREATE_NODE(name, 1); }
-    | T__CHGVAR                                                   { CREATE_NODE(name, 1); }
-    | T__COPYRIGHT                                                { CREATE_NODE(name, 1); }
-    | T__DCL                                                      { CREATE_NODE(name, 1); }
-    | T__DCLF                                                     { CREATE_NODE(name, 1); }
-    | T__DCLPRCOPT                                                { CREATE_NODE(name, 1); }
-    | T__DO                                                       { CREATE_NODE(name, 1); }
-    | T__DOFOR                                                    { CREATE_NODE(name, 1); }
-    | T__DOUNTIL                                                  { CREATE_NODE(name, 1); }
-    | T__DOWHILE                                                  { CREATE_NODE(name, 1); }
-    | T__ELSE                                                     { CREATE_NODE(name, 1); }
-    | T__ENDDO                                                    { CREATE_NODE(name, 1); }
-    | T__ENDPGM                                                   { CREATE_NODE(name, 1); }
-    | T__ENDSELECT                                                { CREATE_NODE(name, 1); }
-    | T__ENDSUBR                                                  { CREATE_NODE(name, 1); }
-    | T__GOTO                                                     { CREATE_NODE(name, 1); }
-    | T__IF                                                       { CREATE_NODE(name, 1); }
-    | T__INCLUDE                                                  { CREATE_NODE(name, 1); }
-    | T__ITERATE                                                  { CREATE_NODE(name, 1); }
-    | T__LEAVE                                                    { CREATE_NODE(name, 1); }
-    | T__MONMSG                                                   { CREATE_NODE(name, 1); }
-    | T__OTHERWISE                                                { CREATE_NODE(name, 1); }
-    | T__PGM                                                      { CREATE_NODE(name, 1); }
-    | T__RETURN                                                   { CREATE_NODE(name, 1); }
-    | T__RTNSUBR                                                  { CREATE_NODE(name, 1); }
-    | T__SELECT                                                   { CREATE_NODE(name, 1); }
-    | T__SUBR                                                     { CREATE_NODE(name, 1); }
-    | T__TFRCTL                                                   { CREATE_NODE(name, 1); }
-    | T__WHEN                                                     { CREATE_NODE(name, 1); }
+    : T__NAME                                                     { NODE(name); }
+    | T__CALL                                                     { NODE(name); }
+    | T__CALLPRC                                                  { NODE(name); }
+    | T__CALLSUBR                                                 { NODE(name); }
+    | T__CHGVAR                                                   { NODE(name); }
+    | T__COPYRIGHT                                                { NODE(name); }
+    | T__DCL                                                      { NODE(name); }
+    | T__DCLF                                                     { NODE(name); }
+    | T__DCLPRCOPT                                                { NODE(name); }
+    | T__DO                                                       { NODE(name); }
+    | T__DOFOR                                                    { NODE(name); }
+    | T__DOUNTIL                                                  { NODE(name); }
+    | T__DOWHILE                                                  { NODE(name); }
+    | T__ELSE                                                     { NODE(name); }
+    | T__ENDDO                                                    { NODE(name); }
+    | T__ENDPGM                                                   { NODE(name); }
+    | T__ENDSELECT                                                { NODE(name); }
+    | T__ENDSUBR                                                  { NODE(name); }
+    | T__GOTO                                                     { NODE(name); }
+    | T__IF                                                       { NODE(name); }
+    | T__INCLUDE                                                  { NODE(name); }
+    | T__ITERATE                                                  { NODE(name); }
+    | T__LEAVE                                                    { NODE(name); }
+    | T__MONMSG                                                   { NODE(name); }
+    | T__OTHERWISE                                                { NODE(name); }
+    | T__PGM                                                      { NODE(name); }
+    | T__RETURN                                                   { NODE(name); }
+    | T__RTNSUBR                                                  { NODE(name); }
+    | T__SELECT                                                   { NODE(name); }
+    | T__SUBR                                                     { NODE(name); }
+    | T__TFRCTL                                                   { NODE(name); }
+    | T__WHEN                                                     { NODE(name); }
     ;
 %%

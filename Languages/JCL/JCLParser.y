@@ -19,8 +19,8 @@
 %%
 
 SQL_ROOT
-    : %empty                                                                   { EMPTY(SQL); }
-    | pl_sql_statements                                                        { CREATE_NODE(SQL, 1); }
+    : %empty                                                                   { NODE(SQL); }
+    | pl_sql_statements                                                        { NODE(SQL); }
     ;
 
 /* Statements come in chunks of chunks under one name, so that a long job doesn't become a deep chain. */
@@ -30,202 +30,202 @@ SQL_ROOT
    follows: anywhere else the parser would raise the error again on the same token. */
 last_statement
     : pl_sql_statement
-    | bad_end                                                                  { CREATE_NODE(pl_sql_statement, 1); }
+    | bad_end                                                                  { NODE(pl_sql_statement); }
     ;
 bad_end
-    : error                                                                    { CREATE_NODE_WITH_ERROR(error_statement, 1, 0); }
-    | T__SLASHES error                                                         { CREATE_NODE_WITH_ERROR(error_statement, 2, 1); }
-    | T__SLASHES statement_name error                                          { CREATE_NODE_WITH_ERROR(error_statement, 3, 2); }
-    | statement_head error                                                     { CREATE_NODE_WITH_ERROR(error_statement, 2, 1); }
+    : error                                                                    { NODE(error_statement); }
+    | T__SLASHES error                                                         { NODE(error_statement); }
+    | T__SLASHES statement_name error                                          { NODE(error_statement); }
+    | statement_head error                                                     { NODE(error_statement); }
     ;
 
 /* Data end at their delimiter or, without one, at the next statement. */
 statement
-    : pl_sql_statement line_end                                                { CREATE_NODE(delimited_pl_sql_statement, 2); }
-    | bad_statement                                                            { CREATE_NODE(delimited_pl_sql_statement, 1); }
+    : pl_sql_statement line_end                                                { NODE(delimited_pl_sql_statement); }
+    | bad_statement                                                            { NODE(delimited_pl_sql_statement); }
     | statement_with_data
-    | statement_with_data data_end                                             { CREATE_NODE(delimited_pl_sql_statement, 2); }
+    | statement_with_data data_end                                             { NODE(delimited_pl_sql_statement); }
     | loose_data
-    | T__LOOSE_DELIMITER                                                       { CREATE_NODE(delimited_pl_sql_statement, 1); }
+    | T__LOOSE_DELIMITER                                                       { NODE(delimited_pl_sql_statement); }
     ;
 line_end
-    : T__LINE_END                                                              { CREATE_NODE(pl_sql_statement_delimiter, 1); }
+    : T__LINE_END                                                              { NODE(pl_sql_statement_delimiter); }
     ;
 data_end
-    : T__DELIMITER                                                             { CREATE_NODE(pl_sql_statement_delimiter, 1); }
+    : T__DELIMITER                                                             { NODE(pl_sql_statement_delimiter); }
     ;
 
 /* An error costs its statement: what isn't the head of it becomes space. Its data stay data. */
 bad_statement
-    : bad_line                                                                 { CREATE_NODE(pl_sql_statement, 1); }
+    : bad_line                                                                 { NODE(pl_sql_statement); }
     ;
 bad_line
-    : error T__LINE_END                                                        { CREATE_NODE_WITH_ERROR(error_statement, 2, 0); }
-    | T__SLASHES error T__LINE_END                                             { CREATE_NODE_WITH_ERROR(error_statement, 3, 1); }
-    | T__SLASHES statement_name error T__LINE_END                              { CREATE_NODE_WITH_ERROR(error_statement, 4, 2); }
-    | statement_head error T__LINE_END                                         { CREATE_NODE_WITH_ERROR(error_statement, 3, 1); }
+    : error T__LINE_END                                                        { NODE(error_statement); }
+    | T__SLASHES error T__LINE_END                                             { NODE(error_statement); }
+    | T__SLASHES statement_name error T__LINE_END                              { NODE(error_statement); }
+    | statement_head error T__LINE_END                                         { NODE(error_statement); }
     ;
 statement_with_data
-    : dd_statement_with_data                                                   { CREATE_NODE(pl_sql_statement, 1); }
-    | bad_line_with_data                                                       { CREATE_NODE(pl_sql_statement, 1); }
+    : dd_statement_with_data                                                   { NODE(pl_sql_statement); }
+    | bad_line_with_data                                                       { NODE(pl_sql_statement); }
     ;
 bad_line_with_data
-    : error instream_data                                                      { CREATE_NODE_WITH_ERROR(error_statement, 2, 0); }
-    | T__SLASHES error instream_data                                           { CREATE_NODE_WITH_ERROR(error_statement, 3, 1); }
-    | T__SLASHES statement_name error instream_data                            { CREATE_NODE_WITH_ERROR(error_statement, 4, 2); }
-    | statement_head error instream_data                                       { CREATE_NODE_WITH_ERROR(error_statement, 3, 1); }
+    : error instream_data                                                      { NODE(error_statement); }
+    | T__SLASHES error instream_data                                           { NODE(error_statement); }
+    | T__SLASHES statement_name error instream_data                            { NODE(error_statement); }
+    | statement_head error instream_data                                       { NODE(error_statement); }
     ;
 
 pl_sql_statement
-    : job_statement                                                            { CREATE_NODE(pl_sql_statement, 1); }
-    | exec_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | dd_statement                                                             { CREATE_NODE(pl_sql_statement, 1); }
-    | proc_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | pend_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | set_statement                                                            { CREATE_NODE(pl_sql_statement, 1); }
-    | include_statement                                                        { CREATE_NODE(pl_sql_statement, 1); }
-    | jcllib_statement                                                         { CREATE_NODE(pl_sql_statement, 1); }
-    | if_statement                                                             { CREATE_NODE(pl_sql_statement, 1); }
-    | else_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | endif_statement                                                          { CREATE_NODE(pl_sql_statement, 1); }
-    | output_statement                                                         { CREATE_NODE(pl_sql_statement, 1); }
-    | cntl_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | endcntl_statement                                                        { CREATE_NODE(pl_sql_statement, 1); }
-    | printdev_statement                                                       { CREATE_NODE(pl_sql_statement, 1); }
-    | command_statement                                                        { CREATE_NODE(pl_sql_statement, 1); }
-    | export_statement                                                         { CREATE_NODE(pl_sql_statement, 1); }
-    | notify_statement                                                         { CREATE_NODE(pl_sql_statement, 1); }
-    | schedule_statement                                                       { CREATE_NODE(pl_sql_statement, 1); }
-    | xmit_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | null_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | jes2_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
-    | jes3_statement                                                           { CREATE_NODE(pl_sql_statement, 1); }
+    : job_statement                                                            { NODE; }
+    | exec_statement                                                           { NODE; }
+    | dd_statement                                                             { NODE; }
+    | proc_statement                                                           { NODE; }
+    | pend_statement                                                           { NODE; }
+    | set_statement                                                            { NODE; }
+    | include_statement                                                        { NODE; }
+    | jcllib_statement                                                         { NODE; }
+    | if_statement                                                             { NODE; }
+    | else_statement                                                           { NODE; }
+    | endif_statement                                                          { NODE; }
+    | output_statement                                                         { NODE; }
+    | cntl_statement                                                           { NODE; }
+    | endcntl_statement                                                        { NODE; }
+    | printdev_statement                                                       { NODE; }
+    | command_statement                                                        { NODE; }
+    | export_statement                                                         { NODE; }
+    | notify_statement                                                         { NODE; }
+    | schedule_statement                                                       { NODE; }
+    | xmit_statement                                                           { NODE; }
+    | null_statement                                                           { NODE; }
+    | jes2_statement                                                           { NODE; }
+    | jes3_statement                                                           { NODE; }
     ;
 
 statement_head
-    : T__SLASHES %prec HEAD                                                    { CREATE_NODE(statement_head, 1); }
-    | T__SLASHES statement_name %prec HEAD                                     { CREATE_NODE(statement_head, 2); }
+    : T__SLASHES %prec HEAD                                                    { NODE; }
+    | T__SLASHES statement_name %prec HEAD                                     { NODE; }
     ;
 /* A name with a period in it: the step of a procedure, and its DD statement that is overridden. */
 statement_name
-    : T__NAME                                                                  { CREATE_NODE(statement_name, 1); }
-    | statement_name T__PERIOD T__NAME                                         { CREATE_NODE(statement_name, 3); }
+    : T__NAME                                                                  { NODE; }
+    | statement_name T__PERIOD T__NAME                                         { NODE; }
     ;
 null_statement
-    : T__SLASHES                                                               { CREATE_NODE(null_statement, 1); }
+    : T__SLASHES                                                               { NODE; }
     ;
 
 job_statement
-    : statement_head T__JOB                                                    { CREATE_NODE(job_statement, 2); }
-    | statement_head T__JOB operands                                           { CREATE_NODE(job_statement, 3); }
+    : statement_head T__JOB                                                    { NODE; }
+    | statement_head T__JOB operands                                           { NODE; }
     ;
 exec_statement
-    : statement_head T__EXEC exec_target                                       { CREATE_NODE(exec_statement, 3); }
-    | statement_head T__EXEC exec_target T__COMMA operands                     { CREATE_NODE(exec_statement, 5); }
+    : statement_head T__EXEC exec_target                                       { NODE; }
+    | statement_head T__EXEC exec_target T__COMMA operands                     { NODE; }
     ;
 exec_target
-    : T__PGM T__EQUALS parameter_value                                         { CREATE_NODE(exec_program, 3); }
-    | T__PROC T__EQUALS parameter_value                                        { CREATE_NODE(exec_procedure, 3); }
-    | parameter_value                                                          { CREATE_NODE(exec_procedure, 1); }
+    : T__PGM T__EQUALS parameter_value                                         { NODE(exec_program); }
+    | T__PROC T__EQUALS parameter_value                                        { NODE(exec_procedure); }
+    | parameter_value                                                          { NODE(exec_procedure); }
     ;
 dd_statement
-    : statement_head T__DD                                                     { CREATE_NODE(dd_statement, 2); }
-    | statement_head T__DD operands                                            { CREATE_NODE(dd_statement, 3); }
+    : statement_head T__DD                                                     { NODE; }
+    | statement_head T__DD operands                                            { NODE; }
     ;
 dd_statement_with_data
-    : statement_head T__DD operands instream_data                              { CREATE_NODE(dd_statement, 4); }
-    | statement_head T__XMIT operands instream_data                            { CREATE_NODE(xmit_statement, 4); }
-    | statement_head T__XMIT instream_data                                     { CREATE_NODE(xmit_statement, 3); }
+    : statement_head T__DD operands instream_data                              { NODE(dd_statement); }
+    | statement_head T__XMIT operands instream_data                            { NODE(xmit_statement); }
+    | statement_head T__XMIT instream_data                                     { NODE(xmit_statement); }
     ;
 xmit_statement
-    : statement_head T__XMIT                                                   { CREATE_NODE(xmit_statement, 2); }
-    | statement_head T__XMIT operands                                          { CREATE_NODE(xmit_statement, 3); }
+    : statement_head T__XMIT                                                   { NODE; }
+    | statement_head T__XMIT operands                                          { NODE; }
     ;
 proc_statement
-    : statement_head T__PROC                                                   { CREATE_NODE(proc_statement, 2); }
-    | statement_head T__PROC operands                                          { CREATE_NODE(proc_statement, 3); }
+    : statement_head T__PROC                                                   { NODE; }
+    | statement_head T__PROC operands                                          { NODE; }
     ;
 pend_statement
-    : statement_head T__PEND                                                   { CREATE_NODE(pend_statement, 2); }
+    : statement_head T__PEND                                                   { NODE; }
     ;
 else_statement
-    : statement_head T__ELSE                                                   { CREATE_NODE(else_statement, 2); }
+    : statement_head T__ELSE                                                   { NODE; }
     ;
 endif_statement
-    : statement_head T__ENDIF                                                  { CREATE_NODE(endif_statement, 2); }
+    : statement_head T__ENDIF                                                  { NODE; }
     ;
 endcntl_statement
-    : statement_head T__ENDCNTL                                                { CREATE_NODE(endcntl_statement, 2); }
+    : statement_head T__ENDCNTL                                                { NODE; }
     ;
 set_statement
-    : statement_head T__SET operands                                           { CREATE_NODE(set_statement, 3); }
+    : statement_head T__SET operands                                           { NODE; }
     ;
 include_statement
-    : statement_head T__INCLUDE operands                                       { CREATE_NODE(include_statement, 3); }
+    : statement_head T__INCLUDE operands                                       { NODE; }
     ;
 jcllib_statement
-    : statement_head T__JCLLIB operands                                        { CREATE_NODE(jcllib_statement, 3); }
+    : statement_head T__JCLLIB operands                                        { NODE; }
     ;
 command_statement
-    : statement_head T__COMMAND operands                                       { CREATE_NODE(command_statement, 3); }
+    : statement_head T__COMMAND operands                                       { NODE; }
     ;
 export_statement
-    : statement_head T__EXPORT operands                                        { CREATE_NODE(export_statement, 3); }
+    : statement_head T__EXPORT operands                                        { NODE; }
     ;
 notify_statement
-    : statement_head T__NOTIFY operands                                        { CREATE_NODE(notify_statement, 3); }
+    : statement_head T__NOTIFY operands                                        { NODE; }
     ;
 schedule_statement
-    : statement_head T__SCHEDULE operands                                      { CREATE_NODE(schedule_statement, 3); }
+    : statement_head T__SCHEDULE operands                                      { NODE; }
     ;
 printdev_statement
-    : statement_head T__PRINTDEV operands                                      { CREATE_NODE(printdev_statement, 3); }
+    : statement_head T__PRINTDEV operands                                      { NODE; }
     ;
 output_statement
-    : statement_head T__OUTPUT                                                 { CREATE_NODE(output_statement, 2); }
-    | statement_head T__OUTPUT operands                                        { CREATE_NODE(output_statement, 3); }
+    : statement_head T__OUTPUT                                                 { NODE; }
+    | statement_head T__OUTPUT operands                                        { NODE; }
     ;
 cntl_statement
-    : statement_head T__CNTL                                                   { CREATE_NODE(cntl_statement, 2); }
-    | statement_head T__CNTL operands                                          { CREATE_NODE(cntl_statement, 3); }
+    : statement_head T__CNTL                                                   { NODE; }
+    | statement_head T__CNTL operands                                          { NODE; }
     ;
 if_statement
-    : statement_head T__IF expression T__THEN                                  { CREATE_NODE(if_statement, 4); }
+    : statement_head T__IF expression T__THEN                                  { NODE; }
     ;
 jes2_statement
-    : T__JES2                                                                  { CREATE_NODE(jes2_statement, 1); }
-    | T__JES2 T__JES_TEXT                                                      { CREATE_NODE(jes2_statement, 2); }
-    | T__JES2_JOBPARM                                                          { CREATE_NODE(jes2_statement, 1); }
-    | T__JES2_JOBPARM operands                                                 { CREATE_NODE(jes2_statement, 2); }
+    : T__JES2                                                                  { NODE(jes2_statement); }
+    | T__JES2 T__JES_TEXT                                                      { NODE(jes2_statement); }
+    | T__JES2_JOBPARM                                                          { NODE(jes2_statement); }
+    | T__JES2_JOBPARM operands                                                 { NODE(jes2_statement); }
     ;
 jes3_statement
-    : T__JES3                                                                  { CREATE_NODE(jes3_statement, 1); }
-    | T__JES3 T__JES_TEXT                                                      { CREATE_NODE(jes3_statement, 2); }
+    : T__JES3                                                                  { NODE(jes3_statement); }
+    | T__JES3 T__JES_TEXT                                                      { NODE(jes3_statement); }
     ;
 
 /* The first operand may be left out, the last one may not: a comma at the end of a line asks for another line. */
 operands
-    : operand                                                                  { CREATE_NODE(operands, 1); }
-    | T__COMMA operand                                                         { CREATE_NODE(operands, 2); }
-    | operands T__COMMA operand                                                { CREATE_NODE(operands, 3); }
+    : operand                                                                  { NODE; }
+    | T__COMMA operand                                                         { NODE; }
+    | operands T__COMMA operand                                                { NODE; }
     ;
 operand
     : parameter
     | parameter_value
     ;
 parameter
-    : parameter_name T__EQUALS                                                 { CREATE_NODE(parameter, 2); }
-    | parameter_name T__EQUALS parameter_value                                 { CREATE_NODE(parameter, 3); }
-    | parameter_name T__EQUALS parameter_in_value                              { CREATE_NODE(parameter, 3); }
+    : parameter_name T__EQUALS                                                 { NODE; }
+    | parameter_name T__EQUALS parameter_value                                 { NODE; }
+    | parameter_name T__EQUALS parameter_in_value                              { NODE; }
     ;
 /* VOL=SER=A: the value of one is another. */
 parameter_in_value
-    : parameter                                                                { CREATE_NODE(parameter_value, 1); }
+    : parameter                                                                { NODE(parameter_value); }
     ;
 /* PARM.STEP= speaks to a step of the procedure. */
 parameter_name
-    : keyword                                                                  { CREATE_NODE(parameter_name, 1); }
-    | keyword T__PERIOD keyword                                                { CREATE_NODE(parameter_name, 3); }
+    : keyword                                                                  { NODE; }
+    | keyword T__PERIOD keyword                                                { NODE; }
     ;
 keyword
     : T__KEYWORD
@@ -234,10 +234,10 @@ keyword
     ;
 /* Pieces that stand side by side make one value: &HLQ..DATA(MEMBER). */
 parameter_value
-    : value_piece                                                              { CREATE_NODE(parameter_value, 1); }
-    | parameter_value value_piece                                              { CREATE_NODE(parameter_value, 2); }
-    | parameter_value keyword                                                  { CREATE_NODE(parameter_value, 2); }
-    | parameter_value T__EQUALS                                                { CREATE_NODE(parameter_value, 2); }
+    : value_piece                                                              { NODE; }
+    | parameter_value value_piece                                              { NODE; }
+    | parameter_value keyword                                                  { NODE; }
+    | parameter_value T__EQUALS                                                { NODE; }
     ;
 value_piece
     : T__WORD
@@ -250,26 +250,26 @@ value_piece
     | parameter_list
     ;
 parameter_list
-    : T__LPAREN T__RPAREN                                                      { CREATE_NODE(parameter_list, 2); }
-    | T__LPAREN parameter_list_items T__RPAREN                                 { CREATE_NODE(parameter_list, 3); }
+    : T__LPAREN T__RPAREN                                                      { NODE; }
+    | T__LPAREN parameter_list_items T__RPAREN                                 { NODE; }
     ;
 parameter_list_items
-    : operand                                                                  { CREATE_NODE(parameter_list_items, 1); }
-    | T__COMMA                                                                 { CREATE_NODE(parameter_list_items, 1); }
-    | T__COMMA operand                                                         { CREATE_NODE(parameter_list_items, 2); }
-    | parameter_list_items T__COMMA                                            { CREATE_NODE(parameter_list_items, 2); }
-    | parameter_list_items T__COMMA operand                                    { CREATE_NODE(parameter_list_items, 3); }
+    : operand                                                                  { NODE; }
+    | T__COMMA                                                                 { NODE; }
+    | T__COMMA operand                                                         { NODE; }
+    | parameter_list_items T__COMMA                                            { NODE; }
+    | parameter_list_items T__COMMA operand                                    { NODE; }
     ;
 
 /* ---- IF ---- */
 
 expression
-    : expression T__OR expression                                              { CREATE_NODE(expression, 3); }
-    | expression T__AND expression                                             { CREATE_NODE(expression, 3); }
-    | T__NOT expression                                                        { CREATE_NODE(expression, 2); }
-    | T__LPAREN expression T__RPAREN                                           { CREATE_NODE(expression, 3); }
-    | condition_operand T__COMPARISON condition_operand                        { CREATE_NODE(expression, 3); }
-    | condition_operand                                                        { CREATE_NODE(expression, 1); }
+    : expression T__OR expression                                              { NODE; }
+    | expression T__AND expression                                             { NODE; }
+    | T__NOT expression                                                        { NODE; }
+    | T__LPAREN expression T__RPAREN                                           { NODE; }
+    | condition_operand T__COMPARISON condition_operand                        { NODE; }
+    | condition_operand                                                        { NODE; }
     ;
 condition_operand
     : T__WORD
@@ -281,15 +281,15 @@ condition_operand
 /* ---- Data in the stream ---- */
 
 instream_data
-    : T__DATA_START                                                            { CREATE_NODE(instream_data, 1); }
-    | T__DATA_START instream_lines                                             { CREATE_NODE(instream_data, 2); }
+    : T__DATA_START                                                            { NODE; }
+    | T__DATA_START instream_lines                                             { NODE; }
     ;
 /* A line that belongs to no DD statement: the system makes one for it. */
 loose_data
-    : loose_line                                                               { CREATE_NODE(pl_sql_statement, 1); }
+    : loose_line                                                               { NODE(pl_sql_statement); }
     ;
 loose_line
-    : T__LOOSE_DATA                                                            { CREATE_NODE(instream_data, 1); }
+    : T__LOOSE_DATA                                                            { NODE(instream_data); }
     ;
 %list instream_lines: T__DATA %deep ;
 %%
