@@ -94,6 +94,12 @@ constexpr SLiteralCase kSkipped[] = {
     {"1\n\\echo it's; \"x\n, 2",     "INTEGER_NUMBER'1' COMMA',' INTEGER_NUMBER'2'"},
     {"1 \\gset x_\nselect 2",
      "INTEGER_NUMBER'1' CLIENT_SEND'\\gset x_' SELECT'select' INTEGER_NUMBER'2'"},
+    {"$1 \\bind 2 'a \\g' \\gx f\nselect 2",
+     "PARAMETER_NUMBER'$1' CLIENT_SEND'\\bind 2 'a \\g' \\gx f' SELECT'select' INTEGER_NUMBER'2'"},
+    {"$1 \\bind 'a \\g'\n;",          "PARAMETER_NUMBER'$1' SEMICOLON';'"},
+    {"1 \\parse a\n\\bind_named a \\g",
+     "INTEGER_NUMBER'1' CLIENT_SEND'\\parse a' CLIENT_SEND'\\bind_named a \\g'"},
+    {"1 \\sendpipeline\n\\syncpipeline\n",  "INTEGER_NUMBER'1' CLIENT_SEND'\\sendpipeline'"},
 };
 // clang-format on
 
