@@ -38,10 +38,11 @@ alter_action
     | T__ADD table_constraint                                                   { NODE; }
     | T__ALTER column_name column_action                                        { NODE; }
     | T__ALTER T__COLUMN column_name column_action                              { NODE; }
-    | T__ALTER T__INTEGER_NUMBER T__SET T__STATISTICS signed_integer            { NODE; }
-    | T__ALTER T__COLUMN T__INTEGER_NUMBER T__SET T__STATISTICS signed_integer  { NODE; }
+    | T__ALTER T__INTEGER_NUMBER T__SET T__STATISTICS statistics_target            { NODE; }
+    | T__ALTER T__COLUMN T__INTEGER_NUMBER T__SET T__STATISTICS statistics_target  { NODE; }
     | T__ALTER T__CONSTRAINT column_name                                        { NODE; }
     | T__ALTER T__CONSTRAINT column_name constraint_attributes                  { NODE; }
+    | T__ALTER T__CONSTRAINT column_name T__INHERIT                             { NODE; }
     | T__VALIDATE T__CONSTRAINT column_name                                     { NODE; }
     | T__DROP dropped_column                                                    { NODE; }
     | T__DROP T__COLUMN dropped_column                                          { NODE; }
@@ -55,6 +56,7 @@ alter_action
     | T__SET T__TABLESPACE column_name                                          { NODE; }
     | T__SET T__TABLESPACE column_name T__NOWAIT                                { NODE; }
     | T__SET T__ACCESS T__METHOD column_name                                    { NODE; }
+    | T__SET T__ACCESS T__METHOD T__DEFAULT                                     { NODE; }
     | T__SET T__WITHOUT T__OIDS                                                 { NODE; }
     | T__SET T__WITHOUT T__CLUSTER                                              { NODE; }
     | T__SET T__LOGGED                                                          { NODE; }
@@ -113,10 +115,12 @@ column_action
     | T__DROP T__NOT T__NULL                                                    { NODE; }
     | T__DROP T__EXPRESSION                                                     { NODE; }
     | T__DROP T__EXPRESSION T__IF T__EXISTS                                     { NODE; }
-    | T__SET T__STATISTICS signed_integer                                       { NODE; }
+    | T__SET T__EXPRESSION T__AS T__LPAREN expression T__RPAREN                 { NODE; }
+    | T__SET T__STATISTICS statistics_target                                    { NODE; }
     | T__SET relation_options                                                   { NODE; }
     | T__RESET relation_options                                                 { NODE; }
     | T__SET T__STORAGE column_name                                             { NODE; }
+    | T__SET T__STORAGE T__DEFAULT                                              { NODE; }
     | T__SET T__COMPRESSION column_name                                         { NODE; }
     | T__SET T__COMPRESSION T__DEFAULT                                          { NODE; }
     | T__ADD T__GENERATED generated_when T__AS T__IDENTITY                      { NODE; }
@@ -128,6 +132,10 @@ column_action
     | type_change
     | type_change T__USING expression                                           { NODE; }
     | alter_generic_options
+    ;
+statistics_target
+    : signed_integer
+    | T__DEFAULT
     ;
 type_change
     : T__TYPE type_name                                                         { NODE; }
@@ -204,11 +212,18 @@ alter_domain
     | T__ALTER T__DOMAIN qualified_name T__DROP T__DEFAULT                      { NODE; }
     | T__ALTER T__DOMAIN qualified_name T__SET T__NOT T__NULL                   { NODE; }
     | T__ALTER T__DOMAIN qualified_name T__DROP T__NOT T__NULL                  { NODE; }
-    | T__ALTER T__DOMAIN qualified_name T__ADD table_constraint                 { NODE; }
+    | T__ALTER T__DOMAIN qualified_name T__ADD common_constraint                { NODE; }
+    | T__ALTER T__DOMAIN qualified_name T__ADD domain_not_null                  { NODE; }
     | T__ALTER T__DOMAIN qualified_name T__DROP T__CONSTRAINT dropped_column    { NODE; }
     | T__ALTER T__DOMAIN qualified_name T__VALIDATE T__CONSTRAINT column_name   { NODE; }
     | T__ALTER T__DOMAIN qualified_name T__RENAME T__CONSTRAINT column_name T__TO column_name
       { NODE; }
+    ;
+domain_not_null
+    : T__NOT T__NULL                                                            { NODE(table_constraint_body); }
+    | T__NOT T__NULL constraint_attributes                                      { NODE(table_constraint_body); }
+    | T__CONSTRAINT column_name T__NOT T__NULL                                  { NODE(table_constraint); }
+    | T__CONSTRAINT column_name T__NOT T__NULL constraint_attributes            { NODE(table_constraint); }
     ;
 
 any_routine_word
@@ -253,7 +268,8 @@ operator_changes
     | operator_changes T__COMMA operator_change                                 { NODE; }
     ;
 operator_change
-    : any_label T__EQUAL T__NONE                                                { NODE; }
+    : any_label
+    | any_label T__EQUAL T__NONE                                                { NODE; }
     | any_label T__EQUAL operator_change_value                                  { NODE; }
     ;
 operator_change_value
@@ -399,8 +415,8 @@ alter_foreign_object
 
 alter_statistics
     : T__ALTER T__STATISTICS qualified_name common_change                       { NODE; }
-    | T__ALTER T__STATISTICS qualified_name T__SET T__STATISTICS signed_integer  { NODE; }
-    | T__ALTER T__STATISTICS T__IF T__EXISTS qualified_name T__SET T__STATISTICS signed_integer
+    | T__ALTER T__STATISTICS qualified_name T__SET T__STATISTICS statistics_target  { NODE; }
+    | T__ALTER T__STATISTICS T__IF T__EXISTS qualified_name T__SET T__STATISTICS statistics_target
       { NODE; }
     ;
 
@@ -467,4 +483,5 @@ default_privileges_target
     | T__SEQUENCES
     | T__TYPES
     | T__SCHEMAS
+    | T__LARGE T__OBJECTS                                                       { NODE; }
     ;

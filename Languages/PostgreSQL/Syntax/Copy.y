@@ -65,7 +65,9 @@ copy_option
     | T__FORCE T__QUOTE name_list                                               { NODE; }
     | T__FORCE T__QUOTE T__ASTERISK                                             { NODE; }
     | T__FORCE T__NOT T__NULL name_list                                         { NODE; }
+    | T__FORCE T__NOT T__NULL T__ASTERISK                                       { NODE; }
     | T__FORCE T__NULL name_list                                                { NODE; }
+    | T__FORCE T__NULL T__ASTERISK                                              { NODE; }
     | T__ENCODING string_literal                                                { NODE; }
     ;
 copy_generic_list

@@ -53,6 +53,14 @@ conflict_action
     ;
 returning_clause
     : T__RETURNING select_list                                                  { NODE; }
+    | T__RETURNING T__WITH T__LPAREN returning_aliases T__RPAREN select_list    { NODE; }
+    ;
+returning_aliases
+    : returning_alias
+    | returning_aliases T__COMMA returning_alias                                { NODE; }
+    ;
+returning_alias
+    : old_or_new T__AS column_name                                              { NODE; }
     ;
 
 update_statement
@@ -115,6 +123,8 @@ merge_statement
 merge_core
     : T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list
       { NODE(merge_statement); }
+    | T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list
+      returning_clause                                                          { NODE(merge_statement); }
     ;
 merge_when_list
     : merge_when
@@ -125,6 +135,10 @@ merge_when
     | T__WHEN T__MATCHED T__AND expression T__THEN merge_matched_action         { NODE; }
     | T__WHEN T__NOT T__MATCHED T__THEN merge_insert_action                     { NODE; }
     | T__WHEN T__NOT T__MATCHED T__AND expression T__THEN merge_insert_action   { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__THEN merge_matched_action    { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__AND expression T__THEN merge_matched_action  { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__THEN merge_insert_action     { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__AND expression T__THEN merge_insert_action  { NODE; }
     ;
 merge_matched_action
     : T__UPDATE T__SET set_list                                                 { NODE; }

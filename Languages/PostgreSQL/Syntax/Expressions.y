@@ -5,6 +5,7 @@ expression
     | expression T__TYPECAST type_name                                          { NODE; }
     | expression T__COLLATE qualified_name                                      { NODE; }
     | expression T__AT T__TIME T__ZONE expression %prec T__AT                   { NODE; }
+    | expression T__AT T__LOCAL %prec T__AT                                     { NODE; }
     | T__PLUS expression %prec UMINUS                                           { NODE; }
     | T__MINUS expression %prec UMINUS                                          { NODE; }
     | expression T__PLUS expression                                             { NODE; }

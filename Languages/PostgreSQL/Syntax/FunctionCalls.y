@@ -60,6 +60,7 @@ special_value
     | T__CURRENT_ROLE
     | T__CURRENT_USER
     | T__SESSION_USER
+    | T__SYSTEM_USER
     | T__USER
     | T__CURRENT_CATALOG
     | T__CURRENT_SCHEMA
@@ -93,6 +94,7 @@ special_function
     | T__TREAT T__LPAREN expression T__AS type_name T__RPAREN                   { NODE(cast_expression); }
     | T__TRIM T__LPAREN trim_list T__RPAREN                                     { NODE; }
     | T__TRIM T__LPAREN trim_side trim_list T__RPAREN                           { NODE; }
+    | T__MERGE_ACTION T__LPAREN T__RPAREN                                       { NODE; }
     | T__NULLIF T__LPAREN expression T__COMMA expression T__RPAREN              { NODE; }
     | T__COALESCE T__LPAREN expression_list T__RPAREN                           { NODE; }
     | T__GREATEST T__LPAREN expression_list T__RPAREN                           { NODE; }
@@ -117,6 +119,7 @@ special_function
       { NODE; }
     | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type T__RPAREN
       { NODE; }
+    | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type xml_indent T__RPAREN  { NODE; }
     ;
 
 extract_field
@@ -168,6 +171,10 @@ xml_standalone
     : T__COMMA T__STANDALONE T__YES                                             { NODE; }
     | T__COMMA T__STANDALONE T__NO                                              { NODE; }
     | T__COMMA T__STANDALONE T__NO T__VALUE                                     { NODE; }
+    ;
+xml_indent
+    : T__INDENT
+    | T__NO T__INDENT                                                           { NODE; }
     ;
 xml_passing
     : T__PASSING primary                                                        { NODE; }

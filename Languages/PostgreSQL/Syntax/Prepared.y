@@ -55,13 +55,9 @@ call_statement
     : T__CALL function_call                                                     { NODE; }
     ;
 prepare_statement
-    : T__PREPARE column_name T__AS prepared_statement                           { NODE; }
-    | T__PREPARE column_name T__LPAREN type_list T__RPAREN T__AS prepared_statement
+    : T__PREPARE column_name T__AS preparable_statement                           { NODE; }
+    | T__PREPARE column_name T__LPAREN type_list T__RPAREN T__AS preparable_statement
       { NODE; }
-    ;
-prepared_statement
-    : preparable_statement
-    | merge_statement
     ;
 execute_statement
     : T__EXECUTE column_name                                                    { NODE; }

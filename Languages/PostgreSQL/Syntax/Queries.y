@@ -332,6 +332,11 @@ cycle_clause
     ;
 
 preparable_statement
+    : ruled_statement
+    | merge_statement
+    ;
+/* What a rule may do as well. */
+ruled_statement
     : query
     | insert_statement
     | update_statement

@@ -12,6 +12,29 @@ grant_statement
     | T__GRANT privilege_list T__TO grantees granted_by                         { NODE; }
     | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION granted_by
       { NODE; }
+    | T__GRANT privilege_list T__TO grantees T__WITH membership_options         { NODE; }
+    | T__GRANT privilege_list T__TO grantees T__WITH membership_options granted_by  { NODE; }
+    ;
+/* WITH ADMIN OPTION alone has no node of its own. */
+membership_options
+    : membership_option
+    | admin_option T__COMMA membership_option                                   { NODE; }
+    | membership_options T__COMMA membership_option                             { NODE; }
+    | membership_options T__COMMA admin_option                                  { NODE; }
+    ;
+membership_option
+    : T__ADMIN truth                                                            { NODE; }
+    | T__INHERIT T__OPTION                                                      { NODE; }
+    | T__INHERIT truth                                                          { NODE; }
+    | T__SET T__OPTION                                                          { NODE; }
+    | T__SET truth                                                              { NODE; }
+    ;
+admin_option
+    : T__ADMIN T__OPTION                                                        { NODE(membership_option); }
+    ;
+truth
+    : T__TRUE
+    | T__FALSE
     ;
 revoke_statement
     : T__REVOKE revoked_privileges                                              { NODE; }
@@ -23,6 +46,8 @@ revoked_privileges
       { NODE; }
     | privilege_list T__FROM grantees                                           { NODE; }
     | T__ADMIN T__OPTION T__FOR privilege_list T__FROM grantees                 { NODE; }
+    | T__INHERIT T__OPTION T__FOR privilege_list T__FROM grantees               { NODE; }
+    | T__SET T__OPTION T__FOR privilege_list T__FROM grantees                   { NODE; }
     ;
 revoke_tail
     : granted_by

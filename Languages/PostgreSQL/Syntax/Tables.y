@@ -101,11 +101,20 @@ column_definition
     | column_name type_name column_options column_constraints                   { NODE; }
     ;
 column_options
-    : T__COMPRESSION column_name                                                { NODE; }
-    | T__COMPRESSION T__DEFAULT                                                 { NODE; }
+    : column_storage
+    | column_storage column_compression_part                                    { NODE; }
+    | column_compression_part
+    ;
+column_storage
+    : T__STORAGE column_name                                                    { NODE; }
+    | T__STORAGE T__DEFAULT                                                     { NODE; }
+    ;
+column_compression_part
+    : T__COMPRESSION column_name                                                { NODE(column_options); }
+    | T__COMPRESSION T__DEFAULT                                                 { NODE(column_options); }
     | generic_options
-    | T__COMPRESSION column_name generic_options                                { NODE; }
-    | T__COMPRESSION T__DEFAULT generic_options                                 { NODE; }
+    | T__COMPRESSION column_name generic_options                                { NODE(column_options); }
+    | T__COMPRESSION T__DEFAULT generic_options                                 { NODE(column_options); }
     ;
 column_constraints
     : column_constraint
@@ -115,10 +124,12 @@ column_constraint
     : T__CONSTRAINT column_name column_constraint_body                          { NODE; }
     | column_constraint_body
     | constraint_attribute
+    | enforcement
     | T__COLLATE qualified_name                                                 { NODE; }
     ;
 column_constraint_body
     : T__NOT T__NULL                                                            { NODE; }
+    | T__NOT T__NULL T__NO T__INHERIT                                           { NODE; }
     | T__NULL
     | T__UNIQUE
     | T__UNIQUE index_parameters                                                { NODE; }
@@ -132,8 +143,9 @@ column_constraint_body
     | T__GENERATED generated_when T__AS T__IDENTITY                             { NODE; }
     | T__GENERATED generated_when T__AS T__IDENTITY T__LPAREN sequence_options T__RPAREN
       { NODE; }
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN T__STORED
-      { NODE; }
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN          { NODE; }
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN T__STORED  { NODE; }
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN T__VIRTUAL  { NODE; }
     | references_clause
     ;
 generated_when
@@ -154,9 +166,9 @@ index_tablespace
     ;
 references_clause
     : T__REFERENCES qualified_name                                              { NODE; }
-    | T__REFERENCES qualified_name parenthesized_names                          { NODE; }
+    | T__REFERENCES qualified_name foreign_columns                              { NODE; }
     | T__REFERENCES qualified_name reference_options                            { NODE; }
-    | T__REFERENCES qualified_name parenthesized_names reference_options        { NODE; }
+    | T__REFERENCES qualified_name foreign_columns reference_options            { NODE; }
     ;
 reference_options
     : reference_option
@@ -184,10 +196,24 @@ constraint_attribute
     | T__INITIALLY T__DEFERRED                                                  { NODE; }
     | T__INITIALLY T__IMMEDIATE                                                 { NODE; }
     ;
+enforcement
+    : T__ENFORCED
+    | T__NOT T__ENFORCED                                                        { NODE(constraint_attribute); }
+    ;
 
 table_constraint
-    : T__CONSTRAINT column_name table_constraint_body                           { NODE; }
+    : common_constraint
+    | T__CONSTRAINT column_name not_null_column                                 { NODE; }
+    | not_null_column
+    ;
+/* What a domain may have too. */
+common_constraint
+    : T__CONSTRAINT column_name table_constraint_body                           { NODE(table_constraint); }
     | table_constraint_body
+    ;
+not_null_column
+    : T__NOT T__NULL column_name                                                { NODE(table_constraint_body); }
+    | T__NOT T__NULL column_name constraint_attributes                          { NODE(table_constraint_body); }
     ;
 table_constraint_body
     : T__CHECK T__LPAREN expression T__RPAREN                                   { NODE; }
@@ -200,13 +226,31 @@ table_constraint_body
     | T__PRIMARY T__KEY T__USING T__INDEX column_name                           { NODE; }
     | T__PRIMARY T__KEY T__USING T__INDEX column_name constraint_attributes     { NODE; }
     | T__EXCLUDE exclusion                                                      { NODE; }
-    | T__FOREIGN T__KEY parenthesized_names references_clause                   { NODE; }
-    | T__FOREIGN T__KEY parenthesized_names references_clause constraint_attributes
+    | T__FOREIGN T__KEY foreign_columns references_clause                       { NODE; }
+    | T__FOREIGN T__KEY foreign_columns references_clause constraint_attributes
       { NODE; }
     ;
 key_columns
-    : parenthesized_names
-    | parenthesized_names key_tail                                              { NODE; }
+    : unique_columns
+    | unique_columns key_tail                                                   { NODE; }
+    ;
+unique_columns
+    : T__LPAREN unique_column_list T__RPAREN                                    { NODE(parenthesized_names); }
+    ;
+%list unique_column_list: unique_column %separator T__COMMA %node name_list ;
+
+unique_column
+    : column_name
+    | column_name T__WITHOUT T__OVERLAPS                                        { NODE; }
+    ;
+foreign_columns
+    : T__LPAREN foreign_column_list T__RPAREN                                   { NODE(parenthesized_names); }
+    ;
+%list foreign_column_list: foreign_column %separator T__COMMA %node name_list ;
+
+foreign_column
+    : column_name
+    | T__PERIOD column_name                                                     { NODE; }
     ;
 key_tail
     : include_columns
@@ -256,6 +300,7 @@ constraint_attributes
     ;
 constraint_mark
     : constraint_attribute
+    | enforcement
     | T__NOT T__VALID                                                           { NODE; }
     | T__NO T__INHERIT                                                          { NODE; }
     ;

@@ -131,7 +131,7 @@ rule_statements
     | rule_statements T__SEMICOLON rule_statement                               { NODE; }
     ;
 rule_statement
-    : preparable_statement
+    : ruled_statement
     | notify_statement
     ;
 

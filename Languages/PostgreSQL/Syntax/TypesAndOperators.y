@@ -1,7 +1,10 @@
 /* Statistics, types, operators. */
 
 create_statistics
-    : T__CREATE T__STATISTICS new_name T__ON statistics_columns from_clause     { NODE; }
+    : T__CREATE T__STATISTICS T__ON statistics_columns from_clause              { NODE; }
+    | T__CREATE T__STATISTICS parenthesized_names T__ON statistics_columns from_clause
+      { NODE; }
+    | T__CREATE T__STATISTICS new_name T__ON statistics_columns from_clause     { NODE; }
     | T__CREATE T__STATISTICS new_name parenthesized_names T__ON statistics_columns from_clause
       { NODE; }
     ;

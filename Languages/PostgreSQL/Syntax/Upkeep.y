@@ -59,8 +59,8 @@ vacuumed_relations
     | vacuumed_relations T__COMMA vacuumed_relation                             { NODE; }
     ;
 vacuumed_relation
-    : qualified_name
-    | qualified_name parenthesized_names                                        { NODE; }
+    : relation
+    | relation parenthesized_names                                              { NODE; }
     ;
 analyze_statement
     : analyze_word
@@ -90,12 +90,19 @@ reindex_statement
 reindex_target
     : reindex_word qualified_name                                               { NODE; }
     | reindex_word T__CONCURRENTLY qualified_name                               { NODE; }
+    | reindex_whole                                                             { NODE; }
+    | reindex_whole T__CONCURRENTLY                                             { NODE; }
+    | reindex_whole qualified_name                                              { NODE; }
+    | reindex_whole T__CONCURRENTLY qualified_name                              { NODE; }
     ;
 reindex_word
     : T__INDEX
     | T__TABLE
     | T__SCHEMA
-    | T__SYSTEM
+    ;
+/* What may go without its name. */
+reindex_whole
+    : T__SYSTEM
     | T__DATABASE
     ;
 refresh_statement
