@@ -2,7 +2,8 @@
 %define api.value.type {int}
 
 %keywords "PostgreSQL.words"
-%token T__NOT_LA T__NULLS_LA T__WITH_LA T__IDENTIFIER T__QUOTED_IDENTIFIER T__UNICODE_IDENTIFIER
+%token T__NOT_LA T__NULLS_LA T__WITH_LA T__WITH_UNIQUE_LA T__WITHOUT_LA
+%token T__IDENTIFIER T__QUOTED_IDENTIFIER T__UNICODE_IDENTIFIER
 %token T__STRING T__ESCAPE_STRING T__NATIONAL_STRING T__UNICODE_STRING T__BIT_STRING T__HEX_STRING
 %token T__DOLLAR_QUOTE_BEGIN T__DOLLAR_QUOTED_TEXT T__DOLLAR_QUOTE_END T__INTEGER_NUMBER
 %token T__DECIMAL_NUMBER T__REAL_NUMBER T__BAD_NUMBER T__PARAMETER_NUMBER T__TYPECAST T__COLON_EQUAL
@@ -13,6 +14,10 @@
 
 /* Binding power, weakest first. */
 %precedence LOWEST
+/* After IS JSON these say more of it rather than naming the result; after NESTED comes a path rather than a type. */
+%precedence T__VALUE T__OBJECT T__SCALAR T__KEYS
+%precedence T__NESTED
+%precedence T__PATH
 /* An error in the body of a routine is skipped to the next delimiter; only where no more comes it ends the body. */
 %precedence T__SEMICOLON T__CLIENT_SEND
 %precedence T__SET
@@ -26,6 +31,8 @@
 %left T__AND
 %right T__NOT
 %left T__IS T__ISNULL T__NOTNULL
+/* What IS JSON says of the keys belongs to it. */
+%precedence T__WITH_UNIQUE_LA T__WITHOUT_LA
 %left T__LESS T__GREATER T__EQUAL T__LESS_EQUAL T__GREATER_EQUAL T__NOT_EQUAL
 %left T__BETWEEN T__IN T__LIKE T__ILIKE T__SIMILAR T__NOT_LA
 %precedence T__ESCAPE
@@ -85,6 +92,7 @@ pl_sql_statement
 %include "Syntax/Types.y"
 %include "Syntax/Expressions.y"
 %include "Syntax/FunctionCalls.y"
+%include "Syntax/Json.y"
 %include "Syntax/Queries.y"
 %include "Syntax/From.y"
 %include "Syntax/DataChanges.y"

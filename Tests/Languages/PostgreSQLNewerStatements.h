@@ -7,6 +7,30 @@
 // clang-format off
 inline constexpr SStatementCase kNewerStatements[] = {
     // 16
+    {"select json_object('a' value b, 'c': d format json absent on null with unique keys returning jsonb)",
+     "special_function(sql_identifier('json_object') json_pairs(json_pair('value' 'b') json_pair(':' "
+     "json_operand('d' json_format))) json_options(json_nulls('absent') json_options(json_unique_keys('keys') "
+     "json_returning('jsonb'))))"},
+    {"select json_object('a':'b', 'c':d.e + f(g), h:i)",
+     "json_pairs(json_pair(':') json_pair(expression('d' 'e' '+' function_call('f'))) "
+     "json_pair('h' ':i'))"},
+    {"select json_array(a, b format json encoding utf8 null on null returning text)",
+     "special_function('json_array' json_operands('a' json_operand('b' json_format('encoding' 'utf8'))) "
+     "json_options(json_nulls json_returning('text')))"},
+    {"select json_array(select a from t union select 1 order by 1 returning jsonb), json_array(returning text)",
+     "select_list(special_function(select_statement(set_operation sort_clause) json_returning('jsonb')) "
+     "special_function('json_array' json_returning('text')))"},
+    {"select json_objectagg(a value b with unique) filter (where c) over w, json_arrayagg(d order by e desc "
+     "absent on null returning jsonb) from t",
+     "select_list(expression(json_aggregate(json_pair('a' 'b') json_unique_keys('with' 'unique')) "
+     "filter_clause('c') over_clause('w')) json_aggregate('d' sort_clause('desc') json_options(json_nulls "
+     "json_returning)))"},
+    {"select a is json, b is not json object with unique keys, c is json value d, e is json without unique f",
+     "select_list(expression('a' 'is' 'json') expression('b' 'not' json_kind('object') json_unique_keys) "
+     "select_item(expression(json_kind('value')) sql_identifier('d')) "
+     "select_item(expression(json_unique_keys('without' 'unique')) sql_identifier('f')))"},
+    {"create view a as select b is json with check option",
+     "view_body(expression('b' 'is' 'json') check_option('with' 'check'))"},
     {"select system_user, xmlserialize(content a as text no indent), 1_000 + 0x1f",
      "select_list('system_user' special_function('content' xml_indent('no')) expression('1_000' '0x1f'))"},
     {"select 1 from (select 2), (values (3)) where true",
@@ -22,6 +46,29 @@ inline constexpr SStatementCase kNewerStatements[] = {
     {"reindex (verbose) database concurrently", "reindex_statement('verbose' reindex_target('database'))"},
     {"create statistics on a, b from t", "create_statistics(statistics_columns('a' 'b') from_clause('t'))"},
     // 17
+    {"select json_value(a, '$.b' passing 1 as x, c format json as y returning int default -1 on empty error on "
+     "error)",
+     "special_function('json_value' 'a' json_clauses(json_passing(json_argument('1' 'x') "
+     "json_argument(json_operand('c') 'y')) json_clauses(json_returning('int') "
+     "json_clauses(json_on_empty(json_fallback('default' expression)) json_on_error('error')))))"},
+    {"select json_query(a, '$' returning timestamp without time zone without array wrapper omit quotes on scalar "
+     "string empty object on error)",
+     "json_clauses(json_returning(datetime_type(time_zone_part)) json_clauses(json_wrapper('without' 'array') "
+     "json_clauses(json_quotes('omit' 'string') json_on_error(json_fallback('empty' 'object')))))"},
+    {"select json_query(a, '$' with unconditional array wrapper), json(b with unique keys)",
+     "select_list(json_wrapper(json_wrapper_kind('unconditional' 'array')) special_function('json' 'b' "
+     "json_unique_keys))"},
+    {"select 1 from t where json_exists(a, '$.b' unknown on error) and json_exists(c, 'd' passing e as f)",
+     "where_clause(special_function(json_on_error('unknown')) special_function(json_passing('e' 'f')))"},
+    {"select 1 from json_table(a, '$[*]' as b passing c as d columns (e for ordinality, f int path '$.f' null on "
+     "empty, g bool exists path '$.g', nested path '$.h' as i columns (j text format json)) empty on error) as k, "
+     "lateral json_table(l, '$' columns (nested int, nested 'x' columns (path path path '$'))) m",
+     "table_reference_list(table_reference(json_table(json_table_source('a' json_table_path('b') "
+     "json_passing('c' 'd')) json_columns(json_column('e' 'ordinality') json_column('f' 'int' json_path "
+     "json_on_empty) json_column('g' 'exists' json_path) json_column('nested' json_path 'i' "
+     "json_columns(json_column('j' json_format)))) json_on_error('empty')) alias('k')) "
+     "table_reference('lateral' json_table(json_column(sql_identifier('nested') 'int') json_column('nested' "
+     "json_columns(json_column(sql_identifier sql_identifier json_path)))) alias('m')))"},
     {"select a at local, b at time zone c at local",
      "select_list(expression('a' 'at' 'local') expression(expression('zone') 'local'))"},
     {"merge into a using b on c when not matched by source and d then delete when not matched by target then insert "
@@ -68,13 +115,31 @@ inline constexpr SStatementCase kNewerStatements[] = {
 };
 
 inline constexpr SStatementCase kRereadStatements[] = {
+    {"select json_array(), json_array(1, a), json_arrayagg(b), json_scalar(c), json_serialize(d), json_value(e, 'f')",
+     "select_list(special_function('json_array') special_function(json_operands('1' 'a')) json_aggregate('b') "
+     "special_function('json_scalar') special_function('json_serialize') special_function('json_value' 'e'))"},
+    {"select json(a), json '{}', b::json, json.c from json",
+     "select_list(special_function('json' 'a') typed_literal(sql_identifier('json')) "
+     "expression(sql_identifier('json')) qualified_sql_identifier('json' 'c'))"},
+    {"select 1 from json_scalar(1), xmltable('a' passing b columns c int path 'd')",
+     "table_reference_list(special_function('json_scalar') xml_table_option(sql_identifier('path')))"},
     {"select merge_action()", "special_function('merge_action')"},
 };
 
 // What these versions refuse.
 inline constexpr const char* kNewerRefusals[] = {
+    "select json_object('a' value)", "select json_object('a': 1, 'b')",
+    "select json_object('a': 1 with unique keys null on null)",
+    "select json_array(1 null on null null on null)",
+    "select json_value(a)", "select json_value(a, '$' with wrapper)",
+    "select json_exists(a, '$' true on empty)", "select json_query(a, '$' returning text with array)",
+    "select json_query(a, '$' error on error error on empty)", "select json_arrayagg(a, b)",
+    "select json_array(1) filter (where a)", "select json_table(a, '$' columns (b int))",
+    "select 1 from json_table(a, '$')", "select 1 from json_table(a, '$' columns ())",
+    "select 1 from json_table(a, '$' columns (nested path '$'))", "select a is json keys unique",
     "select system_user()", "create table system_user (a int)", "select merge_action(1)",
-    "select xmlserialize(content a as text no)",
+    "create function json_array() returns int return 1", "select xmlserialize(content a as text no)",
+    "select json(3) '1'", "create table a (b json(3))",
     "merge into a using b on c when not matched by source then insert values (1)",
     "merge into a using b on c when not matched by target then delete",
     "merge into a using b on c when matched by source then delete",

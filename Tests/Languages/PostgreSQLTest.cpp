@@ -224,7 +224,24 @@ TEST(PostgreSQLStatements, EditedOnesAreTakenWhenTheServerTakesThem)
 std::string InOlderWords(std::string sql)
 {
     static constexpr const char* kWords[][2] = {
+        {"json_array(1)", "coalesce(1)"},
+        {"json_arrayagg(1)", "coalesce(1)"},
+        {"json_object(1)", "coalesce(1)"},
+        {"json_scalar(1)", "coalesce(1)"},
+        {"json_serialize(1)", "coalesce(1)"},
+        {"json(1)", "coalesce(1)"},
+        {"json_table", "xmltable"},
+        {"json_arrayagg", "nullif"},
+        {"json_array", "nullif"},
+        {"json_exists", "nullif"},
+        {"json_objectagg", "nullif"},
+        {"json_object", "nullif"},
+        {"json_query", "nullif"},
+        {"json_scalar", "nullif"},
+        {"json_serialize", "nullif"},
+        {"json_value", "nullif"},
         {"merge_action", "nullif"},
+        {"json", "time"},
         {"system_user", "session_user"},
     };
     for (const auto& [newer, older] : kWords)

@@ -53,6 +53,10 @@ expression
     | expression T__IS T__NOT T__NORMALIZED %prec T__IS                         { NODE; }
     | expression T__IS normal_form T__NORMALIZED %prec T__IS                    { NODE; }
     | expression T__IS T__NOT normal_form T__NORMALIZED %prec T__IS             { NODE; }
+    | expression T__IS json_kind %prec T__IS                                    { NODE; }
+    | expression T__IS json_kind json_unique_keys %prec T__IS                   { NODE; }
+    | expression T__IS T__NOT json_kind %prec T__IS                             { NODE; }
+    | expression T__IS T__NOT json_kind json_unique_keys %prec T__IS            { NODE; }
     | row T__OVERLAPS row                                                       { NODE; }
     | expression T__BETWEEN restricted_expression T__AND expression %prec T__BETWEEN  { NODE; }
     | expression T__BETWEEN between_kind restricted_expression T__AND expression %prec T__BETWEEN

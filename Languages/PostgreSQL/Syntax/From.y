@@ -18,6 +18,10 @@ table_reference
     | xml_table alias                                                           { NODE; }
     | T__LATERAL xml_table                                                      { NODE; }
     | T__LATERAL xml_table alias                                                { NODE; }
+    | json_table
+    | json_table alias                                                          { NODE; }
+    | T__LATERAL json_table                                                     { NODE; }
+    | T__LATERAL json_table alias                                               { NODE; }
     | subquery
     | subquery alias                                                            { NODE; }
     | T__LATERAL subquery                                                       { NODE; }
@@ -65,6 +69,8 @@ plain_function
     : function_call
     | special_value
     | special_function
+    | json_aggregate
+    | json_object_call
     ;
 function_table
     : plain_function
@@ -123,10 +129,14 @@ xml_table_options
     | xml_table_options xml_table_option                                        { NODE; }
     ;
 xml_table_option
-    : plain_identifier restricted_expression                                    { NODE; }
+    : xml_column_word restricted_expression                                     { NODE; }
     | T__DEFAULT restricted_expression                                          { NODE; }
     | T__NOT T__NULL                                                            { NODE; }
     | T__NULL
+    ;
+xml_column_word
+    : plain_identifier
+    | T__PATH                                                                   { NODE(sql_identifier); }
     ;
 xml_namespaces
     : xml_namespace

@@ -3,6 +3,7 @@
 /* Words without meaning of their own outside of their statements: any name. */
 unreserved_keyword
     : %words unreserved
+    | T__WITHOUT_LA
     ;
 
 /* Words that can't name a function or a type, since a construct of theirs looks like one. */

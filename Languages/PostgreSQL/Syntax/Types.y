@@ -29,6 +29,7 @@ simple_type
     | character_type
     | character_type T__LPAREN T__INTEGER_NUMBER T__RPAREN                      { NODE; }
     | datetime_type
+    | json_type
     | T__INTERVAL
     | T__INTERVAL interval_fields                                               { NODE; }
     | T__INTERVAL T__LPAREN T__INTEGER_NUMBER T__RPAREN                         { NODE; }
@@ -42,6 +43,11 @@ constant_type
     | character_type
     | character_type T__LPAREN T__INTEGER_NUMBER T__RPAREN                      { NODE; }
     | datetime_type
+    | json_type
+    ;
+
+json_type
+    : T__JSON                                                                   { NODE(sql_identifier); }
     ;
 
 numeric_type
