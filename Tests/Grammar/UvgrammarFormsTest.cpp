@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace {
 
 using testing::AllOf;
@@ -128,6 +130,8 @@ TEST_F(UvgrammarForms, AListGivesTheTablesOfItsRules)
         {"%list name_list: name %separator T__COMMA %trailing ;",
          " | name_list_chunks T__COMMA { CREATE_NODE(name_list, 2); }", "", "name", " T__COMMA ",
          " T__COMMA"},
+        {"%list name_list: name %separator T__COMMA %last last ;", "",
+         "last { CREATE_NODE(name_list, 1); } | ", "name", " T__COMMA ", " T__COMMA last"},
         {"%list name_list: name %last last ;", "", "last { CREATE_NODE(name_list, 1); } | ", "name", " ",
          " last"},
     };
@@ -155,7 +159,8 @@ TEST_F(UvgrammarForms, AListGivesTheTablesOfItsRules)
         for (int count = 1; count <= 8; ++count) {
             rules += (count > 1 ? " | " : "") + items(count) + node(count, 0);
             if (list.after != nullptr && count < 8)
-                rules += " | " + items(count) + list.after + node(count, 1);
+                rules += " | " + items(count) + list.after +
+                         node(count, static_cast<int>(std::ranges::count(std::string_view(list.after), ' ')));
         }
         rules += ";\n";
         const std::string parser =
@@ -271,8 +276,8 @@ TEST_F(UvgrammarForms, WhatTheFormsCantMeanIsRefusedWithItsPlace)
         {"name: T__ID", "%list l: x %every y ;\nname: T__ID", "error: a list takes %separator"},
         {"name: T__ID", "%list l: x y ;\nname: T__ID", "error: a list names one symbol"},
         {"name: T__ID", "%list l: x %trailing ;\nname: T__ID", "error: a list without a separator"},
-        {"name: T__ID", "%list l: x %separator T__COMMA %last y ;\nname: T__ID",
-         "error: a list with a separator has no other last item"},
+        {"name: T__ID", "%list l: x %separator T__COMMA %last y %trailing ;\nname: T__ID",
+         "error: a list with another last item doesn't end"},
         {"%start", "%keywords \"Bad.words\"\n%start",
          "own/Bad.words:2:1: error: the word one is there already, in own/Bad.words:1"},
         {"%start", "%keywords \"Bad.words\"\n%start",

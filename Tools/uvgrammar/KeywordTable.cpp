@@ -102,8 +102,8 @@ void CKeywordTable::ReadRow(const CSourceFile& file, std::size_t offset, std::st
     if (change != '\0')
         word = TakeWord(row);
     if (!IsName(word))
-        return complain("'" + std::string(word) +
-                        "' can't be a word of the language: its token gets its name");
+        return complain(std::string("'").append(word).append(
+            "' can't be a word of the language: its token gets its name"));
 
     const auto known = m_Words.find(std::string(word));
     if (change == '\0' && known != m_Words.end())
@@ -125,13 +125,14 @@ void CKeywordTable::ReadRow(const CSourceFile& file, std::size_t offset, std::st
         if (IsQuoted(next))
             keyword.spellings.emplace_back(next.substr(1, next.size() - 2));
         else if (next.starts_with("token=") && IsName(next.substr(6)))
-            keyword.token = next.substr(6);
+            keyword.token = std::string("__").append(next.substr(6));
         else if (next.starts_with("color=") && ReadNumber(next.substr(6), keyword.color))
             continue;
         else if (IsName(next))
             keyword.groups.emplace_back(next);
         else
-            complain("'" + std::string(next) + "' is no group, token=NAME, color=NUMBER or \"spelling\"");
+            complain(std::string("'").append(next).append(
+                "' is no group, token=NAME, color=NUMBER or \"spelling\""));
     }
     if (keyword.spellings.empty())
         keyword.spellings.emplace_back(word);

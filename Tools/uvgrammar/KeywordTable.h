@@ -15,7 +15,8 @@
 //     = current    unreserved
 //     - placing
 //
-// The spelling of a word is the word itself unless others are given; its token is "__" and the word in upper case. A
+// The spelling of a word is the word itself unless others are given; its token is "__" and the word in upper case, or the name that
+// is given. A
 // group is any name: the grammar lists the words of a group by it.
 #pragma once
 

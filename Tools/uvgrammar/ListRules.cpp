@@ -93,7 +93,7 @@ std::string FlatRules(const SListRule& list)
         if (list.hasTrailing && count < kEight)
             rules.Alternative(Joined(items, "", list.separator));
         if (!list.last.empty() && count < kEight)
-            rules.Alternative(Joined(items, "", list.last));
+            rules.Alternative(Joined(items, list.separator, list.last));
     }
     rules.End();
     return rules.Take();
@@ -153,7 +153,7 @@ std::string DeepRules(const SListRule& list)
         const std::vector<std::string> items = Repeated(list.item, separator, count);
         rules.Alternative(items);
         if (!list.last.empty())
-            rules.Alternative(Joined(items, "", list.last));
+            rules.Alternative(Joined(items, list.separator, list.last));
         if (list.hasTrailing)
             rules.Alternative(Joined(items, "", separator));
     }

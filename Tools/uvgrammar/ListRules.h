@@ -12,7 +12,7 @@ struct SListRule
     std::string name;
     std::string item;
     std::string separator;    // empty: the items follow each other
-    std::string last;         // another symbol that may end the list; only without a separator
+    std::string last;         // another symbol that may end the list
     std::string error;        // the node of an item that is an error; empty: there is none
     std::string node;         // of the tree
     bool hasTrailing = false; // a separator may follow the last item

@@ -221,8 +221,8 @@ void CRulesReader::ReadList(SRuleItem item, std::vector<SRuleItem>& items)
     item.end = word.end;
     if (word.kind != enBisonWord::Semicolon)
         Error(word.begin, "a list names one symbol, and ends at a semicolon");
-    if (!list.separator.empty() && !list.last.empty())
-        Error(item.begin, "a list with a separator has no other last item");
+    if (list.hasTrailing && !list.last.empty())
+        Error(item.begin, "a list with another last item doesn't end in a separator");
     if (list.separator.empty() && list.hasTrailing)
         Error(item.begin, "a list without a separator can't end in one");
     items.push_back(std::move(item));
