@@ -63,6 +63,9 @@ public:
     // the files said.
     // Throws: std::bad_alloc; the grammar is the earlier one then.
     void ShareTables(const CSQLGrammarLexer& other);
+    // Once there are tables.
+    const CScannerTables& Tables() const { return *m_spTables; }
+    const CActionRecords& Actions() const { return m_Actions; }
 
     // Links the parser that takes the tokens: call after the tables are there, and again after other ones.
     // Borrows: the parser, until another is linked.

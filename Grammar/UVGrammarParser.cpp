@@ -244,6 +244,13 @@ void CSQLGrammarParser::yysyntaxerror()
     m_Extension.m_mapErrors.emplace(line, text);
     const bool isAtEnd = yychar == 0;
     m_Extension.m_lstUnexpected.push_back(
-        {line, isAtEnd ? m_Extension.m_strQuery.size() : yylexerptr->yymatch_offset(),
-         isAtEnd ? 0 : static_cast<std::size_t>(yylexerptr->yyleng), text});
+        {line,
+         isAtEnd ? m_Extension.m_strQuery.size() : yylexerptr->yymatch_offset(),
+         isAtEnd ? 0 : static_cast<std::size_t>(yylexerptr->yyleng),
+         text,
+         *yyssp,
+         {}});
+    if (m_Expected)
+        m_Extension.m_lstUnexpected.back().expected =
+            m_Expected(std::span<const short>(yyss, yyssp + 1), yytoken);
 }

@@ -9,8 +9,11 @@
 #include "UVEnvironment/LogSystem.h"
 
 #include <deque>
+#include <functional>
 #include <map>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace boost::program_options {
@@ -36,6 +39,8 @@ public:
 
     // Throws: as the constructor.
     void yytables(const char* parserName, bool isPatternVersion);
+    // Once there are tables.
+    const CParserTables& Tables() const { return *m_spTables; }
     void Initialize() { yylexerptr = nullptr; }
 
     using yyBisonParser::yycreate;
@@ -58,6 +63,11 @@ public:
     // query.
     const SFragmentTree& Tree() const { return m_Tree; }
     void ReleaseTree();
+
+    // Called for each unexpected token from now on, with the stack of states, top last, and the token's terminal: it
+    // tells what was expected. Empty, as at first: nobody asks.
+    using TExpected = std::function<std::vector<std::string>(std::span<const short> stack, int terminal)>;
+    void set_Expected(TExpected expected) { m_Expected = std::move(expected); }
 
     bool HasErrors() const { return !m_Extension.m_mapErrors.empty(); }
     void yyerror(const char* text) override;
@@ -165,6 +175,7 @@ private:
     CFragmentPool m_Fragments;
     SFragmentTree m_Tree;
     bool m_bFragmentsWanted = false;
+    TExpected m_Expected;
     std::uint32_t m_nRootElement = 0;
 };
 

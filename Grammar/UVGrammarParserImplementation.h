@@ -14,6 +14,8 @@ struct SUnexpectedToken
     std::size_t offset = 0; // bytes
     std::size_t length = 0; // bytes; 0 at the end of the text
     std::string text;
+    int state = 0;                          // of the parser's tables
+    std::vector<std::string> expected = {}; // what it would have taken, if that was asked for
 };
 
 // Text that the recovery from one error has thrown away. Offsets are bytes of the query.

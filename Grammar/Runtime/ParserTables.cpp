@@ -176,6 +176,96 @@ int CParserTables::Goto(int state, std::size_t nonterminal) const
     return isInRow ? table[static_cast<std::size_t>(slot)] : defgoto[nonterminal];
 }
 
+void CParserTables::SStackAhead::Pop(std::size_t count)
+{
+    const std::size_t fromAbove = std::min(count, above.size());
+    above.resize(above.size() - fromAbove);
+    below = below.first(below.size() - std::min(count - fromAbove, below.size()));
+}
+
+bool CParserTables::ReduceAndShift(SStackAhead& stack, int terminal) const
+{
+    // Damaged tables could reduce for ever; a sound grammar needs far fewer for one token.
+    constexpr int kMostReductions = 10000;
+    for (int reductions = 0; reductions < kMostReductions && !stack.IsEmpty(); ++reductions) {
+        const auto state = static_cast<std::size_t>(stack.Top());
+        const int action = RowAction(state, terminal);
+        if (action > 0) {
+            stack.above.push_back(static_cast<short>(action));
+            return true;
+        }
+        const auto rule = action < 0 ? static_cast<std::size_t>(-action) : defact[state];
+        if (rule == 0)
+            break;
+        stack.Pop(r2[rule]);
+        const int next = stack.IsEmpty() ? -1 : Goto(stack.Top(), r1[rule] - static_cast<unsigned>(ntokens));
+        if (next < 0)
+            break;
+        stack.above.push_back(static_cast<short>(next));
+    }
+    return false;
+}
+
+bool CParserTables::Shifts(std::span<const short> stack, int terminal) const
+{
+    SStackAhead ahead{stack, {}};
+    return ReduceAndShift(ahead, terminal);
+}
+
+bool CParserTables::ShiftsBoth(std::span<const short> stack, int terminal, int next) const
+{
+    SStackAhead ahead{stack, {}};
+    return ReduceAndShift(ahead, terminal) && ReduceAndShift(ahead, next);
+}
+
+std::vector<int> CParserTables::ShiftsAfter(std::span<const short> stack, int terminal) const
+{
+    SStackAhead ahead{stack, {}};
+    std::vector<int> states;
+    if (!ReduceAndShift(ahead, terminal))
+        return states;
+    for (int next = 0; next < ntokens; ++next)
+        states.push_back(std::max(RowAction(static_cast<std::size_t>(ahead.Top()), next), 0));
+    return states;
+}
+
+std::set<unsigned> CParserTables::UnitReductions(std::size_t state) const
+{
+    std::set<unsigned> rules;
+    if (r2[defact[state]] == 1)
+        rules.insert(defact[state]);
+    for (int terminal = 0; terminal < ntokens; ++terminal) {
+        const int action = RowAction(state, terminal);
+        if (action < 0 && r2[static_cast<std::size_t>(-action)] == 1)
+            rules.insert(static_cast<unsigned>(-action));
+    }
+    return rules;
+}
+
+std::set<int> CParserTables::Becomes(std::span<const short> stack, int terminal) const
+{
+    std::set<int> symbols;
+    SStackAhead ahead{stack, {}};
+    if (!ReduceAndShift(ahead, terminal))
+        return symbols;
+    while (true) {
+        const std::set<unsigned> rules = UnitReductions(static_cast<std::size_t>(ahead.Top()));
+        bool isNew = false;
+        for (const unsigned rule : rules)
+            isNew = symbols.insert(static_cast<int>(r1[rule])).second || isNew;
+        // One symbol leads on. One that comes again would come for ever.
+        if (rules.size() != 1 || !isNew || pact[static_cast<std::size_t>(ahead.Top())] != base_ninf)
+            break;
+        ahead.Pop(1);
+        const int next =
+            ahead.IsEmpty() ? -1 : Goto(ahead.Top(), r1[*rules.begin()] - static_cast<unsigned>(ntokens));
+        if (next < 0)
+            break;
+        ahead.above.push_back(static_cast<short>(next));
+    }
+    return symbols;
+}
+
 int CParserTables::StartSymbol() const
 {
     for (std::size_t state = 0; state < pact.count; ++state) {

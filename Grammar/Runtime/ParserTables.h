@@ -3,7 +3,9 @@
 #include "Grammar/Runtime/ScannerTables.h"
 
 #include <set>
+#include <span>
 #include <string>
+#include <vector>
 
 // The LALR tables of one grammar, and the constants that belong to them. Once loaded and proved they never
 // change.
@@ -35,6 +37,24 @@ public:
     // the tables reduce by it.
     std::set<int> LastSymbols(int rule) const;
 
+    // What a stack of states, top last, would do with a terminal as its lookahead. For stacks that the parser made.
+    //
+    // Whether it is shifted in the end, after the reductions that the tables order before.
+    bool Shifts(std::span<const short> stack, int terminal) const;
+    // Whether `next` would be shifted after it.
+    bool ShiftsBoth(std::span<const short> stack, int terminal, int next) const;
+    // Whether the top state shifts it without a reduction before.
+    bool ShiftsAtOnce(std::span<const short> stack, int terminal) const
+    {
+        return RowAction(static_cast<std::size_t>(stack.back()), terminal) > 0;
+    }
+    // The state that each terminal is shifted to after it, 0 for none. Tokens that are followed by the same thing give
+    // the same.
+    std::vector<int> ShiftsAfter(std::span<const short> stack, int terminal) const;
+    // The nonterminals that the terminal alone becomes once it is shifted, by rules of one symbol, up to where the next
+    // token decides.
+    std::set<int> Becomes(std::span<const short> stack, int terminal) const;
+
     std::size_t States() const { return pact.count; }
     std::size_t Rules() const { return r1.count; }
 
@@ -43,5 +63,18 @@ private:
     // number; 0 if it says nothing.
     int RowAction(std::size_t state, int terminal) const;
     int Goto(int state, std::size_t nonterminal) const;
+    // A stack as reductions and shifts leave it: what is left of another one, and the states that came on top.
+    struct SStackAhead
+    {
+        std::span<const short> below;
+        std::vector<short> above;
+
+        bool IsEmpty() const { return below.empty() && above.empty(); }
+        int Top() const { return above.empty() ? below.back() : above.back(); }
+        void Pop(std::size_t count);
+    };
+    bool ReduceAndShift(SStackAhead& stack, int terminal) const;
+    // The rules of one symbol that a state reduces by.
+    std::set<unsigned> UnitReductions(std::size_t state) const;
     void AddSymbolsInto(int state, std::set<int>& symbols) const;
 };
