@@ -28,8 +28,17 @@ void CLoadedGrammar::Load(const char* parserName, bool isPatternVersion)
     m_ColoringScanner.m_Extension = std::move(coloringExtension);
     m_IsPatternVersion = isPatternVersion;
     m_IsConnected = false;
+    m_Expected.reset(); // borrows the earlier tables
     m_Scanner = std::move(scanner);
     m_Parser = std::move(parser);
+}
+
+const CExpectedTokens& CLoadedGrammar::Expected()
+{
+    if (!m_Expected)
+        m_Expected = std::make_unique<const CExpectedTokens>(m_Parser->Tables(), m_Scanner->Tables(),
+                                                             m_Scanner->Actions(), m_Parser->m_mapDefines);
+    return *m_Expected;
 }
 
 void CLoadedGrammar::Connect()

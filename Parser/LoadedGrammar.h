@@ -2,6 +2,7 @@
 // same tables, without a parser, for coloring maps. Empty until Load.
 #pragma once
 
+#include "Grammar/UVGrammarExpected.h"
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
 
@@ -34,6 +35,9 @@ public:
     // What the parser holds of the text.
     CSQLGrammarParserImplementation& Found() { return m_Parser->m_Extension; }
 
+    // What the parser would have taken, for set_Expected. Made when it is first asked for; as good as the grammar.
+    const CExpectedTokens& Expected();
+
     // Runs `write` on both scanners: their fields follow the same options. Nothing before Load.
     template <class Write>
     void WriteScanners(Write&& write)
@@ -48,6 +52,7 @@ private:
     std::unique_ptr<CSQLGrammarLexer> m_Scanner;
     std::shared_ptr<CSQLGrammarParser> m_Parser;
     CSQLGrammarLexer m_ColoringScanner;
+    std::unique_ptr<const CExpectedTokens> m_Expected;
     bool m_IsPatternVersion = false;
     bool m_IsConnected = false;
 };

@@ -61,8 +61,9 @@ int WriteErrorReports(const DatabaseInfoPointer& info, const SParseOptions& opti
         result = CUVDBOptionWrapper::SetParam(info, "LOST_TEXT",
                                               FormatLostText(text, findings.discarded, findings.unfinished));
     if (options.reportsUnexpectedTokens)
-        result =
-            std::min(result, CUVDBOptionWrapper::SetParam(info, "UNEXPECTED_TOKENS",
-                                                          FormatUnexpectedTokens(text, findings.unexpected)));
+        result = std::min(
+            result, CUVDBOptionWrapper::SetParam(
+                        info, "UNEXPECTED_TOKENS",
+                        FormatUnexpectedTokens(text, findings.unexpected, options.reportsExpectedTokens)));
     return result;
 }

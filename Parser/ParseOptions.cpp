@@ -125,7 +125,9 @@ SParseOptions ReadParseOptions(const std::shared_ptr<IUVDBDatabaseInfo2>& databa
     options.isChild = info.Read("ORVA_CHILD", options.isChild);
     options.isStylesheetForced = IsStylesheetForced(info);
     options.convertedObjectType = info.Read("CONVERTED_OBJECT_TYPE", options.convertedObjectType);
-    options.reportsUnexpectedTokens = info.IsOn("REPORT_UNEXPECTED_TOKENS");
+    const U8CString unexpected = info.Text("REPORT_UNEXPECTED_TOKENS");
+    options.reportsExpectedTokens = unexpected == "2";
+    options.reportsUnexpectedTokens = options.reportsExpectedTokens || unexpected == "1";
     options.reportsLostText = info.IsOn("REPORT_LOST_TEXT");
     options.reportsPreparedLines = info.IsOn("REPORT_PREPARED_LINES");
     options.reportsPreparationNotes = info.IsOn("REPORT_PREPARATION_NOTES");

@@ -38,8 +38,10 @@ struct SParseOptions
 
     // CONVERTED_OBJECT_TYPE   a number; 0. The key under which unexpected tokens are counted.
     int convertedObjectType = 0;
+    // REPORT_UNEXPECTED_TOKENS  exactly "1", or "2", which adds what was expected; off.
+    bool reportsUnexpectedTokens = false;
+    bool reportsExpectedTokens = false;
     // Each exactly "1"; off.
-    bool reportsUnexpectedTokens = false; // REPORT_UNEXPECTED_TOKENS
     bool reportsLostText = false;         // REPORT_LOST_TEXT
     bool reportsPreparedLines = false;    // REPORT_PREPARED_LINES
     bool reportsPreparationNotes = false; // REPORT_PREPARATION_NOTES

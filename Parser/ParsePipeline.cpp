@@ -10,7 +10,10 @@
 
 #include <cstring>
 #include <new>
+#include <span>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -19,6 +22,19 @@ bool HasDescription(IUVDBErrorInfo& error)
     char description[1024];
     std::size_t length = 0;
     return error.get_Description(description, sizeof description, &length) == UVDB_OK && length > 0;
+}
+
+// What was expected takes thousands of steps to find out. Nobody reads it of a text that is all errors, as one in
+// another language is.
+constexpr std::size_t kMostExplained = 1000;
+constexpr std::size_t kMostExpected = 8;
+
+CSQLGrammarParser::TExpected ExplainFirst(CLoadedGrammar& grammar)
+{
+    return [&grammar, explained = std::size_t{0}](std::span<const short> stack, int terminal) mutable {
+        return ++explained > kMostExplained ? std::vector<std::string>()
+                                            : grammar.Expected().Find(stack, terminal, kMostExpected);
+    };
 }
 
 } // namespace
@@ -223,6 +239,7 @@ void CParsePipeline::GiveTextToGrammar(bool areFragmentsWanted)
     m_Grammar.Found().set_Query(static_cast<const std::string&>(m_Parsed.text));
     m_Grammar.Scanner().set_Query(m_Parsed.text, static_cast<int>(m_Options.kind));
     m_Grammar.Parser()->set_FragmentsWanted(areFragmentsWanted);
+    m_Grammar.Parser()->set_Expected(m_Options.reportsExpectedTokens ? ExplainFirst(m_Grammar) : nullptr);
 }
 
 int CParsePipeline::RunGrammar(SParseFindings& findings)

@@ -63,7 +63,8 @@ void AppendField(std::string& list, const std::string& text)
 
 } // namespace
 
-Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens)
+Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens,
+                                      bool withExpected)
 {
     const std::vector<STextPlace> places = FindPlaces(query, tokens);
     std::string list;
@@ -75,6 +76,14 @@ Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<
             list += '\t';
         }
         AppendField(list, token.text);
+        if (withExpected) {
+            list += '\t';
+            list += std::to_string(token.state);
+            for (const std::string& expected : token.expected) {
+                list += '\t';
+                AppendField(list, expected);
+            }
+        }
         list += '\n';
     }
     return Uve::U8CString(std::move(list));

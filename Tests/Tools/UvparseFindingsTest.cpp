@@ -45,6 +45,20 @@ TEST(UvparseTokens, MessagesPointAtTheToken)
     EXPECT_EQ(Messages("ab", {{7, 9}}), "f.sql:1:3: error: unexpected end of text\n    ab\n      ^\n");
 }
 
+TEST(UvparseTokens, MessagesTellWhatWasExpected)
+{
+    std::vector<SFinding> findings;
+    ReadUnexpectedTokens(
+        "1\t1\t0\t1\ta\t7\t';'\tend of text\n1\t3\t2\t1\tb\t8\tname\n1\t5\t4\t1\tc\t9\t1\t2\t3\t4\t5\n"
+        "1\t6\t5\t0\t\t9\n",
+        findings);
+    EXPECT_EQ(Messages("a b c", {}, findings),
+              "f.sql:1:1: error: unexpected token 'a'; expected ';' or end of text\n    a b c\n    ^\n"
+              "f.sql:1:3: error: unexpected token 'b'; expected name\n    a b c\n      ^\n"
+              "f.sql:1:5: error: unexpected token 'c'; expected 1, 2, 3 or 4\n    a b c\n        ^\n"
+              "f.sql:1:6: error: unexpected end of text\n    a b c\n         ^\n");
+}
+
 TEST(UvparseTokens, LongLinesAreShownAroundThePlace)
 {
     std::string text;

@@ -228,10 +228,10 @@ TEST_F(UvparsePrepare, MessagesOfAParseNameTheSourceLines)
                 "             ENDPGM\n");
     const SRunResult run = Run("--verify a.cl");
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.err.find("a.cl:4:35: error: unexpected token ')'\n"
+    EXPECT_EQ(run.err.find("a.cl:4:35: error: unexpected token ')'; expected end of line or end of text\n"
                            "                              VALUE(1))\n"
                            "                                      ^\n"
-                           "a.cl:7:25: error: unexpected token ')'\n"
+                           "a.cl:7:25: error: unexpected token ')'; expected end of line or end of text\n"
                            "                 RETURN     )\n"
                            "                            ^\n"
                            "a.cl: verified: the tree holds the "),

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 namespace uvparse {
 
@@ -26,6 +27,19 @@ std::string Shown(std::string_view text, const SFinding& finding)
     return shownEnd < end ? shown + "..." : shown;
 }
 
+// "; expected a, b or c". More of them would hide the likely ones.
+std::string ExpectedOf(const SFinding& finding)
+{
+    constexpr std::size_t kMost = 4;
+    const std::size_t count = std::min(finding.expected.size(), kMost);
+    std::string text = count > 0 ? "; expected " : "";
+    for (std::size_t i = 0; i < count; ++i) {
+        text += i == 0 ? "" : i + 1 == count ? " or " : ", ";
+        text += finding.expected[i];
+    }
+    return text;
+}
+
 std::string MessageOf(const SFinding& finding, std::string_view prepared)
 {
     const std::string shown = Shown(prepared, finding);
@@ -35,9 +49,10 @@ std::string MessageOf(const SFinding& finding, std::string_view prepared)
     case enFinding::UnfinishedText:
         return "never closed: '" + shown + "'";
     default:
-        return !shown.empty()                     ? "unexpected token '" + shown + "'"
-               : finding.offset < prepared.size() ? "unexpected end of line"
-                                                  : "unexpected end of text";
+        return (!shown.empty()                     ? "unexpected token '" + shown + "'"
+                : finding.offset < prepared.size() ? "unexpected end of line"
+                                                   : "unexpected end of text") +
+               ExpectedOf(finding);
     }
 }
 
@@ -51,8 +66,15 @@ void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findin
         std::size_t lineNumber = 0;
         std::size_t column = 0;
         SFinding finding;
-        if (fields >> lineNumber >> column >> finding.offset >> finding.length)
-            findings.push_back(finding);
+        if (!(fields >> lineNumber >> column >> finding.offset >> finding.length))
+            continue;
+        constexpr int kBeforeExpected = 3; // the end of the field before, the token and the state
+        std::string field;
+        for (int i = 0; std::getline(fields, field, '\t'); ++i) {
+            if (i >= kBeforeExpected)
+                finding.expected.push_back(field);
+        }
+        findings.push_back(std::move(finding));
     }
 }
 

@@ -24,11 +24,12 @@ struct SFinding
     enFinding kind = enFinding::UnexpectedToken;
     std::size_t offset = 0; // bytes into the prepared text
     std::size_t length = 0;
-    bool isReported = false; // skipped text that an unexpected token stands for
+    bool isReported = false;                // skipped text that an unexpected token stands for
+    std::vector<std::string> expected = {}; // instead of an unexpected token, the likeliest first
 };
 
 // Both read a list of the library, a line each with fields separated by tabs, and add to `findings`:
-//     line, column, offset, length, token
+//     line, column, offset, length, token, state, { expected }
 //     what, line, column, offset, length, reported, condition
 // Lines of another form are passed over.
 void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findings);
