@@ -36,7 +36,7 @@ inline double CpuSeconds()
 
 // Touches `bytes` of memory and gives them back, in a process of its own. A virtual machine gets its memory
 // from its host page by page, at the first touch ever, several times slower than the kernel hands a used page
-// on: without this, the first to need much memory pays for all that come behind it.
+// on: without this, the first to need much memory pays for all that come after it.
 inline void WarmMemory(std::size_t bytes)
 {
     const pid_t child = fork();

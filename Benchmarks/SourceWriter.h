@@ -52,7 +52,7 @@ private:
     std::string m_Text;
 };
 
-// Blanks behind `text` up to `column`, or its end cut off.
+// Blanks after `text` up to `column`, or its end cut off.
 inline std::string Padded(std::string text, std::size_t column)
 {
     text.resize(column, ' ');

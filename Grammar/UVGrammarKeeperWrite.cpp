@@ -130,7 +130,7 @@ void SaveTable(std::string_view name, std::string_view initialiser, const std::s
         WriteTable<int>(initialiser, path);
 }
 
-// "name = number" from `at` on, blanks as the generator sets them. Moves `at` behind the pair.
+// "name = number" from `at` on, blanks as the generator sets them. Moves `at` after the pair.
 // Returns: false if there is none before the end of the text.
 bool NextEnumerator(std::string_view text, std::size_t& at, std::string_view& name, std::string_view& value)
 {

@@ -32,7 +32,7 @@ CSQLGrammarParser::CreateNode(ParserNodeValue& node, const ParserNode& child, SJ
         const int gapLength = child.m_nStart - join.lastChildStartPos;
         const auto from = static_cast<std::size_t>(join.lastChildStartPos);
         if (from > query.size())
-            throw std::out_of_range("a gap begins behind the text");
+            throw std::out_of_range("a gap begins after the text");
         node.m_nLength += gapLength;
         if (gapLength > 0 && from < query.size()) {
             const auto length = std::min(static_cast<std::size_t>(gapLength), query.size() - from);
@@ -110,7 +110,7 @@ void CSQLGrammarParser::addRootSpaces(ParserNodeValue& root)
     const std::string_view query = m_Extension.m_strQuery;
     const auto end = static_cast<std::size_t>(std::max(root.m_nStart + root.m_nLength, 0));
     if (end > query.size())
-        throw std::out_of_range("the tree ends behind the text");
+        throw std::out_of_range("the tree ends after the text");
     const auto lead = static_cast<std::uint32_t>(std::max(root.m_nStart, 0));
     const auto outer = [&](std::size_t from, std::size_t length) {
         m_Fragments.TakeSlice(query.data(), from, std::min(length, query.size() - from));

@@ -197,7 +197,7 @@ public:
 
     // The parts of a text that "__ORVANTA_IDENTIFIER_DELIM__" parts; one for a text without it.
     static std::list<Uve::U8CString> GetIdentifiers(const Uve::U8CString& text);
-    // `names` and `others` behind them.
+    // `names` and `others` after them.
     static std::list<Uve::U8CString> BindIdentifier(std::list<Uve::U8CString> names,
                                                     std::list<Uve::U8CString> others);
 

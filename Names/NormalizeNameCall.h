@@ -11,7 +11,7 @@
 // - What it remembers outlives it: the names that it takes on both sides, and the entry in the report.
 //
 // What a change has to know, since the order of the steps is part of the result:
-// - The entry in the report is under the name as MakeReportKey() finds it, behind ReadOptions() and
+// - The entry in the report is under the name as MakeReportKey() finds it, after ReadOptions() and
 //   PrepareParts(). A change by type before Convert() that the report is to show makes the key again.
 // - `schema` may be empty, given, or the schema of a linked database before Convert(); after it, it is the
 //   target's, and the steps after it only take it away, move it into the object's name, or put another

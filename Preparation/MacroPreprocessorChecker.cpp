@@ -464,7 +464,7 @@ void Checker::AddAllTokensCurrLine(SRun& run, bool keep)
     }
 }
 
-// A macro whose replacement ends a statement still ends one where it isn't expanded, behind its arguments if
+// A macro whose replacement ends a statement still ends one where it isn't expanded, after its arguments if
 // it takes some.
 void Checker::KeepStatement(SRun& run, const Macro& macro, const Token& name)
 {

@@ -95,7 +95,7 @@ struct ErorrOutput
 
 using ErrorList = std::list<ErorrOutput>;
 
-// What a "string" or 'character' token is, behind an encoding prefix.
+// What a "string" or 'character' token is, after an encoding prefix.
 bool IsStringText(std::string_view text);
 bool IsCharacterText(std::string_view text);
 

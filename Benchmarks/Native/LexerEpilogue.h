@@ -1,4 +1,4 @@
-// Behind the generated scanner.
+// After the generated scanner.
 int g_nativeBufferSize = 16384;
 const char* g_nativeBase;
 

@@ -1,4 +1,4 @@
-// In front of the generated scanner.
+// Before the generated scanner.
 #include "Benchmarks/Native/NativeSupport.h"
 
 #include <NativeParser.h> // generated

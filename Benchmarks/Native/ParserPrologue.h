@@ -1,4 +1,4 @@
-// In front of the generated parser.
+// Before the generated parser.
 #include "Benchmarks/Native/NativeSupport.h"
 
 #define YYMAXDEPTH 100000000

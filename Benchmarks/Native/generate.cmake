@@ -1,6 +1,6 @@
 # cmake -DLEXER=x.l -DPARSER=x.y -DOUTPUT=dir -DFLEX=flex -DBISON=bison -P generate.cmake
 # Makes C++ out of a language's sources. The sources are written for the engine and have no code of their own: what
-# makes them compile is put in front and behind.
+# makes them compile is put before and after.
 file(MAKE_DIRECTORY ${OUTPUT})
 
 file(READ ${LEXER} text)

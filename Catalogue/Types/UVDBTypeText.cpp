@@ -236,7 +236,7 @@ void TakeNumbers(const SWritten& written, const SFit& fit, const TWordGroups& gr
         const bool hasDisplayDigits = words.size() == 1 && words[0] == "PRECISION" && items.size() == 2;
         const bool hasReserve = takesReserve && items.size() == 2;
         if (items.size() > words.size() && !hasDisplayDigits && !hasReserve)
-            throw CBadTypeText("too many parameters: " + Quoted(items[words.size()]) + " and behind");
+            throw CBadTypeText("too many parameters: " + Quoted(items[words.size()]) + " and what follows");
         for (std::size_t i = 0; i < items.size(); ++i) {
             if (i < words.size())
                 reader.Take(words[i], items[i]);
@@ -284,7 +284,7 @@ std::optional<STypeText> ReadPeriod(DB_VERSION_INFO version, std::string_view te
     CNumberReader reader(0);
     for (const SPair& pair : written.pairs) {
         if (pair.items.size() > 1)
-            throw CBadTypeText("too many parameters: " + Quoted(pair.items[1]) + " and behind");
+            throw CBadTypeText("too many parameters: " + Quoted(pair.items[1]) + " and what follows");
         if (!pair.items.empty())
             reader.Take("SCALE", pair.items[0]);
     }

@@ -200,7 +200,7 @@ void CScannerTables::CheckFirstStep(const std::string& directory) const
             const auto next = static_cast<std::size_t>(Next(state, byte));
             if (accept[next] < 1 || accept[next] >= accept[next + 1])
                 RefuseTable(directory, "accept.dat",
-                            "no rule behind byte " + std::to_string(byte) + " of start state " +
+                            "no rule after byte " + std::to_string(byte) + " of start state " +
                                 std::to_string(state));
         }
 }

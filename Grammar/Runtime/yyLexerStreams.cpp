@@ -88,7 +88,7 @@ int yyLexer::yyread_stream(char* into, int most)
     return static_cast<int>(count);
 }
 
-// Refills the current buffer from its stream, behind the `kept` bytes of the match that go to its front.
+// Refills the current buffer from its stream, after the `kept` bytes of the match that go to its front.
 yyLexer::enRefill yyLexer::yyrefill_buffer(int kept)
 {
     yybuffer_state* const buffer = yycurrent_buffer();

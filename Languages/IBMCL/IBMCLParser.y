@@ -19,7 +19,7 @@
 %left T__PLUS T__MINUS
 %left T__ASTERISK T__SLASH
 %right T__NOT SIGN
-/* A bracket behind a function holds its arguments. */
+/* A bracket after a function holds its arguments. */
 %precedence FUNCTION
 %precedence T__LPAREN
 
@@ -49,7 +49,7 @@ delimited
     | error line_end
       { NODE(delimited_pl_sql_statement); }
     ;
-/* The line end of a labeled statement is inside, with the comment that may stand in front of it. A label may have its
+/* The line end of a labeled statement is inside, with the comment that may stand before it. A label may have its
    line to itself. */
 labeled_line
     : pl_sql_statement_label line_end                             { NODE(labeled_pl_sql_statement); }
@@ -124,7 +124,7 @@ command
     ;
 
 /* Any command that the language doesn't treat in a way of its own. A keyword here is a command name with a bracket
-   right behind it. */
+   right after it. */
 command_statement
     : command_name                                                { NODE; }
     | command_name parameter_list                                 { NODE; }
@@ -355,7 +355,7 @@ positional_value
 
 /* ---- Values ---- */
 
-/* What stands in brackets: values, maybe behind an operator word (INCREL((*AND NAME *EQ 'A'))), or a command of which
+/* What stands in brackets: values, maybe after an operator word (INCREL((*AND NAME *EQ 'A'))), or a command of which
    nothing but its keywords tells that it is one (JOBCMD(CALL PGM(A))). */
 list_content
     : value_list

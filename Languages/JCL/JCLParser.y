@@ -8,7 +8,7 @@
 %token T__COMMA T__AND T__OR T__NOT T__COMPARISON T__BAD_CHARACTER T__DATA_START T__DATA T__DELIMITER
 %token T__LOOSE_DATA T__LOOSE_DELIMITER T__JES2 T__JES2_JOBPARM T__JES3 T__JES_TEXT
 
-/* An error behind the name is taken there, before the head is made of it. */
+/* An error after the name is taken there, before the head is made of it. */
 %precedence HEAD
 %precedence error
 %left T__OR

@@ -21,7 +21,7 @@
 /* An error in the body of a routine is skipped to the next delimiter; only where no more comes it ends the body. */
 %precedence T__SEMICOLON T__CLIENT_SEND
 %precedence T__SET
-/* In GROUP BY these begin their own clause rather than a function call; behind the bracket of a window they begin
+/* In GROUP BY these begin their own clause rather than a function call; after the bracket of a window they begin
    its frame rather than naming another window. */
 %precedence T__CUBE T__ROLLUP
 %right T__RANGE T__ROWS T__GROUPS T__PARTITION
@@ -63,7 +63,7 @@ SQL_ROOT
 /* Statements come in chunks of chunks under one name, so that a long script doesn't become a deep chain. */
 %list pl_sql_statements: delimited %last last_statement %deep ;
 
-/* What stands behind the last delimiter. A rule may end in an error where nothing but the end of the text follows:
+/* What stands after the last delimiter. A rule may end in an error where nothing but the end of the text follows:
    anywhere else the parser would raise the error again on the same token. */
 last_statement
     : pl_sql_statement

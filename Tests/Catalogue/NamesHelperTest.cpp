@@ -17,7 +17,7 @@ const UVDB::NamesHelper& Names()
 TEST(NamesHelper, EnumeratorsAreSpelledExactly)
 {
     EXPECT_EQ(Names().GetDBType("UVDB_DB_ORA"), 1u);
-    EXPECT_EQ(Names().GetDBType("UVDB_DB_ADVANTAGE"), 61u); // behind the number without a name
+    EXPECT_EQ(Names().GetDBType("UVDB_DB_ADVANTAGE"), 61u); // after the number without a name
     EXPECT_EQ(Names().GetDBType("UVDB_DB_PostgresPro"), 129u);
     EXPECT_EQ(Names().GetDBType("UVDB_DB_SingleStoreDB"), 130u);
     for (const char* name : {"uvdb_db_ora", "ORA", "UVDB_DB_ORA ", "", static_cast<const char*>(nullptr)})

@@ -44,7 +44,7 @@ constexpr SRangeCase kRanges[] = {
     {"-", 3, 3, true},
     {"2.-*", 1, 9, false}, // an empty minor is 0
     {"2.-*", 2, 0, true},
-    {"7.0-9.2-11.0", 9, 2, true}, // the rest behind the second "-" isn't read
+    {"7.0-9.2-11.0", 9, 2, true}, // the rest after the second "-" isn't read
     {"7.0-9.2-11.0", 10, 0, false},
 };
 

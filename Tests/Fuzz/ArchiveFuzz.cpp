@@ -1,5 +1,5 @@
 // Foreign bytes as archives. An even first byte takes the rest as a whole archive; an odd one takes it as the
-// zlib stream of an archive whose header is sound, so that the fuzzer gets behind header and scrambling.
+// zlib stream of an archive whose header is sound, so that the fuzzer gets past header and scrambling.
 #include "Stylesheets/Archive/Compressor.h"
 
 #include <cstdint>

@@ -34,7 +34,7 @@ constexpr SDatabase kDatabases[] = {
     {UVDB_DB_PERVASIVE},
 };
 
-// Words that the rules put around a name, and numbers behind it.
+// Words that the rules put around a name, and numbers after it.
 constexpr std::size_t kRoom = 200;
 
 void Require(bool holds)

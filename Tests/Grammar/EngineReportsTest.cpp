@@ -103,7 +103,7 @@ TEST_F(EngineReports, WithErrorsHiddenOnlyTheTraceHears)
 TEST_F(EngineReports, TwoErrorsOfOneLineKeepTheirOrder)
 {
     CEngine engine("Recovery");
-    // three words behind the first error make the second one worth a report
+    // three words after the first error make the second one worth a report
     const SParseOutcome outcome = engine.Parse("? say a; b ; say c; a;");
     std::string tokens;
     for (const auto& [line, text] : outcome.errors)

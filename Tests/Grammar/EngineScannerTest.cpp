@@ -466,7 +466,7 @@ TEST(ScannerDriver, StepsOfADerivedClassAreCalled)
     EXPECT_EQ(scanner.m_char, 5); // one of the two NULs is given back
 }
 
-// In front of what was read from a stream there is room for as much as its buffer takes.
+// Before what was read from a stream there is room for as much as its buffer takes.
 TEST(ScannerBuffers, AStreamTakesMoreBackThanItGave)
 {
     std::FILE* const file = std::tmpfile();

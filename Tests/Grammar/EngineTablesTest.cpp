@@ -59,7 +59,7 @@ const SRefusal kScannerRefusals[] = {
     {"Lexer/accept.dat", "empty", Resize(0)},
     {"Lexer/accept.dat", "no states", Resize(4)},
     {"Lexer/accept.dat", "leaves acclist.dat", SetEntry(6, 22)},
-    {"Lexer/accept.dat", "no rule behind byte", SetAll(0)},
+    {"Lexer/accept.dat", "no rule after byte", SetAll(0)},
     {"Lexer/accept.dat", "shorter than the states", Resize(300, 1)}, // told of base.dat
     {"Lexer/base.dat", "65534 states", Resize(65535)},
     {"Lexer/base.dat", "leaves chk.dat", SetEntry(16, 868 - 255)}, // one byte behind the end
@@ -77,7 +77,7 @@ const SRefusal kScannerRefusals[] = {
     {"Lexer/NUL_trans.dat", "next state 15", SetEntry(1, 15)},
     {"Lexer/NUL_trans.dat", "misses the end", SetEntry(3, 5)},
     {"Lexer/acclist.dat", "misses the end", SetEntry(2, 9)},
-    {"Lexer/accept.dat", "no rule behind byte 0", SetEntry(6, 1)},
+    {"Lexer/accept.dat", "no rule after byte 0", SetEntry(6, 1)},
     {"Lexer/acclist.dat", "rule number 10", SetEntry(2, 10)},
     {"Lexer/rule_can_match_eol.dat", "8191 rules", Resize(8192)},
     {"Lexer/rule_can_match_eol.dat", "rule number 9", Shorten(1)}, // told of acclist.dat

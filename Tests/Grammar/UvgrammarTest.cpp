@@ -310,7 +310,7 @@ TEST_F(Uvgrammar, CouldNotRun)
         SCOPED_TRACE(c.arguments);
         const SRun run = Run(c.arguments, c.environment);
         EXPECT_EQ(run.exitCode, 2);
-        // Behind a redirection of its own the case's messages don't come here.
+        // After a redirection of its own the case's messages don't come here.
         if (std::string(c.arguments).find("/dev/full") == std::string::npos) {
             EXPECT_THAT(run.messages, HasSubstr(c.message));
         }

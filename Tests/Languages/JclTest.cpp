@@ -137,7 +137,7 @@ struct SStream
 constexpr SStream kStreams[] = {
     {"//A DD *\nx\n  y z  \n\n/* end\n// SET B=1\n", "x|  y z", 2},
     {"//A DD *\nx\n// SET B=1\n", "x", 2},
-    {"//A DD *\nx\n//* no data behind a comment\ny\n", "x", 2, "y"},
+    {"//A DD *\nx\n//* no data after a comment\ny\n", "x", 2, "y"},
     {"//A DD *\n/*\n//B DD *  note\n//C DD *", "", 3},
     {"//A DD *,SYMBOLS=(X,\n//  Y)\nx\n/*\n", "x", 1},
     {"//A DD *\n/*x*/\n/*\n/*ROUTE XEQ N\n/*\n", "/*x*/", 3},

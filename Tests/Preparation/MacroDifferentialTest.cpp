@@ -5,9 +5,9 @@
 //  and folded
 //  - __LINE__ in arguments over several lines: here it is the line of the macro's name
 //  - names and operators cut by a continued line: here these are two tokens
-//  - a number with a point or a sign behind a name that comes out of a macro: theirs may print the two as one
+//  - a number with a point or a sign after a name that comes out of a macro: theirs may print the two as one
 //  word
-//  - a character constant right behind a number: here the apostrophe separates digits
+//  - a character constant right after a number: here the apostrophe separates digits
 //  - __VA_OPT__, and what the compiler predefines
 #include "Tests/Preparation/MacroFixture.h"
 

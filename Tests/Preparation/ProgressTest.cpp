@@ -151,7 +151,7 @@ TEST_F(ProgressFormatter, AFileThatIsOpenIsNotTakenInAgain)
     std::filesystem::create_symlink(m_Folder.Path("self.i"), m_Folder.Path("link.i"));
     EXPECT_EQ(FormatProgress("{link.i}", {m_Folder.Path("self.i")}).text, "{link.i}");
     EXPECT_EQ(m_Log.Text(), "");
-    // the text around a match, behind a reference that stays
+    // the text around a match, after a reference that stays
     File("around.i", "{around.i}{next.i}");
     File("next.i", "{around.i}[$`]");
     EXPECT_EQ(Text("{around.i}"), "{around.i}{around.i}[{around.i}]");

@@ -44,7 +44,7 @@ struct SDecodeCase
 const SDecodeCase kDecodeCases[] = {
     {"a\xC3\xA9", "a\xC3\xA9", ""},
     {"\xEF\xBB\xBFselect", "select", ""},
-    {"\xEF\xBB\xBF"s + "x\xEF\xBB\xBF", "x\xEF\xBB\xBF", ""}, // a mark behind the start is text
+    {"\xEF\xBB\xBF"s + "x\xEF\xBB\xBF", "x\xEF\xBB\xBF", ""}, // a mark after the start is text
     {"\xFF\xFEs\0\xE9\0=\xD8\0\xDE"s, "s\xC3\xA9\xF0\x9F\x98\x80", ""},
     {"\xFE\xFF\0s\0\xE9\xD8=\xDE\0"s, "s\xC3\xA9\xF0\x9F\x98\x80", ""},
     {"\xFF\xFE\0\0s\0\0\0\0\xF6\x01\0"s, "s\xF0\x9F\x98\x80", ""},

@@ -43,7 +43,7 @@ TEST(UvparsePreparedLines, RunsLeadBackAndWhatIsNoListCountsAsNone)
         {"P", "", "- - - - - -"},
         {"P", "1\t3\t2\n3\t9\t1\n", "3 4 9 - - -"},
         {"P", "1\t3\t2\n3\t9\t1", "3 4 9 - - -"},   // the last line feed is missing
-        {"P", "2\t5\t1\n4\t2\t2\n", "- 5 - 2 3 -"}, // gaps, and a source line behind
+        {"P", "2\t5\t1\n4\t2\t2\n", "- 5 - 2 3 -"}, // gaps, and a source line after
         {"P", "1\t3\t2\n2\t9\t1\n", "- - - - - -"}, // runs that overlap
         {"P", "3\t3\t1\n1\t9\t1\n", "- - - - - -"}, // no order
         {"P", "0\t1\t1\n", "- - - - - -"},          // lines count from 1
@@ -107,9 +107,9 @@ const SRowsCase kRowsCases[] = {
     // The first line goes on with the second and third; the fourth is blank.
     {"CHGVAR VAR(&A) +\n  VALUE('x' +\n 'y')\n\nRETURN\n", "CHGVAR VAR(&A) VALUE('x' 'y')\nRETURN\n",
      "1\t1\t1\n2\t5\t1\n", "1|1 2& 3& 4< 5=2 "},
-    // Without words the signs count, and they stand behind what went before.
+    // Without words the signs count, and they stand after what went before.
     {"A(x +\n)\n*\n", "A(x )\n", "1\t1\t1\n", "1|1 2& 3< "},
-    // Behind a line that is unchanged nothing can have been joined.
+    // After a line that is unchanged nothing can have been joined.
     {"a b\nb\n", "a b\n", "1\t1\t1\n", "1=1 2< "},
     {"C x\nd\n", "C\nx\n$\nd\n", "1\t1\t1\n2\t1\t1\n3\t1\t1\n4\t2\t1\n", "1|1 >2 >3 2=4 "},
     {"x\na\n", "inc\na\n", "2\t2\t1\n", ">1 1< 2=2 "},
@@ -224,7 +224,7 @@ TEST(UvparseCells, TextsFillCellsAndNothingMovesTheCursor)
          3}, // would turn the line around
         {"\xE6\xBC\xA2\xE6\xBC\xA2", 4, "\xE6\xBC\xA2\xE6\xBC\xA2", 4},
         {"\xE6\xBC\xA2\xE6\xBC\xA2", 3, "\xE6\xBC\xA2\xE2\x80\xA6", 3},
-        {"x\xE6\xBC\xA2\xE6\xBC\xA2", 3, "x\xE2\x80\xA6", 2}, // a wide character doesn't fit behind
+        {"x\xE6\xBC\xA2\xE6\xBC\xA2", 3, "x\xE2\x80\xA6", 2}, // a wide character doesn't fit after
         {"e\xCC\x81"
          "a",
          2,

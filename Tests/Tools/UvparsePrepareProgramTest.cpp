@@ -24,7 +24,7 @@ protected:
 
 struct SPassCase
 {
-    const char* arguments; // the file stands behind them
+    const char* arguments; // the file stands after them
     const char* file;
     const char* source;
     const char* prepared;
@@ -245,7 +245,7 @@ TEST_F(UvparsePrepare, MessagesOfAParseNameTheSourceLines)
     const SRunResult jcl = Run("-o JCLANSIFORMAT=YES a.jcl");
     EXPECT_EQ(jcl.code, 1);
     EXPECT_EQ(jcl.err.find("a.jcl:3:"), 0u) << jcl.err;
-    EXPECT_EQ(jcl.out.find("00010000"), std::string::npos); // behind the last column
+    EXPECT_EQ(jcl.out.find("00010000"), std::string::npos); // after the last column
 }
 
 } // namespace

@@ -205,7 +205,7 @@ TEST_F(UvparseProgram, UnexpectedTokensAreShownInTheirPlace)
         EXPECT_NE(run.err.find("2 statements read, 1 lost, 1 unexpected tokens, 48 bytes, "),
                   std::string::npos)
             << run.err;
-        EXPECT_NE(run.out.find(">2</"), std::string::npos); // the statement behind it is there
+        EXPECT_NE(run.out.find(">2</"), std::string::npos); // the statement after it is there
     }
     EXPECT_EQ(Run("--quiet a.sql").err, "");
 }

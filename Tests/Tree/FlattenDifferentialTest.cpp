@@ -289,7 +289,7 @@ TEST(FlattenDifferential, ListsOfAnyLength)
         }
 }
 
-// What decides about an element may stand far behind it, or far behind its end.
+// What decides about an element may stand far after it, or far after its end.
 TEST(FlattenDifferential, DecisionsFromFarAway)
 {
     constexpr const char* kTrees[] = {
@@ -363,7 +363,7 @@ TEST(FlattenDifferential, ManyStatementsWithTheirDelimitersBehindThem)
     EXPECT_TRUE(natively && FlattenFragments(fragments.Tree()) == natively);
 }
 
-// A delimiter behind a body is copied into the body's last statement. With bodies inside delimiters the tree
+// A delimiter after a body is copied into the body's last statement. With bodies inside delimiters the tree
 // doubles at each level, which must end before memory does.
 TEST(FlattenDifferential, DelimitersThatMultiply)
 {

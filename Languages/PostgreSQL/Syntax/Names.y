@@ -37,7 +37,7 @@ non_reserved_word
     | type_function_name_keyword                                                { NODE(sql_identifier); }
     ;
 
-/* Any word at all: behind a dot, behind AS. */
+/* Any word at all: after a dot, after AS. */
 any_label
     : T__IDENTIFIER                                                             { NODE(sql_identifier); }
     | other_identifier                                                          { NODE(sql_identifier); }

@@ -97,7 +97,7 @@ constexpr SNodesCase kNodes[] = {
     {"a\nb", "a.b", "s", "<Item ></Item>"},
     {"aaa", "(a+)", "U", "<Item res1='a' ></Item><Item res1='a' ></Item><Item res1='a' ></Item>"},
     {"112a3", "\\G(\\d)", "", "<Item res1='1' ></Item><Item res1='1' ></Item><Item res1='2' ></Item>"},
-    {"abc", "(?=ab\\K)", "", "<Item ></Item><Item ></Item>"}, // an end in front of the start: it goes on
+    {"abc", "(?=ab\\K)", "", "<Item ></Item><Item ></Item>"}, // an end before the start: it goes on
 };
 
 TEST(RegExpNodes, EachMatchIsAnItemAndEachGroupAnAttribute)

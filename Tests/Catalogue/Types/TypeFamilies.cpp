@@ -76,7 +76,7 @@ void SetFloat(const STypeMeaning& meaning, const SDataTypeParams& row, std::uint
     capacity.length = capacity.family == F::Float ? 24 : 42;
 }
 
-// The digits behind the second that a text form leaves room for.
+// The digits after the second that a text form leaves room for.
 long SecondDigitsOfText(std::uint64_t size, const STypeMeaning& meaning)
 {
     const auto zone = static_cast<std::uint64_t>(meaning.hasZone ? 6 : 0);
@@ -279,13 +279,13 @@ STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long sc
 const char* LossText(enTypeLoss loss)
 {
     constexpr const char* kTexts[] = {"length",
-                                      "digits in front of the point",
-                                      "digits behind the point",
+                                      "digits before the point",
+                                      "digits after the point",
                                       "negative scale",
                                       "sign",
                                       "significand",
                                       "fields",
-                                      "digits behind the second",
+                                      "digits after the second",
                                       "leading digits",
                                       "zone"};
     return kTexts[static_cast<std::size_t>(loss)];

@@ -32,15 +32,15 @@ struct STypeCapacity
 {
     enTypeFamily family = enTypeFamily::Unknown;
     std::uint64_t length = 0; // of texts, bytes and bits; of other families the length of their text form
-    long wholeDigits = 0;     // of exact numbers: in front of the point
-    long fractionDigits = 0;  // behind it
+    long wholeDigits = 0;     // of exact numbers: before the point
+    long fractionDigits = 0;  // after it
     long digits = 0;          // both together
-    bool hasNegativeScale = false; // the last digits in front of the point are always 0
+    bool hasNegativeScale = false; // the last digits before the point are always 0
     int integerBits = 0;           // of integers that count in bits
     bool isSigned = true;
     long significand = 0;   // of floats: binary digits, of decimal ones decimal digits
     unsigned fields = 0;    // of times and intervals: UVDBMeaning::enTimeField
-    long secondDigits = 0;  // behind the second
+    long secondDigits = 0;  // after the second
     long leadingDigits = 0; // of an interval's first field; 0: not known
     bool hasZone = false;
 };
@@ -55,8 +55,8 @@ STypeCapacity CapacityOf(const SDataTypeParams& row, std::uint64_t size, long sc
 enum class enTypeLoss
 {
     Length,
-    WholeDigits,    // in front of the point
-    FractionDigits, // behind it
+    WholeDigits,    // before the point
+    FractionDigits, // after it
     NegativeScale,  // its digits
     Sign,
     Significand,

@@ -33,7 +33,7 @@ struct STargetLimits
     std::uint64_t bytes;
     long digits; // of exact numbers
     long scale;
-    long timeDigits; // behind the second
+    long timeDigits; // after the second
     long timestampDigits;
     enZones zones;
 };
@@ -69,7 +69,7 @@ struct SMappedPair
     const STypeCapacity& target;
     const STargetLimits& limits;
     std::uint64_t longestNational; // of the target's tables
-    long longestTime;              // digits behind the second that its times have
+    long longestTime;              // digits after the second that its times have
     bool hasLongNational;
 };
 
@@ -375,7 +375,7 @@ constexpr SFamilyException kFamilyExceptions[] = {
     {F::Date, F::Timestamp, Listed, "DATE came with 10", nullptr, kOldSqlServers},
     {F::Time, F::Timestamp, Without, "no times alone: a time of some day"},
     {F::Time, F::Timestamp, Listed, "TIME came with 10", nullptr, kOldSqlServers},
-    {F::Time, F::Timestamp, Any, "only timestamps have so many digits behind the second", ExceedsTime},
+    {F::Time, F::Timestamp, Any, "only timestamps have so many digits after the second", ExceedsTime},
     {F::Time, F::Timestamp, Any, "only timestamps have a zone", KeepsZone},
     {F::Time, F::Text, Any, "no times with a zone: the text keeps it", HasZone},
     {F::Time, F::Qualified, Listed, "DATETIME HOUR TO FRACTION", nullptr, kInformixes},

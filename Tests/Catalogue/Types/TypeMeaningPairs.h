@@ -56,7 +56,7 @@ public:
     bool HasFamily(enTypeFamily family) const { return m_Families.contains(family); }
     std::uint64_t LongestNational() const { return m_LongestNational; }
     bool HasLongNational() const { return m_HasLongNational; }
-    long LongestTime() const { return m_LongestTime; } // digits behind the second
+    long LongestTime() const { return m_LongestTime; } // digits after the second
 
     // What the target makes of `text`; of unknown family if it isn't a type there.
     const STypeCapacity& Read(const std::string& text);

@@ -279,7 +279,7 @@ private:
     std::map<std::pair<std::string, std::string>, SFinding> m_Findings;
 };
 
-// A time can have no digits behind the second.
+// A time can have no digits after the second.
 bool IsMoment(enTypeFamily family)
 {
     return family == enTypeFamily::Time || family == enTypeFamily::Timestamp ||
