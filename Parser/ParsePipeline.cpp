@@ -6,6 +6,7 @@
 #include "Parser/UVParserFormatters.h"
 #include "Parser/UVParserGuard.h"
 #include "Parser/UVParserText.h"
+#include "Parser/XmlHeader.h"
 #include "UVEnvironment/LogSystem.h"
 
 #include <cstring>
@@ -344,7 +345,7 @@ std::string CParsePipeline::FastParse(SParseFindings& findings)
 
 bool CParsePipeline::IsPropertiesFile() const
 {
-    const auto extension = TextBehindLastDot(m_Options.filePath);
+    const auto extension = TextAfterLastDot(m_Options.filePath);
     return extension && extension->CollateNoCase("properties") == 0;
 }
 

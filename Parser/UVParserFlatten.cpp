@@ -4,7 +4,7 @@
 #include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
-#include "Parser/UVParserText.h"
+#include "Parser/XmlHeader.h"
 #include "Stylesheets/XslTransform.h"
 #include "Tree/TreeFlattener.h"
 #include "UVEnvironment/LogSystem.h"

@@ -30,7 +30,7 @@ bool IncludesFiles(const SParseOptions& options)
 bool IsAspFile(const SParseOptions& options)
 {
     // A path without a dot is compared as a whole.
-    const U8CString extension = TextBehindLastDot(options.filePath).value_or(options.filePath);
+    const U8CString extension = TextAfterLastDot(options.filePath).value_or(options.filePath);
     return extension.CollateNoCase("asp") == 0 || extension.CollateNoCase("inc") == 0;
 }
 

@@ -8,7 +8,7 @@
 #include "Parser/ParseOptions.h"
 #include "Parser/UVParser.h"
 #include "Parser/UVParserGuard.h"
-#include "Parser/UVParserText.h"
+#include "Parser/XmlHeader.h"
 #include "UVEnvironment/LogSystem.h"
 #include "UVEnvironment/UVECompat.h"
 

@@ -20,7 +20,7 @@ std::size_t LineEnd(std::string_view text, std::size_t offset)
 
 } // namespace
 
-std::optional<Uve::U8CString> TextBehindLastDot(const Uve::U8CString& path)
+std::optional<Uve::U8CString> TextAfterLastDot(const Uve::U8CString& path)
 {
     const std::size_t dot = ViewOf(path).rfind('.');
     if (dot == std::string_view::npos)
@@ -48,26 +48,6 @@ void ReplaceZeroWidthSpaces(Uve::U8CString& text)
     text.resize(written);
 }
 
-void ReplaceXmlHeader(Uve::U8CString& text)
-{
-    const std::string_view view = ViewOf(text);
-    std::size_t contentStart = 0;
-    if (view.find("<?xml") != std::string_view::npos) {
-        if (const std::size_t headerEnd = view.find("?>"); headerEnd != std::string_view::npos)
-            contentStart = headerEnd + 2;
-    }
-    text.replace(std::size_t{0}, contentStart, kXmlHeader);
-}
-
-Uve::U8CString WrapInElement(std::string_view name, std::string_view text)
-{
-    Uve::U8CString element;
-    element.reserve(text.size() + 2 * name.size() + 5);
-    element.append(1u, '<').append(name).append(1u, '>').append(text).append("</").append(name).append(1u,
-                                                                                                       '>');
-    return element;
-}
-
 std::optional<std::string> QuoteLinesAround(unsigned long lineNumber, std::string_view text)
 {
     if (lineNumber == 0)
@@ -91,12 +71,12 @@ Uve::U8CString FormatPreparedLines(const std::vector<std::uint32_t>& sourceLines
 {
     std::string list;
     for (std::size_t first = 0; first < sourceLines.size();) {
-        std::size_t behind = first + 1;
-        while (behind < sourceLines.size() && sourceLines[behind] == sourceLines[behind - 1] + 1)
-            ++behind;
+        std::size_t next = first + 1;
+        while (next < sourceLines.size() && sourceLines[next] == sourceLines[next - 1] + 1)
+            ++next;
         list += std::to_string(first + 1) + '\t' + std::to_string(sourceLines[first]) + '\t' +
-                std::to_string(behind - first) + '\n';
-        first = behind;
+                std::to_string(next - first) + '\n';
+        first = next;
     }
     return list;
 }

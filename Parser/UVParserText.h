@@ -9,18 +9,10 @@
 #include <vector>
 
 // What stands after the last "." of `path`; nothing if there is no dot.
-std::optional<Uve::U8CString> TextBehindLastDot(const Uve::U8CString& path);
+std::optional<Uve::U8CString> TextAfterLastDot(const Uve::U8CString& path);
 
 // Puts a blank in the place of each zero-width space. Needs no memory.
 void ReplaceZeroWidthSpaces(Uve::U8CString& text);
-
-inline constexpr std::string_view kXmlHeader = "<?xml version=\"1.0\" ?>";
-
-// `text` after an XML header of its own: one that it has goes, with everything before it.
-void ReplaceXmlHeader(Uve::U8CString& text);
-
-// The text between `<name>` and `</name>`, not escaped.
-Uve::U8CString WrapInElement(std::string_view name, std::string_view text);
 
 // The lines of `text` around line `lineNumber` (from 1), between markers: the line before, the line and the
 // line after it, as far as they exist. A text that ends in a line feed has an empty last line.

@@ -1,4 +1,5 @@
 #include "Parser/UVParserText.h"
+#include "Parser/XmlHeader.h"
 
 #include <gtest/gtest.h>
 
@@ -55,11 +56,11 @@ TEST(ParserText, XmlHeaderIsReplacedByOneOfItsOwn)
     }
 }
 
-TEST(ParserText, ExtensionStandsBehindTheLastDot)
+TEST(ParserText, ExtensionStandsAfterTheLastDot)
 {
-    EXPECT_EQ(TextBehindLastDot("a.b.c"), U8CString("c"));
-    EXPECT_EQ(TextBehindLastDot("a."), U8CString(""));
-    EXPECT_EQ(TextBehindLastDot("a"), std::nullopt);
+    EXPECT_EQ(TextAfterLastDot("a.b.c"), U8CString("c"));
+    EXPECT_EQ(TextAfterLastDot("a."), U8CString(""));
+    EXPECT_EQ(TextAfterLastDot("a"), std::nullopt);
 }
 
 } // namespace

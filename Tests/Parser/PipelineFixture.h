@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Parser/ParsePipeline.h"
-#include "Parser/UVParserText.h"
+#include "Parser/XmlHeader.h"
 #include "Tests/Parser/ErrorRecord.h"
 #include "Tests/Support/MemoryLog.h"
 #include "Tests/Support/TreeText.h"

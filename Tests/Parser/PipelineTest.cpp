@@ -1,6 +1,7 @@
 // The pipeline by itself. What a host gets of it is in ParserObjectTest.cpp.
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Interfaces/UVDBResults.h"
+#include "Parser/XmlHeader.h"
 #include "Tests/Parser/PipelineFixture.h"
 #include "Tree/TreeFlattener.h"
 
