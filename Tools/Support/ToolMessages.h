@@ -1,19 +1,10 @@
-// How the tools speak: messages to the standard error stream in the form that editors jump by, exit codes,
-// progress. Results go to the standard output, never through here. Texts are UTF-8, without a line feed at
-// their end.
+// How the tools speak: messages to the standard error stream in the form that editors jump by, and progress.
+// Results go to the standard output, never through here. Texts are UTF-8, without a line feed at their end.
 #pragma once
 
 #include <cstddef>
 #include <iosfwd>
 #include <string>
-
-// Exit codes, the same for every tool. With several inputs the worst one counts.
-enum enToolExit
-{
-    kToolClean = 0,
-    kToolFindings = 1,   // the work was done and something is wrong with the input
-    kToolCouldNotRun = 2 // bad arguments, missing files, failed writes
-};
 
 // Where in an input a message belongs. Lines and columns count from 1, 0 leaves them out.
 struct SSourcePlace

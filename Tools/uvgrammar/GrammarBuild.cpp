@@ -2,6 +2,7 @@
 
 #include "Grammar/UVGrammarKeeper.h"
 #include "Grammar/UVGrammarManifest.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar/EndRules.h"
 #include "Tools/uvgrammar/GrammarChecks.h"

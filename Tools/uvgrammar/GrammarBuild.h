@@ -1,6 +1,7 @@
 // From a flex file and a bison file to the table directory of a language.
 #pragma once
 
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
 
 #include <string>

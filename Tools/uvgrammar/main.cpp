@@ -1,4 +1,5 @@
 // uvgrammar: turns the sources of a grammar into the tables of a language.
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvgrammar/GrammarBuild.h"

@@ -1,5 +1,6 @@
 // uvnames: what the objects of a database are called in another one.
 #include "Tools/Support/ToolDatabase.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvnames/CommandLine.h"
 #include "Tools/uvnames/Run.h"

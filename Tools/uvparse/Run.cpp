@@ -1,6 +1,7 @@
 #include "Tools/uvparse/Run.h"
 
 #include "Catalogue/UVDBDatabaseKinds.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolTerminal.h"
 #include "Tools/uvparse/Findings.h"

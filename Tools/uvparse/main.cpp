@@ -1,3 +1,4 @@
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvparse/CommandLine.h"

@@ -1,6 +1,7 @@
 #include "Tools/uvrules/Apply.h"
 
 #include "Stylesheets/XslTransform.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvrules/BadInput.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Tools/Support/ToolExitCodes.h"
+
 #include <stdexcept>
 
 namespace uvrules {

@@ -1,6 +1,7 @@
 #include "Tools/uvrules/Resolve.h"
 
 #include "Stylesheets/XsltLoad.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvrules/TraceText.h"

@@ -1,4 +1,5 @@
 // uvrules: packs, unpacks, resolves and applies rule files.
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvrules/Apply.h"

@@ -2,6 +2,7 @@
 
 #include "Catalogue/Types/UVDBDataTypes.h"
 #include "Tools/Support/ToolDatabaseNames.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolLines.h"
 #include "Tools/Support/ToolMessages.h"

@@ -1,5 +1,6 @@
 // uvtypes: the data types of databases, and what they are called in another one.
 #include "Tools/Support/ToolDatabase.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvtypes/CommandLine.h"
 #include "Tools/uvtypes/Run.h"
