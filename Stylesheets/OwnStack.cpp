@@ -14,6 +14,7 @@
 #endif
 
 #ifdef UV_ADDRESS_SANITIZER
+#include <sanitizer/asan_interface.h>
 #include <sanitizer/common_interface_defs.h>
 #endif
 
@@ -47,8 +48,15 @@ public:
 private:
     void Unmap()
     {
-        if (m_Mapped != nullptr)
-            munmap(m_Mapped, m_GuardBytes + kOwnStackBytes);
+        if (m_Mapped == nullptr)
+            return;
+#ifdef UV_ADDRESS_SANITIZER
+        // The first frame never returns, and what the sanitizer noted of it would hold for whatever comes to lie here. It
+        // stands at the top; to clear the notes of all the stack would take as long as to use it.
+        constexpr std::size_t kFirstFrames = 65536;
+        __asan_unpoison_memory_region(Top() - kFirstFrames, kFirstFrames);
+#endif
+        munmap(m_Mapped, m_GuardBytes + kOwnStackBytes);
         m_Mapped = nullptr;
     }
 
