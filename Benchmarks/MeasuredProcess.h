@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <type_traits>
 #include <unistd.h>
@@ -32,6 +33,14 @@ inline double CpuSeconds()
     timespec now{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+// What the kernel took of it. Most of that is clearing fresh memory.
+inline double KernelSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_stime.tv_sec) + static_cast<double>(usage.ru_stime.tv_usec) / 1e6;
 }
 
 // Touches `bytes` of memory and gives them back, in a process of its own. A virtual machine gets its memory
