@@ -6,6 +6,7 @@
 
 #include <boost/program_options/variables_map.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 
@@ -244,13 +245,14 @@ void CSQLGrammarParser::yysyntaxerror()
     m_Extension.m_mapErrors.emplace(line, text);
     const bool isAtEnd = yychar == 0;
     m_Extension.m_lstUnexpected.push_back(
-        {line,
-         isAtEnd ? m_Extension.m_strQuery.size() : yylexerptr->yymatch_offset(),
-         isAtEnd ? 0 : static_cast<std::size_t>(yylexerptr->yyleng),
-         text,
-         *yyssp,
-         {}});
-    if (m_Expected)
-        m_Extension.m_lstUnexpected.back().expected =
-            m_Expected(std::span<const short>(yyss, yyssp + 1), yytoken);
+        {line, isAtEnd ? m_Extension.m_strQuery.size() : yylexerptr->yymatch_offset(),
+         isAtEnd ? 0 : static_cast<std::size_t>(yylexerptr->yyleng), text, *yyssp});
+    if (!m_Expected)
+        return;
+    SUnexpectedToken& token = m_Extension.m_lstUnexpected.back();
+    token.expected = m_Expected(std::span<const short>(yyss, yyssp + 1), yytoken);
+    const auto named =
+        std::ranges::find(m_mapDefines, yychar, [](const auto& define) { return define.second; });
+    if (!isAtEnd && named != m_mapDefines.end())
+        token.terminal = named->first;
 }

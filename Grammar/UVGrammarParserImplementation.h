@@ -14,8 +14,10 @@ struct SUnexpectedToken
     std::size_t offset = 0; // bytes
     std::size_t length = 0; // bytes; 0 at the end of the text
     std::string text;
-    int state = 0;                          // of the parser's tables
-    std::vector<std::string> expected = {}; // what it would have taken, if that was asked for
+    int state = 0; // of the parser's tables
+    // Both only if what was expected is asked for.
+    std::string terminal = {};              // the token's name in the grammar; empty at the end of the text
+    std::vector<std::string> expected = {}; // what the parser would have taken
 };
 
 // Text that the recovery from one error has thrown away. Offsets are bytes of the query.

@@ -60,10 +60,10 @@ int WriteErrorReports(const DatabaseInfoPointer& info, const SParseOptions& opti
     if (options.reportsLostText)
         result = CUVDBOptionWrapper::SetParam(info, "LOST_TEXT",
                                               FormatLostText(text, findings.discarded, findings.unfinished));
-    if (options.reportsUnexpectedTokens)
-        result = std::min(
-            result, CUVDBOptionWrapper::SetParam(
-                        info, "UNEXPECTED_TOKENS",
-                        FormatUnexpectedTokens(text, findings.unexpected, options.reportsExpectedTokens)));
+    if (options.tokenReport)
+        result =
+            std::min(result, CUVDBOptionWrapper::SetParam(
+                                 info, "UNEXPECTED_TOKENS",
+                                 FormatUnexpectedTokens(text, findings.unexpected, *options.tokenReport)));
     return result;
 }

@@ -126,8 +126,12 @@ SParseOptions ReadParseOptions(const std::shared_ptr<IUVDBDatabaseInfo2>& databa
     options.isStylesheetForced = IsStylesheetForced(info);
     options.convertedObjectType = info.Read("CONVERTED_OBJECT_TYPE", options.convertedObjectType);
     const U8CString unexpected = info.Text("REPORT_UNEXPECTED_TOKENS");
-    options.reportsExpectedTokens = unexpected == "2";
-    options.reportsUnexpectedTokens = options.reportsExpectedTokens || unexpected == "1";
+    if (unexpected == "1")
+        options.tokenReport = enTokenReport::Places;
+    else if (unexpected == "2")
+        options.tokenReport = enTokenReport::Expected;
+    else if (unexpected == "3")
+        options.tokenReport = enTokenReport::Terminals;
     options.reportsLostText = info.IsOn("REPORT_LOST_TEXT");
     options.reportsPreparedLines = info.IsOn("REPORT_PREPARED_LINES");
     options.reportsPreparationNotes = info.IsOn("REPORT_PREPARATION_NOTES");

@@ -6,10 +6,12 @@
 #pragma once
 
 #include "Interfaces/DB_VERSION_INFO.h"
+#include "Parser/UVParserReports.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 class IUVDBDatabaseInfo2;
 class IUVDBObjectInfo;
@@ -38,9 +40,9 @@ struct SParseOptions
 
     // CONVERTED_OBJECT_TYPE   a number; 0. The key under which unexpected tokens are counted.
     int convertedObjectType = 0;
-    // REPORT_UNEXPECTED_TOKENS  exactly "1", or "2", which adds what was expected; off.
-    bool reportsUnexpectedTokens = false;
-    bool reportsExpectedTokens = false;
+    // REPORT_UNEXPECTED_TOKENS  exactly "1", or "2", which adds what was expected, or "3", which names the token, too;
+    //                           off.
+    std::optional<enTokenReport> tokenReport;
     // Each exactly "1"; off.
     bool reportsLostText = false;         // REPORT_LOST_TEXT
     bool reportsPreparedLines = false;    // REPORT_PREPARED_LINES

@@ -240,7 +240,8 @@ void CParsePipeline::GiveTextToGrammar(bool areFragmentsWanted)
     m_Grammar.Found().set_Query(static_cast<const std::string&>(m_Parsed.text));
     m_Grammar.Scanner().set_Query(m_Parsed.text, static_cast<int>(m_Options.kind));
     m_Grammar.Parser()->set_FragmentsWanted(areFragmentsWanted);
-    m_Grammar.Parser()->set_Expected(m_Options.reportsExpectedTokens ? ExplainFirst(m_Grammar) : nullptr);
+    const bool explains = m_Options.tokenReport && *m_Options.tokenReport != enTokenReport::Places;
+    m_Grammar.Parser()->set_Expected(explains ? ExplainFirst(m_Grammar) : nullptr);
 }
 
 int CParsePipeline::RunGrammar(SParseFindings& findings)

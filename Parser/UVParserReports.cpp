@@ -64,7 +64,7 @@ void AppendField(std::string& list, const std::string& text)
 } // namespace
 
 Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens,
-                                      bool withExpected)
+                                      enTokenReport report)
 {
     const std::vector<STextPlace> places = FindPlaces(query, tokens);
     std::string list;
@@ -76,9 +76,13 @@ Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<
             list += '\t';
         }
         AppendField(list, token.text);
-        if (withExpected) {
+        if (report != enTokenReport::Places) {
             list += '\t';
             list += std::to_string(token.state);
+            if (report == enTokenReport::Terminals) {
+                list += '\t';
+                AppendField(list, token.terminal);
+            }
             for (const std::string& expected : token.expected) {
                 list += '\t';
                 AppendField(list, expected);

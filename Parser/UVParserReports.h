@@ -11,13 +11,21 @@
 #include <string_view>
 #include <vector>
 
+// What is told of an unexpected token.
+enum class enTokenReport
+{
+    Places,
+    Expected,
+    Terminals
+};
+
 // The unexpected tokens of a parse of `query`, one line each in order of arrival:
 //     line, column, offset, length, token
 // separated by tabs. Line and column count from 1, columns in code points; offset and length are bytes of the
-// query. All four tell where the token starts. `withExpected` adds the parser's state and then, each in a field of its
-// own, what was expected.
+// query. All four tell where the token starts. With `Expected` the parser's state follows and then, each in a field of its
+// own, what was expected; with `Terminals` the token's name in the grammar comes between.
 Uve::U8CString FormatUnexpectedTokens(std::string_view query, const std::vector<SUnexpectedToken>& tokens,
-                                      bool withExpected);
+                                      enTokenReport report);
 
 // The text that was not read, one line for each stretch of it:
 //     what, line, column, offset, length, reported, condition

@@ -18,20 +18,25 @@ TEST(UnexpectedTokens, PlacesAreCountedInLinesAndCharacters)
 {
     // The second euro sign is character 3 of its line and byte 9 of the text.
     const std::string query = "a\n\xE2\x82\xAC b\xE2\x82\xAC\n\nz";
-    EXPECT_EQ(FormatUnexpectedTokens(query, {Token(0, "a"), Token(7, "\xE2\x82\xAC"), Token(12, "z")}, false),
+    EXPECT_EQ(FormatUnexpectedTokens(query, {Token(0, "a"), Token(7, "\xE2\x82\xAC"), Token(12, "z")},
+                                     enTokenReport::Places),
               "1\t1\t0\t1\ta\n2\t4\t7\t3\t\xE2\x82\xAC\n4\t1\t12\t1\tz\n");
     // The order is that of arrival.
-    EXPECT_EQ(FormatUnexpectedTokens("ab", {Token(1, "b"), Token(0, "a"), Token(99, "")}, false),
-              "1\t2\t1\t1\tb\n1\t1\t0\t1\ta\n1\t3\t99\t0\t\n");
+    EXPECT_EQ(
+        FormatUnexpectedTokens("ab", {Token(1, "b"), Token(0, "a"), Token(99, "")}, enTokenReport::Places),
+        "1\t2\t1\t1\tb\n1\t1\t0\t1\ta\n1\t3\t99\t0\t\n");
     // A token stays on its line of the list.
-    EXPECT_EQ(FormatUnexpectedTokens("'a\tb\r\nc'", {Token(0, "'a\tb\r\nc'")}, false),
+    EXPECT_EQ(FormatUnexpectedTokens("'a\tb\r\nc'", {Token(0, "'a\tb\r\nc'")}, enTokenReport::Places),
               "1\t1\t0\t8\t'a b  c'\n");
-    EXPECT_EQ(FormatUnexpectedTokens("text", {}, false), "");
+    EXPECT_EQ(FormatUnexpectedTokens("text", {}, enTokenReport::Places), "");
     // The state and what was expected, where they are wanted.
     SUnexpectedToken token = Token(0, "a");
     token.state = 7;
     token.expected = {"';'", "a\tb"};
-    EXPECT_EQ(FormatUnexpectedTokens("a", {token}, true), "1\t1\t0\t1\ta\t7\t';'\ta b\n");
+    EXPECT_EQ(FormatUnexpectedTokens("a", {token}, enTokenReport::Expected), "1\t1\t0\t1\ta\t7\t';'\ta b\n");
+    token.terminal = "T__A";
+    EXPECT_EQ(FormatUnexpectedTokens("a", {token}, enTokenReport::Terminals),
+              "1\t1\t0\t1\ta\t7\tT__A\t';'\ta b\n");
 }
 
 TEST(PreparationNotes, EachIsALineOfFourFields)
@@ -64,10 +69,12 @@ TEST_F(UnexpectedTokensOption, StandsOnlyWhereItIsAskedFor)
         EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), list) << text;
     }
 
-    SetOption("REPORT_UNEXPECTED_TOKENS", "2");
-    Parse("print ;");
-    EXPECT_THAT(std::string(Option<Uve::U8CString>("UNEXPECTED_TOKENS")),
-                testing::MatchesRegex("1\t7\t6\t1\t;\t[0-9]+\tid\tstring\tnumber\t'\\('.*\n"));
+    for (const auto& [value, list] : {std::pair("2", "1\t7\t6\t1\t;\t[0-9]+\tid\tstring\tnumber\t'\\('.*\n"),
+                                      {"3", "1\t7\t6\t1\t;\t[0-9]+\tTSEMI\tid\tstring\tnumber\t'\\('.*\n"}}) {
+        SetOption("REPORT_UNEXPECTED_TOKENS", value);
+        Parse("print ;");
+        EXPECT_THAT(std::string(Option<Uve::U8CString>("UNEXPECTED_TOKENS")), testing::MatchesRegex(list));
+    }
 }
 
 TEST_F(UnexpectedTokensOption, AListThatCantBeHandedOverFailsTheParse)
