@@ -48,10 +48,14 @@ TEST(UvparseTokens, MessagesPointAtTheToken)
 TEST(UvparseTokens, MessagesTellWhatWasExpected)
 {
     std::vector<SFinding> findings;
-    ReadUnexpectedTokens(
-        "1\t1\t0\t1\ta\t7\t';'\tend of text\n1\t3\t2\t1\tb\t8\tname\n1\t5\t4\t1\tc\t9\t1\t2\t3\t4\t5\n"
-        "1\t6\t5\t0\t\t9\n",
-        findings);
+    ReadUnexpectedTokens("1\t1\t0\t1\ta\t7\tT__A\t';'\tend of "
+                         "text\n1\t3\t2\t1\tb\t8\tT__B\tname\n1\t5\t4\t1\tc\t9\tT__C\t1\t2\t3\t4\t5\n"
+                         "1\t6\t5\t0\t\t9\t\n",
+                         findings);
+    ASSERT_EQ(findings.size(), 4u);
+    EXPECT_EQ(findings[1].state, 8);
+    EXPECT_EQ(findings[1].name, "T__B");
+    EXPECT_EQ(findings[3].name, ""); // nothing is called the end of the text
     EXPECT_EQ(Messages("a b c", {}, findings),
               "f.sql:1:1: error: unexpected token 'a'; expected ';' or end of text\n    a b c\n    ^\n"
               "f.sql:1:3: error: unexpected token 'b'; expected name\n    a b c\n      ^\n"

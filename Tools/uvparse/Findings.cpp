@@ -1,6 +1,7 @@
 #include "Tools/uvparse/Findings.h"
 
 #include <algorithm>
+#include <charconv>
 #include <ostream>
 #include <sstream>
 #include <utility>
@@ -68,12 +69,14 @@ void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findin
         SFinding finding;
         if (!(fields >> lineNumber >> column >> finding.offset >> finding.length))
             continue;
-        constexpr int kBeforeExpected = 3; // the end of the field before, the token and the state
-        std::string field;
-        for (int i = 0; std::getline(fields, field, '\t'); ++i) {
-            if (i >= kBeforeExpected)
-                finding.expected.push_back(field);
-        }
+        std::string field; // the end of the field before, and then the token
+        for (int i = 0; i < 2; ++i)
+            std::getline(fields, field, '\t');
+        if (std::getline(fields, field, '\t'))
+            std::from_chars(field.data(), field.data() + field.size(), finding.state);
+        std::getline(fields, finding.name, '\t');
+        while (std::getline(fields, field, '\t'))
+            finding.expected.push_back(field);
         findings.push_back(std::move(finding));
     }
 }
@@ -91,6 +94,7 @@ void ReadLostText(const std::string& list, std::vector<SFinding>& findings)
               finding.isReported))
             continue;
         finding.kind = what == "skipped" ? enFinding::SkippedText : enFinding::UnfinishedText;
+        fields >> finding.name;
         findings.push_back(finding);
     }
 }

@@ -24,12 +24,14 @@ struct SFinding
     enFinding kind = enFinding::UnexpectedToken;
     std::size_t offset = 0; // bytes into the prepared text
     std::size_t length = 0;
-    bool isReported = false;                // skipped text that an unexpected token stands for
+    bool isReported = false; // skipped text that an unexpected token stands for
+    int state = 0;           // of the parser, at an unexpected token
+    std::string name = {};   // of the token in the grammar, or of the scanner's state that never ended
     std::vector<std::string> expected = {}; // instead of an unexpected token, the likeliest first
 };
 
 // Both read a list of the library, a line each with fields separated by tabs, and add to `findings`:
-//     line, column, offset, length, token, state, { expected }
+//     line, column, offset, length, token, state, name, { expected }
 //     what, line, column, offset, length, reported, condition
 // Lines of another form are passed over.
 void ReadUnexpectedTokens(const std::string& list, std::vector<SFinding>& findings);

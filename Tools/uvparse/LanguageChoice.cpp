@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
-#include <set>
 #include <system_error>
 
 namespace uvparse {
@@ -70,6 +69,19 @@ DB_VERSION_INFO VersionOfParser(const std::string& parserName)
     DB_VERSION_INFO version;
     version.db = static_cast<std::uint64_t>(UVDBGetNumberByParserName(parserName));
     return version;
+}
+
+std::set<std::string> ExtensionsOf(const std::string& parserName)
+{
+    std::set<std::string> extensions;
+    for (const SFileExtension& row : FileExtensions())
+        if (row.parserName == parserName)
+            extensions.insert(row.extension);
+    ForEachInCatalogue([&](const DB_INFO_ROW& row, const std::string& name) {
+        if (name == parserName && !row.defaultExtension.empty())
+            extensions.insert(Uve::U8CString(row.defaultExtension).MakeLower());
+    });
+    return extensions;
 }
 
 std::vector<std::string> ListGrammars(const std::string& grammarFolder)

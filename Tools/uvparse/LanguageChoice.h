@@ -3,6 +3,7 @@
 
 #include "Interfaces/DB_VERSION_INFO.h"
 
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -69,6 +70,9 @@ std::vector<std::string> ListGrammars(const std::string& grammarFolder);
 
 // The database kind whose texts the parser reads.
 DB_VERSION_INFO VersionOfParser(const std::string& parserName);
+
+// The extensions that files of the parser's language have, lower case and without a dot; none if it is in no table.
+std::set<std::string> ExtensionsOf(const std::string& parserName);
 
 // As ReadDatabaseText reads it.
 // Throws: CLanguageError.

@@ -102,7 +102,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
     SetTextOption(m_DatabaseInfo, "SOURCE_FORMS", "FAITHFUL");
     for (const auto& [key, value] : settings.options)
         SetTextOption(m_DatabaseInfo, key, value);
-    SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "2");
+    SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "3");
     SetTextOption(m_DatabaseInfo, "REPORT_LOST_TEXT", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARATION_NOTES", "1");

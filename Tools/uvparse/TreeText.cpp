@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr char kFormFeed = '\x0C';
 constexpr char kDataLinkEscape = '\x10';
-constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLACER";
 
 // Hands out the text content of a tree piece by piece, unescaped.
 class CTreeTextReader
@@ -174,21 +173,18 @@ private:
     std::string_view m_Word; // what is left of the word that stands for the character at m_Offset
 };
 
-constexpr std::string_view kDelimiter = "pl_sql_statement_delimiter";
-constexpr std::string_view kLostStatement = "error_statement";
+} // namespace
 
-bool IsToken(std::string_view name)
+bool IsTokenElement(std::string_view name)
 {
     return name.starts_with("T__") && name != "T__SPACE";
 }
 
-bool IsStatement(std::string_view name)
+bool IsStatementElement(std::string_view name)
 {
     return name == "delimited_pl_sql_statement" || name == "full_pl_sql_statement" ||
            name == "pl_sql_statement";
 }
-
-} // namespace
 
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text)
 {
@@ -214,14 +210,14 @@ std::size_t CountStatements(std::string_view tree)
     CMarkupScanner scanner(tree);
     for (SMarkup markup; scanner.Next(markup);) {
         const bool isStart = markup.kind == enMarkup::Start;
-        if (IsStatement(markup.name) && (isStart || markup.kind == enMarkup::End)) {
+        if (IsStatementElement(markup.name) && (isStart || markup.kind == enMarkup::End)) {
             depth = isStart ? depth + 1 : depth - std::min<std::size_t>(depth, 1);
             isDecided = isDecided && depth > 0;
-        } else if (markup.name == kDelimiter && (isStart || markup.kind == enMarkup::End)) {
+        } else if (markup.name == kDelimiterElement && (isStart || markup.kind == enMarkup::End)) {
             delimiters = isStart ? delimiters + 1 : delimiters - std::min<std::size_t>(delimiters, 1);
         } else if (isStart && depth > 0 && delimiters == 0 && !isDecided) {
-            isDecided = IsToken(markup.name) || markup.name == kLostStatement;
-            count += IsToken(markup.name) ? 1u : 0u;
+            isDecided = IsTokenElement(markup.name) || markup.name == kLostElement;
+            count += IsTokenElement(markup.name) ? 1u : 0u;
         }
     }
     return count;

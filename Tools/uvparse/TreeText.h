@@ -19,6 +19,17 @@ struct STreeDifference
 // Returns: where they part; nothing if they are equal.
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text);
 
+// What the elements of a flattened tree are. A space is no token.
+bool IsTokenElement(std::string_view name);
+bool IsStatementElement(std::string_view name);
+
+// The element of a statement's end, and of a statement that couldn't be read.
+inline constexpr std::string_view kDelimiterElement = "pl_sql_statement_delimiter";
+inline constexpr std::string_view kLostElement = "error_statement";
+
+// What a data link escape is in a tree.
+inline constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAPE_REPLACER";
+
 // The number of statements that were read: of elements "delimited_pl_sql_statement", "full_pl_sql_statement"
 // and "pl_sql_statement" that stand in no other of these and hold a token beside the delimiter. One that is
 // all there is of an "error_statement" doesn't count.
