@@ -3,13 +3,19 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvgrammar/GrammarBuild.h"
+#include "UVEnvironment/FileHelper.h"
 
 #include <boost/program_options.hpp>
 
+#include <cerrno>
+#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <iostream>
 #include <sstream>
+#include <string>
+#include <string_view>
+#include <unistd.h>
 
 namespace {
 
@@ -21,6 +27,10 @@ constexpr const char* kUsage =
     "Runs flex and bison over the two sources of a grammar and writes the tables of the language to DIR, "
     "which is\n"
     "replaced as a whole, and only if the grammar passes all checks.\n"
+    "\n"
+    "       uvgrammar score LANGUAGE FILE|FOLDER...\n"
+    "\n"
+    "Parses files with the tables of a language and tells what can't be read; see uvgrammar score --help.\n"
     "\n";
 
 constexpr const char* kExitCodes = "\n"
@@ -43,8 +53,22 @@ std::string LastName(const std::string& path)
     return normal.filename().string();
 }
 
+// Gives the rest of the command line to the program beside this one that has the subcommand's name in its own.
+// Returns: only if it can't be run.
+int RunSubcommand(char** argv, CToolMessages& messages)
+{
+    std::string program =
+        Uve::Path::Combine(Uve::GetPathOfExe(), (std::string("uvgrammar-") + argv[1]).c_str());
+    argv[1] = program.data();
+    execv(program.c_str(), argv + 1);
+    messages.Error(program + ": " + std::strerror(errno));
+    return kToolCouldNotRun;
+}
+
 int Run(int argc, char** argv, CToolMessages& messages)
 {
+    if (argc > 1 && std::string_view(argv[1]) == "score")
+        return RunSubcommand(argv, messages);
     SGrammarBuild build;
     bool isQuiet = false;
     po::options_description options("options");
