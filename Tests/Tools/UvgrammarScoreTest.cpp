@@ -1,0 +1,254 @@
+// uvgrammar score over a small language of statements.
+#include "Tests/Support/ProgramFixture.h"
+#include "Tools/uvgrammar-score/SavedScore.h"
+#include "Tools/uvgrammar-score/Statements.h"
+#include "Tools/uvgrammar-score/Workers.h"
+
+#include <algorithm>
+#include <csignal>
+#include <stdexcept>
+#include <string_view>
+
+namespace fs = std::filesystem;
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+TEST(ScoreWorkers, ACrashCostsOneJobAndAnExceptionNoWorker)
+{
+    std::vector<std::string> results(9);
+    uvscore::RunJobs(
+        results.size(), 2,
+        [](std::size_t job) -> std::string {
+            if (job == 3 || job == 4)
+                raise(SIGKILL);
+            if (job == 5)
+                throw std::runtime_error("no way");
+            return std::string(job * 100000, static_cast<char>('a' + job));
+        },
+        [&](std::size_t job, const uvscore::SJobResult& result) {
+            results[job] = (result.isDone ? "" : "! ") + result.text;
+        });
+    for (std::size_t job : {0u, 1u, 2u, 6u, 7u, 8u})
+        EXPECT_TRUE(results[job] == std::string(job * 100000, static_cast<char>('a' + job))) << job;
+    EXPECT_EQ(results[3], "! crashed by signal 9");
+    EXPECT_EQ(results[4], "! crashed by signal 9");
+    EXPECT_EQ(results[5], "! no way");
+
+    const auto ignore = [](std::size_t, const uvscore::SJobResult&) {};
+    EXPECT_THROW(
+        uvscore::RunJobs(
+            5, 2, [](std::size_t) -> std::string { throw uvscore::CCannotWork("no tables"); }, ignore),
+        uvscore::CCannotWork);
+}
+
+// What a tree writes otherwise than its text has to keep its place.
+TEST(ScoreStatements, StandWhereTheirTokensStandInTheText)
+{
+    const std::string text = "\f a\r\n<\xC3\xA9; b\x01;";
+    const std::string tree =
+        "<?xml version=\"1.0\" ?>\n<SQL><T__SPACE type=\"TOKEN\"> </T__SPACE>"
+        "<full_pl_sql_statement><pl_sql_statement><T__A type=\"TOKEN\">a</T__A><T__SPACE "
+        "type=\"TOKEN\">\n</T__SPACE>"
+        "<T__B type=\"TOKEN\">&lt;\xC3\xA9</T__B></pl_sql_statement><T__E type=\"TOKEN\">;</T__E>"
+        "</full_pl_sql_statement><T__SPACE type=\"TOKEN\"> "
+        "</T__SPACE><full_pl_sql_statement><pl_sql_statement>"
+        "<T__A type=\"TOKEN\">b^</T__A></pl_sql_statement><T__E "
+        "type=\"TOKEN\">;</T__E></full_pl_sql_statement></SQL>\n";
+    const std::vector<uvscore::SStatement> statements = uvscore::FindStatements(tree, text, {});
+    ASSERT_EQ(statements.size(), 2u);
+    EXPECT_EQ(text.substr(statements[0].begin, statements[0].end - statements[0].begin), "a\r\n<\xC3\xA9;");
+    EXPECT_EQ(text.substr(statements[1].begin, statements[1].end - statements[1].begin), "b\x01;");
+    // A tree of another text tells nothing of this one's statements.
+    EXPECT_EQ(uvscore::FindStatements(tree, text + "x", {}).size(), 1u);
+    EXPECT_TRUE(uvscore::FindTokens(tree, text + "x").empty());
+}
+
+struct SComparisonCase
+{
+    const char* before; // statements: clean or failing, ten bytes each, by the letter of their text
+    const char* now;
+    bool isChanged; // the file was
+    std::size_t better;
+    std::size_t worse;
+};
+
+// Capitals fail. A letter's number of repetitions is the statement's size.
+uvscore::SScoredFile FileOf(std::string_view statements, std::uint64_t hash)
+{
+    uvscore::SScoredFile file{.path = "f"};
+    file.hash = hash;
+    for (std::size_t at = 0; at < statements.size();) {
+        const std::size_t end = std::min(statements.find_first_not_of(statements[at], at), statements.size());
+        const char letter = statements[at];
+        const bool isClean = letter >= 'a';
+        file.statements.push_back({.begin = at,
+                                   .size = end - at,
+                                   .line = at + 1,
+                                   .hash = static_cast<std::uint64_t>(letter) & 0x1F,
+                                   .isRead = isClean});
+        at = end;
+    }
+    return file;
+}
+
+TEST(ScoreComparison, StatementsGetBetterAndWorseWhereTheyStandOrByTheirText)
+{
+    constexpr SComparisonCase kCases[] = {
+        // before    now     changed  better worse
+        {"aaBBcc", "aaBBcc", false, 0, 0},
+        {"aaBBcc", "aabbCC", false, 1, 1},
+        {"aabbcc", "AAAAAA", false, 0, 3}, // one failure took three statements
+        {"AAAAAA", "aabbcc", false, 3, 0},
+        {"aaaa", "bbcc", false, 0, 0}, // cut otherwise, and read all the same
+        {"aaBBcc", "ddaabbCC", true, 1, 1},
+        {"aAbc", "abcAA", true, 0, 0},
+        {"ab", "dE", true, 0, 0}, // nobody knows what became of them
+    };
+    for (const SComparisonCase& row : kCases) {
+        SCOPED_TRACE(testing::Message() << row.before << " -> " << row.now);
+        const uvscore::SComparison comparison =
+            uvscore::CompareScores({FileOf(row.before, 1)}, {FileOf(row.now, row.isChanged ? 2 : 1)});
+        EXPECT_EQ(comparison.better, row.better);
+        EXPECT_EQ(comparison.worse.size(), row.worse);
+    }
+}
+
+constexpr const char* kLexer = R"(%option noyywrap reject yylineno noecs nometa-ecs lex-compat
+%s SS_GENERAL
+%%
+[ \t\r\n]+      { }
+"/*"[^*]*"*/"   { ColoringFunc(6); }
+"let"           { TOKEN_ACTIONE(__LET, 1); }
+"print"         { TOKEN_ACTIONE(__PRINT, 1); }
+[a-z]+          { TOKEN_ACTIONE(__NAME, 2); }
+[0-9]+          { TOKEN_ACTIONE(__NUMBER, 5); }
+"="             { TOKEN_ACTIONE(__EQUALS, 7); }
+"+"             { TOKEN_ACTIONE(__PLUS, 7); }
+";"             { TOKEN_ACTIONE(__SEMICOLON, 8); }
+.               { TOKEN_ACTION(__OTHER); }
+%%
+)";
+
+constexpr const char* kParser = R"(%define api.value.type {int}
+%token T__LET T__PRINT T__NAME T__NUMBER T__EQUALS T__PLUS T__SEMICOLON T__OTHER
+%left T__PLUS
+%start SQL
+%%
+SQL: statements { NODE; } ;
+statements: %empty { NODE(pl_sql_statements); }
+    | statements delimited { NODE(pl_sql_statements); } ;
+delimited: pl_sql_statement delimiter { NODE(delimited_pl_sql_statement); }
+    | delimiter { NODE(delimited_pl_sql_statement); }
+    | error delimiter { NODE(delimited_pl_sql_statement); } ;
+delimiter: T__SEMICOLON { NODE(pl_sql_statement_delimiter); } ;
+pl_sql_statement: statement { NODE; } ;
+statement: T__LET T__NAME T__EQUALS value { NODE(let); }
+    | T__PRINT value { NODE(print); } ;
+value: T__NAME { NODE; }
+    | T__NUMBER { NODE; }
+    | value T__PLUS value { NODE; } ;
+)";
+
+class UvgrammarScore : public CProgramFixture
+{
+protected:
+    // The tables go to the folder beside the program.
+    UvgrammarScore() : CProgramFixture("uvgrammar")
+    {
+        fs::create_directories(m_Folder / "bin");
+        for (const char* file : {"uvgrammar", "uvgrammar-score", "libUVParser.so"})
+            fs::create_hard_link(fs::path(UV_BIN_DIR) / file, m_Folder / "bin" / file);
+        Put("Notes/NotesLexer.l", kLexer);
+        Put("Notes/NotesParser.y", kParser);
+        Put("texts/a.txt", "let a = 1;\nlet b = ;\nprint b;\n;\nlet\n  = 2;\n");
+        Put("texts/below/b.txt", "print 1 + 2; let c /* here */ = ; print 3 +; print 1;");
+    }
+
+    SRunResult Score(const std::string& arguments) const
+    {
+        return RunProgram((m_Folder / "bin/uvgrammar").string(), "score " + arguments);
+    }
+};
+
+TEST_F(UvgrammarScore, CountsStatementsAndGroupsWhatFails)
+{
+    const SRunResult run = Score("Notes texts");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_THAT(run.out, StartsWith("language Notes\n  files: 2\n  statements: 8\n  clean: 4 (50.00 %)\n"
+                                    "  unexpected tokens: 4\n  lost stretches: 4\n  bytes: 96\n"));
+    // Both lets lack a value in the same state; the shorter one is shown.
+    EXPECT_THAT(run.out, HasSubstr("\n2 x unexpected T__SEMICOLON in state "));
+    EXPECT_THAT(
+        run.out,
+        HasSubstr("    reading Notes/NotesParser.y:14: statement: T__LET T__NAME T__EQUALS . value\n"));
+    EXPECT_THAT(run.out, HasSubstr("    expected name, number\n    texts/a.txt:2: let b = ;\n"));
+    EXPECT_THAT(run.out, HasSubstr("    texts/a.txt:5: let = 2;\n"));
+    EXPECT_THAT(Score("Notes texts --groups 1").out, HasSubstr("and 2 more groups\n"));
+}
+
+TEST_F(UvgrammarScore, MakesTheTablesThatAreOlderThanTheirSources)
+{
+    ASSERT_EQ(Score("Notes texts/a.txt").code, 0);
+    const auto made = fs::last_write_time(m_Folder / "bin/Grammar/Notes/manifest.txt");
+    ASSERT_EQ(Score("Notes texts/a.txt").code, 0);
+    EXPECT_EQ(fs::last_write_time(m_Folder / "bin/Grammar/Notes/manifest.txt"), made);
+
+    std::string better = kParser;
+    better.replace(better.find("T__LET T__NAME T__EQUALS value {"), 0,
+                   "T__LET T__NAME T__EQUALS { NODE(let); } | ");
+    Put("Notes/NotesParser.y", better);
+    EXPECT_THAT(Score("Notes texts/a.txt").out, HasSubstr("  clean: 3 (75.00 %)\n"));
+    Put("Notes/NotesParser.y", "%%\n");
+    EXPECT_EQ(Score("Notes texts/a.txt").code, 1);
+}
+
+TEST_F(UvgrammarScore, TellsWhatGotWorseSinceARunThatWasKept)
+{
+    ASSERT_EQ(Score("Notes texts --save kept").code, 0);
+    SRunResult same = Score("Notes texts --against kept");
+    EXPECT_EQ(same.code, 0);
+    EXPECT_THAT(same.out,
+                HasSubstr("\n  better: 0\n  worse: 0\n  clean: 4 of 8 (50.00 %), now 4 of 8 (50.00 %)\n"));
+
+    std::string worse = kParser;
+    worse.replace(worse.find("    | value T__PLUS value { NODE; }"), 35, "");
+    worse.replace(worse.find("T__LET T__NAME T__EQUALS value {"), 0,
+                  "T__LET T__EQUALS T__NUMBER { NODE(let); } | ");
+    Put("Notes/NotesParser.y", worse);
+    const SRunResult run = Score("Notes texts --against kept");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.out, HasSubstr("\n  better: 1\n  worse: 1\n    texts/below/b.txt:1: print 1 + 2;\n"));
+
+    Put("kept", "something else\n");
+    EXPECT_EQ(Score("Notes texts --against kept").code, 2);
+}
+
+TEST_F(UvgrammarScore, PassesOverWhatIsNoText)
+{
+    Put("texts/c.txt", "let \xFF;");
+    const SRunResult run = Score("Notes texts");
+    EXPECT_EQ(run.code, 0);
+    EXPECT_THAT(run.err, HasSubstr("texts/c.txt: warning: not valid UTF-8"));
+    EXPECT_THAT(run.out, HasSubstr("  files: 2\n"));
+    EXPECT_THAT(run.out, HasSubstr("  files that can't be read: 1\n"));
+}
+
+TEST_F(UvgrammarScore, RefusesWhatItCannotRun)
+{
+    for (const char* arguments : {"", "Notes", "Notes nowhere", "nowhere texts", "texts texts",
+                                  "Notes texts --group 3", "Notes texts --save ''"}) {
+        SCOPED_TRACE(arguments);
+        const SRunResult run = Score(arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, StartsWith("uvgrammar score: error: "));
+    }
+    EXPECT_THAT(Score("--help").out, HasSubstr("--against"));
+}
+
+} // namespace

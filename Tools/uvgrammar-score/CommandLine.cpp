@@ -1,0 +1,92 @@
+#include "Tools/uvgrammar-score/CommandLine.h"
+
+#include <boost/program_options.hpp>
+
+#include <sstream>
+
+namespace po = boost::program_options;
+
+namespace uvscore {
+
+namespace {
+
+po::options_description VisibleOptions(SCommandLine& line, std::vector<std::string>& options)
+{
+    po::options_description visible("options", 100);
+    // clang-format off
+    visible.add_options()
+        ("groups", po::value(&line.groups)->value_name("N"), "show this many kinds of failure; else 20")
+        ("save", po::value(&line.saveFile)->value_name("FILE"), "keep there which statements were clean")
+        ("against", po::value(&line.againstFile)->value_name("FILE"), "tell which statements got better and worse since the run that was kept there")
+        ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
+        ("jobs,j", po::value(&line.jobs)->value_name("N"), "parse in this many processes; else one for each processor")
+        ("quiet,q", po::bool_switch(&line.isQuiet), "no progress, warnings and notes")
+        ("help,h", po::bool_switch(&line.isHelp), "print this");
+    // clang-format on
+    return visible;
+}
+
+// clang-format off
+constexpr char kUsage[] =
+    "usage: uvgrammar score [options] LANGUAGE FILE|FOLDER...\n"
+    "Makes the tables of a language if they are older than its sources, parses files with them, and tells what\n"
+    "can't be read. LANGUAGE is the folder of the sources, with one *Lexer.l and one *Parser.y in it.\n\n";
+constexpr char kAfterOptions[] =
+    "\nOf folders all files are taken that have an extension of the language, and all if no extension of it is\n"
+    "known. The tables stand in the folder Grammar beside the program.\n"
+    "Exit code: 0 done; 1 the grammar is refused, a file has crashed the parser, or with --against a statement\n"
+    "got worse; 2 something could not run.\n";
+// clang-format on
+
+} // namespace
+
+SCommandLine ReadCommandLine(int argc, const char* const* argv)
+{
+    SCommandLine line;
+    std::vector<std::string> options;
+    try {
+        po::options_description all = VisibleOptions(line, options);
+        all.add_options()("language", po::value(&line.language))("input", po::value(&line.inputs));
+        po::positional_options_description positions;
+        positions.add("language", 1).add("input", -1);
+        using po::command_line_style::allow_guessing;
+        using po::command_line_style::unix_style;
+        po::variables_map values;
+        po::store(po::command_line_parser(argc, argv)
+                      .options(all)
+                      .positional(positions)
+                      .style(unix_style & ~allow_guessing)
+                      .run(),
+                  values);
+        po::notify(values);
+        for (const char* option : {"save", "against"})
+            if (values.count(option) > 0 && values[option].as<std::string>().empty())
+                throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
+    } catch (const po::error& e) {
+        throw CUsageError(e.what());
+    }
+    if (line.isHelp)
+        return line;
+    for (const std::string& text : options) {
+        const std::size_t equals = text.find('=');
+        if (equals == std::string::npos || equals == 0)
+            throw CUsageError("--option takes KEY=VALUE, not '" + text + "'");
+        line.options.emplace_back(text.substr(0, equals), text.substr(equals + 1));
+    }
+    if (line.language.empty())
+        throw CUsageError("no language given");
+    if (line.inputs.empty())
+        throw CUsageError("no file given");
+    return line;
+}
+
+std::string HelpText()
+{
+    SCommandLine line;
+    std::vector<std::string> options;
+    std::ostringstream text;
+    text << kUsage << VisibleOptions(line, options) << kAfterOptions;
+    return text.str();
+}
+
+} // namespace uvscore

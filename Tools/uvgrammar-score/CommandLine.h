@@ -1,0 +1,38 @@
+// What the author asked for on the command line of uvgrammar score.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace uvscore {
+
+struct SCommandLine
+{
+    std::string language; // the folder of its sources
+    std::vector<std::string> inputs;
+    std::vector<std::pair<std::string, std::string>> options; // of the database info
+    std::size_t groups = 20;                                  // shown
+    std::size_t jobs = 0;                                     // processes; 0: one a processor
+    std::string saveFile;
+    std::string againstFile;
+    bool isQuiet = false;
+    bool isHelp = false;
+};
+
+// The command line makes no sense; the text says why.
+class CUsageError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws: CUsageError.
+SCommandLine ReadCommandLine(int argc, const char* const* argv);
+
+std::string HelpText();
+
+} // namespace uvscore

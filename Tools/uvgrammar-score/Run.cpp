@@ -1,0 +1,130 @@
+#include "Tools/uvgrammar-score/Run.h"
+
+#include "Tools/Support/ToolFiles.h"
+#include "Tools/uvgrammar-score/Inputs.h"
+#include "Tools/uvgrammar-score/Language.h"
+#include "Tools/uvgrammar-score/SavedScore.h"
+#include "Tools/uvgrammar-score/ScoreReport.h"
+#include "Tools/uvgrammar-score/ScoredFile.h"
+#include "Tools/uvgrammar-score/Workers.h"
+#include "Tools/uvparse/TableCache.h"
+
+#include <algorithm>
+#include <set>
+
+namespace uvscore {
+
+namespace {
+
+constexpr std::size_t kMostWorse = 20;
+
+class CRun
+{
+public:
+    CRun(const SCommandLine& line, CToolMessages& messages)
+        : m_Line(line), m_Messages(messages),
+          m_Sources(FindLanguageSources(line.language)), m_Language{m_Sources.name,
+                                                                    uvparse::VersionOfParser(m_Sources.name)},
+          m_Parser(m_Language, line.options)
+    {}
+
+    int Run()
+    {
+        // What is to be compared with may be missing: better told before the work.
+        std::vector<SScoredFile> before;
+        if (!m_Line.againstFile.empty())
+            before = ReadSavedScore(m_Line.againstFile, m_Sources.name);
+        const SInputs inputs = CollectInputs(m_Line.inputs, uvparse::ExtensionsOf(m_Sources.name));
+        if (!MakeTables(m_Sources, m_Messages)) {
+            m_Messages.Error("grammar " + m_Sources.name + " refused");
+            return kToolFindings;
+        }
+        uvparse::ChooseTableCache(true);
+        const std::vector<SScoredFile> files = Score(inputs.files);
+        Report(files, inputs.passedOver);
+        if (!m_Line.saveFile.empty())
+            WriteWholeFile(m_Line.saveFile, SavedText(m_Sources.name, files));
+        if (!m_Line.againstFile.empty()) {
+            const SComparison comparison = CompareScores(before, files);
+            WriteStandardOutput(ComparisonText(comparison, kMostWorse));
+            if (!comparison.worse.empty())
+                Worsen(kToolFindings);
+        }
+        return m_ExitCode;
+    }
+
+private:
+    std::vector<SScoredFile> Score(const std::vector<std::string>& paths)
+    {
+        std::vector<SScoredFile> files(paths.size());
+        CToolProgress progress(paths.size(), !m_Line.isQuiet);
+        RunJobs(
+            paths.size(), m_Line.jobs > 0 ? m_Line.jobs : ProcessorCount(),
+            [&](std::size_t job) { return WriteScoredFile(ScoreFile(m_Parser, paths[job])); },
+            [&](std::size_t job, const SJobResult& result) {
+                progress.Step(paths[job]);
+                files[job] = result.isDone ? ReadScoredFile(paths[job], result.text)
+                                           : CrashedFile(paths[job], result.text);
+            });
+        progress.Clear();
+        for (const SScoredFile& file : files) {
+            const bool isCrash = file.state == enFileState::Crashed;
+            if (file.state != enFileState::Parsed)
+                m_Messages.Write(isCrash ? enSeverity::Error : enSeverity::Warning,
+                                 SSourcePlace{file.path, 0, 0, {}}, file.problem);
+            if (isCrash)
+                Worsen(kToolFindings);
+        }
+        m_Unreadable =
+            std::erase_if(files, [](const SScoredFile& file) { return file.state == enFileState::NoText; });
+        if (files.empty())
+            throw CToolFailure("there is nothing to parse");
+        return files;
+    }
+
+    void Report(const std::vector<SScoredFile>& files, std::size_t passedOver)
+    {
+        STotals totals;
+        for (const SScoredFile& file : files)
+            totals.Add(file);
+        std::string text = "language " + m_Sources.name + '\n' + totals.Text();
+        if (passedOver > 0)
+            text += "  files passed over for their extension: " + std::to_string(passedOver) + '\n';
+        if (m_Unreadable > 0)
+            text += "  files that can't be read: " + std::to_string(m_Unreadable) + '\n';
+        const std::vector<SFailureGroup> groups = GroupFailures(files);
+        std::set<int> states;
+        for (std::size_t i = 0; i < std::min(groups.size(), m_Line.groups); ++i)
+            if (groups[i].failure.state >= 0)
+                states.insert(groups[i].failure.state);
+        // What there is to say of the grammar was said when its tables were made.
+        CToolMessages silent("", m_Nowhere);
+        text += GroupsText(groups, m_Line.groups, ReadParserStates(m_Sources, states, silent));
+        WriteStandardOutput(text);
+    }
+
+    void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
+
+    const SCommandLine& m_Line;
+    CToolMessages& m_Messages;
+    SLanguageSources m_Sources;
+    uvparse::SLanguage m_Language;
+    CTextParser m_Parser;
+    std::ostream m_Nowhere{nullptr};
+    std::size_t m_Unreadable = 0; // files
+    int m_ExitCode = kToolClean;
+};
+
+} // namespace
+
+int Run(const SCommandLine& line, CToolMessages& messages)
+{
+    if (line.isHelp) {
+        WriteStandardOutput(HelpText());
+        return kToolClean;
+    }
+    messages.SetQuiet(line.isQuiet);
+    return CRun(line, messages).Run();
+}
+
+} // namespace uvscore
