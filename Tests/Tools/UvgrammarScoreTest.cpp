@@ -1,6 +1,7 @@
 // uvgrammar score over a small language of statements.
 #include "Tests/Support/ProgramFixture.h"
 #include "Tools/uvgrammar-score/SavedScore.h"
+#include "Tools/uvgrammar-score/Shrink.h"
 #include "Tools/uvgrammar-score/Statements.h"
 #include "Tools/uvgrammar-score/Workers.h"
 
@@ -66,6 +67,24 @@ TEST(ScoreStatements, StandWhereTheirTokensStandInTheText)
     // A tree of another text tells nothing of this one's statements.
     EXPECT_EQ(uvscore::FindStatements(tree, text + "x", {}).size(), 1u);
     EXPECT_TRUE(uvscore::FindTokens(tree, text + "x").empty());
+}
+
+TEST(ScoreShrink, LeavesWhatTheFailureNeeds)
+{
+    std::size_t asked = 0;
+    const auto fails = [&](const std::string& text) {
+        ++asked;
+        return text.find("bad") != std::string::npos && text.find("'q u'") < text.find("end");
+    };
+    std::string text = "first, 'q u'\n  ";
+    for (int i = 0; i < 200; ++i)
+        text += "word" + std::to_string(i) + ' ';
+    text += "bad\t\tend;";
+    EXPECT_EQ(uvscore::ShrinkText(text, fails, 1000), "'q u' bad ");
+    EXPECT_LT(asked, 200u); // halves go first
+    asked = 0;
+    EXPECT_LT(uvscore::ShrinkText(text, fails, 5).size(), text.size());
+    EXPECT_EQ(asked, 5u);
 }
 
 struct SComparisonCase
@@ -228,6 +247,54 @@ TEST_F(UvgrammarScore, TellsWhatGotWorseSinceARunThatWasKept)
     EXPECT_EQ(Score("Notes texts --against kept").code, 2);
 }
 
+TEST_F(UvgrammarScore, ShrinksTheFirstFailure)
+{
+    Put("c.txt", "print 1;\nlet a = 1 + 2 + b\n  + 4 + + 5 + 6;\nlet = 1;\n");
+    const SRunResult run = Score("Notes --shrink c.txt");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_THAT(run.out,
+                testing::MatchesRegex("c.txt:2: unexpected T__PLUS in state [0-9]+\nlet a = 1 . . ?\n"));
+    Put("good.txt", "print 1;");
+    EXPECT_EQ(Score("Notes --shrink good.txt").code, 2);
+}
+
+TEST_F(UvgrammarScore, FindsWhereACommentIsNoBlank)
+{
+    Put("texts/a.txt", "let a = 1 + 2;\nlet b = 3;\nprint;");
+    const SRunResult good = Score("Notes texts/a.txt --comments");
+    EXPECT_THAT(good.out, HasSubstr("\ncomments\n  statements: 2\n  gaps between tokens: 10\n"
+                                    "  gaps where a comment changes the tree: 0\n"));
+    // A rule that looks on for a number takes no comment for a blank.
+    std::string lexer = kLexer;
+    lexer.replace(lexer.find("\"=\" "), 0, "\"=\"/[ ]*[0-9]      { TOKEN_ACTIONE(__EQUALS, 7); }\n");
+    lexer.replace(lexer.find("\"=\"  "), 3, "\"#\"");
+    Put("Notes/NotesLexer.l", lexer);
+    EXPECT_THAT(Score("Notes texts/a.txt --comments").out,
+                HasSubstr("tree: 2\n    2 x between T__EQUALS and T__NUMBER\n"
+                          "      texts/a.txt:2: let b = /* c */3;\n"));
+}
+
+TEST_F(UvgrammarScore, CountsTheStatementsThatAFaultLeavesAlone)
+{
+    std::string text;
+    for (int i = 0; i < 50; ++i)
+        text += "let a = 1 + 2;\n";
+    Put("texts/a.txt", text);
+    const std::string arguments = "Notes texts/a.txt --groups 0 --recovery --samples 40";
+    const std::string out = Score(arguments).out;
+    EXPECT_THAT(out, HasSubstr("token deleted: "));
+    EXPECT_THAT(out, HasSubstr("other statements kept 100 %, median lost 0, message after 0 tokens"));
+    EXPECT_THAT(out, HasSubstr("quote dropped: 0 faults, other statements kept -"));
+    const auto recovery = [](const std::string& printed) { return printed.substr(printed.find("recovery")); };
+    EXPECT_EQ(recovery(Score(arguments).out), recovery(out)); // the same faults
+
+    // Where nothing ends an error, it costs the rest of the text.
+    std::string grammar = kParser;
+    grammar.replace(grammar.find("error delimiter"), 15, "T__OTHER error delimiter");
+    Put("Notes/NotesParser.y", grammar);
+    EXPECT_THAT(recovery(Score(arguments).out), Not(HasSubstr("kept 100 %")));
+}
+
 TEST_F(UvgrammarScore, PassesOverWhatIsNoText)
 {
     Put("texts/c.txt", "let \xFF;");
@@ -240,8 +307,9 @@ TEST_F(UvgrammarScore, PassesOverWhatIsNoText)
 
 TEST_F(UvgrammarScore, RefusesWhatItCannotRun)
 {
-    for (const char* arguments : {"", "Notes", "Notes nowhere", "nowhere texts", "texts texts",
-                                  "Notes texts --group 3", "Notes texts --save ''"}) {
+    for (const char* arguments :
+         {"", "Notes", "Notes nowhere", "nowhere texts", "texts texts", "Notes texts --group 3",
+          "Notes texts --save ''", "Notes texts --shrink texts/a.txt"}) {
         SCOPED_TRACE(arguments);
         const SRunResult run = Score(arguments);
         EXPECT_EQ(run.code, 2);

@@ -18,6 +18,12 @@ po::options_description VisibleOptions(SCommandLine& line, std::vector<std::stri
         ("groups", po::value(&line.groups)->value_name("N"), "show this many kinds of failure; else 20")
         ("save", po::value(&line.saveFile)->value_name("FILE"), "keep there which statements were clean")
         ("against", po::value(&line.againstFile)->value_name("FILE"), "tell which statements got better and worse since the run that was kept there")
+        ("shrink", po::value(&line.shrinkFile)->value_name("FILE"), "print the first failing statement of the file, as short as it can be and fail in the same way; goes without other files")
+        ("comments", po::bool_switch(&line.isComments), "put a comment between the tokens of clean statements and tell where that changes the tree")
+        ("comment", po::value(&line.comment)->default_value("/* c */", "/* c */")->value_name("TEXT"), "the comment")
+        ("recovery", po::bool_switch(&line.isRecovery), "put a fault into clean statements, one at a time, and count the other statements that are read as before")
+        ("samples", po::value(&line.samples)->value_name("N"), "clean statements to try --comments and --recovery on; else 1000")
+        ("seed", po::value(&line.seed)->value_name("N"), "chooses other samples")
         ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
         ("jobs,j", po::value(&line.jobs)->value_name("N"), "parse in this many processes; else one for each processor")
         ("quiet,q", po::bool_switch(&line.isQuiet), "no progress, warnings and notes")
@@ -75,8 +81,8 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
     }
     if (line.language.empty())
         throw CUsageError("no language given");
-    if (line.inputs.empty())
-        throw CUsageError("no file given");
+    if (line.inputs.empty() == line.shrinkFile.empty())
+        throw CUsageError(line.inputs.empty() ? "no file given" : "--shrink goes without other files");
     return line;
 }
 

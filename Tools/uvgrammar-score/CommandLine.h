@@ -19,6 +19,12 @@ struct SCommandLine
     std::size_t jobs = 0;                                     // processes; 0: one a processor
     std::string saveFile;
     std::string againstFile;
+    std::string shrinkFile; // nothing else is done with it; empty: the inputs are scored
+    std::string comment;    // put between tokens
+    std::size_t samples = 1000;
+    std::uint64_t seed = 1;
+    bool isComments = false;
+    bool isRecovery = false;
     bool isQuiet = false;
     bool isHelp = false;
 };

@@ -1,15 +1,21 @@
 #include "Tools/uvgrammar-score/Run.h"
 
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvgrammar-score/CleanStatements.h"
+#include "Tools/uvgrammar-score/Comments.h"
 #include "Tools/uvgrammar-score/Inputs.h"
 #include "Tools/uvgrammar-score/Language.h"
+#include "Tools/uvgrammar-score/Recovery.h"
 #include "Tools/uvgrammar-score/SavedScore.h"
 #include "Tools/uvgrammar-score/ScoreReport.h"
 #include "Tools/uvgrammar-score/ScoredFile.h"
+#include "Tools/uvgrammar-score/Shrink.h"
 #include "Tools/uvgrammar-score/Workers.h"
 #include "Tools/uvparse/TableCache.h"
 
 #include <algorithm>
+#include <functional>
+#include <ostream>
 #include <set>
 
 namespace uvscore {
@@ -34,12 +40,11 @@ public:
         std::vector<SScoredFile> before;
         if (!m_Line.againstFile.empty())
             before = ReadSavedScore(m_Line.againstFile, m_Sources.name);
+        if (!m_Line.shrinkFile.empty())
+            return Shrink();
         const SInputs inputs = CollectInputs(m_Line.inputs, uvparse::ExtensionsOf(m_Sources.name));
-        if (!MakeTables(m_Sources, m_Messages)) {
-            m_Messages.Error("grammar " + m_Sources.name + " refused");
+        if (!Prepare())
             return kToolFindings;
-        }
-        uvparse::ChooseTableCache(true);
         const std::vector<SScoredFile> files = Score(inputs.files);
         Report(files, inputs.passedOver);
         if (!m_Line.saveFile.empty())
@@ -50,16 +55,104 @@ public:
             if (!comparison.worse.empty())
                 Worsen(kToolFindings);
         }
+        if (m_Line.isComments)
+            TryCommentsInAll(files);
+        if (m_Line.isRecovery)
+            TryFaultsInAll(files);
         return m_ExitCode;
     }
 
 private:
+    // Returns: false if there are no tables.
+    bool Prepare()
+    {
+        uvparse::ChooseTableCache(true);
+        if (MakeTables(m_Sources, m_Messages))
+            return true;
+        m_Messages.Error("grammar " + m_Sources.name + " refused");
+        return false;
+    }
+
+    int Shrink()
+    {
+        if (!Prepare())
+            return kToolFindings;
+        RunJobs(
+            1, 1, [&](std::size_t) { return ShrinkFirstFailure(m_Parser, m_Line.shrinkFile); },
+            [](std::size_t, const SJobResult& result) {
+                if (!result.isDone)
+                    throw CToolFailure(result.text);
+                WriteStandardOutput(result.text);
+            });
+        return kToolClean;
+    }
+
+    // Runs an experiment with the files that give samples for it, in workers. `take` gets the number of the file and its
+    // result; a file that crashes is told, and gives none.
+    void Experiment(const std::vector<SScoredFile>& files,
+                    const std::function<std::string(const std::string& path, std::size_t samples)>& work,
+                    const std::function<void(std::size_t file, const std::string& result)>& take)
+    {
+        const std::vector<std::size_t> samples = ShareSamples(files, m_Line.samples);
+        std::vector<std::size_t> chosen;
+        for (std::size_t i = 0; i < files.size(); ++i)
+            if (samples[i] > 0)
+                chosen.push_back(i);
+        CToolProgress progress(chosen.size(), !m_Line.isQuiet);
+        RunJobs(
+            chosen.size(), Processes(),
+            [&](std::size_t job) { return work(files[chosen[job]].path, samples[chosen[job]]); },
+            [&](std::size_t job, const SJobResult& result) {
+                const SScoredFile& file = files[chosen[job]];
+                progress.Step(file.path);
+                if (result.isDone) {
+                    take(chosen[job], result.text);
+                    return;
+                }
+                progress.Clear();
+                m_Messages.Write(enSeverity::Error, SSourcePlace{file.path, 0, 0, {}}, result.text);
+                Worsen(kToolFindings);
+            });
+    }
+
+    void TryCommentsInAll(const std::vector<SScoredFile>& files)
+    {
+        std::vector<std::string> paths;
+        for (const SScoredFile& file : files)
+            paths.push_back(file.path);
+        std::vector<SCommentReport> reports(files.size());
+        Experiment(
+            files,
+            [&](const std::string& path, std::size_t samples) {
+                return WriteCommentReport(TryComments(m_Parser, path, m_Line.comment, samples, m_Line.seed));
+            },
+            [&](std::size_t file, const std::string& result) { reports[file] = ReadCommentReport(result); });
+        WriteStandardOutput(CommentsText(paths, reports, m_Line.groups));
+    }
+
+    void TryFaultsInAll(const std::vector<SScoredFile>& files)
+    {
+        std::vector<SFaultResult> results;
+        Experiment(
+            files,
+            [&](const std::string& path, std::size_t samples) {
+                return WriteFaultResults(TryFaults(m_Parser, path, samples, m_Line.seed));
+            },
+            [&](std::size_t, const std::string& result) {
+                const std::vector<SFaultResult> ofFile = ReadFaultResults(result);
+                results.insert(results.end(), ofFile.begin(), ofFile.end());
+            });
+        WriteStandardOutput(RecoveryText(results));
+    }
+
+    std::size_t Processes() const { return m_Line.jobs > 0 ? m_Line.jobs : ProcessorCount(); }
+
     std::vector<SScoredFile> Score(const std::vector<std::string>& paths)
     {
         std::vector<SScoredFile> files(paths.size());
         CToolProgress progress(paths.size(), !m_Line.isQuiet);
         RunJobs(
-            paths.size(), m_Line.jobs > 0 ? m_Line.jobs : ProcessorCount(),
+            paths.size(), Processes(),
             [&](std::size_t job) { return WriteScoredFile(ScoreFile(m_Parser, paths[job])); },
             [&](std::size_t job, const SJobResult& result) {
                 progress.Step(paths[job]);

@@ -19,6 +19,8 @@ std::string Number(std::size_t value)
     return std::to_string(value);
 }
 
+} // namespace
+
 std::string TitleOf(const SFailure& failure)
 {
     if (failure.state < 0)
@@ -26,8 +28,6 @@ std::string TitleOf(const SFailure& failure)
     return "unexpected " + (failure.token.empty() ? std::string("end of text") : failure.token) +
            " in state " + std::to_string(failure.state);
 }
-
-} // namespace
 
 void STotals::Add(const SScoredFile& file)
 {

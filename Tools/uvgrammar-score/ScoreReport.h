@@ -29,6 +29,9 @@ struct STotals
 // The share of `part` in `whole` in percent, never rounded to 100.
 std::string ShareText(std::size_t part, std::size_t whole);
 
+// A failure in a few words.
+std::string TitleOf(const SFailure& failure);
+
 // Statements that fail in the same way.
 struct SFailureGroup
 {
