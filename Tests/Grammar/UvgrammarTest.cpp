@@ -215,6 +215,17 @@ TEST_F(Uvgrammar, WarnsOfWhatIsOnlySuspicious)
     }
 }
 
+TEST_F(Uvgrammar, ReportShowsAnExampleOfEachConflict)
+{
+    const std::string parser = Replaced(kParser, "name: TID", "name: name name { NODE(PAIR); } | TID");
+    EXPECT_THAT(Build(kLexer, parser).messages,
+                HasSubstr("P.y: note: --report shows an example of each conflict\n"));
+    const SRun run = Build(kLexer, parser, "--report");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.messages, HasSubstr("P.y: note: shift/reduce conflict on token"));
+    EXPECT_THAT(run.messages, HasSubstr("\n    Example: name name . T"));
+}
+
 TEST_F(Uvgrammar, ConflictsThatTheGrammarExpectsAreAllowed)
 {
     const std::string ambiguous =

@@ -105,16 +105,46 @@ void WriteGeneratorMessage(std::string_view line, std::string_view copy, const C
     messages.Write(severity, source.Place(lineNumber, column), std::string(text));
 }
 
-void RunGenerator(const std::string& program, const std::vector<std::string>& arguments,
-                  const std::string& folder, const std::string& copy, const CGrammarSource& source,
-                  CToolMessages& messages)
+// The lines of bison's example of a conflict follow the message about it.
+bool BeginsExample(std::string_view message)
 {
-    const SProgramResult result = RunProgram(program, arguments, folder, folder + "/" + program + ".log");
+    return message.find(" conflict on token") != std::string_view::npos &&
+           message.ends_with("[-Wcounterexamples]");
+}
+
+SProgramResult Generate(const std::string& program, const std::vector<std::string>& arguments,
+                        const std::string& folder)
+{
+    SProgramResult result = RunProgram(program, arguments, folder, folder + "/" + program + ".log");
     if (!result.wasStarted)
         throw CToolFailure(program + ": can't be run; is it installed?");
+    return result;
+}
+
+void WriteGeneratorMessages(const std::string& program, const SProgramResult& result, const std::string& copy,
+                            const CGrammarSource& source, CToolMessages& messages)
+{
     const std::size_t errorsBefore = messages.ErrorCount();
-    ForEachLine(result.output,
-                [&](std::string_view line) { WriteGeneratorMessage(line, copy, source, messages); });
+    std::string example; // with its message
+    const auto endExample = [&] {
+        if (!example.empty())
+            messages.Write(enSeverity::Note, source.Place(0), example);
+        example.clear();
+    };
+    ForEachLine(result.output, [&](std::string_view line) {
+        if (!example.empty() && line.starts_with(' ')) {
+            example.append("\n  ").append(line);
+            return;
+        }
+        endExample();
+        if (BeginsExample(line))
+            example = line.substr(line.find("warning: ") + 9, line.rfind(" [") - line.find("warning: ") - 9);
+        else if (line.find("rerun with option '-Wcounterexamples'") != std::string_view::npos)
+            messages.Write(enSeverity::Note, source.Place(0), "--report shows an example of each conflict");
+        else if (!line.empty())
+            WriteGeneratorMessage(line, copy, source, messages);
+    });
+    endExample();
     if (result.exitCode != 0 && messages.ErrorCount() == errorsBefore)
         messages.Write(enSeverity::Error, source.Place(0),
                        program + " ended with code " + std::to_string(result.exitCode));
@@ -128,8 +158,9 @@ void RunFlex(const CGrammarSource& source, const std::string& folder, SGenerated
     const std::string copy = "GrammarLexer.l";
     WriteWholeFile(folder + "/" + copy, WithoutFileOptions(source.Text()));
     const std::size_t errorsBefore = messages.ErrorCount();
-    RunGenerator("flex", {"-o", "GrammarLexer.c", "--header-file=GrammarLexer.h", copy}, folder, copy, source,
-                 messages);
+    const SProgramResult result =
+        Generate("flex", {"-o", "GrammarLexer.c", "--header-file=GrammarLexer.h", copy}, folder);
+    WriteGeneratorMessages("flex", result, copy, source, messages);
     if (messages.ErrorCount() != errorsBefore)
         return;
     files.lexerPath = folder + "/GrammarLexer.c";
@@ -138,7 +169,7 @@ void RunFlex(const CGrammarSource& source, const std::string& folder, SGenerated
 }
 
 void RunBison(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
-              CToolMessages& messages)
+              CToolMessages& messages, bool explains)
 {
     const std::string copy = "GrammarParser.y";
     WriteWholeFile(folder + "/" + copy, source.Text());
@@ -149,7 +180,12 @@ void RunBison(const CGrammarSource& source, const std::string& folder, SGenerate
     if (FindDefaultReduction(source.Text()).line == 0)
         arguments.push_back("-Dlr.default-reduction=consistent");
     arguments.push_back(copy);
-    RunGenerator("bison", arguments, folder, copy, source, messages);
+    SProgramResult result = Generate("bison", arguments, folder);
+    if (explains && result.output.find("[-Wconflicts-") != std::string::npos) {
+        arguments.insert(arguments.begin(), "-Wcounterexamples");
+        result = Generate("bison", arguments, folder);
+    }
+    WriteGeneratorMessages("bison", result, copy, source, messages);
     if (messages.ErrorCount() != errorsBefore)
         return;
     files.parserText = ReadWholeFile(folder + "/GrammarParser.raw.c");

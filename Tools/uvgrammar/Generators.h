@@ -25,8 +25,9 @@ struct SGeneratedFiles
 // Throws: CToolFailure if a generator isn't there or its files can't be read or written.
 void RunFlex(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
              CToolMessages& messages);
+// `explains`: below a conflict stands a text that shows it, which may take bison seconds to find.
 void RunBison(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
-              CToolMessages& messages);
+              CToolMessages& messages, bool explains = false);
 
 // The %define of lr.default-reduction in a bison source; line 0 if there is none, and bison is told to take
 // "consistent".

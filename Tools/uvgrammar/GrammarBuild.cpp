@@ -172,7 +172,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
 
     SGeneratedFiles files;
     RunFlex(lexer, scratch.Path(), files, messages);
-    RunBison(parser, scratch.Path(), files, messages);
+    RunBison(parser, scratch.Path(), files, messages, build.explainsConflicts);
     if (!files.lexerText.empty())
         CheckScannerForm(lexer, files, messages);
     if (!files.parserText.empty())

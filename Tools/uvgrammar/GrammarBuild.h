@@ -14,6 +14,7 @@ struct SGrammarBuild
     std::string name;         // of the language
     std::string depfilePath;  // takes the names of all files that were read, for make or ninja; empty: none
     std::string expandedPath; // takes the two sources as flex and bison read them; empty: they aren't kept
+    bool explainsConflicts = false; // by texts that have two meanings, which may take seconds to find
 };
 
 // Writes the tables, unless the grammar is refused; then the directory stays as it was.

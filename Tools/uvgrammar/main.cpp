@@ -81,9 +81,10 @@ int Run(int argc, char** argv, CToolMessages& messages)
         ("depfile", po::value(&build.depfilePath)->value_name("FILE"),
          "write the names of all files that were read, as a rule for make or ninja") //
         ("expanded", po::value(&build.expandedPath)->value_name("DIR"),
-         "write the two sources as flex and bison read them")                             //
-        ("report", "print counts of rules, states, table sizes, conflicts, unused rules") //
-        ("quiet,q", po::bool_switch(&isQuiet), "write errors only")                       //
+         "write the two sources as flex and bison read them") //
+        ("report", "print counts of rules, states, table sizes, conflicts, unused rules; and an example of "
+                   "each conflict")                                 //
+        ("quiet,q", po::bool_switch(&isQuiet), "write errors only") //
         ("help,h", "print this");
     po::variables_map values;
     try {
@@ -106,6 +107,7 @@ int Run(int argc, char** argv, CToolMessages& messages)
         return kToolCouldNotRun;
     }
     messages.SetQuiet(isQuiet);
+    build.explainsConflicts = values.count("report") != 0;
 
     std::string report;
     const enToolExit result = BuildGrammar(build, messages, report);
