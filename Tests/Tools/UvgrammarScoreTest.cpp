@@ -1,5 +1,6 @@
 // uvgrammar score over a small language of statements.
 #include "Tests/Support/ProgramFixture.h"
+#include "Tools/uvgrammar-score/CleanStatements.h"
 #include "Tools/uvgrammar-score/SavedScore.h"
 #include "Tools/uvgrammar-score/Shrink.h"
 #include "Tools/uvgrammar-score/Statements.h"
@@ -32,12 +33,12 @@ TEST(ScoreWorkers, ACrashCostsOneJobAndAnExceptionNoWorker)
             return std::string(job * 100000, static_cast<char>('a' + job));
         },
         [&](std::size_t job, const uvscore::SJobResult& result) {
-            results[job] = (result.isDone ? "" : "! ") + result.text;
+            results[job] = (result.isDone ? "" : result.isCrash ? "!! " : "! ") + result.text;
         });
     for (std::size_t job : {0u, 1u, 2u, 6u, 7u, 8u})
         EXPECT_TRUE(results[job] == std::string(job * 100000, static_cast<char>('a' + job))) << job;
-    EXPECT_EQ(results[3], "! crashed by signal 9");
-    EXPECT_EQ(results[4], "! crashed by signal 9");
+    EXPECT_EQ(results[3], "!! crashed by signal 9");
+    EXPECT_EQ(results[4], "!! crashed by signal 9");
     EXPECT_EQ(results[5], "! no way");
 
     const auto ignore = [](std::size_t, const uvscore::SJobResult&) {};
@@ -85,6 +86,19 @@ TEST(ScoreShrink, LeavesWhatTheFailureNeeds)
     asked = 0;
     EXPECT_LT(uvscore::ShrinkText(text, fails, 5).size(), text.size());
     EXPECT_EQ(asked, 5u);
+}
+
+TEST(ScoreSamples, AreSharedByTheStatementsThatAreClean)
+{
+    std::vector<uvscore::SScoredFile> files(3);
+    for (std::size_t i = 0; i < 3; ++i) {
+        files[i].statements.assign(10 * (i + 1), {.isRead = true});
+        files[i].statements.push_back({}); // fails
+    }
+    EXPECT_THAT(uvscore::ShareSamples(files, 1000), ElementsAre(10, 20, 30));
+    EXPECT_THAT(uvscore::ShareSamples(files, 6), ElementsAre(1, 2, 3));
+    const std::vector<std::size_t> few = uvscore::ShareSamples(files, 1);
+    EXPECT_EQ(few[0] + few[1] + few[2], 1u);
 }
 
 struct SComparisonCase

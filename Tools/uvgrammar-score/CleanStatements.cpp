@@ -1,11 +1,23 @@
 #include "Tools/uvgrammar-score/CleanStatements.h"
 
+#include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/MarkupScanner.h"
 #include "Tools/uvparse/TreeText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace uvscore {
+
+SParsedText ParseForExperiments(CTextParser& parser, const std::string& path)
+{
+    SParsedText parsed = parser.ParseFile(path);
+    if (!parsed.result.pass.empty())
+        parsed = parser.ParseText(std::move(parsed.prepared), path);
+    if (!parsed.result.pass.empty() && parsed.prepared != parsed.source)
+        throw CToolFailure("no experiments: prepared again, the text is another one");
+    return parsed;
+}
 
 std::vector<SCleanStatement> FindCleanStatements(const SParsedText& text)
 {

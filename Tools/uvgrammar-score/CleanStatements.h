@@ -21,6 +21,10 @@ struct SCleanStatement
     std::vector<STokenPlace> tokens;
 };
 
+// A file in the form that experiments change: the parser gets every byte of `prepared` as it stands there.
+// Throws: CToolFailure if the file can't be read, or its preparation changes what it has prepared before.
+SParsedText ParseForExperiments(CTextParser& parser, const std::string& path);
+
 // In their order, and those alone that have a tree.
 // Borrows: the tree, for the names of the tokens.
 std::vector<SCleanStatement> FindCleanStatements(const SParsedText& text);

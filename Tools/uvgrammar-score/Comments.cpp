@@ -14,10 +14,9 @@ namespace uvscore {
 namespace {
 
 // The forms of the statements of a text; those that aren't clean have none.
-std::vector<std::string> FormsOf(CTextParser& parser, const std::string& text, const std::string& path)
+std::vector<std::string> FormsOf(const SParsedText& parsed)
 {
     std::vector<std::string> forms;
-    const SParsedText parsed = parser.ParseText(text, path);
     for (const SStatement& statement :
          FindStatements(parsed.result.output, parsed.prepared, parsed.result.findings))
         forms.push_back(statement.IsClean() ? FormOf(statement.tree) : std::string());
@@ -45,20 +44,30 @@ SCommentReport TryComments(CTextParser& parser, const std::string& path, const s
                            std::size_t samples, std::uint64_t seed)
 {
     SCommentReport report;
-    const SParsedText parsed = parser.ParseFile(path);
+    const SParsedText parsed = ParseForExperiments(parser, path);
+    const std::string_view prepared = parsed.prepared;
+    const std::vector<std::string> formsOfAll = FormsOf(parsed);
     std::vector<SCleanStatement> statements = FindCleanStatements(parsed);
     CChance chance(seed, path);
     for (; samples > 0 && !statements.empty(); --samples) {
         std::swap(statements[chance.Below(statements.size())], statements.back());
         const SCleanStatement statement = std::move(statements.back());
         statements.pop_back();
-        const auto isAsItWas = [&](const std::vector<std::size_t>& gaps, const std::string& inserted) {
-            return FormsOf(parser, WithInsertions(statement, parsed.prepared, gaps, inserted), path) ==
-                   std::vector{statement.form};
+        // A statement by itself is soon parsed, but it may need the text around it.
+        const auto isAloneAsItWas = [&](const std::vector<std::size_t>& gaps, const std::string& inserted) {
+            const std::string text = WithInsertions(statement, prepared, gaps, inserted);
+            return FormsOf(parser.ParseText(text, path)) == std::vector{statement.form};
         };
-        // A statement that needs those before it can't be told from one that fails.
-        if (!isAsItWas({}, ""))
-            continue;
+        const auto isInTextAsItWas = [&](const std::vector<std::size_t>& gaps, const std::string& inserted) {
+            const std::string text = std::string(prepared.substr(0, statement.begin)) +
+                                     WithInsertions(statement, prepared, gaps, inserted) +
+                                     std::string(prepared.substr(statement.end));
+            return FormsOf(parser.ParseText(text, path)) == formsOfAll;
+        };
+        const bool isAlone = isAloneAsItWas({}, "");
+        const auto isAsItWas = [&](const std::vector<std::size_t>& gaps, const std::string& inserted) {
+            return isAlone ? isAloneAsItWas(gaps, inserted) : isInTextAsItWas(gaps, inserted);
+        };
         ++report.statements;
         std::vector<std::size_t> gaps;
         for (std::size_t token = 0; token + 1 < statement.tokens.size(); ++token) {

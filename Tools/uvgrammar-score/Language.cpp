@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
+#include <ostream>
 #include <system_error>
 
 namespace uvscore {
@@ -48,16 +49,20 @@ fs::file_time_type TimeOf(const fs::path& path)
     return failed ? fs::file_time_type::min() : time;
 }
 
-bool AreUpToDate(const SLanguageSources& sources, const fs::path& manifest, CToolMessages& messages)
+bool AreUpToDate(const SLanguageSources& sources, const fs::path& manifest)
 {
     const fs::file_time_type made = TimeOf(manifest);
     if (made == fs::file_time_type::min())
         return false;
+    // What is wrong with the sources is told when their tables are made.
+    std::ostream nowhere(nullptr);
+    CToolMessages messages("", nowhere);
     std::vector<std::string> paths = AssembleScanner(sources.lexerPath, messages).Paths();
     const std::vector<std::string> ofParser = AssembleParser(sources.parserPath, messages).Paths();
     paths.insert(paths.end(), ofParser.begin(), ofParser.end());
     paths.push_back(BesideProgram("uvgrammar"));
-    return std::ranges::all_of(paths, [&](const std::string& path) { return TimeOf(path) <= made; });
+    return messages.ErrorCount() == 0 &&
+           std::ranges::all_of(paths, [&](const std::string& path) { return TimeOf(path) <= made; });
 }
 
 // The number that `text` begins with, and a blank after it, are taken off; -1 without them.
@@ -126,7 +131,7 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages)
 {
     const std::string output = BesideProgram("Grammar") + '/' + sources.name;
     const fs::path manifest = fs::path(output) / kManifestName;
-    if (AreUpToDate(sources, manifest, messages))
+    if (AreUpToDate(sources, manifest))
         return true;
     SGrammarBuild build;
     build.lexerPath = sources.lexerPath;

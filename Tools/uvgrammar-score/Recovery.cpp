@@ -72,7 +72,7 @@ class CFaults
 {
 public:
     CFaults(CTextParser& parser, const std::string& path, std::uint64_t seed)
-        : m_Parser(parser), m_Path(path), m_Parsed(parser.ParseFile(path)),
+        : m_Parser(parser), m_Path(path), m_Parsed(ParseForExperiments(parser, path)),
           m_Statements(FindCleanStatements(m_Parsed)), m_Chance(seed, path)
     {
         for (const SCleanStatement& statement : m_Statements)

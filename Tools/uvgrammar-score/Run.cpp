@@ -88,7 +88,7 @@ private:
     }
 
     // Runs an experiment with the files that give samples for it, in workers. `take` gets the number of the file and its
-    // result; a file that crashes is told, and gives none.
+    // result; of a file that has none it is told why.
     void Experiment(const std::vector<SScoredFile>& files,
                     const std::function<std::string(const std::string& path, std::size_t samples)>& work,
                     const std::function<void(std::size_t file, const std::string& result)>& take)
@@ -110,8 +110,10 @@ private:
                     return;
                 }
                 progress.Clear();
-                m_Messages.Write(enSeverity::Error, SSourcePlace{file.path, 0, 0, {}}, result.text);
-                Worsen(kToolFindings);
+                m_Messages.Write(result.isCrash ? enSeverity::Error : enSeverity::Warning,
+                                 SSourcePlace{file.path, 0, 0, {}}, result.text);
+                if (result.isCrash)
+                    Worsen(kToolFindings);
             });
     }
 

@@ -192,6 +192,7 @@ private:
             }
         }
         const int status = End(worker);
+        result.isCrash = true;
         result.text = WIFSIGNALED(status) ? "crashed by signal " + std::to_string(WTERMSIG(status))
                                           : "ended with code " + std::to_string(WEXITSTATUS(status));
         return result;

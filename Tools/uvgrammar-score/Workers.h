@@ -18,7 +18,8 @@ public:
 struct SJobResult
 {
     bool isDone = false;
-    std::string text; // the result; otherwise what kept it from coming
+    bool isCrash = false; // the process ended in the work
+    std::string text;     // the result; otherwise what kept it from coming
 };
 
 // Runs `work` on the numbers from 0 to `jobs` in up to `processes` forks of this process. A fork keeps what `work`
