@@ -146,6 +146,7 @@ std::string CommentsText(const std::vector<std::string>& paths, const std::vecto
         }
     }
     std::vector<SGroup> groups;
+    groups.reserve(byTokens.size());
     for (auto& [tokens, group] : byTokens)
         groups.push_back(std::move(group));
     std::ranges::stable_sort(groups, std::greater(), &SGroup::count);

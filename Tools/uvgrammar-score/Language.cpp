@@ -38,7 +38,7 @@ std::string OnlyFile(const std::string& folder, std::string_view ending)
 
 std::string BesideProgram(const std::string& name)
 {
-    return Uve::Path::Combine(Uve::GetPathOfExe(), name.c_str());
+    return Uve::Path::Combine(Uve::GetPathOfExe(), name.c_str()).c_str();
 }
 
 // Before any other file if there is none.

@@ -120,6 +120,7 @@ private:
     void TryCommentsInAll(const std::vector<SScoredFile>& files)
     {
         std::vector<std::string> paths;
+        paths.reserve(files.size());
         for (const SScoredFile& file : files)
             paths.push_back(file.path);
         std::vector<SCommentReport> reports(files.size());

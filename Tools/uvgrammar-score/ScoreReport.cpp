@@ -89,6 +89,7 @@ std::vector<SFailureGroup> GroupFailures(const std::vector<SScoredFile>& files)
         }
     }
     std::vector<SFailureGroup> sorted;
+    sorted.reserve(groups.size());
     for (auto& [key, group] : groups)
         sorted.push_back(std::move(group));
     std::ranges::stable_sort(sorted, std::greater(), &SFailureGroup::count);

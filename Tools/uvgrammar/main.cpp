@@ -58,7 +58,7 @@ std::string LastName(const std::string& path)
 int RunSubcommand(char** argv, CToolMessages& messages)
 {
     std::string program =
-        Uve::Path::Combine(Uve::GetPathOfExe(), (std::string("uvgrammar-") + argv[1]).c_str());
+        Uve::Path::Combine(Uve::GetPathOfExe(), (std::string("uvgrammar-") + argv[1]).c_str()).c_str();
     argv[1] = program.data();
     execv(program.c_str(), argv + 1);
     messages.Error(program + ": " + std::strerror(errno));
