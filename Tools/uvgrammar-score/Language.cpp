@@ -1,6 +1,7 @@
 #include "Tools/uvgrammar-score/Language.h"
 
 #include "Grammar/UVGrammarManifest.h"
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar/ActionText.h"
 #include "Tools/uvgrammar/Generators.h"

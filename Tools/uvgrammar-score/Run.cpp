@@ -1,5 +1,6 @@
 #include "Tools/uvgrammar-score/Run.h"
 
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar-score/CleanStatements.h"
 #include "Tools/uvgrammar-score/Comments.h"

@@ -1,5 +1,6 @@
 // uvgrammar-score: what "uvgrammar score" runs. A program of its own, since it needs the library that parses, and
 // uvgrammar must not: a change of the library would make the tables of every language anew.
+#include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvgrammar-score/CommandLine.h"
 #include "Tools/uvgrammar-score/Run.h"
