@@ -61,6 +61,7 @@ CSQLGrammarLexer::~CSQLGrammarLexer() = default;
 
 void CSQLGrammarLexer::Cleanup()
 {
+    m_Watch.Forget();
     m_lstOperations.clear();
     m_lstRules.clear();
     m_lstQuotedOperands.clear();
@@ -265,6 +266,7 @@ int CSQLGrammarLexer::GetUVDBNumByParserName(const std::string& name)
 void CSQLGrammarLexer::CompileActions()
 {
     const bool isNew = m_lstOperations.empty(); // nothing has run since the actions were loaded
+    m_Watch.Forget();
     m_lstOperations.clear();
     m_lstRules.assign(static_cast<std::size_t>(yy_end_of_buffer_action) + 1, SRule());
     m_lstTokens.clear();

@@ -5,6 +5,7 @@
 #include "Grammar/Runtime/yyFlexLexer.h"
 #include "Grammar/UVGrammarActionRecords.h"
 #include "Grammar/UVGrammarLexerImplementation.h"
+#include "Grammar/UVGrammarRuleWatch.h"
 
 #include <algorithm>
 #include <array>
@@ -100,6 +101,13 @@ public:
     // Coloring is collected unless it is switched off here: a scanner that feeds a parser has nobody who
     // reads it.
     void set_ColoringWanted(bool on) { m_bColoringWanted = on; }
+
+    // Whether the rules that texts use from now on are told by UsedRules; none was used so far. Off at first, and
+    // after each yycreate, which has to come before.
+    // Throws: std::bad_alloc; everything is as before then.
+    void WatchRules(bool on) { m_Watch.Set(on); }
+    // By their numbers, ascending; none while they aren't watched.
+    std::vector<int> UsedRules() const { return m_Watch.Used(); }
 
     // Goes on in start condition `state`, by its number.
     // Returns: its coded form.
@@ -202,7 +210,7 @@ private:
         int token = 0;
     };
     using Handler = SResult (CSQLGrammarLexer::*)(SOperation& operation, ParserNode& node);
-    static const std::array<Handler, kGrammarKeywordCount> kHandlers; // by keyword
+    static const std::array<Handler, kGrammarKeywordCount + 1> kHandlers; // by keyword, and kWatchedRule
 
     void Cleanup();
     void CompileActions();
@@ -267,6 +275,7 @@ private:
     SResult RunTokenE(SOperation& operation, ParserNode& node);
     SResult RunYytext(SOperation& operation, ParserNode& node);
     SResult RunUnknown(SOperation& operation, ParserNode& node);
+    SResult RunWatched(SOperation& operation, ParserNode& node);
 
     // An operand that loses its quotes when its operation runs, as it was loaded.
     struct SQuotedOperand
@@ -280,6 +289,7 @@ private:
     std::deque<std::vector<std::string>> m_lstOperands;
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
+    CRuleWatch<SRule, SOperation> m_Watch{m_lstRules, m_lstOperations};
     std::vector<SQuotedOperand> m_lstQuotedOperands;
     std::vector<SToken> m_lstTokens;
     std::map<std::string, std::uint32_t> m_mapTokens;

@@ -44,8 +44,8 @@ bool IsTrueOption(const std::map<Uve::U8CString, Uve::U8CString>& options, const
 } // namespace
 
 // By keyword, in the order of the enumerators.
-const std::array<CSQLGrammarLexer::Handler, kGrammarKeywordCount> CSQLGrammarLexer::kHandlers = [] {
-    std::array<Handler, kGrammarKeywordCount> handlers;
+const std::array<CSQLGrammarLexer::Handler, kGrammarKeywordCount + 1> CSQLGrammarLexer::kHandlers = [] {
+    std::array<Handler, kGrammarKeywordCount + 1> handlers;
     handlers.fill(&CSQLGrammarLexer::RunUnknown);
     const auto set = [&](enGrammarKeyword keyword, Handler handler) {
         handlers[static_cast<std::size_t>(keyword)] = handler;
@@ -75,6 +75,7 @@ const std::array<CSQLGrammarLexer::Handler, kGrammarKeywordCount> CSQLGrammarLex
     set(Strcpy, &L::RunStrcpy);
     set(StrtmpFormat, &L::RunStrtmpFormat);
     set(Yytext, &L::RunYytext);
+    set(kWatchedRule, &L::RunWatched);
     return handlers;
 }();
 
@@ -88,8 +89,10 @@ int CSQLGrammarLexer::yyaction(int act)
     yy_action_returns = 1;
     ParserNode* node = &m_LocalNode;
     yylvalue(&node);
-    SOperation* const first = m_lstOperations.data() + rule.first;
-    for (SOperation* operation = first; operation != first + rule.count; ++operation) {
+    // The end is found first: a rule that is watched gets its own operations back in the loop.
+    SOperation* operation = m_lstOperations.data() + rule.first;
+    SOperation* const end = operation + rule.count;
+    for (; operation != end; ++operation) {
         const Handler handler = kHandlers[static_cast<std::size_t>(operation->keyword)];
         if (const SResult result = (this->*handler)(*operation, *node); result.isToken)
             return result.token;
@@ -380,4 +383,10 @@ CSQLGrammarLexer::SResult CSQLGrammarLexer::RunUnknown(SOperation& operation, Pa
     CLogWrapper::WriteTraceF("\nUnknown action: %s", GetGrammarKeyword(operation.keyword).name);
     yy_action_failed = 1;
     return {};
+}
+
+CSQLGrammarLexer::SResult CSQLGrammarLexer::RunWatched(SOperation& operation, ParserNode&)
+{
+    const int token = yyaction(m_Watch.Release(operation));
+    return {yy_action_returns != 0, token};
 }

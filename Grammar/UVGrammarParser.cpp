@@ -60,6 +60,7 @@ void CSQLGrammarParser::yytables(const char* parserName, bool isPatternVersion)
 void CSQLGrammarParser::CompileActions()
 {
     const std::size_t rules = m_spTables->Rules();
+    m_Watch.Forget();
     m_lstOperations.clear();
     m_lstStartConditions.clear();
     m_lstRules.assign(rules, SRule());
@@ -198,18 +199,29 @@ void CSQLGrammarParser::TraceEmptyAction(int rule)
 
 void CSQLGrammarParser::RunActions(const SRule& actions)
 {
-    const SOperation* const first = m_lstOperations.data() + actions.first;
-    for (const SOperation* operation = first; operation != first + actions.count; ++operation) {
-        switch (operation->keyword) {
-        case enGrammarKeyword::CreateNodeWithError:
-            CreateErrorNodeExt(*operation);
-            break;
-        case enGrammarKeyword::YylexerptrYybegin:
-            yylexerptr->yybegin(m_mapDefines[*operation->startCondition]);
-            break;
-        default:
+    // The end is found first: a rule that is watched gets its own operations back in the loop.
+    const SOperation* operation = m_lstOperations.data() + actions.first;
+    const SOperation* const end = operation + actions.count;
+    for (; operation != end; ++operation) {
+        if (operation->keyword == enGrammarKeyword::CreateNode ||
+            operation->keyword == enGrammarKeyword::Empty)
             CreateNodeExt(*operation);
-        }
+        else
+            RunSeldomAction(*operation);
+    }
+}
+
+void CSQLGrammarParser::RunSeldomAction(const SOperation& operation)
+{
+    switch (operation.keyword) {
+    case enGrammarKeyword::CreateNodeWithError:
+        CreateErrorNodeExt(operation);
+        break;
+    case enGrammarKeyword::YylexerptrYybegin:
+        yylexerptr->yybegin(m_mapDefines[*operation.startCondition]);
+        break;
+    default:
+        yyaction(m_Watch.Release(operation));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "Grammar/Runtime/yyFlexLexer.h"
 #include "Grammar/UVGrammarActionRecords.h"
 #include "Grammar/UVGrammarParserImplementation.h"
+#include "Grammar/UVGrammarRuleWatch.h"
 #include "Tree/FragmentTree.h"
 #include "UVEnvironment/LogSystem.h"
 
@@ -68,6 +69,10 @@ public:
     // tells what was expected. Empty, as at first: nobody asks.
     using TExpected = std::function<std::vector<std::string>(std::span<const short> stack, int terminal)>;
     void set_Expected(TExpected expected) { m_Expected = std::move(expected); }
+
+    // As CSQLGrammarLexer's; off after yytables.
+    void WatchRules(bool on) { m_Watch.Set(on); }
+    std::vector<int> UsedRules() const { return m_Watch.Used(); }
 
     bool HasErrors() const { return !m_Extension.m_mapErrors.empty(); }
     void yyerror(const char* text) override;
@@ -148,6 +153,7 @@ private:
     };
 
     void RunActions(const SRule& actions);
+    void RunSeldomAction(const SOperation& operation);
     static void TraceEmptyAction(int rule);
     void CompileActions();
     ParserNode& StackEntry(int index) { return static_cast<ParserNode*>(yyvsp)[index]; }
@@ -172,6 +178,7 @@ private:
     std::deque<std::string> m_lstStartConditions;
     std::vector<SOperation> m_lstOperations;
     std::vector<SRule> m_lstRules;
+    CRuleWatch<SRule, SOperation> m_Watch{m_lstRules, m_lstOperations};
     CFragmentPool m_Fragments;
     SFragmentTree m_Tree;
     bool m_bFragmentsWanted = false;

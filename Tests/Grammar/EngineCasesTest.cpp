@@ -120,6 +120,7 @@ TEST_P(EngineCases, AgreeWithTheModelWhenMutatedAndOneAfterAnother)
     CEngine engine(m_Grammar);
     CEngine compressed(m_Grammar);
     compressed.UseCompressedTables();
+    CEngine watched(m_Grammar);
     CModelEngine model(m_Grammar);
     for (const SGrammarCase& entry : m_Cases)
         for (int i = 0; i < kMutations; ++i) {
@@ -131,6 +132,10 @@ TEST_P(EngineCases, AgreeWithTheModelWhenMutatedAndOneAfterAnother)
             const SParseOutcome outcome = engine.Parse(input, settings);
             ASSERT_EQ(model.Parse(input, settings), outcome);
             ASSERT_EQ(compressed.Parse(input, settings), outcome);
+            // every third text finds the rules with their own operations again
+            watched.m_Lexer.WatchRules(i % 3 != 2);
+            watched.m_Parser.WatchRules(i % 3 != 2);
+            ASSERT_EQ(watched.Parse(input, settings), outcome);
             if (!outcome.tree.empty() && KeepsText() && FitsIntoXml(input)) {
                 ASSERT_EQ(TextOfTree(outcome.tree), input);
             }
