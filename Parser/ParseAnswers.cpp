@@ -65,5 +65,8 @@ int WriteErrorReports(const DatabaseInfoPointer& info, const SParseOptions& opti
             std::min(result, CUVDBOptionWrapper::SetParam(
                                  info, "UNEXPECTED_TOKENS",
                                  FormatUnexpectedTokens(text, findings.unexpected, *options.tokenReport)));
+    if (options.reportsCoverage)
+        result = std::min(result,
+                          CUVDBOptionWrapper::SetParam(info, "COVERAGE", FormatCoverage(findings.usedRules)));
     return result;
 }

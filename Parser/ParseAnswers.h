@@ -10,6 +10,7 @@
 //     PREPARATION_NOTES  text                          database info  likewise
 //     LOST_TEXT          text                          database info  likewise
 //     UNEXPECTED_TOKENS  text                          database info  likewise
+//     COVERAGE           text                          database info  likewise
 //
 // The two on warnings add up over parses; the others are written anew.
 #pragma once

@@ -135,6 +135,7 @@ SParseOptions ReadParseOptions(const std::shared_ptr<IUVDBDatabaseInfo2>& databa
     options.reportsLostText = info.IsOn("REPORT_LOST_TEXT");
     options.reportsPreparedLines = info.IsOn("REPORT_PREPARED_LINES");
     options.reportsPreparationNotes = info.IsOn("REPORT_PREPARATION_NOTES");
+    options.reportsCoverage = info.IsOn("REPORT_COVERAGE");
     options.filePath = object.Text("FilePath");
     ReadPreparationOptions(info, object, options);
     return options;

@@ -47,6 +47,7 @@ struct SParseOptions
     bool reportsLostText = false;         // REPORT_LOST_TEXT
     bool reportsPreparedLines = false;    // REPORT_PREPARED_LINES
     bool reportsPreparationNotes = false; // REPORT_PREPARATION_NOTES
+    bool reportsCoverage = false;         // REPORT_COVERAGE
 
     // ---- The object being converted. On that object, all empty without it. ----
 

@@ -125,6 +125,7 @@ int CParsePipeline::ParseText(bool showErrors)
     m_Parsed.findings.unexpected.clear();
     m_Parsed.findings.discarded.clear();
     m_Parsed.findings.unfinished.reset();
+    m_Parsed.findings.usedRules = {};
     if (m_Grammar.IsLoaded()) {
         m_Grammar.Found().ClearErrors();
         m_Grammar.Found().m_bShowErrors = showErrors;
@@ -242,6 +243,8 @@ void CParsePipeline::GiveTextToGrammar(bool areFragmentsWanted)
     m_Grammar.Parser()->set_FragmentsWanted(areFragmentsWanted);
     const bool explains = m_Options.tokenReport && *m_Options.tokenReport != enTokenReport::Places;
     m_Grammar.Parser()->set_Expected(explains ? ExplainFirst(m_Grammar) : nullptr);
+    m_Grammar.Scanner().WatchRules(m_Options.reportsCoverage);
+    m_Grammar.Parser()->WatchRules(m_Options.reportsCoverage);
 }
 
 int CParsePipeline::RunGrammar(SParseFindings& findings)
@@ -249,19 +252,21 @@ int CParsePipeline::RunGrammar(SParseFindings& findings)
     CSQLGrammarParserImplementation& found = m_Grammar.Found();
     found.m_lstUnexpected.clear();
     found.m_lstDiscarded.clear();
-    const auto takeErrors = [&] {
+    const auto takeFindings = [&] {
         findings.unexpected = std::move(found.m_lstUnexpected);
         if (m_Options.reportsLostText)
             findings.discarded = found.DiscardedStretches();
+        if (m_Options.reportsCoverage)
+            findings.usedRules = {m_Grammar.Scanner().UsedRules(), m_Grammar.Parser()->UsedRules()};
     };
     int parsed = UVDB_ERROR;
     try {
         parsed = m_Grammar.Parser()->yyparse();
     } catch (...) {
-        takeErrors();
+        takeFindings();
         throw;
     }
-    takeErrors();
+    takeFindings();
     findings.unfinished = m_Grammar.Scanner().Unfinished();
     return parsed;
 }

@@ -3,6 +3,7 @@
 
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
+#include "Grammar/UVGrammarRuleWatch.h"
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Parser/ParseResult.h"
 #include "Preparation/PreparedText.h"
@@ -20,6 +21,7 @@ struct SParseFindings
     std::vector<SUnexpectedToken> unexpected;  // in order of arrival
     std::vector<SDiscardedText> discarded;     // ascending and apart; only if the host asked for LOST_TEXT
     std::optional<SUnfinishedText> unfinished; // what the text left open at its end
+    SUsedRules usedRules;                      // of the grammar; only if the host asked for COVERAGE
 };
 
 struct SParsedText

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <numeric>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -129,6 +130,20 @@ Uve::U8CString FormatPreparationNotes(const std::vector<SPreparationNote>& notes
         AppendField(list, note.file);
         list += '\t';
         AppendField(list, note.text);
+        list += '\n';
+    }
+    return Uve::U8CString(std::move(list));
+}
+
+Uve::U8CString FormatCoverage(const SUsedRules& rules)
+{
+    std::string list;
+    for (const auto& [part, numbers] : {std::pair("scanner", &rules.scanner), {"parser", &rules.parser}}) {
+        list += part;
+        for (const int number : *numbers) {
+            list += '\t';
+            list += std::to_string(number);
+        }
         list += '\n';
     }
     return Uve::U8CString(std::move(list));

@@ -4,6 +4,7 @@
 
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParser.h"
+#include "Grammar/UVGrammarRuleWatch.h"
 #include "Preparation/PreparedText.h"
 #include "UVEnvironment/UVEUnicodeString.h"
 
@@ -41,3 +42,8 @@ Uve::U8CString FormatLostText(std::string_view query, const std::vector<SDiscard
 //     "error" or "warning", line, file, text
 // separated by tabs. Line 0 is none; an empty file is the text itself.
 Uve::U8CString FormatPreparationNotes(const std::vector<SPreparationNote>& notes);
+
+// The rules that a text has used, in two lines:
+//     "scanner" or "parser", { number }
+// separated by tabs. The numbers are those of the tables.
+Uve::U8CString FormatCoverage(const SUsedRules& rules);

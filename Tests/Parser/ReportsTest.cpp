@@ -97,6 +97,57 @@ TEST_F(UnexpectedTokensOption, TellsOfTheParseThatStands)
     EXPECT_EQ(Option<Uve::U8CString>("UNEXPECTED_TOKENS"), "");
 }
 
+class Coverage : public ParserTest
+{
+protected:
+    std::string Used() { return Option<Uve::U8CString>("COVERAGE"); }
+};
+
+struct SCoverageCase
+{
+    const char* text;
+    const char* used;
+};
+
+constexpr SCoverageCase kCoverageCases[] = {
+    {"print 1;", "scanner\t1\t10\t18\t21\nparser\t2\t3\t4\t5\t14\n"},
+    {"print 1 + 2; print 3;", "scanner\t1\t10\t18\t20\t21\nparser\t2\t3\t4\t5\t10\t14\n"},
+    {"/*a*b*/begin end;", "scanner\t1\t3\t4\t5\t6\t13\t14\t21\nparser\t2\t3\t4\t8\n"},
+    {"use x;", "scanner\t1\t11\t15\t21\nparser\t2\t3\t4\t9\n"},
+    {"print 1", "scanner\t1\t10\t18\nparser\t3\t14\n"}, // a text without a tree
+    {" ", "scanner\t1\nparser\t2\t3\n"},
+};
+
+TEST_F(Coverage, NamesTheRulesThatEachTextUses)
+{
+    Start();
+    Parse("print 1;");
+    EXPECT_FALSE(m_Info->IsOptionValid("COVERAGE"));
+    SetOption("REPORT_COVERAGE", "1");
+    for (const SCoverageCase& row : kCoverageCases) {
+        SCOPED_TRACE(row.text);
+        SetOption("COVERAGE", "");
+        Parse(row.text);
+        EXPECT_EQ(Used(), row.used);
+        SetOption("COVERAGE", "");
+        m_Parser.set_Query(row.text);
+        m_Parser.FastParse();
+        EXPECT_EQ(Used(), row.used);
+    }
+    Parse(""); // which nobody parses
+    EXPECT_EQ(Used(), "scanner\nparser\n");
+}
+
+TEST_F(Coverage, IsOfTheParseThatStands)
+{
+    SetOption("REPORT_COVERAGE", "1");
+    SetOption("OPTION_VARYING_PARSING", "YES");
+    Start();
+    // the second attempt reads the quotes otherwise, and needs no rule for errors
+    Parse("print \"x\";");
+    EXPECT_EQ(Used(), "scanner\t1\t10\t16\t21\nparser\t2\t3\t4\t5\t13\n");
+}
+
 class LostText : public ParserTest
 {
 protected:

@@ -587,21 +587,13 @@ std::set<std::string> OptionsThatAreRead()
 TEST(UvparseOptions, AreThoseThatTheLibraryReads)
 {
     // what the parser hands to its host, and what uvparse asks for by itself
-    const std::set<std::string> others = {"REPORT_UNEXPECTED_TOKENS",
-                                          "REPORT_LOST_TEXT",
-                                          "REPORT_PREPARED_LINES",
-                                          "REPORT_PREPARATION_NOTES",
-                                          "PREPARE_ONLY",
-                                          "RESTART_POSITIONS",
-                                          "HAND_OVER_RESULT",
-                                          "RESTART_POSITIONS",
-                                          "UNEXPECTED_TOKENS",
-                                          "LOST_TEXT",
-                                          "PREPARED_BY",
-                                          "PREPARED_LINES",
-                                          "PREPARATION_NOTES",
-                                          "WARNINGS_COUNT",
-                                          "WARNINGS_TYPES"};
+    const std::set<std::string> others = {
+        "REPORT_UNEXPECTED_TOKENS", "REPORT_LOST_TEXT",  "REPORT_PREPARED_LINES",
+        "REPORT_PREPARATION_NOTES", "REPORT_COVERAGE",   "PREPARE_ONLY",
+        "RESTART_POSITIONS",        "HAND_OVER_RESULT",  "RESTART_POSITIONS",
+        "UNEXPECTED_TOKENS",        "LOST_TEXT",         "PREPARED_BY",
+        "PREPARED_LINES",           "PREPARATION_NOTES", "COVERAGE",
+        "WARNINGS_COUNT",           "WARNINGS_TYPES"};
     const auto known = [](const std::string& name) {
         return std::ranges::any_of(DatabaseOptions(),
                                    [&](const SKnownOption& row) { return row.name == name; });
