@@ -30,11 +30,12 @@ void CAssembledText::Copy(const CSourceFile& file, std::size_t begin, std::size_
     }
 }
 
-void CAssembledText::Write(const CSourceFile& file, std::size_t offset, std::string_view lines, int list)
+void CAssembledText::Write(const CSourceFile& file, std::size_t offset, std::string_view lines, int list,
+                           int words)
 {
     while (!lines.empty()) {
         const std::size_t next = std::min(lines.find('\n'), lines.size() - 1) + 1;
-        BeginLine({&file, file.LineAt(offset), list, true});
+        BeginLine({&file, file.LineAt(offset), list, words, true});
         m_Text.append(lines.substr(0, next));
         lines.remove_prefix(next);
     }

@@ -16,6 +16,7 @@ public:
         const CSourceFile* file = nullptr; // borrowed from the source's files
         int line = 0;
         int list = 0;              // the number of the written-out list, from 1 on
+        int words = 0;             // the number of the %words that the line is an alternative of, likewise
         bool isWrittenOut = false; // columns of such a line are nobody's
     };
 
@@ -26,8 +27,9 @@ public:
 
     // A part of a file as it stands. What begins within a line keeps its column.
     void Copy(const CSourceFile& file, std::size_t begin, std::size_t end);
-    // Lines that stand for what is at `offset` of the file; `list` numbers the lists that were written out.
-    void Write(const CSourceFile& file, std::size_t offset, std::string_view lines, int list = 0);
+    // Lines that stand for what is at `offset` of the file; `list` and `words` number the forms that were written out.
+    void Write(const CSourceFile& file, std::size_t offset, std::string_view lines, int list = 0,
+               int words = 0);
     void Append(const CAssembledText& other);
 
 private:

@@ -19,3 +19,10 @@ int CGrammarSource::ListOf(int line) const
     const CAssembledText::SOrigin* const origin = m_Text.OriginOf(line);
     return origin == nullptr ? 0 : origin->list;
 }
+
+const SSourcePlace* CGrammarSource::WordsOf(int line) const
+{
+    const CAssembledText::SOrigin* const origin = m_Text.OriginOf(line);
+    return origin == nullptr || origin->words == 0 ? nullptr
+                                                   : &m_Words[static_cast<std::size_t>(origin->words) - 1];
+}

@@ -13,8 +13,10 @@
 class CGrammarSource
 {
 public:
-    CGrammarSource(std::unique_ptr<const CSourceFiles> files, CAssembledText text, int lists = 0)
-        : m_Files(std::move(files)), m_Text(std::move(text)), m_Lists(lists)
+    // `words`: the place of each %words.
+    CGrammarSource(std::unique_ptr<const CSourceFiles> files, CAssembledText text, int lists = 0,
+                   std::vector<SSourcePlace> words = {})
+        : m_Files(std::move(files)), m_Text(std::move(text)), m_Lists(lists), m_Words(std::move(words))
     {}
 
     const std::string& Text() const { return m_Text.Text(); }
@@ -27,6 +29,8 @@ public:
     // The number of the written-out list that the line belongs to, from 1 on; 0 for any other line.
     int ListOf(int line) const;
     int ListCount() const { return m_Lists; }
+    // The place of the %words that the line is an alternative of; null for any other line.
+    const SSourcePlace* WordsOf(int line) const;
 
     // Every file that was read.
     std::vector<std::string> Paths() const { return m_Files->Paths(); }
@@ -35,4 +39,5 @@ private:
     std::unique_ptr<const CSourceFiles> m_Files;
     CAssembledText m_Text;
     int m_Lists;
+    std::vector<SSourcePlace> m_Words;
 };

@@ -70,7 +70,7 @@ public:
             WriteItems(text);
             text.Copy(main, end, main.Text().size());
         }
-        return {std::move(m_Files), std::move(text), m_Lists};
+        return {std::move(m_Files), std::move(text), m_Lists, std::move(m_Words)};
     }
 
 private:
@@ -348,6 +348,8 @@ private:
             if (!m_Keywords.HasGroup(group))
                 Error(file, file.Text().find('%', alternative.begin), "no word is in the group " + group);
         }
+        m_Words.push_back(file.PlaceAt(alternative.mark));
+        const int words = static_cast<int>(m_Words.size());
         std::set<std::string> written;
         for (const auto& [word, keyword] : m_Keywords.Words()) {
             const bool isOfGroup =
@@ -360,7 +362,8 @@ private:
                            .append(keyword.token)
                            .append(1, ' ')
                            .append(action)
-                           .append(1, '\n'));
+                           .append(1, '\n'),
+                       0, words);
             isFirst = false;
         }
     }
@@ -373,6 +376,7 @@ private:
     std::string m_Start;
     std::vector<SRuleItem> m_Items;
     int m_Lists = 0;
+    std::vector<SSourcePlace> m_Words; // of each %words
 };
 
 } // namespace
