@@ -309,6 +309,55 @@ TEST_F(UvgrammarScore, CountsTheStatementsThatAFaultLeavesAlone)
     EXPECT_THAT(recovery(Score(arguments).out), Not(HasSubstr("kept 100 %")));
 }
 
+TEST_F(UvgrammarScore, NamesTheRulesThatNoFileUses)
+{
+    std::string lexer = kLexer;
+    const std::size_t words = lexer.find("\"let\"");
+    lexer.replace(words, lexer.find("[a-z]+") - words, "%keywords \"Notes.words\"\n");
+    Put("Notes/NotesLexer.l", lexer);
+    Put("Notes/Notes.words", "let\nprint\nold name\nnew name \"new\" \"fresh\"\n");
+    std::string grammar = kParser;
+    grammar.replace(grammar.find("T__LET T__PRINT"), 15, "");
+    grammar.insert(grammar.find("%token"), "%keywords \"Notes.words\"\n");
+    grammar.replace(grammar.find("T__PRINT value"), 14, "T__PRINT values");
+    grammar += "%list values: value %separator T__EQUALS ;\nvalue: %words name { NODE; } ;\n";
+    Put("Notes/NotesParser.y", grammar);
+    Put("texts/a.txt", "let a = 1 + 2;\n");
+    Put("texts/below/b.txt", "print old; let;");
+
+    const SRunResult run = Score("Notes texts/a.txt --coverage");
+    EXPECT_EQ(run.code, 0) << run.err;
+    // The rules of a list are one, and so are those of the words of a group. A scanner has one for each spelling.
+    EXPECT_THAT(run.out, testing::EndsWith(R"(
+coverage
+  rules of the parser in use: 9 of 15 (60.00 %)
+  rules of the scanner in use: 7 of 13 (53.85 %)
+  not used by any file, of the parser
+    Notes/NotesParser.y:11: delimited: delimiter
+    Notes/NotesParser.y:12: delimited: error delimiter
+    Notes/NotesParser.y:16: statement: T__PRINT values
+    Notes/NotesParser.y:17: value: T__NAME
+    Notes/NotesParser.y:20: %list values: value %separator T__EQUALS ;
+    Notes/NotesParser.y:21: value: %words name { NODE; } ;
+  not used by any file, of the scanner
+    Notes/NotesLexer.l:5: "/*"[^*]*"*/" { ColoringFunc(6); }
+    Notes/Notes.words:4: "new" { TOKEN_ACTIONE(__NEW, 1); }
+    Notes/Notes.words:4: "fresh" { TOKEN_ACTIONE(__NEW, 1); }
+    Notes/Notes.words:3: "old" { TOKEN_ACTIONE(__OLD, 1); }
+    Notes/Notes.words:2: "print" { TOKEN_ACTIONE(__PRINT, 1); }
+    Notes/NotesLexer.l:12: . { TOKEN_ACTION(__OTHER); }
+)"));
+
+    const SRunResult all = Score("Notes texts --fail-on-unused");
+    EXPECT_EQ(all.code, 1);
+    EXPECT_THAT(all.out, HasSubstr("parser in use: 13 of 15 (86.67 %)\n"));
+    Put("texts/below/b.txt", "/* all */ print old = a; let; ; new fresh $;");
+    const SRunResult used = Score("Notes texts --fail-on-unused");
+    EXPECT_EQ(used.code, 0);
+    EXPECT_THAT(used.out, testing::EndsWith("parser in use: 15 of 15 (100 %)\n"
+                                            "  rules of the scanner in use: 13 of 13 (100 %)\n"));
+}
+
 TEST_F(UvgrammarScore, PassesOverWhatIsNoText)
 {
     Put("texts/c.txt", "let \xFF;");

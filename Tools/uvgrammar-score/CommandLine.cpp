@@ -19,6 +19,8 @@ po::options_description VisibleOptions(SCommandLine& line, std::vector<std::stri
         ("save", po::value(&line.saveFile)->value_name("FILE"), "keep there which statements were clean")
         ("against", po::value(&line.againstFile)->value_name("FILE"), "tell which statements got better and worse since the run that was kept there")
         ("shrink", po::value(&line.shrinkFile)->value_name("FILE"), "print the first failing statement of the file, as short as it can be and fail in the same way; goes without other files")
+        ("coverage", po::bool_switch(&line.isCoverage), "name the rules of the parser and the scanner that no file used")
+        ("fail-on-unused", po::bool_switch(&line.failsOnUnused), "the same, and exit with 1 if there are any")
         ("comments", po::bool_switch(&line.isComments), "put a comment between the tokens of clean statements and tell where that changes the tree")
         ("comment", po::value(&line.comment)->default_value("/* c */", "/* c */")->value_name("TEXT"), "the comment")
         ("recovery", po::bool_switch(&line.isRecovery), "put a fault into clean statements, one at a time, and count the other statements that are read as before")
@@ -40,8 +42,8 @@ constexpr char kUsage[] =
 constexpr char kAfterOptions[] =
     "\nOf folders all files are taken that have an extension of the language, and all if no extension of it is\n"
     "known. The tables stand in the folder Grammar beside the program.\n"
-    "Exit code: 0 done; 1 the grammar is refused, a file has crashed the parser, or with --against a statement\n"
-    "got worse; 2 something could not run.\n";
+    "Exit code: 0 done; 1 the grammar is refused, a file has crashed the parser, with --against a statement got\n"
+    "worse, or with --fail-on-unused a rule isn't used; 2 something could not run.\n";
 // clang-format on
 
 } // namespace
@@ -73,6 +75,7 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
     }
     if (line.isHelp)
         return line;
+    line.isCoverage = line.isCoverage || line.failsOnUnused;
     for (const std::string& text : options) {
         const std::size_t equals = text.find('=');
         if (equals == std::string::npos || equals == 0)

@@ -23,6 +23,8 @@ struct SCommandLine
     std::string comment;    // put between tokens
     std::size_t samples = 1000;
     std::uint64_t seed = 1;
+    bool isCoverage = false;
+    bool failsOnUnused = false; // rules
     bool isComments = false;
     bool isRecovery = false;
     bool isQuiet = false;

@@ -6,6 +6,8 @@
 #include "Tools/uvgrammar/ActionText.h"
 #include "Tools/uvgrammar/Generators.h"
 #include "Tools/uvgrammar/GrammarBuild.h"
+#include "Tools/uvgrammar/GrammarChecks.h"
+#include "Tools/uvgrammar/ParserReport.h"
 #include "Tools/uvgrammar/ParserSource.h"
 #include "Tools/uvgrammar/ScannerSource.h"
 #include "UVEnvironment/FileHelper.h"
@@ -14,7 +16,9 @@
 #include <charconv>
 #include <filesystem>
 #include <ostream>
+#include <sstream>
 #include <system_error>
+#include <utility>
 
 namespace uvscore {
 
@@ -50,14 +54,24 @@ fs::file_time_type TimeOf(const fs::path& path)
     return failed ? fs::file_time_type::min() : time;
 }
 
+// Messages that nobody reads: what is wrong with the sources is told when their tables are made.
+class CSilence
+{
+public:
+    CToolMessages& Messages() { return m_Messages; }
+
+private:
+    std::ostream m_Nowhere{nullptr};
+    CToolMessages m_Messages{"", m_Nowhere};
+};
+
 bool AreUpToDate(const SLanguageSources& sources, const fs::path& manifest)
 {
     const fs::file_time_type made = TimeOf(manifest);
     if (made == fs::file_time_type::min())
         return false;
-    // What is wrong with the sources is told when their tables are made.
-    std::ostream nowhere(nullptr);
-    CToolMessages messages("", nowhere);
+    CSilence silence;
+    CToolMessages& messages = silence.Messages();
     std::vector<std::string> paths = AssembleScanner(sources.lexerPath, messages).Paths();
     const std::vector<std::string> ofParser = AssembleParser(sources.parserPath, messages).Paths();
     paths.insert(paths.end(), ofParser.begin(), ofParser.end());
@@ -120,6 +134,19 @@ std::vector<SRuleBeingRead> ReadItems(std::string_view report, const CGrammarSou
     return items;
 }
 
+std::string TextOf(const SGrammarRule& rule)
+{
+    std::string text = rule.left + ':';
+    for (const std::string& symbol : rule.right)
+        text.append(1, ' ').append(symbol);
+    return rule.right.empty() ? text + " %empty" : text;
+}
+
+std::string ScratchPrefix()
+{
+    return (fs::temp_directory_path() / "uvgrammar.").string();
+}
+
 } // namespace
 
 SLanguageSources FindLanguageSources(const std::string& folder)
@@ -148,18 +175,45 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages)
     return true;
 }
 
-std::map<int, std::vector<SRuleBeingRead>>
-ReadParserStates(const SLanguageSources& sources, const std::set<int>& states, CToolMessages& messages)
+struct CLanguageRules::SParser
+{
+    explicit SParser(const std::string& path) : source(AssembleParser(path, silence.Messages()))
+    {
+        const CTemporaryFolder scratch(ScratchPrefix());
+        RunBison(source, scratch.Path(), files, silence.Messages());
+        ruleLines = ReadRuleLines(files.parserText);
+    }
+
+    int LineOf(int rule) const
+    {
+        const auto at = static_cast<std::size_t>(rule);
+        return at < ruleLines.size() ? ruleLines[at] : 0;
+    }
+
+    CSilence silence;
+    CGrammarSource source;
+    SGeneratedFiles files;
+    std::vector<int> ruleLines;
+};
+
+CLanguageRules::CLanguageRules(SLanguageSources sources) : m_Sources(std::move(sources)) {}
+
+CLanguageRules::~CLanguageRules() = default;
+
+const CLanguageRules::SParser& CLanguageRules::Parser()
+{
+    if (!m_Parser)
+        m_Parser = std::make_unique<const SParser>(m_Sources.parserPath);
+    return *m_Parser;
+}
+
+std::map<int, std::vector<SRuleBeingRead>> CLanguageRules::ReadStates(const std::set<int>& states)
 {
     std::map<int, std::vector<SRuleBeingRead>> rules;
     if (states.empty())
         return rules;
-    const CGrammarSource source = AssembleParser(sources.parserPath, messages);
-    const CTemporaryFolder scratch((fs::temp_directory_path() / "uvgrammar.").string());
-    SGeneratedFiles files;
-    RunBison(source, scratch.Path(), files, messages);
-    const std::vector<int> ruleLines = ReadRuleLines(files.parserText);
-    const std::string_view report = files.parserReport;
+    const SParser& parser = Parser();
+    const std::string_view report = parser.files.parserReport;
     constexpr std::string_view kState = "\nState ";
     for (std::size_t at = report.find(kState); at != std::string_view::npos;
          at = report.find(kState, at + 1)) {
@@ -168,8 +222,54 @@ ReadParserStates(const SLanguageSources& sources, const std::set<int>& states, C
         if (states.count(state) == 0)
             continue;
         rest.remove_prefix(std::min(rest.find_first_not_of('\n'), rest.size()));
-        rules[state] = ReadItems(rest, source, ruleLines);
+        rules[state] = ReadItems(rest, parser.source, parser.ruleLines);
     }
+    return rules;
+}
+
+std::vector<SLanguageRule> CLanguageRules::ParserRules()
+{
+    const SParser& parser = Parser();
+    std::vector<SLanguageRule> rules;
+    std::map<std::pair<int, const SSourcePlace*>, std::size_t>
+        forms; // lists and %words: where they are in `rules`
+    for (const SGrammarRule& rule : ReadParserReport(parser.files.parserReport).rules) {
+        if (rule.number == 1)
+            continue; // bison's own, which is never reduced
+        const int line = parser.LineOf(rule.number);
+        const std::pair form(parser.source.ListOf(line), parser.source.WordsOf(line));
+        if (form.first == 0 && form.second == nullptr) {
+            rules.push_back({parser.source.Place(line), TextOf(rule), {rule.number}});
+            continue;
+        }
+        const auto [known, isNew] = forms.emplace(form, rules.size());
+        if (isNew) {
+            SSourcePlace place = form.second != nullptr ? *form.second : parser.source.Place(line);
+            rules.push_back({place, place.sourceLine, {}});
+        }
+        rules[known->second].numbers.push_back(rule.number);
+    }
+    return rules;
+}
+
+std::vector<SLanguageRule> CLanguageRules::ScannerRules()
+{
+    CSilence silence;
+    const CGrammarSource source = AssembleScanner(m_Sources.lexerPath, silence.Messages());
+    const CTemporaryFolder scratch(ScratchPrefix());
+    SGeneratedFiles files;
+    RunFlex(source, scratch.Path(), files, silence.Messages());
+    const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
+    std::vector<std::string> lines{""}; // which count from 1
+    std::istringstream text(source.Text());
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(std::move(line));
+    std::vector<SLanguageRule> rules;
+    for (const SActionCase& action : ReadScannerActions(files.lexerText).cases)
+        if (action.number != defaultRule)
+            rules.push_back({source.Place(action.line),
+                             lines.at(static_cast<std::size_t>(action.line)),
+                             {action.number}});
     return rules;
 }
 

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "Tools/Support/ToolMessages.h"
-#include "Tools/uvgrammar/GrammarSource.h"
 
 #include <map>
 #include <memory>
-#include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace uvscore {
@@ -38,9 +35,36 @@ struct SRuleBeingRead
     std::string text;
 };
 
-// The rules that the parser is reading in these states, from bison's report.
-// Throws: CToolFailure.
-std::map<int, std::vector<SRuleBeingRead>>
-ReadParserStates(const SLanguageSources& sources, const std::set<int>& states, CToolMessages& messages);
+// A rule as its author wrote it. A list, and the words of a group, are one rule to the author and many in the tables.
+struct SLanguageRule
+{
+    SSourcePlace place;
+    std::string text;
+    std::vector<int> numbers; // in the tables
+};
+
+// What the sources say, as the generators understand them. These run when they are first needed; what is wrong with the
+// sources is passed over.
+class CLanguageRules
+{
+public:
+    explicit CLanguageRules(SLanguageSources sources);
+    ~CLanguageRules();
+
+    // All of these throw CToolFailure.
+
+    // The rules that the parser is reading in these states.
+    std::map<int, std::vector<SRuleBeingRead>> ReadStates(const std::set<int>& states);
+    // In the order of their numbers.
+    std::vector<SLanguageRule> ParserRules();
+    std::vector<SLanguageRule> ScannerRules();
+
+private:
+    struct SParser;
+    const SParser& Parser();
+
+    SLanguageSources m_Sources;
+    std::unique_ptr<const SParser> m_Parser;
+};
 
 } // namespace uvscore

@@ -4,6 +4,7 @@
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar-score/CleanStatements.h"
 #include "Tools/uvgrammar-score/Comments.h"
+#include "Tools/uvgrammar-score/Coverage.h"
 #include "Tools/uvgrammar-score/Inputs.h"
 #include "Tools/uvgrammar-score/Language.h"
 #include "Tools/uvgrammar-score/Recovery.h"
@@ -16,7 +17,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <ostream>
 #include <set>
 
 namespace uvscore {
@@ -32,7 +32,7 @@ public:
         : m_Line(line), m_Messages(messages),
           m_Sources(FindLanguageSources(line.language)), m_Language{m_Sources.name,
                                                                     uvparse::VersionOfParser(m_Sources.name)},
-          m_Parser(m_Language, line.options)
+          m_Parser(m_Language, OptionsOf(line)), m_Rules(m_Sources)
     {}
 
     int Run()
@@ -56,6 +56,8 @@ public:
             if (!comparison.worse.empty())
                 Worsen(kToolFindings);
         }
+        if (m_Line.isCoverage)
+            TellUnusedRules(files);
         if (m_Line.isComments)
             TryCommentsInAll(files);
         if (m_Line.isRecovery)
@@ -64,6 +66,14 @@ public:
     }
 
 private:
+    static uvparse::TOptions OptionsOf(const SCommandLine& line)
+    {
+        uvparse::TOptions options = line.options;
+        if (line.isCoverage)
+            options.emplace_back("REPORT_COVERAGE", "1");
+        return options;
+    }
+
     // Returns: false if there are no tables.
     bool Prepare()
     {
@@ -194,10 +204,19 @@ private:
         for (std::size_t i = 0; i < std::min(groups.size(), m_Line.groups); ++i)
             if (groups[i].failure.state >= 0)
                 states.insert(groups[i].failure.state);
-        // What there is to say of the grammar was said when its tables were made.
-        CToolMessages silent("", m_Nowhere);
-        text += GroupsText(groups, m_Line.groups, ReadParserStates(m_Sources, states, silent));
+        text += GroupsText(groups, m_Line.groups, m_Rules.ReadStates(states));
         WriteStandardOutput(text);
+    }
+
+    void TellUnusedRules(const std::vector<SScoredFile>& files)
+    {
+        CUsedRules used;
+        for (const SScoredFile& file : files)
+            used.Add(file.coverage);
+        const SCoverageReport report = ReportCoverage(m_Rules, used);
+        WriteStandardOutput(report.text);
+        if (m_Line.failsOnUnused && report.unused > 0)
+            Worsen(kToolFindings);
     }
 
     void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
@@ -207,7 +226,7 @@ private:
     SLanguageSources m_Sources;
     uvparse::SLanguage m_Language;
     CTextParser m_Parser;
-    std::ostream m_Nowhere{nullptr};
+    CLanguageRules m_Rules;
     std::size_t m_Unreadable = 0; // files
     int m_ExitCode = kToolClean;
 };

@@ -21,7 +21,7 @@ using uvparse::enFinding;
 using uvparse::enMode;
 
 // Text that was thrown away while the parser kept quiet about it.
-constexpr const char* kSkippedUntold = "skipped without a message";
+constexpr const char* kSkippedUntold = "lost without a message, soon after another error";
 constexpr const char* kNotParsed = "not parsed";
 constexpr std::size_t kLongText = std::size_t{1} << 22; // its parser keeps what it took
 
@@ -131,6 +131,7 @@ SScoredFile ScoreFile(CTextParser& parser, const std::string& path)
     file.hash = HashOf(parsed.prepared);
     file.unexpectedTokens = CountFindings(result.findings, enFinding::UnexpectedToken);
     file.lost = CountFindings(result.findings, enFinding::SkippedText);
+    file.coverage = result.coverage;
     if (!result.isParsed) {
         file.state = enFileState::NotParsed;
         file.problem = result.failure;
@@ -171,7 +172,7 @@ SScoredFile CrashedFile(const std::string& path, const std::string& problem)
     return file;
 }
 
-// file      = "file" bytes microseconds hash unexpected lost state problem
+// file      = "file" bytes microseconds hash unexpected lost state problem coverage
 // statement = "s" begin size line hash isRead text { LF "f" state token { expected } }
 // in lines of fields separated by tabs.
 std::string WriteScoredFile(const SScoredFile& file)
@@ -180,7 +181,7 @@ std::string WriteScoredFile(const SScoredFile& file)
     AppendFields(text,
                  {"file", std::to_string(file.bytes), std::to_string(std::llround(file.seconds * 1e6)),
                   std::to_string(file.hash), std::to_string(file.unexpectedTokens), std::to_string(file.lost),
-                  std::to_string(static_cast<int>(file.state)), file.problem});
+                  std::to_string(static_cast<int>(file.state)), file.problem, file.coverage});
     for (const SScoredStatement& statement : file.statements) {
         AppendFields(text, {"s", std::to_string(statement.begin), std::to_string(statement.size),
                             std::to_string(statement.line), std::to_string(statement.hash),
@@ -208,6 +209,7 @@ SScoredFile ReadScoredFile(const std::string& path, const std::string& text)
             file.lost = fields.Number(5);
             file.state = static_cast<enFileState>(fields.Number(6));
             file.problem = fields.Text(7);
+            file.coverage = fields.Text(8);
         } else if (fields.Text(0) == "s") {
             file.statements.push_back({.begin = fields.Number(1),
                                        .size = fields.Number(2),

@@ -54,7 +54,8 @@ struct SScoredFile
     double seconds = 0;     // what the parse took
     std::uint64_t hash = 0; // of the prepared text
     std::size_t unexpectedTokens = 0;
-    std::size_t lost = 0; // stretches of text
+    std::size_t lost = 0;      // stretches of text
+    std::string coverage = {}; // as the library tells it
     std::vector<SScoredStatement> statements = {};
 };
 

@@ -203,6 +203,9 @@ void CParserHost::ReadFindings(SParseResult& result) const
     CUVDBOptionWrapper::GetParam(m_DatabaseInfo, kLostText, lost);
     ReadUnexpectedTokens(tokens, result.findings);
     ReadLostText(lost, result.findings);
+    Uve::U8CString coverage;
+    CUVDBOptionWrapper::GetParam(m_DatabaseInfo, "COVERAGE", coverage);
+    result.coverage = std::move(coverage);
 }
 
 void CParserHost::ReadPreparation(SParseResult& result) const

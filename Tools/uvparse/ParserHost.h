@@ -53,6 +53,7 @@ struct SParseResult
     std::string pass;             // what prepared the text; empty: nothing did
     CPreparedLines preparedLines; // of the text that the pass made
     std::vector<SPreparationNote> notes;
+    std::string coverage; // the option COVERAGE, if it was asked for
     bool isEmpty = false; // nothing was left of the text to be parsed
     std::string failure;
     bool isRefusedForTokens = false; // the failure tells of nothing but the unexpected tokens
