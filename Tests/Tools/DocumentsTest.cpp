@@ -175,7 +175,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
     const SGuide guides[] = {
         {"LanguageGuide.md", {"uvgrammar", "uvparse", "libUVParser.so"}, 4},
-        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "libUVParser.so"}, 7},
+        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "libUVParser.so"}, 8},
         {"RuleFiles.md", {"uvrules"}, 5},
         {"Types.md", {"uvtypes"}, 6},
         {"Names.md", {"uvnames"}, 6},
