@@ -277,14 +277,18 @@ TEST_F(UvgrammarScore, FindsWhereACommentIsNoBlank)
     Put("texts/a.txt", "let a = 1 + 2;\nlet b = 3;\nprint;");
     const SRunResult good = Score("Notes texts/a.txt --comments");
     EXPECT_THAT(good.out, HasSubstr("\ncomments\n  statements: 2\n  gaps between tokens: 10\n"
+                                    "  gaps where a comment needs a blank before it: 0\n"
                                     "  gaps where a comment changes the tree: 0\n"));
     // A rule that looks on for a number takes no comment for a blank.
     std::string lexer = kLexer;
     lexer.replace(lexer.find("\"=\" "), 0, "\"=\"/[ ]*[0-9]      { TOKEN_ACTIONE(__EQUALS, 7); }\n");
     lexer.replace(lexer.find("\"=\"  "), 3, "\"#\"");
+    // And one takes the beginning of a comment for its own.
+    lexer.insert(lexer.find("[0-9]+ "), "[0-9]+\"/\"      { TOKEN_ACTIONE(__NUMBER, 5); }\n");
     Put("Notes/NotesLexer.l", lexer);
     EXPECT_THAT(Score("Notes texts/a.txt --comments").out,
-                HasSubstr("tree: 2\n    2 x between T__EQUALS and T__NUMBER\n"
+                HasSubstr("a blank before it: 2\n  gaps where a comment changes the tree: 2\n"
+                          "    2 x between T__EQUALS and T__NUMBER\n"
                           "      texts/a.txt:2: let b = /* c */3;\n"));
 }
 

@@ -80,6 +80,10 @@ SCommentReport TryComments(CTextParser& parser, const std::string& path, const s
         for (const std::size_t token : gaps) {
             if (isAsItWas({token}, comment))
                 continue;
+            if (isAsItWas({token}, std::string(" ").append(comment))) {
+                ++report.needBlank;
+                continue;
+            }
             const auto begin = parsed.prepared.begin();
             report.changes.push_back(
                 {std::string(statement.tokens[token].name), std::string(statement.tokens[token + 1].name),
@@ -92,11 +96,12 @@ SCommentReport TryComments(CTextParser& parser, const std::string& path, const s
     return report;
 }
 
-// "n" statements gaps, { LF "c" before after line text }
+// "n" statements gaps needBlank, { LF "c" before after line text }
 std::string WriteCommentReport(const SCommentReport& report)
 {
     std::string text;
-    AppendFields(text, {"n", std::to_string(report.statements), std::to_string(report.gaps)});
+    AppendFields(text, {"n", std::to_string(report.statements), std::to_string(report.gaps),
+                        std::to_string(report.needBlank)});
     for (const SCommentChange& change : report.changes)
         AppendFields(text, {"c", change.before, change.after, std::to_string(change.line), change.text});
     return text;
@@ -111,6 +116,7 @@ SCommentReport ReadCommentReport(const std::string& text)
         if (fields.Text(0) == "n") {
             report.statements = fields.Number(1);
             report.gaps = fields.Number(2);
+            report.needBlank = fields.Number(3);
         } else {
             report.changes.push_back({fields.Text(1), fields.Text(2), fields.Number(3), fields.Text(4)});
         }
@@ -131,10 +137,12 @@ std::string CommentsText(const std::vector<std::string>& paths, const std::vecto
     std::map<std::pair<std::string, std::string>, SGroup> byTokens;
     std::size_t statements = 0;
     std::size_t gaps = 0;
+    std::size_t needBlank = 0;
     std::size_t changes = 0;
     for (std::size_t i = 0; i < reports.size(); ++i) {
         statements += reports[i].statements;
         gaps += reports[i].gaps;
+        needBlank += reports[i].needBlank;
         changes += reports[i].changes.size();
         for (const SCommentChange& change : reports[i].changes) {
             SGroup& group = byTokens[{change.before, change.after}];
@@ -152,6 +160,7 @@ std::string CommentsText(const std::vector<std::string>& paths, const std::vecto
     std::ranges::stable_sort(groups, std::greater(), &SGroup::count);
     std::string text = "\ncomments\n  statements: " + std::to_string(statements) +
                        "\n  gaps between tokens: " + std::to_string(gaps) +
+                       "\n  gaps where a comment needs a blank before it: " + std::to_string(needBlank) +
                        "\n  gaps where a comment changes the tree: " + std::to_string(changes) + '\n';
     for (std::size_t i = 0; i < std::min(groups.size(), mostShown); ++i)
         text += "    " + std::to_string(groups[i].count) + " x between " + groups[i].tokens.first + " and " +

@@ -23,11 +23,12 @@ struct SCommentReport
 {
     std::size_t statements = 0;
     std::size_t gaps = 0;
+    std::size_t needBlank = 0; // gaps where it has to follow a blank: "-" and "--" are no minus and a comment
     std::vector<SCommentChange> changes;
 };
 
-// Puts the comment into each gap of up to `samples` clean statements of the file. A gap that a blank can't stand in either
-// is none.
+// Puts the comment into each gap of up to `samples` clean statements of the file, and a blank before it where that fails. A
+// gap that a blank can't stand in either is none.
 SCommentReport TryComments(CTextParser& parser, const std::string& path, const std::string& comment,
                            std::size_t samples, std::uint64_t seed);
 
