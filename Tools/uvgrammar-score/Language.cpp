@@ -142,11 +142,6 @@ std::string TextOf(const SGrammarRule& rule)
     return rule.right.empty() ? text + " %empty" : text;
 }
 
-std::string ScratchPrefix()
-{
-    return (fs::temp_directory_path() / "uvgrammar.").string();
-}
-
 } // namespace
 
 SLanguageSources FindLanguageSources(const std::string& folder)
@@ -155,7 +150,7 @@ SLanguageSources FindLanguageSources(const std::string& folder)
     return {normal.filename().string(), OnlyFile(folder, "Lexer.l"), OnlyFile(folder, "Parser.y")};
 }
 
-bool MakeTables(const SLanguageSources& sources, CToolMessages& messages)
+bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLanguageRules* rules)
 {
     const std::string output = BesideProgram("Grammar") + '/' + sources.name;
     const fs::path manifest = fs::path(output) / kManifestName;
@@ -167,44 +162,38 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages)
     build.outputPath = output;
     build.name = sources.name;
     std::string report;
-    if (BuildGrammar(build, messages, report) != kToolClean)
+    std::unique_ptr<const SGeneratedGrammar> generated;
+    if (BuildGrammar(build, messages, report, &generated) != kToolClean)
         return false;
+    if (rules != nullptr)
+        rules->Take(std::move(generated));
     // Tables that say the same as before stay in place; they are those of the sources all the same.
     std::error_code ignored;
     fs::last_write_time(manifest, fs::file_time_type::clock::now(), ignored);
     return true;
 }
 
-struct CLanguageRules::SParser
-{
-    explicit SParser(const std::string& path) : source(AssembleParser(path, silence.Messages()))
-    {
-        const CTemporaryFolder scratch(ScratchPrefix());
-        RunBison(source, scratch.Path(), files, silence.Messages());
-        ruleLines = ReadRuleLines(files.parserText);
-    }
-
-    int LineOf(int rule) const
-    {
-        const auto at = static_cast<std::size_t>(rule);
-        return at < ruleLines.size() ? ruleLines[at] : 0;
-    }
-
-    CSilence silence;
-    CGrammarSource source;
-    SGeneratedFiles files;
-    std::vector<int> ruleLines;
-};
-
 CLanguageRules::CLanguageRules(SLanguageSources sources) : m_Sources(std::move(sources)) {}
 
 CLanguageRules::~CLanguageRules() = default;
 
-const CLanguageRules::SParser& CLanguageRules::Parser()
+void CLanguageRules::Take(std::unique_ptr<const SGeneratedGrammar> generated)
 {
-    if (!m_Parser)
-        m_Parser = std::make_unique<const SParser>(m_Sources.parserPath);
-    return *m_Parser;
+    m_Generated = std::move(generated);
+}
+
+const SGeneratedGrammar& CLanguageRules::Generated()
+{
+    if (!m_Generated) {
+        CSilence silence;
+        SGeneratedGrammar made{AssembleScanner(m_Sources.lexerPath, silence.Messages()),
+                               AssembleParser(m_Sources.parserPath, silence.Messages())};
+        const CTemporaryFolder scratch((fs::temp_directory_path() / "uvgrammar.").string());
+        RunFlex(made.scanner, scratch.Path(), made.files, silence.Messages());
+        RunBison(made.parser, scratch.Path(), made.files, silence.Messages());
+        m_Generated = std::make_unique<const SGeneratedGrammar>(std::move(made));
+    }
+    return *m_Generated;
 }
 
 std::map<int, std::vector<SRuleBeingRead>> CLanguageRules::ReadStates(const std::set<int>& states)
@@ -212,8 +201,9 @@ std::map<int, std::vector<SRuleBeingRead>> CLanguageRules::ReadStates(const std:
     std::map<int, std::vector<SRuleBeingRead>> rules;
     if (states.empty())
         return rules;
-    const SParser& parser = Parser();
-    const std::string_view report = parser.files.parserReport;
+    const SGeneratedGrammar& generated = Generated();
+    const std::vector<int> ruleLines = ReadRuleLines(generated.files.parserText);
+    const std::string_view report = generated.files.parserReport;
     constexpr std::string_view kState = "\nState ";
     for (std::size_t at = report.find(kState); at != std::string_view::npos;
          at = report.find(kState, at + 1)) {
@@ -222,29 +212,32 @@ std::map<int, std::vector<SRuleBeingRead>> CLanguageRules::ReadStates(const std:
         if (states.count(state) == 0)
             continue;
         rest.remove_prefix(std::min(rest.find_first_not_of('\n'), rest.size()));
-        rules[state] = ReadItems(rest, parser.source, parser.ruleLines);
+        rules[state] = ReadItems(rest, generated.parser, ruleLines);
     }
     return rules;
 }
 
 std::vector<SLanguageRule> CLanguageRules::ParserRules()
 {
-    const SParser& parser = Parser();
+    const SGeneratedGrammar& generated = Generated();
+    const CGrammarSource& source = generated.parser;
+    const std::vector<int> ruleLines = ReadRuleLines(generated.files.parserText);
     std::vector<SLanguageRule> rules;
-    std::map<std::pair<int, const SSourcePlace*>, std::size_t>
-        forms; // lists and %words: where they are in `rules`
-    for (const SGrammarRule& rule : ReadParserReport(parser.files.parserReport).rules) {
+    // Where the lists and the %words are in `rules`.
+    std::map<std::pair<int, const SSourcePlace*>, std::size_t> forms;
+    for (const SGrammarRule& rule : ReadParserReport(generated.files.parserReport).rules) {
         if (rule.number == 1)
             continue; // bison's own, which is never reduced
-        const int line = parser.LineOf(rule.number);
-        const std::pair form(parser.source.ListOf(line), parser.source.WordsOf(line));
+        const auto number = static_cast<std::size_t>(rule.number);
+        const int line = number < ruleLines.size() ? ruleLines[number] : 0;
+        const std::pair form(source.ListOf(line), source.WordsOf(line));
         if (form.first == 0 && form.second == nullptr) {
-            rules.push_back({parser.source.Place(line), TextOf(rule), {rule.number}});
+            rules.push_back({source.Place(line), TextOf(rule), {rule.number}});
             continue;
         }
         const auto [known, isNew] = forms.emplace(form, rules.size());
         if (isNew) {
-            SSourcePlace place = form.second != nullptr ? *form.second : parser.source.Place(line);
+            SSourcePlace place = form.second != nullptr ? *form.second : source.Place(line);
             rules.push_back({place, place.sourceLine, {}});
         }
         rules[known->second].numbers.push_back(rule.number);
@@ -254,18 +247,16 @@ std::vector<SLanguageRule> CLanguageRules::ParserRules()
 
 std::vector<SLanguageRule> CLanguageRules::ScannerRules()
 {
-    CSilence silence;
-    const CGrammarSource source = AssembleScanner(m_Sources.lexerPath, silence.Messages());
-    const CTemporaryFolder scratch(ScratchPrefix());
-    SGeneratedFiles files;
-    RunFlex(source, scratch.Path(), files, silence.Messages());
-    const int defaultRule = DefinedNumber(files.lexerText, "YY_END_OF_BUFFER") - 1;
+    const SGeneratedGrammar& generated = Generated();
+    const CGrammarSource& source = generated.scanner;
+    const std::string_view made = generated.files.lexerText;
+    const int defaultRule = DefinedNumber(made, "YY_END_OF_BUFFER") - 1;
     std::vector<std::string> lines{""}; // which count from 1
     std::istringstream text(source.Text());
     for (std::string line; std::getline(text, line);)
         lines.push_back(std::move(line));
     std::vector<SLanguageRule> rules;
-    for (const SActionCase& action : ReadScannerActions(files.lexerText).cases)
+    for (const SActionCase& action : ReadScannerActions(made).cases)
         if (action.number != defaultRule)
             rules.push_back({source.Place(action.line),
                              lines.at(static_cast<std::size_t>(action.line)),

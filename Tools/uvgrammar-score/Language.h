@@ -9,7 +9,11 @@
 #include <string>
 #include <vector>
 
+struct SGeneratedGrammar;
+
 namespace uvscore {
+
+class CLanguageRules;
 
 struct SLanguageSources
 {
@@ -24,9 +28,10 @@ SLanguageSources FindLanguageSources(const std::string& folder);
 
 // Makes the tables of the language beside the program, in Grammar/<name>, if they aren't there or a source or the tool is
 // newer. What is wrong with the sources goes to `messages`.
+// `rules`, unless null, get what the generators make, which needn't run for them again.
 // Returns: false if the grammar is refused.
 // Throws:  CToolFailure.
-bool MakeTables(const SLanguageSources& sources, CToolMessages& messages);
+bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLanguageRules* rules = nullptr);
 
 // A rule that a parser is reading, with a mark where it stands, and the place of the rule in the source.
 struct SRuleBeingRead
@@ -43,13 +48,15 @@ struct SLanguageRule
     std::vector<int> numbers; // in the tables
 };
 
-// What the sources say, as the generators understand them. These run when they are first needed; what is wrong with the
-// sources is passed over.
+// What the sources say, as the generators understand them. These run when they are first needed, unless they have for the
+// tables; what is wrong with the sources is passed over.
 class CLanguageRules
 {
 public:
     explicit CLanguageRules(SLanguageSources sources);
     ~CLanguageRules();
+
+    void Take(std::unique_ptr<const SGeneratedGrammar> generated);
 
     // All of these throw CToolFailure.
 
@@ -60,11 +67,10 @@ public:
     std::vector<SLanguageRule> ScannerRules();
 
 private:
-    struct SParser;
-    const SParser& Parser();
+    const SGeneratedGrammar& Generated();
 
     SLanguageSources m_Sources;
-    std::unique_ptr<const SParser> m_Parser;
+    std::unique_ptr<const SGeneratedGrammar> m_Generated;
 };
 
 } // namespace uvscore

@@ -78,7 +78,7 @@ private:
     bool Prepare()
     {
         uvparse::ChooseTableCache(true);
-        if (MakeTables(m_Sources, m_Messages))
+        if (MakeTables(m_Sources, m_Messages, &m_Rules))
             return true;
         m_Messages.Error("grammar " + m_Sources.name + " refused");
         return false;

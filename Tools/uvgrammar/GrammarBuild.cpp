@@ -155,10 +155,11 @@ std::string ReportText(const SGrammarBuild& build, const CGrammarSource& source,
 
 } // namespace
 
-enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report)
+enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report,
+                        std::unique_ptr<const SGeneratedGrammar>* generated)
 {
-    const CGrammarSource lexer = AssembleScanner(build.lexerPath, messages);
-    const CGrammarSource parser = AssembleParser(build.parserPath, messages);
+    CGrammarSource lexer = AssembleScanner(build.lexerPath, messages);
+    CGrammarSource parser = AssembleParser(build.parserPath, messages);
     if (!build.depfilePath.empty())
         WriteWholeFile(build.depfilePath, DependencyRule(build, lexer, parser));
     if (messages.ErrorCount() > 0)
@@ -208,5 +209,8 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
         return kToolFindings;
     }
     output.Commit();
+    if (generated != nullptr)
+        *generated = std::make_unique<const SGeneratedGrammar>(
+            SGeneratedGrammar{std::move(lexer), std::move(parser), std::move(files)});
     return kToolClean;
 }

@@ -3,7 +3,10 @@
 
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
+#include "Tools/uvgrammar/Generators.h"
+#include "Tools/uvgrammar/GrammarSource.h"
 
+#include <memory>
 #include <string>
 
 struct SGrammarBuild
@@ -17,7 +20,17 @@ struct SGrammarBuild
     bool explainsConflicts = false; // by texts that have two meanings, which may take seconds to find
 };
 
+// A grammar as the generators read it, and what they made of it. The files themselves are gone.
+struct SGeneratedGrammar
+{
+    CGrammarSource scanner;
+    CGrammarSource parser;
+    SGeneratedFiles files = {};
+};
+
 // Writes the tables, unless the grammar is refused; then the directory stays as it was.
-// Returns: kToolClean, or kToolFindings with the reasons in `messages`. `report` takes the counts as text.
+// Returns: kToolClean, or kToolFindings with the reasons in `messages`. `report` takes the counts as text; `generated`,
+//          unless null, takes what the tables were made of, if they are written.
 // Throws:  CToolFailure if the work couldn't be done.
-enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report);
+enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report,
+                        std::unique_ptr<const SGeneratedGrammar>* generated = nullptr);
