@@ -134,13 +134,19 @@ void CSQLGrammarLexer::yyfindrule(int& act)
 
 void CSQLGrammarLexer::yyinputbuffer()
 {
-    m_pQueryBuffer = yyscan_string(m_Extension.m_strQuery.data());
+    yybuffer_state* const buffer = yyscan_string(m_Extension.m_strQuery.data());
+    m_pQueryBuffer = buffer;
+    m_nScanEnd = ScanEndAfter(0);
+    if (m_nScanEnd < m_Extension.m_nQueryLength)
+        yyend_buffer_at(m_nScanEnd);
 }
 
 int CSQLGrammarLexer::yybegin(int state)
 {
     const int coded = yyFlexLexer::yybegin(state);
     if (state == m_Extension.m_nStartState) {
+        if (m_bLongTextsWanted && !m_lstEntered.empty())
+            NoteLongText(m_lstEntered.front().offset, yymatch_end());
         m_lstEntered.clear();
         return coded;
     }
@@ -151,6 +157,42 @@ int CSQLGrammarLexer::yybegin(int state)
     else
         m_lstEntered.push_back({state, yycurrent_buffer() ? yymatch_offset() : 0});
     return coded;
+}
+
+// The scan has come to a wall, or to the end of the text.
+int CSQLGrammarLexer::yywrap()
+{
+    if (m_nScanEnd >= m_Extension.m_nQueryLength)
+        return 1;
+    yygive_back_end();
+    m_Extension.m_nChar = m_nScanEnd;
+    m_nScanEnd = ScanEndAfter(m_nScanEnd);
+    if (m_nScanEnd < m_Extension.m_nQueryLength)
+        yyend_buffer_at(m_nScanEnd);
+    yybegin(m_Extension.m_nStartState);
+    return 0;
+}
+
+int CSQLGrammarLexer::ScanEndAfter(int offset) const
+{
+    const auto wall = std::ranges::upper_bound(m_lstWalls, static_cast<std::size_t>(offset));
+    return wall == m_lstWalls.end() || *wall > m_Extension.m_strQuery.size() ? m_Extension.m_nQueryLength
+                                                                             : static_cast<int>(*wall);
+}
+
+void CSQLGrammarLexer::NoteToken(std::size_t begin, std::size_t length)
+{
+    m_nTokensEnd = begin + length;
+    if (m_lstEntered.empty())
+        NoteLongText(begin, m_nTokensEnd);
+}
+
+// It ends at byte `end`, on the current line.
+void CSQLGrammarLexer::NoteLongText(std::size_t begin, std::size_t end)
+{
+    const std::string_view text = m_Extension.m_strQuery.substr(begin, end - begin);
+    if (m_nTokensEnd > begin && text.find('\n') != std::string_view::npos)
+        m_lstLongTexts.push_back({begin, end, static_cast<unsigned long>(yylineno)});
 }
 
 bool CSQLGrammarLexer::IsEndOfText(int act)
@@ -168,6 +210,8 @@ bool CSQLGrammarLexer::IsEndOfText(int act)
 // Tables in which no condition has such a record don't tell, and then no end is wrong.
 void CSQLGrammarLexer::NoteEnd()
 {
+    if (m_bLongTextsWanted && !m_lstEntered.empty())
+        NoteLongText(m_lstEntered.front().offset, m_Extension.m_strQuery.size());
     const int firstRule = yy_end_of_buffer_action + 1;
     const int condition = yystart_condition();
     if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||
@@ -211,13 +255,22 @@ void CSQLGrammarLexer::set_Query(const std::string& query, int db)
     if (const int state = ComputeGeneralStartState(db); state != -1)
         m_Extension.m_nStartState = state;
     FindEofRules();
+    m_lstEntered.clear();
     yybegin(m_Extension.m_nStartState);
     m_Unfinished.reset();
+    m_lstWalls.clear();
+    m_lstLongTexts.clear();
+    m_nTokensEnd = 0;
     m_Extension.clean();
     m_Extension.m_strQuery = query;
     m_Extension.m_nQueryLength = static_cast<int>(query.size());
     m_nLineFeedFrom = -1;
     m_nLineFeedAt = -1;
+}
+
+void CSQLGrammarLexer::set_Walls(std::vector<std::size_t> places)
+{
+    m_lstWalls = std::move(places);
 }
 
 void CSQLGrammarLexer::ForgetTexts()

@@ -25,6 +25,15 @@ struct SUnfinishedText
     std::size_t offset = 0; // of the match that began it, in bytes of the query
 };
 
+// Tokens that cover several lines together: one match, or all from the match that leaves the condition that texts
+// begin in to the one that leads back.
+struct SLongText
+{
+    std::size_t begin = 0; // bytes of the query
+    std::size_t end = 0;
+    unsigned long lastLine = 0; // from 1
+};
+
 namespace boost::program_options {
 class variables_map;
 }
@@ -87,6 +96,14 @@ public:
     // Borrows: the query, until the next one comes or the query is dropped.
     void set_Query(const std::string& query, int db);
     void set_Query(std::string&& query, int db) = delete;
+    // Before the scan of a query, for this one alone: no match goes beyond one of these places, and after each
+    // the scan begins anew, in the condition that texts begin in.
+    // `places`: bytes of the query, ascending, each once; those at its ends and beyond change nothing.
+    void set_Walls(std::vector<std::size_t> places);
+    // From the next query on: long texts are collected.
+    void set_LongTextsWanted(bool on) { m_bLongTextsWanted = on; }
+    // Those of the scan, in the order of their ends. Comments and blank space are none.
+    const std::vector<SLongText>& LongTexts() const { return m_lstLongTexts; }
     // Forgets all texts before: the next one is scanned as by a new object. What was written to m_Extension
     // goes as well and has to be written again.
     void ForgetTexts();
@@ -152,7 +169,7 @@ public:
     {
         // at the end the scanner walks both NULs after the text and gives one back: the count stops one past
         // the end
-        const int most = std::max(m_Extension.m_nQueryLength + 1, m_Extension.m_nChar);
+        const int most = std::max(m_nScanEnd + 1, m_Extension.m_nChar);
         m_Extension.m_nChar = n > most - m_Extension.m_nChar ? most : m_Extension.m_nChar + n;
     }
     void yydecrementchar(int n) override { m_Extension.m_nChar -= n; }
@@ -161,6 +178,7 @@ public:
         // no such rule has a smaller number than the end of the buffer
         return act >= yy_end_of_buffer_action && IsEndOfText(act);
     }
+    int yywrap() override;
     int yyaction(int act) override;
     // To the parser; without one to the trace.
     void yyerror(const char* text) override;
@@ -220,6 +238,9 @@ private:
     void FindEofRules();
     bool IsEndOfText(int act);
     void NoteEnd();
+    int ScanEndAfter(int offset) const;
+    void NoteToken(std::size_t begin, std::size_t length);
+    void NoteLongText(std::size_t begin, std::size_t end);
 
     SResult Token(std::uint32_t token, int color, ParserNode& node);
     int TokenNumber(const std::string& fullName);
@@ -302,6 +323,11 @@ private:
     };
     std::vector<SEntered> m_lstEntered; // outermost first; without the condition that texts begin in
     std::optional<SUnfinishedText> m_Unfinished;
+    std::vector<std::size_t> m_lstWalls;
+    int m_nScanEnd = 0; // the wall after the scan position, or the end of the query
+    bool m_bLongTextsWanted = false;
+    std::size_t m_nTokensEnd = 0; // of the last token, if long texts are collected
+    std::vector<SLongText> m_lstLongTexts;
     CSQLGrammarParser* m_pGrammarParser = nullptr; // m_pParser, if it is one
     ParserNode m_LocalNode;                        // takes the tokens when there is no parser
     bool m_bColoringWanted = true;

@@ -75,6 +75,8 @@ void CSQLGrammarLexer::MakeToken(std::uint32_t element, int color, int length, b
     node.m_nStart = start;
     node.m_nLength = length > 0 ? length : static_cast<int>(text.size());
     node.m_nLine = static_cast<unsigned>(yylineno);
+    if (m_bLongTextsWanted && !isPseudo && start >= 0)
+        NoteToken(static_cast<std::size_t>(start), static_cast<std::size_t>(node.m_nLength));
     if (m_pGrammarParser) {
         CFragmentPool& pool = m_pGrammarParser->Fragments();
         const std::string_view query = m_Extension.m_strQuery;

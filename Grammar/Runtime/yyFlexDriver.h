@@ -35,11 +35,18 @@ int yyFlexLexer::yydrive(Scanner& self)
     for (;;) {
         yybegin_match();
         int act = 0;
+        bool goesOn = false;
         for (enStep step = enStep::Walk;; step = yyend_of_buffer(act)) {
             if (step == enStep::Walk)
                 self.yymatch();
             if (step != enStep::Take)
                 act = yytake_match(self);
+            if (act < yy_end_of_buffer_action) [[likely]]
+                break;
+            if (act > yy_end_of_buffer_action && self.yywrap() == 0) {
+                goesOn = true;
+                break;
+            }
             if (self.yycheck_state_eof(act)) {
                 yyshow_last_match();
                 return 0;
@@ -47,6 +54,8 @@ int yyFlexLexer::yydrive(Scanner& self)
             if (act != yy_end_of_buffer_action)
                 break;
         }
+        if (goesOn)
+            continue;
         if (act > yy_end_of_buffer_action)
             throw std::runtime_error("the text ends in a start condition without a name");
         yyrule_setup();

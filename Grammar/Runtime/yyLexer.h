@@ -2,6 +2,7 @@
 
 #include "Grammar/Runtime/ScannerTables.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -131,13 +132,17 @@ public:
     {
         return yy_buffer_stack ? yy_buffer_stack[yy_buffer_stack_top] : nullptr;
     }
-    int yywrap() const { return 1; }
+    // The scan is at the end of its buffer.
+    // Returns: 1 if the text ends there; 0 if the buffer has more of it now, and the scan goes on.
+    virtual int yywrap() { return 1; }
     // Byte offset of the match in the buffer.
     std::size_t yymatch_offset() const
     {
         const yybuffer_state* const buffer = yycurrent_buffer();
         return buffer && yytext_ptr ? static_cast<std::size_t>(yytext_ptr - buffer->yy_ch_buf) : 0;
     }
+
+    std::size_t yymatch_end() const { return yymatch_offset() + static_cast<std::size_t>(yyleng); }
 
     int yylineno = 1; // from 1
     // The current match, NUL-terminated. It stands in the buffer, where the NUL holds the place of a byte;
@@ -190,6 +195,9 @@ protected:
         if (yyleng > 0)
             yycurrent_buffer_lvalue()->yy_at_bol = yytext[yyleng - 1] == '\n';
     }
+    // Between two matches: the text ends at byte `n` of the buffer, until it is given back its end.
+    void yyend_buffer_at(int n);
+    void yygive_back_end();
     int yyget_previous_state();
     enRefill yyget_next_buffer();
     // Makes room for a match of `n` bytes.
@@ -256,6 +264,7 @@ private:
     enRefill yyrefill_buffer(int kept);
     int yyread_stream(char* into, int most);
 
-    std::string m_textCopy; // of a match that doesn't stand in the buffer
+    std::string m_textCopy;         // of a match that doesn't stand in the buffer
+    std::array<char, 2> m_lstCut{}; // the bytes in whose places the NULs of an earlier end stand
     CMemory<int> yy_state_initial, yy_state_grown;
 };

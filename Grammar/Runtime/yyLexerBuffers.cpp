@@ -131,6 +131,25 @@ void yyLexer::yyensure_buffer_stack()
     yy_buffer_stack_max = slots;
 }
 
+void yyLexer::yyend_buffer_at(int n)
+{
+    yybuffer_state* const buffer = yycurrent_buffer();
+    char* const end = buffer->yy_ch_buf + n;
+    std::copy_n(end, m_lstCut.size(), m_lstCut.begin());
+    std::fill_n(end, m_lstCut.size(), '\0');
+    buffer->yy_n_chars = n;
+    yy_n_chars = n;
+}
+
+void yyLexer::yygive_back_end()
+{
+    yybuffer_state* const buffer = yycurrent_buffer();
+    std::ranges::copy(m_lstCut, buffer->yy_ch_buf + yy_n_chars);
+    buffer->yy_n_chars = buffer->yy_buf_size;
+    yy_n_chars = buffer->yy_buf_size;
+    yy_hold_char = *yy_c_buf_p;
+}
+
 yyLexer::enRefill yyLexer::yyget_next_buffer()
 {
     yybuffer_state* const buffer = yycurrent_buffer();
