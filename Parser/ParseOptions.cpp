@@ -120,6 +120,7 @@ SParseOptions ReadParseOptions(const std::shared_ptr<IUVDBDatabaseInfo2>& databa
     SParseOptions options;
     options.kind = version.db;
     options.restartsPositions = info.IsOn("RESTART_POSITIONS");
+    options.closesLostQuotes = info.IsOn("CLOSE_LOST_QUOTES");
     options.isPreparationOnly = IsPreparationOnly(info);
     options.parsesDirectives = info.Read("PARSE_DIRECTIVES", options.parsesDirectives);
     options.isChild = info.Read("ORVA_CHILD", options.isChild);

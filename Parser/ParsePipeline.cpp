@@ -1,6 +1,7 @@
 #include "Parser/ParsePipeline.h"
 
 #include "Interfaces/UVDBResults.h"
+#include "Parser/LostQuotes.h"
 #include "Parser/ParseErrors.h"
 #include "Parser/UVDBErrorInfo.h"
 #include "Parser/UVParserFormatters.h"
@@ -9,8 +10,10 @@
 #include "Parser/XmlHeader.h"
 #include "UVEnvironment/LogSystem.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
+#include <set>
 #include <span>
 #include <string>
 #include <utility>
@@ -29,6 +32,10 @@ bool HasDescription(IUVDBErrorInfo& error)
 // another language is.
 constexpr std::size_t kMostExplained = 1000;
 constexpr std::size_t kMostExpected = 8;
+
+// Of a text with lost quotes, beyond the first one: in all, and of those that weren't better.
+constexpr int kMostReadings = 8;
+constexpr int kMostFailedReadings = 2;
 
 CSQLGrammarParser::TExpected ExplainFirst(CLoadedGrammar& grammar)
 {
@@ -271,13 +278,68 @@ int CParsePipeline::RunGrammar(SParseFindings& findings)
     return parsed;
 }
 
+int CParsePipeline::Read(SParseFindings& findings)
+{
+    m_Grammar.Scanner().set_LongTextsWanted(m_Options.closesLostQuotes);
+    GiveTextToGrammar(!m_Options.isStylesheetForced);
+    return RunGrammar(findings);
+}
+
+// Each lost quote is looked for in the best reading so far, and a place that made it no better isn't tried
+// again. What a text leaves for the next one, no reading leaves for another.
+int CParsePipeline::ReadBest(SParseFindings& findings)
+{
+    CSQLGrammarLexer& scanner = m_Grammar.Scanner();
+    const CSQLGrammarLexerImplementation before = scanner.m_Extension;
+    int parsed = Read(findings);
+    if (!m_Grammar.Parser()->HasErrors())
+        return parsed;
+
+    const auto readWith = [&](const std::vector<std::size_t>& walls) {
+        m_Grammar.Found().ClearErrors();
+        scanner.m_Extension = before;
+        GiveTextToGrammar(!m_Options.isStylesheetForced);
+        scanner.set_Walls(walls);
+        return RunGrammar(findings);
+    };
+    const auto suspects = [&] {
+        return SuspectLineEnds(m_Parsed.text, scanner.LongTexts(), findings.unexpected);
+    };
+    const auto reading = [&] {
+        return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches());
+    };
+    SReading best = reading();
+    std::vector<std::size_t> walls;
+    std::set<std::size_t> tried;
+    bool isBestThere = true;
+    std::vector<std::size_t> places = suspects();
+    for (int again = 0, failed = 0; again < kMostReadings && failed < kMostFailedReadings; ++again) {
+        const auto place =
+            std::ranges::find_if(places, [&](std::size_t end) { return !tried.contains(end); });
+        if (place == places.end())
+            break;
+        tried.insert(*place);
+        std::vector<std::size_t> more = walls;
+        more.insert(std::ranges::upper_bound(more, *place), *place);
+        parsed = readWith(more);
+        isBestThere = reading() < best;
+        if (!isBestThere) {
+            ++failed;
+            continue;
+        }
+        best = reading();
+        walls = std::move(more);
+        places = suspects();
+    }
+    return isBestThere ? parsed : readWith(walls);
+}
+
 int CParsePipeline::ExecuteParsingInternal()
 {
     SParseFindings& findings = m_Parsed.findings;
-    GiveTextToGrammar(!m_Options.isStylesheetForced);
     int parsed = UVDB_ERROR;
     try {
-        parsed = RunGrammar(findings);
+        parsed = m_Options.closesLostQuotes ? ReadBest(findings) : Read(findings);
     } catch (...) {
         m_Parsed.isOutOfMemory = IsMemoryShort();
         return Fail("Exception in yyparse", "Exception in yyparse");

@@ -79,6 +79,9 @@ private:
     // The text that RunGrammar parses, from the first byte on.
     void GiveTextToGrammar(bool areFragmentsWanted);
     int RunGrammar(SParseFindings& findings);
+    int Read(SParseFindings& findings);
+    // Reads a text with unexpected tokens again, for strings that have lost their closing quote.
+    int ReadBest(SParseFindings& findings);
     void TryOtherQuoteRule();
     int FlattenResult();
     bool IsPropertiesFile() const;

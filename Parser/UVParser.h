@@ -53,6 +53,10 @@ public:
     //     RESTART_POSITIONS "1"         nothing of the texts before shows in this one: it is parsed as by an
     //                                   object that Load, set_DatabaseInfo and Init have just made ready;
     //                                   holds for FastParse too
+    //     CLOSE_LOST_QUOTES "1"         a text with unexpected tokens is parsed up to nine times more, each time with
+    //                                   another long string, which an error lies in or follows on its last
+    //                                   line, ended at its first line. Of all readings the one stands that
+    //                                   loses the least of the text, and then has the fewest of them
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     //     HAND_OVER_RESULT "1"          get_SQLTree gives a tree away instead of copying it, and the object
     //                                   has none until the next Parse

@@ -590,7 +590,7 @@ TEST(UvparseOptions, AreThoseThatTheLibraryReads)
     const std::set<std::string> others = {
         "REPORT_UNEXPECTED_TOKENS", "REPORT_LOST_TEXT",  "REPORT_PREPARED_LINES",
         "REPORT_PREPARATION_NOTES", "REPORT_COVERAGE",   "PREPARE_ONLY",
-        "RESTART_POSITIONS",        "HAND_OVER_RESULT",  "RESTART_POSITIONS",
+        "RESTART_POSITIONS",        "HAND_OVER_RESULT",  "CLOSE_LOST_QUOTES",
         "UNEXPECTED_TOKENS",        "LOST_TEXT",         "PREPARED_BY",
         "PREPARED_LINES",           "PREPARATION_NOTES", "COVERAGE",
         "WARNINGS_COUNT",           "WARNINGS_TYPES"};

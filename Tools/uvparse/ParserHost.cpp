@@ -106,6 +106,7 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
     SetTextOption(m_DatabaseInfo, "REPORT_LOST_TEXT", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARED_LINES", "1");
     SetTextOption(m_DatabaseInfo, "REPORT_PREPARATION_NOTES", "1");
+    SetTextOption(m_DatabaseInfo, "CLOSE_LOST_QUOTES", "1");
     SetTextOption(m_DatabaseInfo, "HAND_OVER_RESULT", "1");
     SetTextOption(m_DatabaseInfo, "RESTART_POSITIONS", "1");
     if (settings.mode == enMode::Preparation)
