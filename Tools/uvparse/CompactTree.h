@@ -20,24 +20,17 @@
 
 namespace uvparse {
 
-// The text of a node in the words in which libxml2 writes it, of one that stands in a plain tree. `isValue`:
-// it is an attribute.
-std::string AsWritten(std::string_view text, bool isValue);
-
 enum class enPart
 {
     Made,
     None,     // the tree is at its end
-    NotPlain, // markup that is not of the plain kind stands in the tree, or isn't well-formed
+    NotPlain, // markup that isn't plain stands in the tree, or isn't well-formed
     TooLarge  // an element was divided that the scope wants whole; without division it can be
 };
 
 class CCompactTree
 {
 public:
-    // Plain is what trees are made of: elements, attributes in double quotes, text, the five entities and
-    // character references, with single blanks between attributes. Comments, namespaces, CDATA sections and
-    // control characters are not.
     // `partSize`: bytes of text that a part has at least; 0: the whole is one part. Borrows all arguments.
     CCompactTree(std::string_view tree, const SPathScope& scope, const SPathNeeds& needs,
                  std::size_t partSize);
@@ -112,7 +105,6 @@ private:
     void MakeAttributes(xmlNode* element, std::string_view tag);
     xmlNode* MakeNode(xmlElementType type, const char* begin, const char* name);
     void AddNode(xmlNode* node);
-    bool Unescape(std::string_view text, bool isValue, std::string& unescaped);
     const char* NameOf(std::string_view name);
     xmlNode* ValueOf(std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "Tools/uvparse/Selection.h"
 
 #include "Tools/uvparse/CompactTree.h"
+#include "Tools/uvparse/PlainMarkup.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "Tools/uvparse/SourcePlaces.h"
 #include "UVEnvironment/UVEXmlRead.h"
