@@ -5,6 +5,8 @@
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
 #include <functional>
 #include <memory>
@@ -36,6 +38,21 @@ constexpr std::size_t kTags = 4096;
 constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" ?>";
 constexpr std::string_view kBlanks = " \t\r\n";
 
+// Tags differ in their names and in the values of their last attributes, if not in their sizes.
+std::size_t HashOfTag(std::string_view tag)
+{
+    std::array<std::uint64_t, 4> words{};
+    constexpr std::size_t kEnd = 3 * sizeof words[0];
+    if (tag.size() < kEnd)
+        return std::hash<std::string_view>()(tag);
+    std::memcpy(words.data(), tag.data() + 1, sizeof words[0]);
+    std::memcpy(&words[1], tag.data() + tag.size() - kEnd, kEnd);
+    std::uint64_t hash = tag.size();
+    for (const std::uint64_t word : words)
+        hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
+    return static_cast<std::size_t>(hash >> 32U);
+}
+
 xmlChar* Characters(char* text)
 {
     return reinterpret_cast<xmlChar*>(text);
@@ -53,9 +70,8 @@ void CCompactTree::SFreeDocument::operator()(xmlDoc* document) const
 
 CCompactTree::CCompactTree(std::string_view tree, const SPathScope& scope, const SPathNeeds& needs,
                            std::size_t partSize)
-    : m_Tree(tree), m_Needs(needs), m_Undivided(scope.undivided.begin(), scope.undivided.end()),
-      m_UndividedParents(scope.undividedParents.begin(), scope.undividedParents.end()), m_PartSize(partSize),
-      m_Tags(kTags), m_Values(kValues), m_Document(xmlNewDoc(nullptr))
+    : m_Tree(tree), m_Scope(scope), m_Needs(needs), m_PartSize(partSize), m_Tags(kTags), m_Values(kValues),
+      m_Document(xmlNewDoc(nullptr))
 {
     if (!m_Document)
         throw std::bad_alloc();
@@ -104,8 +120,9 @@ void CCompactTree::BeginPart()
 bool CCompactTree::MayDivide() const
 {
     return !m_Open.empty() && m_Open.size() <= kDeepestDivided &&
-           std::ranges::none_of(
-               m_Open, [](const SOpenElement& element) { return element.isWanted || element.holdsWanted; });
+           std::ranges::none_of(m_Open, [](const SOpenElement& element) {
+               return element.name->isUndivided || element.holdsWanted;
+           });
 }
 
 const char* CCompactTree::BeginOf(const xmlNode* node) const
@@ -162,7 +179,7 @@ void CCompactTree::MakeOpenElements()
     while (m_Made < m_Open.size()) {
         SOpenElement& element = m_Open[m_Made];
         MakeText(element.textBegin);
-        element.node = MakeElement(element.tag, element.storedName);
+        element.node = MakeElement(element);
         ++m_Made;
     }
     MakeTexts();
@@ -189,15 +206,15 @@ void CCompactTree::MakeTexts()
     m_TextsMade = 0;
 }
 
-xmlNode* CCompactTree::MakeElement(std::string_view tag, const char* name)
+xmlNode* CCompactTree::MakeElement(const SOpenElement& open)
 {
-    xmlNode* const element = MakeNode(XML_ELEMENT_NODE, tag.data(), name);
+    xmlNode* const element = MakeNode(XML_ELEMENT_NODE, open.tag.data(), open.name->stored);
     // The number in document order, as libxml2 notes it when it is told to; it saves walks through the tree.
     --m_Order;
     static_assert(sizeof element->content == sizeof m_Order);
     std::memcpy(&element->content, &m_Order, sizeof m_Order);
     if (m_Needs.areAllAttributes || !m_Needs.attributes.empty())
-        MakeAttributes(element, tag);
+        MakeAttributes(element, open.tag);
     AddNode(element);
     return element;
 }
@@ -232,7 +249,7 @@ void CCompactTree::MakeAttributes(xmlNode* element, std::string_view tag)
             continue;
         auto* const attribute = static_cast<xmlAttr*>(m_Nodes.Make(sizeof(xmlAttr)));
         attribute->type = XML_ATTRIBUTE_NODE;
-        attribute->name = reinterpret_cast<const xmlChar*>(NameOf(name));
+        attribute->name = reinterpret_cast<const xmlChar*>(NameOf(name).stored);
         attribute->doc = m_Document.get();
         attribute->parent = element;
         attribute->prev = last;
@@ -262,20 +279,24 @@ xmlNode* CCompactTree::ValueOf(std::string_view text)
 }
 
 // The same for the same name.
-const char* CCompactTree::NameOf(std::string_view name)
+const CCompactTree::SName& CCompactTree::NameOf(std::string_view name)
 {
-    const auto known = m_NameTable.find(name);
-    if (known != m_NameTable.end())
+    if (const auto known = m_NameTable.find(name); known != m_NameTable.end())
         return known->second;
+    const auto isAmong = [&](const std::vector<std::string>& names) {
+        return std::ranges::find(names, name) != names.end();
+    };
     const char* const copy = m_Names.Copy(name);
-    m_NameTable.emplace(std::string_view(copy, name.size()), copy);
-    return copy;
+    SName& made = m_NameTable[std::string_view(copy, name.size())];
+    made = {copy, name.size(), m_Needs.areAllElements || isAmong(m_Needs.elements),
+            isAmong(m_Scope.undivided), isAmong(m_Scope.undividedParents)};
+    return made;
 }
 
 // Null if it isn't plain.
 const CCompactTree::STag* CCompactTree::TagAt(std::string_view text)
 {
-    STag& tag = m_Tags[std::hash<std::string_view>()(text) % m_Tags.size()];
+    STag& tag = m_Tags[HashOfTag(text) % m_Tags.size()];
     return tag.text == text || ReadTag(text, tag) ? &tag : nullptr;
 }
 
@@ -285,27 +306,25 @@ bool CCompactTree::ReadTag(std::string_view text, STag& tag)
     std::string_view rest = text.substr(1, text.size() - 2);
     tag.isEmpty = rest.ends_with('/');
     rest.remove_suffix(tag.isEmpty ? 1 : 0);
-    tag.name = rest.substr(0, rest.find(' '));
-    rest.remove_prefix(tag.name.size());
-    if (!IsPlainName(tag.name))
+    const std::string_view name = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(name.size());
+    if (!IsPlainName(name))
         return false;
-    std::vector<std::string_view> names;
-    std::string_view name;
+    m_AttributeNames.clear();
+    std::string_view attribute;
     std::string_view value;
     while (!rest.empty()) {
-        if (!ReadAttribute(rest, name, value) || !IsPlainName(name) || name == "xmlns" ||
-            std::ranges::find(names, name) != names.end())
+        if (!ReadAttribute(rest, attribute, value) || !IsPlainName(attribute) || attribute == "xmlns" ||
+            std::ranges::find(m_AttributeNames, attribute) != m_AttributeNames.end())
             return false;
+        const SPlainText found = ExaminePlain(value, true);
         m_Value.clear();
-        if (!ExaminePlain(value, true).isPlain || !UnescapePlain(value, true, m_Value, m_IsWrittenTheSame))
+        if (!found.isPlain ||
+            (found.hasReferences && !UnescapePlain(value, true, m_Value, m_IsWrittenTheSame)))
             return false;
-        names.push_back(name);
+        m_AttributeNames.push_back(attribute);
     }
-    tag.isNeeded =
-        m_Needs.areAllElements || std::ranges::find(m_Needs.elements, tag.name) != m_Needs.elements.end();
-    tag.isUndivided = m_Undivided.contains(tag.name);
-    tag.isParentUndivided = m_UndividedParents.contains(tag.name);
-    tag.storedName = NameOf(tag.name);
+    tag.name = &NameOf(name);
     tag.text = text;
     return true;
 }
@@ -329,15 +348,14 @@ bool CCompactTree::TakeTag()
     if (tag == nullptr)
         return false;
     m_Offset = close + 1;
-    if (tag->isParentUndivided && !m_Open.empty()) {
+    if (tag->name->isParentUndivided && !m_Open.empty()) {
         m_Open.back().holdsWanted = true;
         m_IsTooLarge = m_Open.back().isDivided;
     }
-    const bool isMade = tag->isNeeded || m_Open.empty(); // the document has its root in any case
+    const bool isMade = tag->name->isNeeded || m_Open.empty(); // the document has its root in any case
     if (tag->isEmpty && !isMade)
         return true;
-    m_Open.push_back({text, text.substr(1, tag->name.size()), tag->storedName, nullptr, m_Texts.size(), false,
-                      tag->isUndivided, false});
+    m_Open.push_back({text, tag->name, nullptr, m_Texts.size(), false, false});
     if (isMade)
         MakeOpenElements();
     if (tag->isEmpty)
@@ -350,11 +368,12 @@ bool CCompactTree::TakeEnd()
     if (m_Open.empty())
         return false;
     const SOpenElement& closing = m_Open.back();
+    const std::string_view name = closing.name->View();
     const std::string_view rest = m_Tree.substr(m_Offset + 2);
-    if (!rest.starts_with(closing.name) || rest.substr(closing.name.size(), 1) != ">")
+    if (!rest.starts_with(name) || rest.substr(name.size(), 1) != ">")
         return false;
     const char* const begin = m_Tree.data() + m_Offset;
-    m_Offset += closing.name.size() + std::string_view("</>").size();
+    m_Offset += name.size() + std::string_view("</>").size();
     m_IsWrittenTheSame = m_IsWrittenTheSame && begin != closing.tag.data() + closing.tag.size();
     Close();
     return true;
@@ -383,21 +402,18 @@ bool CCompactTree::TakeText()
     const SPlainText found = ExaminePlain(text, false);
     if (!found.isPlain)
         return false;
+    if (m_Needs.texts == enPathTexts::None && !found.hasReferences)
+        return true;
     const std::size_t begin = m_Texts.size();
     if (!found.hasReferences)
         m_Texts += text;
     else if (!UnescapePlain(text, false, m_Texts, m_IsWrittenTheSame))
         return false;
-    switch (m_Needs.texts) {
-    case enPathTexts::None:
+    if (m_Needs.texts == enPathTexts::None) {
         m_Texts.resize(begin);
-        break;
-    case enPathTexts::Joined:
-        break;
-    case enPathTexts::Nodes:
+    } else if (m_Needs.texts == enPathTexts::Nodes) {
         MakeTexts();
         m_Open.back().node->last->_private = const_cast<char*>(text.data());
-        break;
     }
     return true;
 }

@@ -15,7 +15,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace uvparse {
@@ -64,27 +63,33 @@ private:
         void operator()(xmlDoc* document) const;
     };
 
+    // A name as nodes have it, of elements or attributes, and what is known of elements of this name.
+    struct SName
+    {
+        const char* stored = nullptr;
+        std::size_t size = 0;
+        bool isNeeded = false;
+        bool isUndivided = false;
+        bool isParentUndivided = false;
+
+        std::string_view View() const { return {stored, size}; }
+    };
+
     // An opening tag that was found to be plain. Trees repeat the same tags over and over.
     struct STag
     {
         std::string_view text; // empty: none
-        std::string_view name;
-        const char* storedName = nullptr;
+        const SName* name = nullptr;
         bool isEmpty = false;
-        bool isNeeded = false;
-        bool isUndivided = false;
-        bool isParentUndivided = false;
     };
 
     struct SOpenElement
     {
         std::string_view tag; // the opening one
-        std::string_view name;
-        const char* storedName = nullptr; // the same for the same name, as nodes have it
-        xmlNode* node = nullptr;          // null until something in the element is needed
-        std::size_t textBegin = 0;        // of what is in it, in m_Texts
+        const SName* name = nullptr;
+        xmlNode* node = nullptr;   // null until something in the element is needed
+        std::size_t textBegin = 0; // of what is in it, in m_Texts
         bool isDivided = false;
-        bool isWanted = false;    // whole
         bool holdsWanted = false; // a child that wants its parent whole
     };
 
@@ -101,25 +106,25 @@ private:
     void MakeOpenElements();
     void MakeText(std::size_t end);
     void MakeTexts();
-    xmlNode* MakeElement(std::string_view tag, const char* name);
+    xmlNode* MakeElement(const SOpenElement& element);
     void MakeAttributes(xmlNode* element, std::string_view tag);
     xmlNode* MakeNode(xmlElementType type, const char* begin, const char* name);
     void AddNode(xmlNode* node);
-    const char* NameOf(std::string_view name);
+    const SName& NameOf(std::string_view name);
     xmlNode* ValueOf(std::string_view text);
 
     std::string_view m_Tree;
+    const SPathScope& m_Scope;
     const SPathNeeds& m_Needs;
-    std::unordered_set<std::string_view> m_Undivided;
-    std::unordered_set<std::string_view> m_UndividedParents;
     std::size_t m_PartSize;
     std::size_t m_Offset = 0;          // in m_Tree
     const char* m_PartBegin = nullptr; // what begins before was open already
-    std::vector<STag> m_Tags;          // by a hash of their text
+    std::vector<STag> m_Tags;          // by HashOfTag
     CNodeArena m_Nodes;
     CNodeArena m_Names;
-    std::unordered_map<std::string_view, const char*> m_NameTable;
-    std::vector<xmlNode*> m_Values; // of attributes, by a hash of their text
+    std::unordered_map<std::string_view, SName> m_NameTable;
+    std::vector<std::string_view> m_AttributeNames; // of the tag that is read
+    std::vector<xmlNode*> m_Values;                 // of attributes, by a hash of their text
     std::unique_ptr<xmlDoc, SFreeDocument> m_Document;
     std::vector<SOpenElement> m_Open;
     std::size_t m_Made = 0;                           // of the open elements, from the outermost on

@@ -11,16 +11,6 @@ namespace uvparse {
 
 namespace {
 
-bool IsNameStart(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
-
-bool IsNameCharacter(char c)
-{
-    return IsNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
-}
-
 // clang-format off
 struct SEntity
 {
@@ -43,34 +33,41 @@ constexpr SEntity kEntities[] = {
 };
 // clang-format on
 
-// What a byte is to a text between markup, or to a value between quotes.
-enum class enByte : unsigned char
-{
-    Plain,
-    Wide, // of a character beyond ASCII
-    Reference,
-    Break, // a line feed or tab, which a value can't hold as it is
-    Never
-};
+// What a byte is to a name, to a text between markup, or to a value between quotes.
+constexpr unsigned int kNameStart = 1;
+constexpr unsigned int kInName = 2;
+constexpr unsigned int kWide = 4; // of a character beyond ASCII
+constexpr unsigned int kReference = 8;
+constexpr unsigned int kBreak = 16; // a line feed or tab, which a value can't hold as it is
+constexpr unsigned int kNever = 32;
 
-enByte KindOf(char c)
+unsigned int KindOf(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
+    if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_')
+        return kNameStart | kInName;
+    if ((c >= '0' && c <= '9') || c == '-' || c == '.')
+        return kInName;
     if (byte >= 0x80)
-        return enByte::Wide;
+        return kWide;
     if (byte == '&')
-        return enByte::Reference;
+        return kReference;
     if (byte == '\n' || byte == '\t')
-        return enByte::Break;
-    return byte < 0x20 || byte == '<' || byte == '>' ? enByte::Never : enByte::Plain;
+        return kBreak;
+    return byte < 0x20 || byte == '<' || byte == '>' ? kNever : 0;
 }
 
 const auto kByteKinds = [] {
-    std::array<enByte, 256> kinds{};
+    std::array<unsigned char, 256> kinds{};
     for (std::size_t i = 0; i < kinds.size(); ++i)
-        kinds[i] = KindOf(static_cast<char>(i));
+        kinds[i] = static_cast<unsigned char>(KindOf(static_cast<char>(i)));
     return kinds;
 }();
+
+unsigned int Kind(char c)
+{
+    return kByteKinds[static_cast<unsigned char>(c)];
+}
 
 // U+FFFE and U+FFFF, which XML can't hold.
 bool HoldsNoncharacter(std::string_view text)
@@ -109,32 +106,19 @@ void AppendWritten(std::string_view text, bool isValue, std::string& written)
 
 bool IsPlainName(std::string_view text)
 {
-    return !text.empty() && IsNameStart(text.front()) && std::ranges::all_of(text, IsNameCharacter);
+    return !text.empty() && (Kind(text.front()) & kNameStart) != 0 &&
+           std::ranges::all_of(text, [](char c) { return (Kind(c) & kInName) != 0; });
 }
 
 SPlainText ExaminePlain(std::string_view text, bool isValue)
 {
+    unsigned int kinds = 0;
+    for (const char c : text)
+        kinds |= Kind(c);
     SPlainText found;
-    bool isWide = false;
-    for (const char c : text) {
-        switch (kByteKinds[static_cast<unsigned char>(c)]) {
-        case enByte::Plain:
-            break;
-        case enByte::Wide:
-            isWide = true;
-            break;
-        case enByte::Reference:
-            found.hasReferences = true;
-            break;
-        case enByte::Break:
-            found.isPlain = found.isPlain && !isValue;
-            break;
-        case enByte::Never:
-            found.isPlain = false;
-            return found;
-        }
-    }
-    found.isPlain = found.isPlain && (!isWide || (UVDB::IsValidUTF8(text) && !HoldsNoncharacter(text)));
+    found.hasReferences = (kinds & kReference) != 0;
+    found.isPlain = (kinds & (kNever | (isValue ? kBreak : 0U))) == 0 &&
+                    ((kinds & kWide) == 0 || (UVDB::IsValidUTF8(text) && !HoldsNoncharacter(text)));
     return found;
 }
 
