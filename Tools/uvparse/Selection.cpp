@@ -1,108 +1,22 @@
 #include "Tools/uvparse/Selection.h"
 
 #include "Tools/uvparse/CompactTree.h"
+#include "Tools/uvparse/PathExpression.h"
 #include "Tools/uvparse/PlainMarkup.h"
 #include "Tools/uvparse/PrettyTree.h"
-#include "Tools/uvparse/SourcePlaces.h"
 #include "UVEnvironment/UVEXmlRead.h"
-#include "UVEnvironment/UVEXmlTree.h"
 
 #include <libxml/tree.h>
-#include <libxml/xmlerror.h>
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 
 #include <algorithm>
-#include <cstdarg>
-#include <cstdio>
 #include <new>
 #include <utility>
 
 namespace uvparse {
 
 namespace {
-
-struct SFree
-{
-    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
-    void operator()(xmlXPathContext* context) const { xmlXPathFreeContext(context); }
-    void operator()(xmlXPathCompExpr* expression) const { xmlXPathFreeCompExpr(expression); }
-    void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
-    void operator()(xmlBuffer* buffer) const { xmlBufferFree(buffer); }
-    void operator()(xmlChar* text) const { Uve::FreeXml(text); }
-};
-
-template <class T>
-using TOwner = std::unique_ptr<T, SFree>;
-
-// While it lives, what libxml2 has to say comes here and not to standard error. Some of it says which name is
-// unknown, some that a limit was hit and the result isn't whole.
-class CXPathErrors
-{
-public:
-    CXPathErrors()
-        : m_Structured(xmlStructuredError), m_StructuredContext(xmlStructuredErrorContext),
-          m_Generic(xmlGenericError), m_GenericContext(xmlGenericErrorContext)
-    {
-        xmlSetStructuredErrorFunc(this, &Take);
-        xmlSetGenericErrorFunc(this, &TakeRemark);
-    }
-    CXPathErrors(const CXPathErrors&) = delete;
-    CXPathErrors& operator=(const CXPathErrors&) = delete;
-    ~CXPathErrors()
-    {
-        xmlSetStructuredErrorFunc(m_StructuredContext, m_Structured);
-        xmlSetGenericErrorFunc(m_GenericContext, m_Generic);
-    }
-
-    bool HasFailed() const { return m_HasFailed; }
-    std::string Text() const
-    {
-        return m_Remark.empty() || m_Text.empty() ? m_Text + m_Remark : m_Text + " (" + m_Remark + ')';
-    }
-    // In bytes into the expression.
-    std::size_t Offset() const { return m_Offset; }
-
-private:
-    static void Take(void* self, xmlError* error)
-    {
-        auto& errors = *static_cast<CXPathErrors*>(self);
-        if (error == nullptr || error->level < XML_ERR_ERROR || errors.m_HasFailed)
-            return;
-        errors.m_HasFailed = true;
-        errors.m_Text = Trimmed(error->message == nullptr ? "" : error->message);
-        errors.m_Offset = error->int1 > 0 ? static_cast<std::size_t>(error->int1) : 0;
-    }
-
-    static void TakeRemark(void* self, const char* format, ...)
-    {
-        char text[300];
-        va_list arguments;
-        va_start(arguments, format);
-        std::vsnprintf(text, sizeof(text), format, arguments);
-        va_end(arguments);
-        std::string remark = Trimmed(text);
-        // The name of a function of libxml2's own says nothing to a user.
-        if (remark.starts_with("xmlXPath"))
-            remark.erase(0, std::min(remark.find(": "), remark.size() - 2) + 2);
-        static_cast<CXPathErrors*>(self)->m_Remark = remark;
-    }
-
-    static std::string Trimmed(std::string text)
-    {
-        text.erase(text.find_last_not_of(" \n") + 1);
-        return text;
-    }
-
-    xmlStructuredErrorFunc m_Structured;
-    void* m_StructuredContext;
-    xmlGenericErrorFunc m_Generic;
-    void* m_GenericContext;
-    std::string m_Text;
-    std::string m_Remark;
-    std::size_t m_Offset = 0;
-    bool m_HasFailed = false;
-};
 
 std::string_view View(const xmlChar* text)
 {
@@ -145,7 +59,7 @@ private:
     }
 
     xmlDoc* m_Document;
-    TOwner<xmlBuffer> m_Buffer;
+    TXmlOwner<xmlBuffer> m_Buffer;
 };
 
 void WriteLine(std::string_view prefix, std::string_view text, bool isPretty, const TTextSink& sink)
@@ -167,50 +81,6 @@ void WriteNodes(xmlDoc* document, xmlNodeSet* nodes, const SSelectionLook& look,
 }
 
 } // namespace
-
-class CSelector::CExpression
-{
-public:
-    // Throws: CToolFailure.
-    explicit CExpression(const std::string& text)
-    {
-        CXPathErrors errors;
-        if (!Compile(text))
-            throw CToolFailure("--xpath '" + text + "': " + errors.Text() + " at character " +
-                               std::to_string(CountCodePoints(text.substr(0, errors.Offset())) + 1));
-        // libxml2 walks plain paths in a way of their own that passes over whatever lies deeper than 10000
-        // elements. Brackets keep it off that way.
-        m_Compiled = Compile('(' + text + ')');
-        if (!m_Compiled)
-            throw CToolFailure("--xpath '" + text + "': " + errors.Text());
-    }
-
-    // Throws: CToolFailure.
-    TOwner<xmlXPathObject> Evaluate(xmlDoc* document, const std::string& text) const
-    {
-        CXPathErrors errors;
-        const TOwner<xmlXPathContext> context(xmlXPathNewContext(document));
-        if (!context)
-            throw std::bad_alloc();
-        context->node = reinterpret_cast<xmlNode*>(document);
-        TOwner<xmlXPathObject> result(xmlXPathCompiledEval(m_Compiled.get(), context.get()));
-        if (!result || errors.HasFailed())
-            throw CToolFailure("--xpath '" + text + "': " + errors.Text());
-        return result;
-    }
-
-private:
-    static TOwner<xmlXPathCompExpr> Compile(const std::string& text)
-    {
-        const TOwner<xmlXPathContext> context(xmlXPathNewContext(nullptr));
-        if (!context)
-            throw std::bad_alloc();
-        return TOwner<xmlXPathCompExpr>(
-            xmlXPathCtxtCompile(context.get(), reinterpret_cast<const xmlChar*>(text.c_str())));
-    }
-
-    TOwner<xmlXPathCompExpr> m_Compiled;
-};
 
 // A node that was found, where it stands in the tree's text.
 struct CSelector::SFound
@@ -235,15 +105,15 @@ struct CSelector::SResult
 
 CSelector::CSelector(std::string expression, std::size_t partSize)
     : m_Text(std::move(expression)), m_Scope(ScopeOfPath(m_Text)), m_Needs(NeedsOfPath(m_Text)),
-      m_PartSize(partSize), m_Expression(std::make_unique<CExpression>(m_Text))
+      m_PartSize(partSize), m_Expression(std::make_unique<CPathExpression>(m_Text, m_Text))
 {
     if (m_Scope.isDivisible && !m_Scope.counted.empty())
-        m_Counted = std::make_unique<CExpression>(m_Scope.counted);
+        m_Counted = std::make_unique<CPathExpression>(m_Scope.counted, m_Text);
     // Unknown names and wrong types come out only when the expression is at work: here, before any file is
     // read.
-    const TOwner<xmlDoc> document(xmlNewDoc(nullptr));
+    const TXmlOwner<xmlDoc> document(xmlNewDoc(nullptr));
     if (document)
-        m_Expression->Evaluate(document.get(), m_Text);
+        m_Expression->Evaluate(document.get());
 }
 
 CSelector::~CSelector() = default;
@@ -254,12 +124,12 @@ CSelector::SResult CSelector::Search(std::string_view tree, std::size_t partSize
     SResult found;
     std::size_t count = 0; // of nodes that are told by their number alone
     const bool isCounting = partSize > 0 && m_Counted;
-    const CExpression& expression = isCounting ? *m_Counted : *m_Expression;
+    const CPathExpression& expression = isCounting ? *m_Counted : *m_Expression;
     CCompactTree parts(tree, m_Scope, m_Needs, partSize);
     while ((found.ended = parts.Next()) == enPart::Made) {
-        const TOwner<xmlXPathObject> result = expression.Evaluate(parts.GetDocument(), m_Text);
+        const TXmlOwner<xmlXPathObject> result = expression.Evaluate(parts.GetDocument());
         if (result->type != XPATH_NODESET) {
-            const TOwner<xmlChar> text(xmlXPathCastToString(result.get()));
+            const TXmlOwner<xmlChar> text(xmlXPathCastToString(result.get()));
             found.value = View(text.get());
             found.isTrue = xmlXPathCastToBoolean(result.get()) != 0;
             found.isValue = true;
@@ -290,7 +160,7 @@ CSelector::SResult CSelector::Search(std::string_view tree, std::size_t partSize
         if (node.end == nullptr)
             node.end = parts.EndOfDivided(node.begin);
     if (isCounting) {
-        const TOwner<xmlChar> text(
+        const TXmlOwner<xmlChar> text(
             xmlXPathCastNumberToString(static_cast<double>(count + found.nodes.size())));
         found.value = View(text.get());
         found.isTrue = count + found.nodes.size() > 0;
@@ -333,7 +203,7 @@ bool CSelector::Write(std::string_view tree, const std::string& name, const SSel
 bool CSelector::WriteFromDocument(std::string_view tree, const std::string& name, const SSelectionLook& look,
                                   const TTextSink& sink) const
 {
-    const TOwner<xmlDoc> document(Uve::ReadXml(tree.data(), tree.size()));
+    const TXmlOwner<xmlDoc> document(Uve::ReadXml(tree.data(), tree.size()));
     if (!document)
         throw CToolFailure(name + ": --xpath can't read the tree: it is not well-formed, or too large");
     // Characters beyond ASCII are printed as they are where the document says that it can hold them.
@@ -342,12 +212,12 @@ bool CSelector::WriteFromDocument(std::string_view tree, const std::string& name
     // Numbers on the elements, without which sorting a result compares by walking the tree.
     xmlXPathOrderDocElems(document.get());
 
-    const TOwner<xmlXPathObject> result = m_Expression->Evaluate(document.get(), m_Text);
+    const TXmlOwner<xmlXPathObject> result = m_Expression->Evaluate(document.get());
     if (result->type == XPATH_NODESET) {
         xmlXPathNodeSetSort(result->nodesetval);
         WriteNodes(document.get(), result->nodesetval, look, sink);
     } else {
-        const TOwner<xmlChar> text(xmlXPathCastToString(result.get()));
+        const TXmlOwner<xmlChar> text(xmlXPathCastToString(result.get()));
         WriteLine(look.prefix, View(text.get()), false, sink);
     }
     return xmlXPathCastToBoolean(result.get()) != 0;

@@ -12,6 +12,8 @@
 
 namespace uvparse {
 
+class CPathExpression;
+
 struct SSelectionLook
 {
     std::string prefix; // before each result
@@ -38,7 +40,6 @@ public:
                const TTextSink& sink) const;
 
 private:
-    class CExpression;
     struct SFound;
     struct SResult;
 
@@ -50,8 +51,8 @@ private:
     SPathScope m_Scope;
     SPathNeeds m_Needs;
     std::size_t m_PartSize;
-    std::unique_ptr<CExpression> m_Expression;
-    std::unique_ptr<CExpression> m_Counted; // the path, where the expression is the number of its nodes
+    std::unique_ptr<CPathExpression> m_Expression;
+    std::unique_ptr<CPathExpression> m_Counted; // the path, where the expression is the number of its nodes
 };
 
 } // namespace uvparse
