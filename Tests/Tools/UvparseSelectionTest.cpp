@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace uvparse {
 namespace {
@@ -26,7 +27,7 @@ const SScopeCase kScopeCases[] = {
     {"count( //a )", "", ""},
     {"//a/..", "", ""},
     {"//a/ancestor::b", "", ""},
-    {"//a[b]", "a", ""},
+    {"//a[b]", "", ""},
     {"//a[contains(., ']')]/b[not(@c) and d//e = 'x']", "a b", ""},
     {"//a[../b]", "a", "a"},
     {"//a[b/../c]", "a", ""},
@@ -45,11 +46,42 @@ const SScopeCase kScopeCases[] = {
     {"//a[count(b)]", "a", "a"},
     {"//a[b[1]]", "a", ""},
     {"//a[.//b/c[2]/..]", "a", ""},
+    // what each part of an element tells
+    {"//*[@p = 5]", "", ""},
+    {"//a[@p > 1 and not(@q)][self::a or name(.) = 'b']/c", "", ""},
+    {"//b/ancestor::*[@p]", "", ""},
+    {"//*[b]", "", ""},
+    {"//a[@p and .//text() = 'x']/@p", "", ""},
+    {"//a[b or c]", "", ""},
+    {"//a[b and c]", "a", ""},
+    {"//a[b]/c", "a", ""},
+    {"//a[b = 'x']", "a", ""},
+    {"//a[not(b)]", "a", ""},
+    {"//a[text() = false()]", "a", ""},
+    {"//a[contains(text(), 'x')]", "a", ""},
+    {"//a[b | c]", "a", ""},
+    {"//a[b][. = 'x']", "a", ""},
+    // what only an element's text tells, which is put together from its parts
+    {"//*[. = 'x']", "", ""},
+    {"//a[string-length() > 3 or self::a = 'x']", "", ""},
+    {"//a[. = 'x']/b", "a", ""},
+    {"//*[. = 'x'] | //b", nullptr, nullptr},
+    {"//b/ancestor::*[. = 'x']", nullptr, nullptr},
+    // what is asked of the nodes that a path selects
+    {"(//a)[1]", "", ""},
+    {"(//a/b[c]/d)[last()]", "b", ""},
+    {"not(//a[2])", "a", "a"},
+    {"(//a)[0]", nullptr, nullptr},
+    {"(//a)[1.5]", nullptr, nullptr},
+    {"(//a)[position() < 3]", nullptr, nullptr},
+    {"(//a)[1]/b", nullptr, nullptr},
+    {"not(//a) and //b", nullptr, nullptr},
     // what depends on more than can be told
     {"/", nullptr, nullptr},
     {"//*[1]", nullptr, nullptr},
-    {"//*[b]", nullptr, nullptr},
-    {"(//a)[1]", nullptr, nullptr},
+    {"//*[@p][1]", nullptr, nullptr},
+    {"//*[count(@*)]", nullptr, nullptr},
+    {"//*[b and c]", nullptr, nullptr},
     {"//a/../b", nullptr, nullptr},
     {"//a/following::b", nullptr, nullptr},
     {"//*/following-sibling::b", nullptr, nullptr},
@@ -87,7 +119,7 @@ TEST(UvparsePathScope, TellsWhatMayNotBeDivided)
         EXPECT_EQ(Joined(scope.undivided), c.undivided);
         EXPECT_EQ(Joined(scope.undividedParents), c.undividedParents);
     }
-    EXPECT_EQ(ScopeOfPath("count(//a/b )").counted, "//a/b ");
+    EXPECT_EQ(ScopeOfPath("count(//a/b )").path, "//a/b ");
     EXPECT_FALSE(ScopeOfPath("//a" + std::string(100000, '[')).isDivisible);
 }
 
@@ -134,20 +166,19 @@ TEST(UvparsePathNeeds, AreNoMoreThanAnExpressionCanSee)
     }
 }
 
-std::string Select(const std::string& expression, const std::string& tree, std::size_t partSize)
+std::string Select(const CSelector& selector, const std::string& tree)
 {
     std::string text;
-    const bool isFound =
-        CSelector(expression, partSize).Write(tree, "f", {}, [&](std::string_view piece) { text += piece; });
+    const bool isFound = selector.Write(tree, "f", {}, [&](std::string_view piece) { text += piece; });
     return text + (isFound ? "found" : "nothing");
 }
 
 // A comment makes the tree one that is read by libxml2 itself. It is printed with the document alone.
 // Elements and texts selected together aren't compared: libxml2 doesn't sort such a mixture right.
-std::string SelectFromDocument(const std::string& expression, const std::string& tree)
+std::string SelectFromDocument(const CSelector& selector, const std::string& tree)
 {
     constexpr std::string_view kComment = "<!-- -->";
-    std::string text = Select(expression, tree + std::string(kComment), 0);
+    std::string text = Select(selector, tree + std::string(kComment));
     if (const std::size_t at = text.find(kComment); at != std::string::npos)
         text.erase(at, kComment.size());
     return text;
@@ -248,6 +279,71 @@ const char* const kExpressions[] = {
     "//a[string-length() = 3]",
     "//a[b[2]/c]",
     "//a[name(*) = 'b']",
+    // of divided elements the tag is in each part,
+    "//*[@p='1']",
+    "//*[@p > 0 and @p < 2]/b",
+    "//*[not(@p)]/@q",
+    "//a/*[@q and starts-with(name(), 'b')]",
+    "//*[@q = '\"\xC3\xA9\n>']",
+    "//*[name() = 'c' or self::d]",
+    "//*[@p=1]//*[@p=2]",
+    "//c/ancestor::*[@p='2']",
+    "count(//*[@p='1'])",
+    "count(//*[@p='1'] | //a)",
+    "//*[@*]/..",
+    "//a/self::*[@p]/b",
+    "//node()[@p=1]",
+    // what is looked for in one of them,
+    "//*[text()='x']",
+    "//*[.//text()='y & <']",
+    "//*[c]",
+    "//*[a/b/@p = 1]",
+    "//*[b[@p]]/@q",
+    "//*[@p and text()='x']",
+    "//a[b or text()='x']",
+    "//*[descendant::c/self::c]",
+    "//*[text() != 'x']",
+    "count(//*[a])",
+    "(//*[a])[2]",
+    "(//*[a])[last()]",
+    // and their text in all of them together
+    "//*[.='x']",
+    "//*[.='']",
+    "//*['xy & <' = string()]",
+    "//*[contains(., '\xE2\x82\xACx')]",
+    "//*[starts-with(., 'x')]/@p",
+    "//*[string-length() > 30]",
+    "//a/*[.='x' and @p]",
+    "//a[contains(., 'x')]/@q",
+    "//b//a[. = @p or . = 'x']",
+    "//node()[contains(., 'xx')]",
+    "/descendant-or-self::node()[string-length() > 60]",
+    "count(//*[contains(., 'x')])",
+    "count(//*[.='x'])",
+    "(//*[contains(., 'x')])[3]",
+    "boolean(//*[contains(., 'x')])",
+    "//*[.='x'][@p]",
+    "//*[a][.='x']",
+    "//*[c and .='x']",
+    "//text()[.='x']",
+    "//*[number() = 1 or @p]",
+    "//*[.//b][text()='x']",
+    // the nodes of a path, and what is asked of them
+    "(//a)[1]",
+    "( //a/b )[4]",
+    "(//text())[1]",
+    "(//text())[last()]",
+    "(//a | //@p)[7]",
+    "(//b/..)[2]",
+    "(//c/ancestor::*)[1]",
+    "(//*)[last()]",
+    "(//a[b]/c)[2]",
+    "(//a)[999]",
+    "(//b)",
+    "boolean(//a/b/c)",
+    "not(//a/b/c/d/@q)",
+    "boolean(//zzz)",
+    "not(//a[2])",
     "count(//a)",
     "count(//*)",
     "count(/*)",
@@ -305,13 +401,19 @@ const char* const kExpressions[] = {
 
 TEST(UvparseSelection, PartsGiveWhatTheWholeGives)
 {
-    for (unsigned int seed = 0; seed < 40; ++seed) {
-        const std::string tree = CRandomTree(seed, seed % 3 == 0).Make();
-        for (const char* expression : kExpressions) {
-            SCOPED_TRACE(std::string(expression) + " in tree " + std::to_string(seed));
-            const std::string expected = SelectFromDocument(expression, tree);
-            for (const std::size_t partSize : {0u, 1u, 40u, 300u})
-                ASSERT_EQ(Select(expression, tree, partSize), expected) << partSize;
+    std::vector<std::string> trees;
+    for (unsigned int seed = 0; seed < 24; ++seed)
+        trees.push_back(CRandomTree(seed, seed % 3 == 0).Make());
+    for (const char* expression : kExpressions) {
+        const CSelector whole(expression, 0);
+        std::vector<std::string> expected;
+        for (const std::string& tree : trees)
+            expected.push_back(SelectFromDocument(whole, tree));
+        for (const std::size_t partSize : {0u, 1u, 40u, 300u}) {
+            const CSelector selector(expression, partSize);
+            for (std::size_t i = 0; i < trees.size(); ++i)
+                ASSERT_EQ(Select(selector, trees[i]), expected[i])
+                    << expression << " in tree " << i << " by " << partSize;
         }
     }
 }

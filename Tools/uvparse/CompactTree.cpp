@@ -93,8 +93,12 @@ enPart CCompactTree::Next()
             return enPart::NotPlain;
         if (m_IsTooLarge)
             return enPart::TooLarge;
-        if (isEnd && m_PartSize > 0 && m_Offset - begin >= m_PartSize && MayDivide())
+        if (isEnd && m_PartSize > 0 && m_Offset - begin >= m_PartSize && MayDivide()) {
+            // What comes after goes into another part.
+            if (m_Needs.texts != enPathTexts::None)
+                MakeOpenElements();
             return enPart::Made;
+        }
     }
     return m_HasRoot && m_Open.empty() ? enPart::Made : enPart::NotPlain;
 }
@@ -145,8 +149,10 @@ const char* CCompactTree::EndOf(const xmlNode* node) const
 
 bool CCompactTree::IsShared(const xmlNode* node) const
 {
-    const xmlNode* const element = node->type == XML_ATTRIBUTE_NODE ? node->parent : node;
-    return node->type == XML_DOCUMENT_NODE || BeginOf(element) < m_PartBegin || EndOf(element) == nullptr;
+    const xmlNode* element = node->type == XML_ATTRIBUTE_NODE ? node->parent : node;
+    if (node->type == XML_DOCUMENT_NODE)
+        element = node->children;
+    return BeginOf(element) < m_PartBegin || EndOf(element) == nullptr;
 }
 
 // No more of it than a search looks at: of a text up to its content, of an element up to its attributes. What
@@ -352,7 +358,8 @@ bool CCompactTree::TakeTag()
         m_Open.back().holdsWanted = true;
         m_IsTooLarge = m_Open.back().isDivided;
     }
-    const bool isMade = tag->name->isNeeded || m_Open.empty(); // the document has its root in any case
+    const bool isMade =
+        (tag->name->isNeeded && !m_IsEnough) || m_Open.empty(); // the document has its root in any case
     if (tag->isEmpty && !isMade)
         return true;
     m_Open.push_back({text, tag->name, nullptr, m_Texts.size(), false, false});
@@ -402,16 +409,17 @@ bool CCompactTree::TakeText()
     const SPlainText found = ExaminePlain(text, false);
     if (!found.isPlain)
         return false;
-    if (m_Needs.texts == enPathTexts::None && !found.hasReferences)
+    const enPathTexts texts = m_IsEnough ? enPathTexts::None : m_Needs.texts;
+    if (texts == enPathTexts::None && !found.hasReferences)
         return true;
     const std::size_t begin = m_Texts.size();
     if (!found.hasReferences)
         m_Texts += text;
     else if (!UnescapePlain(text, false, m_Texts, m_IsWrittenTheSame))
         return false;
-    if (m_Needs.texts == enPathTexts::None) {
+    if (texts == enPathTexts::None) {
         m_Texts.resize(begin);
-    } else if (m_Needs.texts == enPathTexts::Nodes) {
+    } else if (texts == enPathTexts::Nodes) {
         MakeTexts();
         m_Open.back().node->last->_private = const_cast<char*>(text.data());
     }

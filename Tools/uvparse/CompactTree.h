@@ -41,6 +41,9 @@ public:
     // Makes the next part; the one before is gone.
     enPart Next();
 
+    // The rest of the tree is read for what it is, and nothing made of it but the open elements of the parts.
+    void MakeNoMore() { m_IsEnough = true; }
+
     // Of the part.
     xmlDoc* GetDocument() const { return m_Document.get(); }
 
@@ -131,6 +134,7 @@ private:
     std::map<const char*, const char*> m_DividedEnds; // of divided elements, by where they begin
     std::ptrdiff_t m_Order = 0;
     bool m_HasRoot = false;
+    bool m_IsEnough = false;
     bool m_IsTooLarge = false;
     bool m_IsWrittenTheSame = true;
     std::string m_Texts; // read, and not in a node yet

@@ -1,9 +1,11 @@
 #include "Tools/uvparse/PathScope.h"
 
 #include "Tools/uvparse/PathTokens.h"
+#include "Tools/uvparse/PathValue.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstddef>
 #include <utility>
 
@@ -15,7 +17,8 @@ enum class enAxis
 {
     Child,
     Descendant,
-    Self, // or what may be the node itself
+    Self,
+    DescendantOrSelf,
     Attribute,
     Parent,
     Ancestor,
@@ -33,7 +36,7 @@ enAxis AxisOf(std::string_view name)
     constexpr std::array kAxes = {
         SRow{"child", enAxis::Child},
         SRow{"descendant", enAxis::Descendant},
-        SRow{"descendant-or-self", enAxis::Self},
+        SRow{"descendant-or-self", enAxis::DescendantOrSelf},
         SRow{"self", enAxis::Self},
         SRow{"attribute", enAxis::Attribute},
         SRow{"parent", enAxis::Parent},
@@ -56,38 +59,45 @@ struct SStep
     enAxis axis = enAxis::Child;
     std::string_view name;  // of the nodes wanted; empty: they have more than one, or none
     bool isElements = true; // it may select elements
-};
+    bool isText = false;
 
-// What a predicate or a part of one is.
-struct SValue
-{
-    bool isNumber = false; // as a predicate: a position
-    bool asksPosition = false;
-
-    bool IsPositional() const { return isNumber || asksPosition; }
+    bool IsDown() const
+    {
+        return axis == enAxis::Child || axis == enAxis::Descendant || axis == enAxis::DescendantOrSelf ||
+               axis == enAxis::Self;
+    }
 };
 
 class CScopeReader
 {
 public:
-    explicit CScopeReader(std::string_view expression) : m_Tokens(ReadPathTokens(expression)) {}
+    explicit CScopeReader(std::string_view expression)
+        : m_Expression(expression), m_Tokens(ReadPathTokens(expression))
+    {}
 
     SPathScope Read()
     {
         m_Scope.isDivisible = true;
-        if (Peek(0).text == "count" && Peek(1).text == "(") {
+        m_Scope.isInOrder = true;
+        if (IsSymbol("(", 1) && IsOneOf(Peek().text, {"count", "boolean", "not"})) {
+            m_Scope.answer = Peek().text == "count" ? enPathAnswer::Count
+                             : Peek().text == "not" ? enPathAnswer::None
+                                                    : enPathAnswer::Any;
             m_At += 2;
-            ReadUnion();
-            // Nothing but a path stands between the brackets.
-            const char* const begin = m_Tokens[2].text.data();
-            if (IsSymbol(")"))
-                m_Scope.counted.assign(begin, Peek().text.data());
-            Expect(")");
+            ReadBracketed();
+        } else if (Accept("(")) {
+            ReadBracketed();
+            if (Accept("["))
+                ReadNumber();
         } else {
             ReadUnion();
         }
         if (Peek().kind != enPathToken::End)
             Refuse();
+        if (m_IsRefused)
+            m_Scope = {};
+        if (m_Scope.path.empty())
+            m_Scope.path = m_Expression;
         return std::move(m_Scope);
     }
 
@@ -95,6 +105,11 @@ private:
     const SPathToken& Peek(std::size_t ahead = 0) const
     {
         return m_Tokens[std::min(m_At + ahead, m_Tokens.size() - 1)];
+    }
+    // Where the next token begins.
+    const char* Here() const
+    {
+        return m_At + 1 >= m_Tokens.size() ? m_Expression.data() + m_Expression.size() : Peek().text.data();
     }
     bool IsSymbol(std::string_view text, std::size_t ahead = 0) const
     {
@@ -121,8 +136,37 @@ private:
     // The rest of the expression has nothing more to say.
     void Refuse()
     {
-        m_Scope.isDivisible = false;
+        m_IsRefused = true;
         m_At = m_Tokens.size() - 1;
+    }
+
+    // ---- What is asked ----
+
+    // After the bracket has opened.
+    void ReadBracketed()
+    {
+        const char* const begin = Here();
+        ReadUnion();
+        m_Scope.path.assign(begin, Here());
+        Expect(")");
+    }
+
+    void ReadNumber()
+    {
+        const std::string_view text = Peek().text;
+        if (Peek().kind == enPathToken::Number && text.size() < 10 && text.find('.') == text.npos) {
+            m_Scope.answer = enPathAnswer::Numbered;
+            std::from_chars(text.data(), text.data() + text.size(), m_Scope.number);
+            if (m_Scope.number == 0)
+                Refuse();
+            ++m_At;
+        } else if (text == "last" && IsSymbol("(", 1) && IsSymbol(")", 2)) {
+            m_Scope.answer = enPathAnswer::Last;
+            m_At += 3;
+        } else {
+            Refuse();
+        }
+        Expect("]");
     }
 
     void KeepWhole(std::string_view name)
@@ -177,6 +221,7 @@ private:
             return step;
         // The type of a node; a name in the brackets belongs to a processing instruction.
         step.isElements = step.isElements && step.name == "node";
+        step.isText = step.axis != enAxis::Attribute && step.name == "text";
         if (!IsOneOf(step.name, {"node", "text", "comment"}))
             Refuse();
         step.name = {};
@@ -184,29 +229,39 @@ private:
         return step;
     }
 
-    // Returns: whether one of them asks for a position.
-    bool ReadPredicates(const SStep& step)
+    // Returns: all of them together. A position looks at more than the node.
+    SPathValue ReadPredicates(const SStep& step)
     {
-        bool isPositional = false;
+        SPathValue all;
         while (Accept("[")) {
             const std::string_view outer = std::exchange(m_Subject, step.isElements ? step.name : "");
-            isPositional |= ReadOr().IsPositional();
+            SPathValue value = ReadOr();
             m_Subject = outer;
+            if (value.IsPositional()) {
+                value = SPathValue::Beyond();
+                value.asksPosition = true;
+            }
+            all = Both(all, {}, value);
             Expect("]");
         }
-        return isPositional;
+        return all;
     }
 
     // ---- Paths that select ----
 
     void ReadUnion()
     {
-        do
+        ReadSelectingPath();
+        if (!IsSymbol("|"))
+            return;
+        while (Accept("|"))
             ReadSelectingPath();
-        while (Accept("|"));
+        // The other paths would have to be right in that tree too.
+        if (m_Scope.areDividedApart)
+            Refuse();
     }
 
-    // Whole are, with an element, all that is below it.
+    // Whole are, with an element, all that is below it, unless what is said of it is right in its parts.
     void ReadSelectingPath()
     {
         if (!Accept("//"))
@@ -219,14 +274,16 @@ private:
         do {
             const SStep step = ReadStep();
             const bool hasPredicates = IsSymbol("[");
-            const bool isPositional = ReadPredicates(step);
+            const SPathValue predicates = ReadPredicates(step);
             const bool isLast = !IsSymbol("/") && !IsSymbol("//");
+            const bool isEnd = isLast || IsLastAttribute();
             switch (step.axis) {
             case enAxis::Parent:
             case enAxis::Ancestor:
                 // As the last of all it may be divided.
-                if (!isLast || hasPredicates)
+                if (!isLast || predicates.look != enLook::Tag)
                     KeepWhole(step.name);
+                m_Scope.isInOrder = false;
                 outer = {};
                 anchor = step.name;
                 isAtAnchor = !anchor.empty();
@@ -242,90 +299,104 @@ private:
                 isAtAnchor = !anchor.empty();
                 break;
             case enAxis::Attribute:
-                if (isPositional)
+                if (predicates.asksPosition)
                     Refuse();
                 isAtAnchor = false;
                 break;
             default:
-                if (hasPredicates && step.isElements && !step.name.empty())
-                    KeepWhole(step.name);
-                else if (hasPredicates && step.isElements)
+                if (hasPredicates && step.isElements)
+                    ReadDivided(predicates, step.name.empty() ? anchor : step.name, isEnd);
+                if (predicates.asksPosition && !anchor.empty())
                     KeepWhole(anchor);
-                if (isPositional && !anchor.empty())
-                    KeepWhole(anchor);
-                else if (isPositional && step.axis == enAxis::Child)
+                else if (predicates.asksPosition && step.axis == enAxis::Child)
                     KeepParentsWhole(step.name);
-                else if (isPositional)
+                else if (predicates.asksPosition)
                     Refuse();
                 isAtAnchor = !step.name.empty();
                 if (isAtAnchor) {
                     outer = std::exchange(anchor, step.name);
-                    if (step.axis == enAxis::Self)
+                    if (step.axis == enAxis::Self || step.axis == enAxis::DescendantOrSelf)
                         outer = {};
                 }
             }
         } while (Accept("/") || Accept("//"));
     }
 
+    // What comes next is an attribute of what was selected, and nothing after that.
+    bool IsLastAttribute() const
+    {
+        return IsSymbol("/") && IsSymbol("@", 1) &&
+               std::ranges::none_of(std::array{"/", "//", "[", "(", ":"},
+                                    [this](std::string_view text) { return IsSymbol(text, 3); });
+    }
+
+    // Predicates of elements that may be divided, unless those of this name are kept whole.
+    void ReadDivided(const SPathValue& predicates, std::string_view name, bool isEnd)
+    {
+        if (predicates.look == enLook::Tag)
+            return; // stands in each part
+        if (!isEnd || (predicates.look == enLook::More && !predicates.isWitnessed))
+            return KeepWhole(name);
+        m_Scope.isInOrder = false;
+        m_Scope.areDividedApart |= predicates.look == enLook::Text;
+    }
+
     // ---- Predicates ----
 
-    SValue ReadOr()
+    SPathValue ReadOr()
     {
         if (m_Depth == kDeepest)
             Refuse();
         ++m_Depth;
-        const SValue value = ReadChain(
-            {"or"}, [this] { return ReadAnd(); }, false);
+        const SPathValue value = ReadChain({"or"}, &Either, [this] { return ReadAnd(); });
         --m_Depth;
         return value;
     }
-    SValue ReadAnd()
+    SPathValue ReadAnd()
     {
-        return ReadChain(
-            {"and"}, [this] { return ReadEquality(); }, false);
+        return ReadChain({"and"}, &Both, [this] { return ReadEquality(); });
     }
-    SValue ReadEquality()
+    SPathValue ReadEquality()
     {
-        return ReadChain(
-            {"=", "!="}, [this] { return ReadRelation(); }, false);
+        return ReadChain({"=", "!="}, &Compared, [this] { return ReadRelation(); });
     }
-    SValue ReadRelation()
+    SPathValue ReadRelation()
     {
-        return ReadChain(
-            {"<", "<=", ">", ">="}, [this] { return ReadSum(); }, false);
+        return ReadChain({"<", "<=", ">", ">="}, &Compared, [this] { return ReadSum(); });
     }
-    SValue ReadSum()
+    SPathValue ReadSum()
     {
-        return ReadChain(
-            {"+", "-"}, [this] { return ReadProduct(); }, true);
+        return ReadChain({"+", "-"}, &Calculated, [this] { return ReadProduct(); });
     }
-    SValue ReadProduct()
+    SPathValue ReadProduct()
     {
-        return ReadChain(
-            {"*", "div", "mod"}, [this] { return ReadSigned(); }, true);
+        return ReadChain({"*", "div", "mod"}, &Calculated, [this] { return ReadSigned(); });
     }
 
     template <class Operand>
-    SValue ReadChain(std::initializer_list<std::string_view> operators, Operand operand, bool isNumber)
+    SPathValue ReadChain(std::initializer_list<std::string_view> operators,
+                         SPathValue (*join)(SPathValue left, std::string_view sign, SPathValue right),
+                         Operand operand)
     {
-        SValue value = operand();
+        SPathValue value = operand();
         while (IsOperator(operators)) {
+            const std::string_view sign = Peek().text;
             ++m_At;
-            value.asksPosition |= operand().asksPosition;
-            value.isNumber = isNumber;
+            value = join(value, sign, operand());
         }
         return value;
     }
 
-    SValue ReadSigned()
+    SPathValue ReadSigned()
     {
         bool isSigned = false;
         while (Accept("-"))
             isSigned = true;
-        SValue value = ReadOperand();
+        SPathValue value = ReadOperand();
         while (Accept("|"))
-            value.asksPosition |= ReadOperand().asksPosition;
-        value.isNumber |= isSigned;
+            value = United(value, ReadOperand());
+        if (isSigned)
+            value = Calculated(value, {}, {});
         return value;
     }
 
@@ -335,11 +406,12 @@ private:
                !IsOneOf(Peek().text, {"node", "text", "comment", "processing-instruction"});
     }
 
-    SValue ReadOperand()
+    SPathValue ReadOperand()
     {
-        SValue value;
+        SPathValue value;
         if (Peek().kind == enPathToken::Number || Peek().kind == enPathToken::Literal) {
             value.isNumber = Peek().kind == enPathToken::Number;
+            value.isConstant = true;
             ++m_At;
         } else if (IsFunction()) {
             value = ReadFunction();
@@ -350,42 +422,61 @@ private:
             if (IsSymbol("[") || IsSymbol("/") || IsSymbol("//"))
                 Refuse();
         } else if (IsStep()) {
-            ReadAskingPath();
+            value = ReadAskingPath();
         } else {
             Refuse(); // what begins at the root, variables
         }
         return value;
     }
 
-    SValue ReadFunction()
+    SPathValue ReadFunction()
     {
-        SValue value;
+        SPathValue value;
         const std::string_view name = Peek().text;
         m_At += 2;
+        const bool takesNodes = IsOneOf(name, {"boolean", "not", "count", "name", "local-name"});
         if (IsOneOf(name, {"position", "last"}))
-            value = {true, true};
+            value.isNumber = value.asksPosition = true;
         else if (IsOneOf(name, {"count", "sum", "number", "floor", "ceiling", "round", "string-length"}))
             value.isNumber = true;
         else if (!IsOneOf(name, {"boolean", "not", "true", "false", "string", "concat", "starts-with",
                                  "contains", "substring", "substring-before", "substring-after",
                                  "normalize-space", "translate", "name", "local-name"}))
             Refuse();
+        if (IsSymbol(")") && IsOneOf(name, {"string", "string-length", "normalize-space", "number"}))
+            value.look = enLook::Text;
         if (!IsSymbol(")"))
-            do
-                value.asksPosition |= ReadOr().asksPosition;
-            while (Accept(","));
+            do {
+                SPathValue argument = ReadOr();
+                if (!takesNodes)
+                    argument.TakeAsString();
+                value.asksPosition |= argument.asksPosition;
+                value.look = std::max(value.look, argument.look);
+            } while (Accept(","));
         Expect(")");
         return value;
     }
 
-    // A path from a node that isn't divided.
-    void ReadAskingPath()
+    // A path from a node that isn't divided, or that shows in one of its parts what is asked.
+    SPathValue ReadAskingPath()
     {
+        SPathValue value = SPathValue::Beyond();
+        value.isWitnessed = true;
         std::size_t below = 0; // at least so many levels below that node
         bool isFromSubject = true;
-        do {
-            const SStep step = ReadStep();
-            ReadPredicates(step);
+        SStep step;
+        for (bool isFirst = true; isFirst || Accept("/") || Accept("//"); isFirst = false) {
+            step = ReadStep();
+            const bool hasPredicates = IsSymbol("[");
+            const SPathValue predicates = ReadPredicates(step);
+            value.isWitnessed = value.isWitnessed && (step.IsDown() || step.axis == enAxis::Attribute) &&
+                                predicates.look == enLook::Tag;
+            if (isFirst && !hasPredicates && !IsSymbol("/") && !IsSymbol("//") &&
+                (step.axis == enAxis::Self || step.axis == enAxis::Attribute)) {
+                value = {};
+                value.isSelf = step.axis == enAxis::Self;
+                return value;
+            }
             if (step.axis == enAxis::Child || step.axis == enAxis::Descendant) {
                 ++below;
             } else if (step.axis == enAxis::Ancestor) {
@@ -401,12 +492,16 @@ private:
                     --below;
                 }
             }
-        } while (Accept("/") || Accept("//"));
+        }
+        value.isLeaves = value.isWitnessed && (step.isText || step.axis == enAxis::Attribute);
+        return value;
     }
 
     static constexpr int kDeepest = 100;
 
+    std::string_view m_Expression;
     std::vector<SPathToken> m_Tokens;
+    bool m_IsRefused = false;
     std::size_t m_At = 0;
     int m_Depth = 0;            // of expressions in each other
     std::string_view m_Subject; // the name of the elements that the innermost predicate is about

@@ -1,10 +1,12 @@
 #include "Tools/uvparse/Selection.h"
 
 #include "Tools/uvparse/CompactTree.h"
+#include "Tools/uvparse/DividedElements.h"
 #include "Tools/uvparse/PathExpression.h"
 #include "Tools/uvparse/PlainMarkup.h"
 #include "Tools/uvparse/PrettyTree.h"
 #include "UVEnvironment/UVEXmlRead.h"
+#include "UVEnvironment/UVEXmlTree.h"
 
 #include <libxml/tree.h>
 #include <libxml/xpath.h>
@@ -96,19 +98,41 @@ struct CSelector::SFound
 struct CSelector::SResult
 {
     enPart ended = enPart::None; // None: the result is there
-    std::vector<SFound> nodes;   // in document order
+    std::vector<SFound> nodes;
     bool isWrittenTheSame = true;
     bool isValue = false; // the expression doesn't select nodes
     std::string value;
     bool isTrue = false;
+
+    void Take(const CCompactTree& tree, const xmlNode* node)
+    {
+        nodes.push_back({tree.BeginOf(node), tree.EndOf(node), node->type});
+    }
+    // In document order, each once: a divided element is found in each part that has something of it.
+    void Sort()
+    {
+        const auto isBefore = [](const SFound& left, const SFound& right) {
+            return left.Place() < right.Place();
+        };
+        const auto isSame = [](const SFound& left, const SFound& right) {
+            return left.Place() == right.Place();
+        };
+        if (!std::ranges::is_sorted(nodes, isBefore))
+            std::ranges::sort(nodes, isBefore);
+        nodes.erase(std::unique(nodes.begin(), nodes.end(), isSame), nodes.end());
+    }
+    void KeepLast()
+    {
+        if (nodes.size() > 1)
+            nodes = {*std::ranges::max_element(nodes, {}, &SFound::Place)};
+    }
 };
 
 CSelector::CSelector(std::string expression, std::size_t partSize)
     : m_Text(std::move(expression)), m_Scope(ScopeOfPath(m_Text)), m_Needs(NeedsOfPath(m_Text)),
-      m_PartSize(partSize), m_Expression(std::make_unique<CPathExpression>(m_Text, m_Text))
+      m_PartSize(partSize), m_Expression(std::make_unique<CPathExpression>(m_Text, m_Text)),
+      m_Path(std::make_unique<CPathExpression>(m_Scope.path, m_Text))
 {
-    if (m_Scope.isDivisible && !m_Scope.counted.empty())
-        m_Counted = std::make_unique<CPathExpression>(m_Scope.counted, m_Text);
     // Unknown names and wrong types come out only when the expression is at work: here, before any file is
     // read.
     const TXmlOwner<xmlDoc> document(xmlNewDoc(nullptr));
@@ -118,58 +142,122 @@ CSelector::CSelector(std::string expression, std::size_t partSize)
 
 CSelector::~CSelector() = default;
 
-// A part size of 0 takes the tree as a whole.
-CSelector::SResult CSelector::Search(std::string_view tree, std::size_t partSize) const
+CSelector::SResult CSelector::SearchWhole(std::string_view tree) const
+{
+    SResult found;
+    CCompactTree whole(tree, m_Scope, m_Needs, 0);
+    while ((found.ended = whole.Next()) == enPart::Made) {
+        const TXmlOwner<xmlXPathObject> result = m_Expression->Evaluate(whole.GetDocument());
+        found.isTrue = xmlXPathCastToBoolean(result.get()) != 0;
+        if (result->type == XPATH_NODESET) {
+            for (int i = 0; i < xmlXPathNodeSetGetLength(result->nodesetval); ++i)
+                found.Take(whole, xmlXPathNodeSetItem(result->nodesetval, i));
+        } else {
+            const TXmlOwner<xmlChar> text(xmlXPathCastToString(result.get()));
+            found.value = View(text.get());
+            found.isValue = true;
+        }
+    }
+    found.isWrittenTheSame = whole.IsWrittenTheSame();
+    found.Sort();
+    return found;
+}
+
+// Whether the rest of the tree can't change what comes out.
+bool CSelector::IsEnough(SResult& found) const
+{
+    switch (m_Scope.answer) {
+    case enPathAnswer::Any:
+    case enPathAnswer::None:
+        return !found.nodes.empty();
+    case enPathAnswer::Numbered:
+        if (!m_Scope.isInOrder || found.nodes.size() < m_Scope.number)
+            return false;
+        found.Sort();
+        return found.nodes.size() >= m_Scope.number;
+    default:
+        return false;
+    }
+}
+
+CSelector::SResult CSelector::SearchParts(std::string_view tree) const
 {
     SResult found;
     std::size_t count = 0; // of nodes that are told by their number alone
-    const bool isCounting = partSize > 0 && m_Counted;
-    const CPathExpression& expression = isCounting ? *m_Counted : *m_Expression;
-    CCompactTree parts(tree, m_Scope, m_Needs, partSize);
+    const bool isCounting = m_Scope.answer == enPathAnswer::Count;
+    bool isEnough = false;
+    CCompactTree parts(tree, m_Scope, m_Needs, m_PartSize);
+    CDividedElements divided;
     while ((found.ended = parts.Next()) == enPart::Made) {
-        const TXmlOwner<xmlXPathObject> result = expression.Evaluate(parts.GetDocument());
-        if (result->type != XPATH_NODESET) {
-            const TXmlOwner<xmlChar> text(xmlXPathCastToString(result.get()));
-            found.value = View(text.get());
-            found.isTrue = xmlXPathCastToBoolean(result.get()) != 0;
-            found.isValue = true;
+        if (isEnough)
             continue;
-        }
+        const TXmlOwner<xmlXPathObject> result = m_Path->Evaluate(parts.GetDocument());
         for (int i = 0; i < xmlXPathNodeSetGetLength(result->nodesetval); ++i) {
             const xmlNode* const node = xmlXPathNodeSetItem(result->nodesetval, i);
-            if (isCounting && !parts.IsShared(node))
+            const bool isShared = (isCounting || m_Scope.areDividedApart) && parts.IsShared(node);
+            if (isCounting && !isShared)
                 ++count;
-            else
-                found.nodes.push_back({parts.BeginOf(node), parts.EndOf(node), node->type});
+            else if (!isShared || !m_Scope.areDividedApart)
+                found.Take(parts, node);
         }
+        if (m_Scope.areDividedApart)
+            divided.Add(parts);
+        if (m_Scope.answer == enPathAnswer::Last)
+            found.KeepLast();
+        isEnough = IsEnough(found);
+        if (isEnough)
+            parts.MakeNoMore();
     }
     if (found.ended != enPart::None)
         return found;
+    if (!divided.IsEmpty()) {
+        const TXmlOwner<xmlXPathObject> result = m_Path->Evaluate(divided.GetDocument());
+        for (int i = 0; i < xmlXPathNodeSetGetLength(result->nodesetval); ++i)
+            if (const xmlNode* const node = xmlXPathNodeSetItem(result->nodesetval, i);
+                node->type != XML_TEXT_NODE)
+                found.Take(parts, node);
+    }
     found.isWrittenTheSame = parts.IsWrittenTheSame();
-
-    // A divided element is found in each part that has something of it, and has its end in the last one
-    // alone.
-    const auto isBefore = [](const SFound& left, const SFound& right) {
-        return left.Place() < right.Place();
-    };
-    const auto isSame = [](const SFound& left, const SFound& right) { return left.Place() == right.Place(); };
-    if (!std::ranges::is_sorted(found.nodes, isBefore))
-        std::ranges::sort(found.nodes, isBefore);
-    found.nodes.erase(std::unique(found.nodes.begin(), found.nodes.end(), isSame), found.nodes.end());
+    found.Sort();
+    count += found.nodes.size();
+    Answer(found, count);
+    // A divided element has its end in the last one of its parts alone.
     for (SFound& node : found.nodes)
         if (node.end == nullptr)
             node.end = parts.EndOfDivided(node.begin);
-    if (isCounting) {
-        const TXmlOwner<xmlChar> text(
-            xmlXPathCastNumberToString(static_cast<double>(count + found.nodes.size())));
-        found.value = View(text.get());
-        found.isTrue = count + found.nodes.size() > 0;
-        found.nodes.clear();
-        found.isValue = true;
-    } else if (!found.isValue) {
-        found.isTrue = !found.nodes.empty();
-    }
     return found;
+}
+
+// `count`: of all the nodes. `found` has them in document order, if they are asked for.
+void CSelector::Answer(SResult& found, std::size_t count) const
+{
+    found.isTrue = count > 0;
+    switch (m_Scope.answer) {
+    case enPathAnswer::Nodes:
+        return;
+    case enPathAnswer::Numbered:
+        found.isTrue = count >= m_Scope.number;
+        if (found.isTrue)
+            found.nodes = {found.nodes[m_Scope.number - 1]};
+        else
+            found.nodes.clear();
+        return;
+    case enPathAnswer::Last:
+        found.KeepLast();
+        return;
+    case enPathAnswer::Count: {
+        const TXmlOwner<xmlChar> text(xmlXPathCastNumberToString(static_cast<double>(count)));
+        found.value = View(text.get());
+        break;
+    }
+    case enPathAnswer::Any:
+    case enPathAnswer::None:
+        found.isTrue = (count > 0) == (m_Scope.answer == enPathAnswer::Any);
+        found.value = found.isTrue ? "true" : "false";
+        break;
+    }
+    found.isValue = true;
+    found.nodes.clear();
 }
 
 bool CSelector::Write(std::string_view tree, const std::string& name, const SSelectionLook& look,
@@ -179,9 +267,9 @@ bool CSelector::Write(std::string_view tree, const std::string& name, const SSel
         return false;
     if (m_Needs.areNamespaces)
         return WriteFromDocument(tree, name, look, sink);
-    SResult found = Search(tree, m_Scope.isDivisible ? m_PartSize : 0);
+    SResult found = m_Scope.isDivisible && m_PartSize > 0 ? SearchParts(tree) : SearchWhole(tree);
     if (found.ended == enPart::TooLarge)
-        found = Search(tree, 0);
+        found = SearchWhole(tree);
     if (found.ended != enPart::None)
         return WriteFromDocument(tree, name, look, sink);
 

@@ -43,7 +43,10 @@ private:
     struct SFound;
     struct SResult;
 
-    SResult Search(std::string_view tree, std::size_t partSize) const;
+    SResult SearchParts(std::string_view tree) const;
+    SResult SearchWhole(std::string_view tree) const;
+    bool IsEnough(SResult& found) const;
+    void Answer(SResult& found, std::size_t count) const;
     bool WriteFromDocument(std::string_view tree, const std::string& name, const SSelectionLook& look,
                            const TTextSink& sink) const;
 
@@ -52,7 +55,7 @@ private:
     SPathNeeds m_Needs;
     std::size_t m_PartSize;
     std::unique_ptr<CPathExpression> m_Expression;
-    std::unique_ptr<CPathExpression> m_Counted; // the path, where the expression is the number of its nodes
+    std::unique_ptr<CPathExpression> m_Path; // of the scope, for the parts
 };
 
 } // namespace uvparse

@@ -1,0 +1,53 @@
+// What is known of a part of a predicate: a value, or the predicate as a whole.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+namespace uvparse {
+
+// What of an element a part of a predicate looks at.
+enum class enLook
+{
+    Tag,  // its name and attributes, or nothing at all
+    Text, // also all of the text in it
+    More
+};
+
+struct SPathValue
+{
+    bool isNumber = false; // as a predicate: a position
+    bool asksPosition = false;
+    enLook look = enLook::Tag;
+    bool isSelf = false; // the node that is asked; taken as a string, its text
+    // True in the whole if it is true in a part, and true in one of the parts if it is true in the whole.
+    bool isWitnessed = false;
+    bool isLeaves = false; // a path down to texts or attributes
+    bool isConstant = false;
+
+    bool IsPositional() const { return isNumber || asksPosition; }
+
+    static SPathValue Beyond()
+    {
+        SPathValue value;
+        value.look = enLook::More;
+        return value;
+    }
+    // Of what it is taken as, there is nothing to be said but where it comes from.
+    void TakeAsString()
+    {
+        look = isSelf ? std::max(look, enLook::Text) : look;
+        isSelf = false;
+        isWitnessed = false;
+        isLeaves = false;
+    }
+};
+
+// What comes out of two of them. `sign` is the operator between.
+SPathValue Both(SPathValue left, std::string_view sign, SPathValue right);
+SPathValue Either(SPathValue left, std::string_view sign, SPathValue right);
+SPathValue Calculated(SPathValue left, std::string_view sign, SPathValue right);
+SPathValue Compared(SPathValue left, std::string_view sign, SPathValue right);
+SPathValue United(SPathValue left, SPathValue right);
+
+} // namespace uvparse
