@@ -75,6 +75,8 @@ CCompactTree::CCompactTree(std::string_view tree, const SPathScope& scope, const
 {
     if (!m_Document)
         throw std::bad_alloc();
+    if (scope.target && !scope.target->predicates.empty())
+        m_Judge = std::make_unique<CTagJudge>(scope.target->predicates);
 }
 
 CCompactTree::~CCompactTree() = default;
@@ -294,8 +296,10 @@ const CCompactTree::SName& CCompactTree::NameOf(std::string_view name)
     };
     const char* const copy = m_Names.Copy(name);
     SName& made = m_NameTable[std::string_view(copy, name.size())];
-    made = {copy, name.size(), m_Needs.areAllElements || isAmong(m_Needs.elements),
-            isAmong(m_Scope.undivided), isAmong(m_Scope.undividedParents)};
+    const std::optional<SPathTarget>& target = m_Scope.target;
+    const bool isNeeded = target ? !target->isText && (target->element.empty() || target->element == name)
+                                 : m_Needs.areAllElements || isAmong(m_Needs.elements);
+    made = {copy, name.size(), isNeeded, isAmong(m_Scope.undivided), isAmong(m_Scope.undividedParents)};
     return made;
 }
 
@@ -316,21 +320,23 @@ bool CCompactTree::ReadTag(std::string_view text, STag& tag)
     rest.remove_prefix(name.size());
     if (!IsPlainName(name))
         return false;
-    m_AttributeNames.clear();
+    m_Attributes.clear();
     std::string_view attribute;
     std::string_view value;
     while (!rest.empty()) {
         if (!ReadAttribute(rest, attribute, value) || !IsPlainName(attribute) || attribute == "xmlns" ||
-            std::ranges::find(m_AttributeNames, attribute) != m_AttributeNames.end())
+            std::ranges::find(m_Attributes, attribute, &decltype(m_Attributes)::value_type::first) !=
+                m_Attributes.end())
             return false;
         const SPlainText found = ExaminePlain(value, true);
         m_Value.clear();
         if (!found.isPlain ||
             (found.hasReferences && !UnescapePlain(value, true, m_Value, m_IsWrittenTheSame)))
             return false;
-        m_AttributeNames.push_back(attribute);
+        m_Attributes.emplace_back(attribute, value);
     }
     tag.name = &NameOf(name);
+    tag.isNeeded = tag.name->isNeeded && (!m_Judge || m_Judge->IsTrueOf(name, m_Attributes));
     tag.text = text;
     return true;
 }
@@ -358,11 +364,13 @@ bool CCompactTree::TakeTag()
         m_Open.back().holdsWanted = true;
         m_IsTooLarge = m_Open.back().isDivided;
     }
-    const bool isMade =
-        (tag->name->isNeeded && !m_IsEnough) || m_Open.empty(); // the document has its root in any case
-    if (tag->isEmpty && !isMade)
+    const bool isNeeded = tag->isNeeded && !m_IsEnough;
+    const bool isAwaited = isNeeded && m_Scope.target && m_Scope.target->text;
+    // The document has its root in any case.
+    const bool isMade = (isNeeded && !isAwaited) || m_Open.empty();
+    if (tag->isEmpty && !isMade && !isAwaited)
         return true;
-    m_Open.push_back({text, tag->name, nullptr, m_Texts.size(), false, false});
+    m_Open.push_back({text, tag->name, nullptr, m_Texts.size(), isAwaited, false, false});
     if (isMade)
         MakeOpenElements();
     if (tag->isEmpty)
@@ -386,9 +394,19 @@ bool CCompactTree::TakeEnd()
     return true;
 }
 
+bool CCompactTree::IsTargetText(std::string_view text) const
+{
+    const SPathTarget& target = *m_Scope.target;
+    return target.isAllText ? text == *target.text : text.find(*target.text) != std::string_view::npos;
+}
+
 void CCompactTree::Close()
 {
     const SOpenElement& closing = m_Open.back();
+    // Nothing that was made is in it yet, so that all of its text is still at hand.
+    if (closing.isAwaited && closing.node == nullptr &&
+        IsTargetText(std::string_view(m_Texts).substr(closing.textBegin)))
+        MakeOpenElements();
     const char* const end = m_Tree.data() + m_Offset;
     if (closing.isDivided)
         m_DividedEnds.emplace(closing.tag.data(), end);
@@ -417,10 +435,12 @@ bool CCompactTree::TakeText()
         m_Texts += text;
     else if (!UnescapePlain(text, false, m_Texts, m_IsWrittenTheSame))
         return false;
-    if (texts == enPathTexts::None) {
+    const bool isLookedFor =
+        !m_Scope.target || !m_Scope.target->isText || IsTargetText(std::string_view(m_Texts).substr(begin));
+    if (texts == enPathTexts::None || (texts == enPathTexts::Nodes && !isLookedFor)) {
         m_Texts.resize(begin);
     } else if (texts == enPathTexts::Nodes) {
-        MakeTexts();
+        MakeOpenElements();
         m_Open.back().node->last->_private = const_cast<char*>(text.data());
     }
     return true;

@@ -6,6 +6,7 @@
 #include "Tools/uvparse/NodeArena.h"
 #include "Tools/uvparse/PathNeeds.h"
 #include "Tools/uvparse/PathScope.h"
+#include "Tools/uvparse/TagJudge.h"
 
 #include <libxml/tree.h>
 
@@ -15,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace uvparse {
@@ -84,6 +86,7 @@ private:
         std::string_view text; // empty: none
         const SName* name = nullptr;
         bool isEmpty = false;
+        bool isNeeded = false;
     };
 
     struct SOpenElement
@@ -92,6 +95,7 @@ private:
         const SName* name = nullptr;
         xmlNode* node = nullptr;   // null until something in the element is needed
         std::size_t textBegin = 0; // of what is in it, in m_Texts
+        bool isAwaited = false;    // needed if it has the text that is looked for
         bool isDivided = false;
         bool holdsWanted = false; // a child that wants its parent whole
     };
@@ -106,6 +110,7 @@ private:
     const STag* TagAt(std::string_view text);
     bool ReadTag(std::string_view text, STag& tag);
     bool ReadAttribute(std::string_view& attributes, std::string_view& name, std::string_view& value);
+    bool IsTargetText(std::string_view text) const;
     void MakeOpenElements();
     void MakeText(std::size_t end);
     void MakeTexts();
@@ -126,8 +131,9 @@ private:
     CNodeArena m_Nodes;
     CNodeArena m_Names;
     std::unordered_map<std::string_view, SName> m_NameTable;
-    std::vector<std::string_view> m_AttributeNames; // of the tag that is read
-    std::vector<xmlNode*> m_Values;                 // of attributes, by a hash of their text
+    std::vector<std::pair<std::string_view, std::string_view>> m_Attributes; // of the tag that is read
+    std::unique_ptr<CTagJudge> m_Judge;                                      // of tags that may be needed
+    std::vector<xmlNode*> m_Values; // of attributes, by a hash of their text
     std::unique_ptr<xmlDoc, SFreeDocument> m_Document;
     std::vector<SOpenElement> m_Open;
     std::size_t m_Made = 0;                           // of the open elements, from the outermost on

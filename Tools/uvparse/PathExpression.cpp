@@ -142,8 +142,13 @@ TXmlOwner<xmlXPathObject> CPathExpression::Evaluate(xmlDoc* document) const
     if (!context)
         throw std::bad_alloc();
     context->node = reinterpret_cast<xmlNode*>(document);
+    return Evaluate(context.get());
+}
+
+TXmlOwner<xmlXPathObject> CPathExpression::Evaluate(xmlXPathContext* context) const
+{
     CXPathErrors errors;
-    TXmlOwner<xmlXPathObject> result(xmlXPathCompiledEval(m_Compiled.get(), context.get()));
+    TXmlOwner<xmlXPathObject> result(xmlXPathCompiledEval(m_Compiled.get(), context));
     if (!result || errors.HasFailed())
         throw CToolFailure("--xpath '" + m_Shown + "': " + errors.Text());
     return result;

@@ -31,6 +31,8 @@ public:
 
     // Throws: CToolFailure.
     TXmlOwner<xmlXPathObject> Evaluate(xmlDoc* document) const;
+    // For many nodes of the same document one after the other; the node is the one that `context` holds.
+    TXmlOwner<xmlXPathObject> Evaluate(xmlXPathContext* context) const;
 
 private:
     std::string m_Shown;

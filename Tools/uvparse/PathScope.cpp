@@ -59,6 +59,7 @@ struct SStep
     enAxis axis = enAxis::Child;
     std::string_view name;  // of the nodes wanted; empty: they have more than one, or none
     bool isElements = true; // it may select elements
+    bool isAnyNode = false; // elements and whatever else
     bool isText = false;
 
     bool IsDown() const
@@ -196,9 +197,9 @@ private:
     SStep ReadStep()
     {
         if (Accept("."))
-            return {enAxis::Self, {}, true};
+            return {enAxis::Self, {}, true, true};
         if (Accept(".."))
-            return {enAxis::Parent, {}, true};
+            return {enAxis::Parent, {}, true, true};
         SStep step;
         if (Accept("@")) {
             step.axis = enAxis::Attribute;
@@ -221,6 +222,7 @@ private:
             return step;
         // The type of a node; a name in the brackets belongs to a processing instruction.
         step.isElements = step.isElements && step.name == "node";
+        step.isAnyNode = step.name == "node";
         step.isText = step.axis != enAxis::Attribute && step.name == "text";
         if (!IsOneOf(step.name, {"node", "text", "comment"}))
             Refuse();
@@ -256,6 +258,7 @@ private:
             return;
         while (Accept("|"))
             ReadSelectingPath();
+        m_Scope.target.reset();
         // The other paths would have to be right in that tree too.
         if (m_Scope.areDividedApart)
             Refuse();
@@ -271,10 +274,13 @@ private:
         std::string_view anchor; // the element of a name that the path has come through last
         std::string_view outer;  // the one before, if it is above that
         bool isAtAnchor = false;
+        bool isDown = true;
         do {
             const SStep step = ReadStep();
+            const char* const begin = Here();
             const bool hasPredicates = IsSymbol("[");
             const SPathValue predicates = ReadPredicates(step);
+            const std::string_view text(begin, static_cast<std::size_t>(Here() - begin));
             const bool isLast = !IsSymbol("/") && !IsSymbol("//");
             const bool isEnd = isLast || IsLastAttribute();
             switch (step.axis) {
@@ -284,6 +290,7 @@ private:
                 if (!isLast || predicates.look != enLook::Tag)
                     KeepWhole(step.name);
                 m_Scope.isInOrder = false;
+                isDown = false;
                 outer = {};
                 anchor = step.name;
                 isAtAnchor = !anchor.empty();
@@ -295,6 +302,7 @@ private:
                     KeepWhole(outer);
                 else
                     KeepParentsWhole(anchor);
+                isDown = false;
                 anchor = step.name;
                 isAtAnchor = !anchor.empty();
                 break;
@@ -304,6 +312,9 @@ private:
                 isAtAnchor = false;
                 break;
             default:
+                if (isDown && isEnd && step.isElements && !step.isAnyNode)
+                    AimAt(step, predicates, text);
+                isDown = isDown && predicates.look == enLook::Tag;
                 if (hasPredicates && step.isElements)
                     ReadDivided(predicates, step.name.empty() ? anchor : step.name, isEnd);
                 if (predicates.asksPosition && !anchor.empty())
@@ -339,6 +350,25 @@ private:
             return KeepWhole(name);
         m_Scope.isInOrder = false;
         m_Scope.areDividedApart |= predicates.look == enLook::Text;
+    }
+
+    // The elements of the last step are selected, or their attributes.
+    void AimAt(const SStep& step, const SPathValue& predicates, std::string_view text)
+    {
+        SPathTarget target;
+        if (predicates.look == enLook::Tag)
+            target.predicates = text;
+        else if (predicates.look == enLook::Text || predicates.isWitnessed)
+            target = predicates.target.value_or(target);
+        else
+            return;
+        const bool isSelf = !target.isText && target.element.empty();
+        if (predicates.isWitnessed && isSelf)
+            return;
+        if (isSelf)
+            target.element = step.name;
+        if (!target.element.empty() || !target.predicates.empty() || target.text)
+            m_Scope.target = target;
     }
 
     // ---- Predicates ----
@@ -412,6 +442,8 @@ private:
         if (Peek().kind == enPathToken::Number || Peek().kind == enPathToken::Literal) {
             value.isNumber = Peek().kind == enPathToken::Number;
             value.isConstant = true;
+            if (!value.isNumber)
+                value.literal = Peek().text.substr(1, Peek().text.size() - 2);
             ++m_At;
         } else if (IsFunction()) {
             value = ReadFunction();
@@ -445,9 +477,13 @@ private:
             Refuse();
         if (IsSymbol(")") && IsOneOf(name, {"string", "string-length", "normalize-space", "number"}))
             value.look = enLook::Text;
+        bool isSelf = false; // the first argument
         if (!IsSymbol(")"))
             do {
                 SPathValue argument = ReadOr();
+                if (isSelf && argument.literal && IsOneOf(name, {"contains", "starts-with"}))
+                    value.target.emplace().text = *argument.literal;
+                isSelf = argument.isSelf;
                 if (!takesNodes)
                     argument.TakeAsString();
                 value.asksPosition |= argument.asksPosition;
@@ -494,6 +530,8 @@ private:
             }
         }
         value.isLeaves = value.isWitnessed && (step.isText || step.axis == enAxis::Attribute);
+        if (value.isWitnessed && (step.isText || (step.isElements && !step.name.empty())))
+            value.target = {step.isText, std::string(step.name), {}, {}, false};
         return value;
     }
 

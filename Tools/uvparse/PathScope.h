@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,16 @@ enum class enPathAnswer
     Last,
     Any, // whether there is one
     None // whether there is none
+};
+
+// What everything that a path selects is, or is around. It tells what of a tree can stay away.
+struct SPathTarget
+{
+    bool isText = false;             // a text node; otherwise an element
+    std::string element;             // its name; empty: any
+    std::string predicates;          // of the element, about nothing but its name and attributes; empty: none
+    std::optional<std::string> text; // that it has,
+    bool isAllText = false;          // and nothing else, or within it
 };
 
 // A tree may be asked part by part: a part has the elements that are open where it begins, without what was
@@ -37,6 +48,9 @@ struct SPathScope
     std::string path; // the expression, or what stands in it between the brackets of what is asked
     enPathAnswer answer = enPathAnswer::Nodes;
     std::size_t number = 0; // from 1
+
+    // In parts and in the whole alike.
+    std::optional<SPathTarget> target;
 };
 
 // `expression` is one that XPath 1.0 allows. What isn't surely divisible is not.

@@ -12,6 +12,7 @@ SPathValue Both(SPathValue left, std::string_view /*sign*/, SPathValue right)
     // Two of them may be true in different parts.
     both.isWitnessed =
         (left.isWitnessed && right.look == enLook::Tag) || (right.isWitnessed && left.look == enLook::Tag);
+    both.target = left.target ? left.target : right.target;
     return both;
 }
 
@@ -37,12 +38,17 @@ SPathValue Calculated(SPathValue left, std::string_view /*sign*/, SPathValue rig
 }
 
 // Nodes are compared one by one with anything but a boolean.
-SPathValue Compared(SPathValue left, std::string_view /*sign*/, SPathValue right)
+SPathValue Compared(SPathValue left, std::string_view sign, SPathValue right)
 {
     if (left.isConstant)
         std::swap(left, right);
     SPathValue compared;
     compared.isWitnessed = left.isLeaves && right.isConstant;
+    if (sign == "=" && right.literal && (left.isSelf || (compared.isWitnessed && left.target))) {
+        compared.target = left.target.value_or(SPathTarget{});
+        compared.target->text = *right.literal;
+        compared.target->isAllText = true;
+    }
     left.TakeAsString();
     right.TakeAsString();
     compared.asksPosition = left.asksPosition || right.asksPosition;

@@ -1,7 +1,10 @@
 // What is known of a part of a predicate: a value, or the predicate as a whole.
 #pragma once
 
+#include "Tools/uvparse/PathScope.h"
+
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 namespace uvparse {
@@ -24,6 +27,8 @@ struct SPathValue
     bool isWitnessed = false;
     bool isLeaves = false; // a path down to texts or attributes
     bool isConstant = false;
+    std::optional<std::string_view> literal; // that it is
+    std::optional<SPathTarget> target;       // what there has to be for it to be true
 
     bool IsPositional() const { return isNumber || asksPosition; }
 
@@ -40,6 +45,8 @@ struct SPathValue
         isSelf = false;
         isWitnessed = false;
         isLeaves = false;
+        literal.reset();
+        target.reset();
     }
 };
 
