@@ -5,7 +5,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <string>
+#include <iterator>
+#include <utility>
 
 namespace uvparse {
 
@@ -14,6 +15,36 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr char kFormFeed = '\x0C';
 constexpr char kDataLinkEscape = '\x10';
+
+// Takes the reference that `text` begins with off. What it stands for may be written to `sequence`.
+// Returns: false where there is none.
+bool ReadReference(std::string_view& text, char (&sequence)[4], std::string_view& piece)
+{
+    constexpr std::pair<std::string_view, std::string_view> kEntities[] = {
+        {"amp", "&"}, {"lt", "<"}, {"gt", ">"}, {"apos", "'"}, {"quot", "\""}};
+    const std::size_t end = text.find(';');
+    if (end == std::string_view::npos)
+        return false;
+    std::string_view name = text.substr(1, end - 1);
+    if (name.starts_with('#')) {
+        const bool isHexadecimal = name.starts_with("#x");
+        name.remove_prefix(isHexadecimal ? 2 : 1);
+        unsigned int codePoint = 0;
+        const auto [last, error] =
+            std::from_chars(name.data(), name.data() + name.size(), codePoint, isHexadecimal ? 16 : 10);
+        if (error != std::errc() || last != name.data() + name.size() || codePoint > 0x10FFFF)
+            return false;
+        piece = {sequence, static_cast<std::size_t>(Uve::Encoding::UTF8::cp2UTF8(codePoint, sequence))};
+    } else {
+        const auto* const entity =
+            std::ranges::find(kEntities, name, &std::pair<std::string_view, std::string_view>::first);
+        if (entity == std::end(kEntities))
+            return false;
+        piece = entity->second;
+    }
+    text.remove_prefix(end + 1);
+    return true;
+}
 
 // Hands out the text content of a tree piece by piece, unescaped.
 class CTreeTextReader
@@ -33,7 +64,7 @@ public:
                 return false;
         m_PieceOffset = OffsetOf(m_Text);
         if (m_Text.front() == '&')
-            return ReadEntity(piece);
+            return ReadReference(m_Text, m_Sequence, piece);
         piece = m_Text.substr(0, m_Text.find('&'));
         m_Text.remove_prefix(piece.size());
         return true;
@@ -62,45 +93,6 @@ private:
                 m_Text.remove_prefix(std::min(m_Text.find_first_not_of(kBlanks), m_Text.size()));
         }
         m_HasRoot = m_HasRoot || (markup.kind != enMarkup::Other && markup.kind != enMarkup::Text);
-        return true;
-    }
-
-    bool ReadEntity(std::string_view& piece)
-    {
-        const std::size_t end = m_Text.find(';');
-        if (end == std::string_view::npos)
-            return false;
-        const std::string_view name = m_Text.substr(1, end - 1);
-        if (name == "amp")
-            piece = "&";
-        else if (name == "lt")
-            piece = "<";
-        else if (name == "gt")
-            piece = ">";
-        else if (name == "apos")
-            piece = "'";
-        else if (name == "quot")
-            piece = "\"";
-        else if (!ReadCharacterReference(name, piece))
-            return false;
-        m_Text.remove_prefix(end + 1);
-        return true;
-    }
-
-    bool ReadCharacterReference(std::string_view name, std::string_view& piece)
-    {
-        if (!name.starts_with('#'))
-            return false;
-        name.remove_prefix(1);
-        const bool isHexadecimal = name.starts_with('x');
-        if (isHexadecimal)
-            name.remove_prefix(1);
-        unsigned int codePoint = 0;
-        const auto [end, error] =
-            std::from_chars(name.data(), name.data() + name.size(), codePoint, isHexadecimal ? 16 : 10);
-        if (error != std::errc() || end != name.data() + name.size() || codePoint > 0x10FFFF)
-            return false;
-        piece = {m_Sequence, static_cast<std::size_t>(Uve::Encoding::UTF8::cp2UTF8(codePoint, m_Sequence))};
         return true;
     }
 
@@ -184,6 +176,23 @@ bool IsStatementElement(std::string_view name)
 {
     return name == "delimited_pl_sql_statement" || name == "full_pl_sql_statement" ||
            name == "pl_sql_statement";
+}
+
+std::string PlainText(std::string_view content)
+{
+    std::string plain;
+    char sequence[4] = {};
+    while (!content.empty()) {
+        std::string_view piece = content.substr(0, content.find('&'));
+        if (!piece.empty())
+            content.remove_prefix(piece.size());
+        else if (!ReadReference(content, sequence, piece)) {
+            piece = content.substr(0, 1);
+            content.remove_prefix(1);
+        }
+        plain += piece;
+    }
+    return plain;
 }
 
 std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::string_view text)

@@ -3,9 +3,13 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace uvparse {
+
+// Text between tags, or the value of an attribute, without its references. One that makes no sense stays as it stands.
+std::string PlainText(std::string_view content);
 
 struct STreeDifference
 {
