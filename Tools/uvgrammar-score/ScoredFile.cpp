@@ -92,11 +92,20 @@ SParsedText CTextParser::ParseText(std::string text, const std::string& path)
 
 SParsedText CTextParser::ParseFile(const std::string& path)
 {
-    std::string text = uvparse::ReadSourceText(path, {});
+    return ParseSource(uvparse::ReadSourceText(path, {}), path);
+}
+
+SParsedText CTextParser::ParseSource(std::string text, const std::string& path)
+{
     // The preparation takes the last character, whatever it is.
     if (m_Language.version.db == UVDB_DB_IBM_CL && !text.empty() && text.back() != '\n')
         text += '\n';
     return ParseText(std::move(text), path);
+}
+
+uvparse::SParseResult CTextParser::ParseRaw(const std::string& text, const std::string& path)
+{
+    return Host(enMode::RawTree, m_RawHost).Parse(text, path);
 }
 
 SFailure FailureOf(const uvparse::SFinding& finding)

@@ -83,6 +83,10 @@ public:
     SParsedText ParseFile(const std::string& path);
     // `path` is told to the preparation.
     SParsedText ParseText(std::string text, const std::string& path);
+    // As it would be parsed if it stood in the file.
+    SParsedText ParseSource(std::string text, const std::string& path);
+    // Its raw tree, without a preparation.
+    uvparse::SParseResult ParseRaw(const std::string& text, const std::string& path);
 
 private:
     uvparse::CParserHost& Host(uvparse::enMode mode, std::unique_ptr<uvparse::CParserHost>& host) const;
@@ -91,6 +95,7 @@ private:
     uvparse::TOptions m_Options;
     std::unique_ptr<uvparse::CParserHost> m_Host;
     std::unique_ptr<uvparse::CParserHost> m_Preparation;
+    std::unique_ptr<uvparse::CParserHost> m_RawHost;
 };
 
 // Why the finding keeps a statement from being clean.
