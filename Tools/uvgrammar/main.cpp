@@ -31,6 +31,10 @@ constexpr const char* kUsage =
     "       uvgrammar score LANGUAGE FILE|FOLDER...\n"
     "\n"
     "Parses files with the tables of a language and tells what can't be read; see uvgrammar score --help.\n"
+    "\n"
+    "       uvgrammar test LANGUAGE [FILE...]\n"
+    "\n"
+    "Compares the trees of a language's texts with those that are expected; see uvgrammar test --help.\n"
     "\n";
 
 constexpr const char* kExitCodes = "\n"
@@ -67,7 +71,7 @@ int RunSubcommand(char** argv, CToolMessages& messages)
 
 int Run(int argc, char** argv, CToolMessages& messages)
 {
-    if (argc > 1 && std::string_view(argv[1]) == "score")
+    if (argc > 1 && (std::string_view(argv[1]) == "score" || std::string_view(argv[1]) == "test"))
         return RunSubcommand(argv, messages);
     SGrammarBuild build;
     bool isQuiet = false;

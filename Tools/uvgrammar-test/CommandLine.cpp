@@ -1,0 +1,72 @@
+#include "Tools/uvgrammar-test/CommandLine.h"
+
+#include <boost/program_options.hpp>
+
+#include <sstream>
+
+namespace po = boost::program_options;
+
+namespace uvtest {
+
+namespace {
+
+po::options_description VisibleOptions(SCommandLine& line)
+{
+    po::options_description visible("options", 100);
+    // clang-format off
+    visible.add_options()
+        ("filter", po::value(&line.filter)->value_name("TEXT"), "run the cases that have the text in their names")
+        ("update", po::bool_switch(&line.isUpdate), "write the trees that there are into the files, in the place of those that are expected")
+        ("help,h", po::bool_switch(&line.isHelp), "print this");
+    // clang-format on
+    return visible;
+}
+
+// clang-format off
+constexpr char kUsage[] =
+    "usage: uvgrammar test [options] LANGUAGE [FILE...]\n"
+    "Makes the tables of a language if they are older than its sources, and compares the trees of texts with those\n"
+    "that are expected. LANGUAGE is the folder of the sources, with one *Lexer.l and one *Parser.y in it; without a\n"
+    "FILE the cases are those of all files *.tests in its folder Tests.\n\n";
+constexpr char kAfterOptions[] =
+    "\nExit code: 0 all trees are as expected, or were updated; 1 a case fails, a file of cases can't be understood or\n"
+    "the grammar is refused; 2 something could not run.\n";
+// clang-format on
+
+} // namespace
+
+SCommandLine ReadCommandLine(int argc, const char* const* argv)
+{
+    SCommandLine line;
+    try {
+        po::options_description all = VisibleOptions(line);
+        all.add_options()("language", po::value(&line.language))("file", po::value(&line.files));
+        po::positional_options_description positions;
+        positions.add("language", 1).add("file", -1);
+        using po::command_line_style::allow_guessing;
+        using po::command_line_style::unix_style;
+        po::variables_map values;
+        po::store(po::command_line_parser(argc, argv)
+                      .options(all)
+                      .positional(positions)
+                      .style(unix_style & ~allow_guessing)
+                      .run(),
+                  values);
+        po::notify(values);
+    } catch (const po::error& e) {
+        throw CUsageError(e.what());
+    }
+    if (!line.isHelp && line.language.empty())
+        throw CUsageError("no language given");
+    return line;
+}
+
+std::string HelpText()
+{
+    SCommandLine line;
+    std::ostringstream text;
+    text << kUsage << VisibleOptions(line) << kAfterOptions;
+    return text.str();
+}
+
+} // namespace uvtest
