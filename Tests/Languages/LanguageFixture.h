@@ -98,12 +98,10 @@ void ExpectPiecesLoseNothing(CLanguage& language, const std::vector<std::string>
 // Each text with bytes changed, put in and taken out at random, parsed whole. Three of four are `favourites`.
 void ExpectSpoiledTextsLoseNothing(CLanguage& language, const std::vector<std::string>& texts,
                                    std::string_view favourites);
-// The statement alone on its line, with each of the line ends: clean, and its tree holds the pattern.
-void ExpectStatement(CLanguage& language, const std::string& text, std::initializer_list<const char*> ends,
-                     const char* pattern);
+// The statement alone on its line, with each of the line ends: clean.
+void ExpectOneStatement(CLanguage& language, const std::string& text,
+                        std::initializer_list<const char*> ends);
 std::size_t CountOf(const CSyntaxTree& tree, std::string_view name);
-// The texts of all tokens of a name, a bar between them.
-std::string TextsOf(const CSyntaxTree& tree, std::string_view name);
 std::size_t DepthOf(const std::string& xml);
 // Each colored piece with its color in front, blanks between; "/" for a line end.
 std::string ShownColors(CLanguage& language, const std::string& text);
