@@ -356,6 +356,8 @@ TEST_F(UvgrammarTest, FailsWhateverIsExpectedIfAPathSelectsNothing)
                     AllOf(StartsWith("one.tests:1: a\n  "), HasSubstr(path), HasSubstr("failed: 1")));
         EXPECT_EQ(Get("one.tests"), content);
     }
+    Put("one.tests", "=== a\n===: show //name\n= b;\n---\n");
+    EXPECT_THAT(Test("Pairs one.tests").out, HasSubstr("tree\n  ! unexpected T__EQUALS \"=\" at 1:1\n\n"));
 }
 
 TEST_F(UvgrammarTest, LeavesABrokenFileAloneAndRunsTheOthers)

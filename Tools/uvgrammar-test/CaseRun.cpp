@@ -123,7 +123,11 @@ SCaseResult CCaseRunner::Run(const SCase& one, const std::string& path)
             return result;
         }
         if (result.lines.empty()) {
+            // A mistake in the text is a likely reason.
             result.problem = "'" + one.show + "' selects no element of the tree";
+            AppendFindings(parsed, result.lines);
+            for (const std::string& finding : result.lines)
+                result.problem += "\n  " + finding;
             return result;
         }
     }
