@@ -174,8 +174,8 @@ struct SGuide
 TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
     const SGuide guides[] = {
-        {"LanguageGuide.md", {"uvgrammar", "uvparse", "libUVParser.so"}, 4},
-        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "libUVParser.so"}, 8},
+        {"LanguageGuide.md", {"uvgrammar", "uvgrammar-test", "uvparse", "libUVParser.so"}, 6},
+        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"}, 10},
         {"RuleFiles.md", {"uvrules"}, 5},
         {"Types.md", {"uvtypes"}, 6},
         {"Names.md", {"uvnames"}, 6},
