@@ -5,6 +5,7 @@
 #include "Tools/uvgrammar-score/ScoreReport.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <sstream>
@@ -15,7 +16,8 @@ namespace uvscore {
 namespace {
 
 constexpr std::array<const char*, kFaults> kNames = {
-    "token deleted", "token doubled", "keyword instead of a token", "quote dropped", "bracket dropped"};
+    "token deleted", "token doubled",        "keyword instead of a token",
+    "quote dropped", "dollar quote dropped", "bracket dropped"};
 constexpr std::string_view kQuotes = "'\"`";
 constexpr std::string_view kBrackets = "()[]{}";
 constexpr int kTries = 8; // until a statement has a token that the fault is possible with
@@ -42,30 +44,35 @@ bool IsKeyword(const STokenPlace& token, std::string_view text)
            });
 }
 
-// Nothing if the token doesn't allow it.
-std::optional<SEdit> EditOf(enFault fault, const STokenPlace& token, std::string_view text,
-                            const std::string& keyword)
+// None if the token doesn't allow it.
+std::vector<SEdit> EditsOf(enFault fault, const STokenPlace& token, std::string_view text,
+                           const std::string& keyword)
 {
     const std::string word(TextOf(token, text));
+    const std::vector<SEdit> without = {{token.begin, token.end, ""}};
+    bool isPossible = true;
     switch (fault) {
     case enFault::Deleted:
-        return SEdit{token.begin, token.end, ""};
+        break;
     case enFault::Doubled:
-        return SEdit{token.end, token.end, ' ' + word};
+        return {{token.end, token.end, ' ' + word}};
     case enFault::Keyword:
         if (keyword.empty() || word == keyword)
-            return std::nullopt;
-        return SEdit{token.begin, token.end, keyword};
+            return {};
+        return {{token.begin, token.end, keyword}};
     case enFault::Quote:
         if (word.size() < 2 || kQuotes.find(word.back()) == std::string_view::npos)
-            return std::nullopt;
-        return SEdit{token.end - 1, token.end, ""};
+            return {};
+        return {{token.begin + word.find(word.back()), token.begin + word.find(word.back()) + 1, ""},
+                {token.end - 1, token.end, ""}};
+    case enFault::DollarQuote:
+        isPossible = word.size() > 1 && word.front() == '$' && word.back() == '$';
+        break;
     case enFault::Bracket:
+        isPossible = word.size() == 1 && kBrackets.find(word) != std::string_view::npos;
         break;
     }
-    if (word.size() != 1 || kBrackets.find(word) == std::string_view::npos)
-        return std::nullopt;
-    return SEdit{token.begin, token.end, ""};
+    return isPossible ? without : std::vector<SEdit>();
 }
 
 class CFaults
@@ -105,8 +112,8 @@ private:
         const std::string keyword = m_Keywords.empty() ? "" : m_Keywords[m_Chance.Below(m_Keywords.size())];
         // Without its delimiter a statement and the next one are one text, which is another question.
         for (std::size_t i = 0; i + 1 < statement.tokens.size(); ++i)
-            if (const auto edit = EditOf(fault, statement.tokens[i], m_Parsed.prepared, keyword))
-                possible.push_back(*edit);
+            std::ranges::move(EditsOf(fault, statement.tokens[i], m_Parsed.prepared, keyword),
+                              std::back_inserter(possible));
         if (possible.empty())
             return std::nullopt;
         return possible[m_Chance.Below(possible.size())];

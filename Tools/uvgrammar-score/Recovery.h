@@ -15,11 +15,12 @@ enum class enFault
 {
     Deleted, // a token
     Doubled,
-    Keyword, // in its place
-    Quote,   // the last one of a quoted token is missing
-    Bracket  // is missing
+    Keyword,     // in its place
+    Quote,       // the first or the last one of a quoted token is missing
+    DollarQuote, // as $$ or $name$; is missing
+    Bracket      // is missing
 };
-inline constexpr std::size_t kFaults = 5;
+inline constexpr std::size_t kFaults = 6;
 
 // What one fault did.
 struct SFaultResult
