@@ -145,8 +145,7 @@ int CSQLGrammarLexer::yybegin(int state)
 {
     const int coded = yyFlexLexer::yybegin(state);
     if (state == m_Extension.m_nStartState) {
-        if (m_bLongTextsWanted && !m_lstEntered.empty())
-            NoteLongText(m_lstEntered.front().offset, yymatch_end());
+        NoteOpenText(yycurrent_buffer() ? yymatch_end() : 0);
         m_lstEntered.clear();
         return coded;
     }
@@ -155,7 +154,8 @@ int CSQLGrammarLexer::yybegin(int state)
     if (open != m_lstEntered.end())
         m_lstEntered.erase(open + 1, m_lstEntered.end());
     else
-        m_lstEntered.push_back({state, yycurrent_buffer() ? yymatch_offset() : 0});
+        m_lstEntered.push_back(
+            {state, yycurrent_buffer() ? yymatch_offset() : 0, yycurrent_buffer() ? yymatch_end() : 0});
     return coded;
 }
 
@@ -184,15 +184,25 @@ void CSQLGrammarLexer::NoteToken(std::size_t begin, std::size_t length)
 {
     m_nTokensEnd = begin + length;
     if (m_lstEntered.empty())
-        NoteLongText(begin, m_nTokensEnd);
+        NoteLongText(begin, 0, m_nTokensEnd);
 }
 
 // It ends at byte `end`, on the current line.
-void CSQLGrammarLexer::NoteLongText(std::size_t begin, std::size_t end)
+void CSQLGrammarLexer::NoteLongText(std::size_t begin, std::size_t opened, std::size_t end)
 {
     const std::string_view text = m_Extension.m_strQuery.substr(begin, end - begin);
-    if (m_nTokensEnd > begin && text.find('\n') != std::string_view::npos)
-        m_lstLongTexts.push_back({begin, end, static_cast<unsigned long>(yylineno)});
+    const std::size_t lineEnd = text.find('\n');
+    if (m_nTokensEnd <= begin || lineEnd == std::string_view::npos)
+        return;
+    m_lstLongTexts.push_back(
+        {begin, end, opened == 0 ? begin + lineEnd + 1 : opened, static_cast<unsigned long>(yylineno)});
+}
+
+// The text that the scan is in, if it isn't in the condition that texts begin in.
+void CSQLGrammarLexer::NoteOpenText(std::size_t end)
+{
+    if (m_bLongTextsWanted && !m_lstEntered.empty())
+        NoteLongText(m_lstEntered.front().offset, m_lstEntered.front().end, end);
 }
 
 bool CSQLGrammarLexer::IsEndOfText(int act)
@@ -210,8 +220,7 @@ bool CSQLGrammarLexer::IsEndOfText(int act)
 // Tables in which no condition has such a record don't tell, and then no end is wrong.
 void CSQLGrammarLexer::NoteEnd()
 {
-    if (m_bLongTextsWanted && !m_lstEntered.empty())
-        NoteLongText(m_lstEntered.front().offset, m_Extension.m_strQuery.size());
+    NoteOpenText(m_Extension.m_strQuery.size());
     const int firstRule = yy_end_of_buffer_action + 1;
     const int condition = yystart_condition();
     if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||

@@ -31,6 +31,8 @@ struct SLongText
 {
     std::size_t begin = 0; // bytes of the query
     std::size_t end = 0;
+    // After the match that left the condition, or after the first line of a single match.
+    std::size_t opened = 0;
     unsigned long lastLine = 0; // from 1
 };
 
@@ -240,7 +242,8 @@ private:
     void NoteEnd();
     int ScanEndAfter(int offset) const;
     void NoteToken(std::size_t begin, std::size_t length);
-    void NoteLongText(std::size_t begin, std::size_t end);
+    void NoteLongText(std::size_t begin, std::size_t opened, std::size_t end);
+    void NoteOpenText(std::size_t end);
 
     SResult Token(std::uint32_t token, int color, ParserNode& node);
     int TokenNumber(const std::string& fullName);
@@ -320,6 +323,7 @@ private:
     {
         int condition = 0;
         std::size_t offset = 0;
+        std::size_t end = 0; // of that match
     };
     std::vector<SEntered> m_lstEntered; // outermost first; without the condition that texts begin in
     std::optional<SUnfinishedText> m_Unfinished;

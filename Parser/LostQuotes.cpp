@@ -4,6 +4,13 @@
 
 #include <algorithm>
 
+namespace {
+
+// From the end of a string to an unexpected token that has to do with it.
+constexpr unsigned long kNearLines = 2;
+
+} // namespace
+
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
                    const std::vector<SDiscardedText>& lost)
 {
@@ -13,21 +20,20 @@ SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
     return reading;
 }
 
-std::vector<std::size_t> SuspectLineEnds(std::string_view text, const std::vector<SLongText>& longTexts,
-                                         const std::vector<SUnexpectedToken>& unexpected)
+std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
+                                       const std::vector<SUnexpectedToken>& unexpected)
 {
-    std::vector<std::size_t> ends;
+    std::vector<std::size_t> places;
     const auto take = [&](const SLongText& suspect) {
-        const std::size_t end = text.find('\n', suspect.begin) + 1;
-        if (end != 0 && std::ranges::find(ends, end) == ends.end())
-            ends.push_back(end);
+        if (std::ranges::find(places, suspect.opened) == places.end())
+            places.push_back(suspect.opened);
     };
     for (const SUnexpectedToken& token : unexpected) {
         const auto after = std::ranges::upper_bound(longTexts, token.offset, {}, &SLongText::end);
-        if (after != longTexts.begin() && std::prev(after)->lastLine == token.line)
+        if (after != longTexts.begin() && token.line - std::prev(after)->lastLine <= kNearLines)
             take(*std::prev(after));
         if (after != longTexts.end() && after->begin <= token.offset)
             take(*after);
     }
-    return ends;
+    return places;
 }

@@ -1,6 +1,6 @@
-// Strings that have lost their closing quote. Such a string goes on to the next quote anywhere in the text, and
+// Strings that have lost one of their quotes. Such a string goes on to the next quote anywhere in the text, and
 // from there on text and strings have changed places. What gives it away is an unexpected token within it, or
-// after it on its last line. Ended at its first line it costs one statement.
+// right after it. Ended at its first line it costs one statement.
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
@@ -8,7 +8,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <string_view>
 #include <vector>
 
 // How well a text was read. The lesser one is the better.
@@ -26,7 +25,7 @@ struct SReading
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
                    const std::vector<SDiscardedText>& lost);
 
-// Where the first lines of the long texts end that one of the tokens makes suspect: bytes of `text`, each once,
-// in the order of the tokens.
-std::vector<std::size_t> SuspectLineEnds(std::string_view text, const std::vector<SLongText>& longTexts,
-                                         const std::vector<SUnexpectedToken>& unexpected);
+// Where the scan can go on as if a long text that one of the tokens makes suspect had not been opened, or had
+// ended at its first line: bytes of the text, each once, in the order of the tokens.
+std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
+                                       const std::vector<SUnexpectedToken>& unexpected);

@@ -28,7 +28,7 @@ struct SParseOptions
     // RESTART_POSITIONS       exactly "1"; off. The parser object forgets all earlier texts first.
     bool restartsPositions = false;
     // CLOSE_LOST_QUOTES       exactly "1"; off. A text with unexpected tokens is parsed again with strings of
-    //                         several lines ended at their first line, and the better reading stands.
+    //                         several lines ended early, and the better reading stands.
     bool closesLostQuotes = false;
     // PREPARE_ONLY            exactly "1"; off. The prepared text is the result.
     bool isPreparationOnly = false;

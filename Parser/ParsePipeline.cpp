@@ -302,9 +302,7 @@ int CParsePipeline::ReadBest(SParseFindings& findings)
         scanner.set_Walls(walls);
         return RunGrammar(findings);
     };
-    const auto suspects = [&] {
-        return SuspectLineEnds(m_Parsed.text, scanner.LongTexts(), findings.unexpected);
-    };
+    const auto suspects = [&] { return SuspectPlaces(scanner.LongTexts(), findings.unexpected); };
     const auto reading = [&] {
         return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches());
     };

@@ -54,8 +54,8 @@ public:
     //                                   object that Load, set_DatabaseInfo and Init have just made ready;
     //                                   holds for FastParse too
     //     CLOSE_LOST_QUOTES "1"         a text with unexpected tokens is parsed up to nine times more, each time with
-    //                                   another long string, which an error lies in or follows on its last
-    //                                   line, ended at its first line. Of all readings the one stands that
+    //                                   another long string, which an error lies in or follows within two
+    //                                   lines, ended early. Of all readings the one stands that
     //                                   loses the least of the text, and then has the fewest of them
     //     PREPARE_ONLY "1"              the result is the prepared text; Load isn't needed then
     //     HAND_OVER_RESULT "1"          get_SQLTree gives a tree away instead of copying it, and the object
