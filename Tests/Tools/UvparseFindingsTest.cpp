@@ -45,6 +45,34 @@ TEST(UvparseTokens, MessagesPointAtTheToken)
     EXPECT_EQ(Messages("ab", {{7, 9}}), "f.sql:1:3: error: unexpected end of text\n    ab\n      ^\n");
 }
 
+struct SCaretCase
+{
+    const char* before; // the token, of one character
+    const char* shown;
+    std::size_t column;
+    std::size_t cell; // of the caret
+};
+
+const SCaretCase kCaretCases[] = {
+    {"a\t\tb", "a  b", 5, 4},                                          // a tab is one blank
+    {"\xE6\x97\xA5\xE6\x9C\xAC", "\xE6\x97\xA5\xE6\x9C\xAC", 3, 4},    // wide characters
+    {"\xF0\x9F\x98\x80 ", "\xF0\x9F\x98\x80 ", 3, 3},                  // wide, beyond the first plane
+    {"e\xCC\x81", "e\xCC\x81", 3, 1},                                  // an accent of its own
+    {"\xE2\x80\xAE\xC2\x9B", "\xEF\xBF\xBD\xEF\xBF\xBD", 3, 2},        // what a terminal must not obey
+    {"\xEF\xBC\xA1\t\xE3\x81\xAF", "\xEF\xBC\xA1 \xE3\x81\xAF", 4, 5}, // both together
+};
+
+TEST(UvparseTokens, CaretsCountTheCellsOfATerminal)
+{
+    for (const auto& c : kCaretCases) {
+        SCOPED_TRACE(c.shown);
+        const std::string before = c.before;
+        EXPECT_EQ(Messages(before + "x", {{before.size(), 1}}),
+                  "f.sql:1:" + std::to_string(c.column) + ": error: unexpected token 'x'\n    " + c.shown +
+                      "x\n    " + std::string(c.cell, ' ') + "^\n");
+    }
+}
+
 TEST(UvparseTokens, MessagesTellWhatWasExpected)
 {
     std::vector<SFinding> findings;

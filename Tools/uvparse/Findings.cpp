@@ -1,5 +1,7 @@
 #include "Tools/uvparse/Findings.h"
 
+#include "Tools/Support/ToolTerminal.h"
+
 #include <algorithm>
 #include <charconv>
 #include <ostream>
@@ -12,6 +14,14 @@ namespace {
 
 constexpr std::size_t kShown = 60;
 
+std::string WithBlanks(std::string_view text)
+{
+    std::string shown(text);
+    std::replace_if(
+        shown.begin(), shown.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+    return shown;
+}
+
 // The first line of what was found, cut if it is long. Its bytes come from a file: what would move the cursor
 // is shown as a blank.
 std::string Shown(std::string_view text, const SFinding& finding)
@@ -22,10 +32,23 @@ std::string Shown(std::string_view text, const SFinding& finding)
     if (lineEnd == begin)
         return {};
     const std::size_t shownEnd = StepForward(text, begin, kShown, lineEnd);
-    std::string shown(text.substr(begin, shownEnd - begin));
-    std::replace_if(
-        shown.begin(), shown.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+    const std::string shown = WithBlanks(text.substr(begin, shownEnd - begin));
     return shownEnd < end ? shown + "..." : shown;
+}
+
+// A line as a terminal shows it: a caret below counts in its cells, of which wide characters take two and
+// combining ones none.
+// Returns: the line; `cell` is where its character number `character`, from 0, begins.
+std::string ShownLine(const CCellText& cells, std::string_view line, std::size_t character, std::size_t& cell)
+{
+    const std::string blanked = WithBlanks(line);
+    std::string shown;
+    cell =
+        cells.Append(std::string_view(blanked).substr(0, StepForward(blanked, 0, character, blanked.size())),
+                     std::string::npos, shown);
+    shown.clear();
+    cells.Append(blanked, std::string::npos, shown);
+    return shown;
 }
 
 // "; expected a, b or c". More of them would hide the likely ones.
@@ -117,11 +140,14 @@ void WriteFindings(CToolMessages& messages, std::ostream& stream, CSourcePlaces&
         return finding.isReported || (finding.kind == enFinding::UnexpectedToken && finding.offset == open);
     });
     std::ranges::stable_sort(findings, {}, &SFinding::offset);
+    const CCellText cells;
     for (const SFinding& finding : findings) {
-        const SMessagePlace found = places.Find(finding.offset);
+        SMessagePlace found = places.Find(finding.offset);
+        std::size_t caret = 0;
+        found.place.sourceLine = ShownLine(cells, found.place.sourceLine, found.caret.value_or(0), caret);
         messages.Write(enSeverity::Error, found.place, MessageOf(finding, prepared) + found.remark);
         if (found.caret && !found.place.sourceLine.empty())
-            stream << "    " << std::string(*found.caret, ' ') << "^\n";
+            stream << "    " << std::string(caret, ' ') << "^\n";
     }
 }
 
