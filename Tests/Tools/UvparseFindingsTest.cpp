@@ -1,9 +1,8 @@
-#include "Tools/Support/ToolMessages.h"
 #include "Tools/uvparse/Findings.h"
+#include "Tools/uvparse/MessageForms.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,18 +16,23 @@ struct SPlace
     std::size_t length;
 };
 
+std::string WriteAll(enMessageForm form, const std::vector<SMessage>& messages)
+{
+    std::string written;
+    const auto writer = MakeMessageWriter(form, [&](std::string_view piece) { written += piece; });
+    for (const SMessage& message : messages)
+        writer->Write(message);
+    return written;
+}
+
 std::string Messages(const std::string& text, const std::vector<SPlace>& tokens,
                      const std::vector<SFinding>& others = {})
 {
-    std::ostringstream stream;
-    CToolMessages messages("uvparse", stream);
-    const SPreparation preparation{text, text, {}, {}};
-    CSourcePlaces places("f.sql", preparation);
     std::vector<SFinding> findings = others;
     for (const SPlace& token : tokens)
         findings.push_back({enFinding::UnexpectedToken, token.offset, token.length});
-    WriteFindings(messages, stream, places, text, std::move(findings));
-    return stream.str();
+    return WriteAll(enMessageForm::Text, MessagesOf({"f.sql", "PostgreSQL", text, {}},
+                                                    SPreparation{text, text, {}, {}}, std::move(findings)));
 }
 
 TEST(UvparseTokens, MessagesPointAtTheToken)

@@ -96,7 +96,7 @@ TEST(UvparseSourceText, MarksDecideAndWhatIsNoTextIsRefusedWithItsOffset)
     for (const auto& c : kDecodeCases) {
         SCOPED_TRACE(testing::PrintToString(c.bytes) + ' ' + c.encoding);
         if (c.refusal.empty()) {
-            EXPECT_EQ(DecodeSourceText(c.bytes, "f", {c.encoding, c.recordLength}), c.text);
+            EXPECT_EQ(DecodeSourceText(c.bytes, "f", {c.encoding, c.recordLength}).text, c.text);
             continue;
         }
         try {
@@ -121,8 +121,8 @@ TEST(UvparseSourceText, UTF16LongerThanOnePieceKeepsItsPairs)
         bytes += "\x3D\xD8\0\xDE"s;
         text += "\xF0\x9F\x98\x80";
     }
-    EXPECT_EQ(DecodeSourceText(bytes, "f"), text);
-    EXPECT_EQ(DecodeSourceText(bytes, "f", {"UTF-16"}), text);
+    EXPECT_EQ(DecodeSourceText(bytes, "f").text, text);
+    EXPECT_EQ(DecodeSourceText(bytes, "f", {"UTF-16"}).text, text);
     bytes.replace(bytes.size() - 2, 2, "x");
     try {
         DecodeSourceText(bytes, "f", {"UTF-16"});

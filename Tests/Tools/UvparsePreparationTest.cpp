@@ -1,13 +1,13 @@
 #include "Tools/Support/ToolTerminal.h"
 #include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/LineAlignment.h"
+#include "Tools/uvparse/MessageForms.h"
 #include "Tools/uvparse/PreparedDiff.h"
 #include "Tools/uvparse/PreparedLines.h"
 #include "Tools/uvparse/SourcePlaces.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -300,16 +300,16 @@ TEST(UvparseLines, NumbersStandAloneOrInFrontOfTheText)
 // Messages about the word "bad" in a prepared text.
 std::string MessagesAboutBad(const char* source, const char* prepared, const char* pass, const char* list)
 {
-    std::ostringstream stream;
-    CToolMessages messages("tool", stream);
     const SPreparation preparation{source, prepared, CPreparedLines(pass, list), pass};
-    CSourcePlaces places("f", preparation);
     const std::string_view text = prepared;
     std::vector<SFinding> tokens;
     for (std::size_t at = text.find("bad"); at != std::string_view::npos; at = text.find("bad", at + 1))
         tokens.push_back({enFinding::UnexpectedToken, at, 3});
-    WriteFindings(messages, stream, places, text, std::move(tokens));
-    return stream.str();
+    std::string written;
+    const auto writer = MakeTextWriter([&](std::string_view piece) { written += piece; });
+    for (const SMessage& message : MessagesOf({"f", "L", source, {}}, preparation, std::move(tokens)))
+        writer->Write(message);
+    return written;
 }
 
 struct SMessageCase

@@ -6,8 +6,6 @@
 #include <unistd.h>
 #include <utility>
 
-namespace {
-
 const char* SeverityWord(enSeverity severity)
 {
     switch (severity) {
@@ -21,17 +19,13 @@ const char* SeverityWord(enSeverity severity)
     return "note";
 }
 
-// A source line comes from a file of any bytes: what would move the cursor or end the line is shown as a
-// blank.
-std::string Printable(const std::string& line)
+std::string Printable(std::string_view line)
 {
-    std::string shown = line;
+    std::string shown(line);
     std::replace_if(
         shown.begin(), shown.end(), [](unsigned char c) { return c < 0x20 || c == 0x7f; }, ' ');
     return shown;
 }
-
-} // namespace
 
 CToolMessages::CToolMessages(std::string toolName, std::ostream& stream)
     : m_ToolName(std::move(toolName)), m_Stream(stream)

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 // Where in an input a message belongs. Lines and columns count from 1, 0 leaves them out.
 struct SSourcePlace
@@ -21,6 +22,13 @@ enum class enSeverity
     Warning,
     Note
 };
+
+// "error", "warning" or "note".
+const char* SeverityWord(enSeverity severity);
+
+// The line as it may go to a terminal: it comes from a file of any bytes, and what would move the cursor or
+// end the line is shown as a blank.
+std::string Printable(std::string_view line);
 
 class CToolMessages
 {

@@ -92,7 +92,7 @@ SParsedText CTextParser::ParseText(std::string text, const std::string& path)
 
 SParsedText CTextParser::ParseFile(const std::string& path)
 {
-    return ParseSource(uvparse::ReadSourceText(path, {}), path);
+    return ParseSource(uvparse::ReadSourceText(path, {}).text, path);
 }
 
 SParsedText CTextParser::ParseSource(std::string text, const std::string& path)
@@ -112,9 +112,9 @@ SFailure FailureOf(const uvparse::SFinding& finding)
 {
     switch (finding.kind) {
     case enFinding::UnexpectedToken:
-        return {finding.state, finding.name, finding.expected};
+        return {finding.state.value_or(0), finding.name, finding.expected};
     case enFinding::UnfinishedText:
-        return {-1, "never closed: " + finding.name, {}};
+        return {-1, "never closed: " + finding.condition, {}};
     case enFinding::SkippedText:
         break;
     }

@@ -2,6 +2,7 @@
 
 #include <boost/program_options.hpp>
 
+#include <optional>
 #include <sstream>
 
 namespace po = boost::program_options;
@@ -12,15 +13,23 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts& objectOptions)
+// What the options leave in their own words.
+struct SRawOptions
+{
+    Texts options;
+    Texts objectOptions;
+    std::string messages;
+};
+
+po::options_description VisibleOptions(SCommandLine& line, SRawOptions& raw)
 {
     po::options_description visible("Options", 100);
     // clang-format off
     visible.add_options()
         ("language,l", po::value(&line.language)->value_name("NAME"), "parser name; else chosen by --db or by the file's extension")
         ("db", po::value(&line.database)->value_name("KIND[:SUBTYPE[:VERSION]]"), "database by number or by any of its names")
-        ("option,o", po::value(&options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
-        ("object-option", po::value(&objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
+        ("option,o", po::value(&raw.options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
+        ("object-option", po::value(&raw.objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
         ("encoding", po::value(&line.encoding)->value_name("NAME"), "encoding of the input, by iconv's name; else told by a byte order mark, else UTF-8")
         ("record-length", po::value(&line.recordLength)->value_name("N"), "the input has no line ends but records of N bytes each")
         ("prepare", po::bool_switch(&line.isPrepare), "print the prepared text instead of parsing it; needs no language tables")
@@ -32,12 +41,14 @@ po::options_description VisibleOptions(SCommandLine& line, Texts& options, Texts
         ("color", po::bool_switch(&line.isColor), "the coloring map instead of the tree")
         ("verify", po::bool_switch(&line.isVerify), "check that the tree holds every byte of the source text")
         ("output", po::value(&line.outputFolder)->value_name("DIR"), "write DIR/<file name>.xml (.color, .txt for --xpath, .prepared, .diff, .lines) instead of standard output; files of one name go to their folders there")
+        ("messages", po::value(&raw.messages)->value_name("FORM"), "form of the messages: text, json (an object a line) or sarif (a document of SARIF 2.1.0)")
+        ("messages-to", po::value(&line.messageFile)->value_name("FILE"), "write the messages there instead of to standard error; '-' is standard output, which needs --output")
         ("list-languages", po::bool_switch(&line.isListLanguages), "list the languages, and whether texts of them are prepared, parsed or both")
         ("trace", po::value(&line.traceFile)->value_name("FILE"), "write the library's log and trace there")
         ("time", po::bool_switch(&line.isTime), "tell how long each step took")
         ("stat", po::bool_switch(&line.isStat), "count statements read and lost, unexpected tokens, bytes a second")
         ("no-cache", po::bool_switch(&line.isWithoutCache), "read the tables of the languages from their own files, and keep nothing of them for the next run")
-        ("quiet", po::bool_switch(&line.isQuiet), "no progress and no messages but about what could not run")
+        ("quiet", po::bool_switch(&line.isQuiet), "no progress, and on standard error no messages but about what could not run")
         ("version", po::bool_switch(&line.isVersion), "print the version")
         ("help", po::bool_switch(&line.isHelp), "print this help");
     // clang-format on
@@ -56,6 +67,14 @@ std::vector<std::pair<std::string, std::string>> SplitPairs(const Texts& texts, 
     return pairs;
 }
 
+enMessageForm MessageFormOf(const std::string& name)
+{
+    const std::optional<enMessageForm> form = ReadMessageForm(name);
+    if (!form)
+        throw CUsageError("--messages takes text, json or sarif, not '" + name + "'");
+    return *form;
+}
+
 void RefuseContradictions(const SCommandLine& line)
 {
     if (line.isHelp || line.isVersion || line.isListLanguages)
@@ -72,6 +91,11 @@ void RefuseContradictions(const SCommandLine& line)
                           "--stat");
     if (line.isDiff && (!line.isPrepare || line.isLines))
         throw CUsageError("--diff goes with --prepare, and not with --lines, whose numbers it shows anyway");
+    if (line.messageFile == "-" && line.outputFolder.empty())
+        throw CUsageError("--messages-to - needs --output: else results go to standard output");
+    if (line.isQuiet && line.messageForm != enMessageForm::Text && line.messageFile.empty())
+        throw CUsageError("--quiet would keep findings from programs: with --messages json or sarif it needs "
+                          "--messages-to");
 }
 
 // clang-format off
@@ -80,7 +104,9 @@ constexpr char kUsage[] =
     "Turns source text into an XML tree with every token, blank and comment in it. Languages in fixed\n"
     "columns, with macros or includes are prepared first; --prepare shows what comes of it.\n\n";
 constexpr char kAfterOptions[] =
-    "\nResults go to standard output, messages to standard error.\n"
+    "\nResults go to standard output, messages to standard error. Lines and columns count from 1, columns in\n"
+    "code points; offsets are bytes of the file. In json what isn't known is null. A document of sarif holds\n"
+    "all messages of the call, those that are not about a place in a source as notifications.\n"
     "--diff marks the lines between both texts: | changed, & the source line goes on in the prepared line\n"
     "above, < vanished, > starts no source line. It is as wide as the terminal, else as the environment's\n"
     "COLUMNS, else 130 cells; colours need a terminal and no NO_COLOR. --lines prints '-' where the\n"
@@ -101,10 +127,9 @@ constexpr char kAfterOptions[] =
 SCommandLine ReadCommandLine(int argc, const char* const* argv)
 {
     SCommandLine line;
-    Texts options;
-    Texts objectOptions;
+    SRawOptions raw;
     try {
-        po::options_description all = VisibleOptions(line, options, objectOptions);
+        po::options_description all = VisibleOptions(line, raw);
         all.add_options()("file", po::value(&line.files));
         po::positional_options_description files;
         files.add("file", -1);
@@ -121,14 +146,16 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
         po::notify(values);
         if (values.count("record-length") > 0 && line.recordLength == 0)
             throw CUsageError("--record-length needs a number above 0");
-        for (const char* option : {"encoding", "xpath"})
+        for (const char* option : {"encoding", "xpath", "messages-to"})
             if (values.count(option) > 0 && values[option].as<std::string>().empty())
                 throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
+        if (values.count("messages") > 0)
+            line.messageForm = MessageFormOf(raw.messages);
     } catch (const po::error& e) {
         throw CUsageError(e.what());
     }
-    line.options = SplitPairs(options, "--option");
-    line.objectOptions = SplitPairs(objectOptions, "--object-option");
+    line.options = SplitPairs(raw.options, "--option");
+    line.objectOptions = SplitPairs(raw.objectOptions, "--object-option");
     RefuseContradictions(line);
     return line;
 }
@@ -136,10 +163,9 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
 std::string HelpText()
 {
     SCommandLine line;
-    Texts options;
-    Texts objectOptions;
+    SRawOptions raw;
     std::ostringstream text;
-    text << kUsage << VisibleOptions(line, options, objectOptions) << kAfterOptions;
+    text << kUsage << VisibleOptions(line, raw) << kAfterOptions;
     return text.str();
 }
 

@@ -1,6 +1,8 @@
 // What the user asked for on uvparse's command line.
 #pragma once
 
+#include "Tools/uvparse/MessageForms.h"
+
 #include <cstddef>
 #include <stdexcept>
 #include <string>
@@ -21,6 +23,8 @@ struct SCommandLine
     std::string encoding;         // of the input, by iconv's name; empty: by its byte order mark
     std::size_t recordLength = 0; // of the input, in bytes; 0: it has line ends
     std::string xpath;            // empty: the whole tree
+    enMessageForm messageForm = enMessageForm::Text;
+    std::string messageFile; // empty: standard error; "-": standard output
     bool isPrepare = false;
     bool isDiff = false;
     bool isLines = false;

@@ -9,7 +9,9 @@
 #include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/LanguageNames.h"
 #include "Tools/uvparse/LegacyEncoding.h"
+#include "Tools/uvparse/MessageOutput.h"
 #include "Tools/uvparse/OutputNames.h"
+#include "Tools/uvparse/ParseReport.h"
 #include "Tools/uvparse/ParserHost.h"
 #include "Tools/uvparse/PreparedDiff.h"
 #include "Tools/uvparse/PrettyTree.h"
@@ -22,12 +24,10 @@
 #include "UVEnvironment/FileHelper.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <map>
 #include <memory>
 #include <new>
@@ -53,11 +53,6 @@ long Milliseconds(double seconds)
 double SecondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-std::string ShownName(const std::string& path)
-{
-    return path == "-" ? "<stdin>" : path;
 }
 
 // Counts of one text, or of all.
@@ -92,42 +87,62 @@ struct SStatistics
 class CRun
 {
 public:
-    CRun(const SCommandLine& line, CToolMessages& messages);
+    CRun(const SCommandLine& line, CMessageOutput& messages);
 
-    int Run();
+    // What the arguments get wrong is told before any work is done.
+    // Throws: std::exception.
+    void Prepare();
+    // Returns: the exit code.
+    // Throws:  std::exception for what ends the whole run.
+    int Work();
 
 private:
-    void ListLanguages();
+    // A file of the call, read.
+    struct SInput
+    {
+        const SLanguage& language;
+        const std::string& path;
+        std::string text;
+        std::size_t ownSize; // bytes of the text that the file has
+        SFileBytes bytes;
+        double readSeconds;
+
+        SSource Source() const
+        {
+            return {path, language.parserName, std::string_view(text).substr(0, ownSize), bytes};
+        }
+    };
+
     void NameOutputs();
     void RunFile(const std::string& path);
-    void ParseFile(const SLanguage& language, const std::string& path, const std::string& text,
-                   double readSeconds);
-    void PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
-                     double readSeconds);
+    void ParseFile(const SInput& input);
+    void PrepareFile(const SInput& input);
     const SLanguage& LanguageOf(const std::string& path);
     CParserHost& HostOf(const SLanguage& language, enMode mode);
-    std::string PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
-                             const SParseResult& result);
-    void Report(const std::string& path, const SPreparation& preparation, const SParseResult& result);
-    void WriteNotes(const std::string& path, const std::vector<SPreparationNote>& notes);
-    void ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result);
-    void Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
+    std::string PrepareAgain(const SInput& input, const SParseResult& result);
+    void Report(const SInput& input, const SPreparation& preparation, const SParseResult& result);
+    void Verify(const SInput& input, const SPreparation& preparation, const std::string& tree,
                 CParserHost& host);
-    void TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark);
-    void TellTime(const std::string& path, double loadSeconds, double readSeconds, const char* work,
-                  double workSeconds, Clock::time_point writing);
+    void TellVerified(const SInput& input, const SPreparation& preparation, const std::string& remark);
+    void TellTime(const SInput& input, double loadSeconds, const char* work, double workSeconds,
+                  Clock::time_point writing);
     std::string OutputOf(const std::string& path) const;
-    void WriteResult(const std::string& path, const std::string& result);
-    void WritePrepared(const std::string& path, const std::string& text, const SParseResult& result);
-    void WriteTo(const std::string& path, const std::string& result, const TTextSink& sink);
-    void Tell(const std::string& path, const std::string& text);
+    void WriteResult(const SInput& input, const std::string& result);
+    void WritePrepared(const SInput& input, const SParseResult& result);
+    void WriteTo(const SInput& input, const std::string& result, const TTextSink& sink);
+    void Write(const SMessage& message);
+    void Remark(enMessageKind kind, const SInput& input, const std::string& text);
+    void TellUnread(const std::string& path, const CSourceRefusal& refusal);
+    void TellFailure(const std::string& path, const std::string& text);
     void Worsen(int code) { m_ExitCode = std::max(m_ExitCode, code); }
 
     const SCommandLine& m_Line;
-    CToolMessages& m_Messages;
+    const bool m_IsSilent; // no messages but about what could not run
+    CMessageOutput& m_Messages;
     CLanguageChoice m_Languages;
     std::shared_ptr<CTraceFile> m_Trace;
     std::map<std::string, SLanguage> m_Chosen; // by the extension of files
+    std::string m_Language;                    // of the file at hand, once it is known
     // One parser object each.
     std::map<std::pair<std::string, enMode>, std::unique_ptr<CParserHost>> m_Hosts;
     std::map<std::string, std::string> m_OutputPaths; // by file
@@ -144,18 +159,20 @@ std::vector<std::string> GrammarsBesideProgram()
     return ListGrammars(Uve::Path::Combine(Uve::GetPathOfExe(), "Grammar"));
 }
 
-CRun::CRun(const SCommandLine& line, CToolMessages& messages)
-    : m_Line(line), m_Messages(messages),
+CRun::CRun(const SCommandLine& line, CMessageOutput& messages)
+    : m_Line(line), m_IsSilent(line.isQuiet && line.messageFile.empty()), m_Messages(messages),
       m_Languages(GrammarsBesideProgram(), line.IsPreparing() ? enPurpose::Preparation : enPurpose::Parsing),
-      m_Progress(line.files.size(), !line.isQuiet)
+      // Progress on the same terminal would stand between lines that programs read.
+      m_Progress(line.files.size(),
+                 !line.isQuiet && (line.messageForm == enMessageForm::Text || !line.messageFile.empty()))
 {}
 
-void CRun::ListLanguages()
+void ListLanguages()
 {
     std::map<std::string, std::string> languages;
     for (const SPreparedLanguage& language : PreparedLanguages())
         languages[language.parserName] = "prepared";
-    for (const std::string& name : m_Languages.GetGrammars()) {
+    for (const std::string& name : GrammarsBesideProgram()) {
         std::string& what = languages[name];
         what += what.empty() ? "parsed" : ", parsed";
     }
@@ -229,29 +246,71 @@ CParserHost& CRun::HostOf(const SLanguage& language, enMode mode)
     return *host;
 }
 
-void CRun::Tell(const std::string& path, const std::string& text)
+void CRun::Write(const SMessage& message)
 {
     m_Progress.Clear();
-    std::cerr << path << ": " << text << '\n';
+    m_Messages.Write(message);
 }
 
-void CRun::TellVerified(const std::string& path, const SPreparation& preparation, const std::string& remark)
+void CRun::Remark(enMessageKind kind, const SInput& input, const std::string& text)
 {
-    if (!m_Line.isQuiet)
-        Tell(ShownName(path), "verified: the tree holds the " + std::to_string(preparation.prepared.size()) +
-                                  " bytes of the " + (preparation.pass.empty() ? "text" : "prepared text") +
-                                  remark);
+    SMessage message;
+    message.kind = kind;
+    message.severity = enSeverity::Note;
+    message.file = input.path;
+    message.language = input.language.parserName;
+    message.text = ShownName(input.path) + ": " + text;
+    Write(message);
+}
+
+void CRun::TellFailure(const std::string& path, const std::string& text)
+{
+    SMessage message;
+    message.kind = enMessageKind::CouldNotRun;
+    message.file = path;
+    message.language = m_Language;
+    message.text = text;
+    Write(message);
+    Worsen(kToolCouldNotRun);
+}
+
+void CRun::TellUnread(const std::string& path, const CSourceRefusal& refusal)
+{
+    SMessage message;
+    message.kind = enMessageKind::InvalidText;
+    message.file = path;
+    message.language = m_Language;
+    message.text = refusal.what();
+    message.range.line = refusal.Place().line;
+    message.range.column = refusal.Place().column;
+    if (refusal.Place().line > 0) {
+        message.range.endLine = refusal.Place().line;
+        message.range.endColumn = refusal.Place().column + 1;
+    }
+    message.range.byteOffset = refusal.FileOffset();
+    if (refusal.FileOffset())
+        message.range.byteLength = 1;
+    Write(message);
+    Worsen(kToolCouldNotRun);
+}
+
+void CRun::TellVerified(const SInput& input, const SPreparation& preparation, const std::string& remark)
+{
+    if (!m_IsSilent)
+        Remark(enMessageKind::Verified, input,
+               "verified: the tree holds the " + std::to_string(preparation.prepared.size()) +
+                   " bytes of the " + (preparation.pass.empty() ? "text" : "prepared text") + remark);
 }
 
 // Flattening may change texts, line ends above all. Where it has, the raw tree is asked whether the parse is
 // right.
-void CRun::Verify(const std::string& path, const SPreparation& preparation, const std::string& tree,
+void CRun::Verify(const SInput& input, const SPreparation& preparation, const std::string& tree,
                   CParserHost& host)
 {
     const std::string_view text = preparation.prepared;
     std::optional<STreeDifference> difference = FindTreeDifference(tree, text);
     if (!difference) {
-        TellVerified(path, preparation, "");
+        TellVerified(input, preparation, "");
         return;
     }
     const char* what = "tree";
@@ -263,93 +322,34 @@ void CRun::Verify(const std::string& path, const SPreparation& preparation, cons
             difference = FindTreeDifference(raw.output, text);
         }
         if (!difference) {
-            TellVerified(path, preparation,
+            TellVerified(input, preparation,
                          " before it is flattened, which changes it from byte " + std::to_string(changedAt) +
                              " on");
             return;
         }
     }
-    SMessagePlace found = CSourcePlaces(ShownName(path), preparation).Find(difference->textOffset);
-    found.place.sourceLine.clear();
-    m_Progress.Clear();
-    m_Messages.Write(enSeverity::Error, found.place,
-                     std::string("the tree's text differs from the ") +
-                         (preparation.pass.empty() ? "source" : "prepared text") + " from byte " +
-                         std::to_string(difference->textOffset) + " on (byte " +
-                         std::to_string(difference->treeOffset) + " of the " + what + ')' + found.remark);
+    Write(DifferenceOf(input.Source(), preparation, *difference, what));
     Worsen(kToolFindings);
 }
 
-// Takes "number<separator>" off the front.
-// Returns: the number; 0, with `text` as it was, if there is none.
-std::size_t TakeLineNumber(std::string_view& text, std::string_view separator)
+void CRun::Report(const SInput& input, const SPreparation& preparation, const SParseResult& result)
 {
-    std::size_t line = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), line);
-    const auto length = static_cast<std::size_t>(end - text.data());
-    if (error != std::errc() || !text.substr(length).starts_with(separator))
-        return 0;
-    text.remove_prefix(length + separator.size());
-    return line;
-}
-
-// The preprocessor's message names the file and the line before what is wrong; where the file is an
-// included one, it is left to speak for itself. A parser's message begins with the number of a prepared line.
-void CRun::ReportFailure(const std::string& path, const SPreparation& preparation, const SParseResult& result)
-{
-    SMessagePlace found{SSourcePlace{ShownName(path), 0, 0, {}}, {}, {}};
-    std::string_view failure = result.failure;
-    if (const std::size_t at = failure.find(path + " : "); at != std::string_view::npos) {
-        std::string_view rest = failure.substr(at + path.size() + 3);
-        if (const std::size_t line = TakeLineNumber(rest, " : ")) {
-            found.place.line = static_cast<int>(line);
-            failure = rest;
-        }
-    } else if (!preparation.pass.empty() && preparation.lines.IsKnown()) {
-        if (const std::size_t line = TakeLineNumber(failure, " "))
-            found = CSourcePlaces(ShownName(path), preparation).FindLine(line);
-    }
-    m_Messages.Write(enSeverity::Error, found.place, std::string(failure) + found.remark);
-}
-
-void CRun::WriteNotes(const std::string& path, const std::vector<SPreparationNote>& notes)
-{
-    for (const SPreparationNote& note : notes)
-        m_Messages.Write(
-            note.isError ? enSeverity::Error : enSeverity::Warning,
-            SSourcePlace{note.file.empty() ? ShownName(path) : note.file, static_cast<int>(note.line), 0, {}},
-            note.text);
-}
-
-void CRun::Report(const std::string& path, const SPreparation& preparation, const SParseResult& result)
-{
-    const bool isRefused =
-        std::any_of(result.notes.begin(), result.notes.end(), [](const auto& note) { return note.isError; });
-    if (!result.findings.empty() || !result.isParsed || isRefused)
+    if (HasFaults(result))
         Worsen(kToolFindings);
-    if (m_Line.isQuiet)
+    if (m_IsSilent)
         return;
-    m_Progress.Clear();
-    WriteNotes(path, result.notes);
-    if (!result.findings.empty()) {
-        CSourcePlaces places(ShownName(path), preparation);
-        WriteFindings(m_Messages, std::cerr, places, preparation.prepared, result.findings);
-    }
-    if (!result.isParsed && (result.findings.empty() || !result.isRefusedForTokens))
-        ReportFailure(path, preparation, result);
-    if (result.isEmpty && !result.pass.empty() && !preparation.source.empty() && result.notes.empty())
-        m_Messages.Write(enSeverity::Warning, SSourcePlace{ShownName(path), 0, 0, {}},
-                         result.pass + " left nothing of the text");
+    for (const SMessage& message : ReportOf(input.Source(), preparation, result))
+        Write(message);
 }
 
-void CRun::WriteTo(const std::string& path, const std::string& result, const TTextSink& sink)
+void CRun::WriteTo(const SInput& input, const std::string& result, const TTextSink& sink)
 {
     if (m_Selector) {
         SSelectionLook look;
         look.isPretty = m_Line.isPretty;
         if (m_Line.files.size() > 1 && m_Line.outputFolder.empty())
-            look.prefix = ShownName(path) + ':';
-        if (m_Selector->Write(result, ShownName(path), look, sink))
+            look.prefix = ShownName(input.path) + ':';
+        if (m_Selector->Write(result, ShownName(input.path), look, sink))
             m_HasSelected = true;
         return;
     }
@@ -361,10 +361,9 @@ void CRun::WriteTo(const std::string& path, const std::string& result, const TTe
             sink("\n");
             return;
         }
-        m_Progress.Clear();
-        m_Messages.Write(enSeverity::Error, SSourcePlace{ShownName(path), 0, 0, {}},
-                         "not indented: the tree is not well-formed at its byte " +
-                             std::to_string(*brokenAt));
+        SMessage message = MessageAbout(input.Source(), enMessageKind::MalformedTree);
+        message.text = "not indented: the tree is not well-formed at its byte " + std::to_string(*brokenAt);
+        Write(message);
         Worsen(kToolFindings);
     }
     sink(result);
@@ -377,27 +376,27 @@ std::string CRun::OutputOf(const std::string& path) const
     return m_Line.outputFolder.empty() ? "-" : m_OutputPaths.at(path);
 }
 
-void CRun::WriteResult(const std::string& path, const std::string& result)
+void CRun::WriteResult(const SInput& input, const std::string& result)
 {
-    COutputFile file(OutputOf(path));
-    WriteTo(path, result, [&](std::string_view piece) { file.Write(piece); });
+    COutputFile file(OutputOf(input.path));
+    WriteTo(input, result, [&](std::string_view piece) { file.Write(piece); });
     file.Close();
 }
 
-void CRun::WritePrepared(const std::string& path, const std::string& text, const SParseResult& result)
+void CRun::WritePrepared(const SInput& input, const SParseResult& result)
 {
-    COutputFile file(OutputOf(path));
+    COutputFile file(OutputOf(input.path));
     const TTextSink sink = [&](std::string_view piece) { file.Write(piece); };
     if (m_Line.isDiff) {
         SDiffLook look;
         look.width = m_Line.outputFolder.empty() ? StandardOutputWidth() : look.width;
         look.isColored = m_Line.outputFolder.empty() && StandardOutputTakesColors();
-        look.sourceTitle = ShownName(path);
+        look.sourceTitle = ShownName(input.path);
         look.preparedTitle = result.pass.empty() ? "unprepared" : "prepared by " + result.pass;
-        WriteDiff(text, result.output, result.preparedLines, look, sink);
+        WriteDiff(input.text, result.output, result.preparedLines, look, sink);
     } else if (m_Line.isLines) {
         const bool isNamed = m_Line.files.size() > 1 && m_Line.outputFolder.empty();
-        WriteLines(result.output, result.preparedLines, isNamed ? ShownName(path) + ':' : "",
+        WriteLines(result.output, result.preparedLines, isNamed ? ShownName(input.path) + ':' : "",
                    m_Line.isPrepare, sink);
     } else {
         sink(result.output);
@@ -405,47 +404,47 @@ void CRun::WritePrepared(const std::string& path, const std::string& text, const
     file.Close();
 }
 
-void CRun::TellTime(const std::string& path, double loadSeconds, double readSeconds, const char* work,
-                    double workSeconds, Clock::time_point writing)
+void CRun::TellTime(const SInput& input, double loadSeconds, const char* work, double workSeconds,
+                    Clock::time_point writing)
 {
     if (!m_Line.isTime)
         return;
-    Tell(ShownName(path), "load " + std::to_string(Milliseconds(loadSeconds)) + " ms, read " +
-                              std::to_string(Milliseconds(readSeconds)) + " ms, " + work + ' ' +
-                              std::to_string(Milliseconds(workSeconds)) + " ms, write " +
-                              std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
+    Remark(enMessageKind::Time, input,
+           "load " + std::to_string(Milliseconds(loadSeconds)) + " ms, read " +
+               std::to_string(Milliseconds(input.readSeconds)) + " ms, " + work + ' ' +
+               std::to_string(Milliseconds(workSeconds)) + " ms, write " +
+               std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
 }
 
 // A parse keeps its prepared text to itself. Messages and comparisons have it made once more.
-std::string CRun::PrepareAgain(const SLanguage& language, const std::string& path, const std::string& text,
-                               const SParseResult& result)
+std::string CRun::PrepareAgain(const SInput& input, const SParseResult& result)
 {
     if (result.pass.empty())
-        return PreparedText(text);
+        return PreparedText(input.text);
     if (result.findings.empty() && !m_Line.isVerify)
         return {};
-    return HostOf(language, enMode::Preparation).Parse(text, path).output;
+    return HostOf(input.language, enMode::Preparation).Parse(input.text, input.path).output;
 }
 
-void CRun::ParseFile(const SLanguage& language, const std::string& path, const std::string& text,
-                     double readSeconds)
+void CRun::ParseFile(const SInput& input)
 {
-    CParserHost& host = HostOf(language, m_Line.isColor ? enMode::Coloring
-                                         : m_Line.isRaw ? enMode::RawTree
-                                                        : enMode::Tree);
-    const SParseResult result = host.Parse(text, path);
-    const std::string prepared = PrepareAgain(language, path, text, result);
-    const SPreparation preparation{result.pass.empty() ? prepared : text, prepared, result.preparedLines,
-                                   result.pass};
-    Report(path, preparation, result);
+    CParserHost& host = HostOf(input.language, m_Line.isColor ? enMode::Coloring
+                                               : m_Line.isRaw ? enMode::RawTree
+                                                              : enMode::Tree);
+    const SParseResult result = host.Parse(input.text, input.path);
+    const std::string prepared = PrepareAgain(input, result);
+    const SPreparation preparation{result.pass.empty() ? prepared : input.text, prepared,
+                                   result.preparedLines, result.pass};
+    Report(input, preparation, result);
     // A raw tree is of the text as it stands.
     if (m_Line.isVerify && result.isParsed)
-        Verify(path, m_Line.isRaw ? SPreparation{text, text, {}, {}} : preparation, result.output, host);
+        Verify(input, m_Line.isRaw ? SPreparation{input.text, input.text, {}, {}} : preparation,
+               result.output, host);
     if (m_Line.isStat) {
         const SStatistics statistics{
             CountStatements(result.output), CountFindings(result.findings, enFinding::SkippedText),
-            CountFindings(result.findings, enFinding::UnexpectedToken), text.size(), result.seconds};
-        Tell(ShownName(path), statistics.Text());
+            CountFindings(result.findings, enFinding::UnexpectedToken), input.text.size(), result.seconds};
+        Remark(enMessageKind::Statistics, input, statistics.Text());
         m_Sum += statistics;
         ++m_Counted;
     }
@@ -453,60 +452,49 @@ void CRun::ParseFile(const SLanguage& language, const std::string& path, const s
     const double loadSeconds = host.TakeLoadSeconds();
     const Clock::time_point writing = Clock::now();
     // A search wants memory of its own.
-    if (m_Selector && text.size() > kLongText)
+    if (m_Selector && input.text.size() > kLongText)
         m_Hosts.clear();
     if (result.isParsed)
-        WriteResult(path, result.output);
-    TellTime(path, loadSeconds, readSeconds, "parse", result.seconds, writing);
+        WriteResult(input, result.output);
+    TellTime(input, loadSeconds, "parse", result.seconds, writing);
 }
 
-void CRun::PrepareFile(const SLanguage& language, const std::string& path, const std::string& text,
-                       double readSeconds)
+void CRun::PrepareFile(const SInput& input)
 {
-    CParserHost& host = HostOf(language, enMode::Preparation);
-    const SParseResult result = host.Parse(text, path);
-    Report(path, SPreparation{text, result.output, result.preparedLines, result.pass}, result);
+    CParserHost& host = HostOf(input.language, enMode::Preparation);
+    const SParseResult result = host.Parse(input.text, input.path);
+    Report(input, SPreparation{input.text, result.output, result.preparedLines, result.pass}, result);
     if (m_Line.isLines && !result.output.empty() && !result.preparedLines.IsKnown())
         Worsen(kToolFindings);
 
     const Clock::time_point writing = Clock::now();
     if (result.isParsed)
-        WritePrepared(path, text, result);
-    TellTime(path, host.TakeLoadSeconds(), readSeconds, "prepare", result.seconds, writing);
+        WritePrepared(input, result);
+    TellTime(input, host.TakeLoadSeconds(), "prepare", result.seconds, writing);
 }
 
 void CRun::RunFile(const std::string& path)
 {
     const SLanguage& language = LanguageOf(path);
+    m_Language = language.parserName;
+    m_Messages.Begin(path, m_Language);
     const Clock::time_point start = Clock::now();
-    std::string text = ReadSourceText(path, {m_Line.encoding, m_Line.recordLength});
+    SSourceText source = ReadSourceText(path, {m_Line.encoding, m_Line.recordLength});
+    const std::size_t ownSize = source.text.size();
     // The preparation takes the last character, whatever it is.
-    if (language.version.db == UVDB_DB_IBM_CL && !m_Line.isRaw && !text.empty() && text.back() != '\n')
-        text += '\n';
-    const double readSeconds = SecondsSince(start);
+    if (language.version.db == UVDB_DB_IBM_CL && !m_Line.isRaw && ownSize > 0 && source.text.back() != '\n')
+        source.text += '\n';
+    const SInput input{language, path, std::move(source.text), ownSize, source.bytes, SecondsSince(start)};
     if (m_Line.IsPreparing())
-        PrepareFile(language, path, text, readSeconds);
+        PrepareFile(input);
     else
-        ParseFile(language, path, text, readSeconds);
-    if (text.size() > kLongText)
+        ParseFile(input);
+    if (input.text.size() > kLongText)
         m_Hosts.clear();
 }
 
-int CRun::Run()
+void CRun::Prepare()
 {
-    if (m_Line.isHelp) {
-        WriteStandardOutput(HelpText());
-        return kToolClean;
-    }
-    if (m_Line.isVersion) {
-        WriteStandardOutput("uvparse " UV_VERSION "\n");
-        return kToolClean;
-    }
-    if (m_Line.isListLanguages) {
-        ListLanguages();
-        return kToolClean;
-    }
-    // What the arguments get wrong is told before any work is done.
     CheckOptions(m_Line.options, DatabaseOptions(), "--option");
     CheckOptions(m_Line.objectOptions, ObjectOptions(), "--object-option");
     if (!m_Line.encoding.empty())
@@ -517,31 +505,36 @@ int CRun::Run()
         NameOutputs();
     if (!m_Line.traceFile.empty())
         m_Trace = std::make_shared<CTraceFile>(m_Line.traceFile);
-
     ChooseTableCache(!m_Line.isWithoutCache);
+}
+
+int CRun::Work()
+{
     for (const std::string& path : m_Line.files) {
         m_Progress.Step(ShownName(path));
+        m_Language.clear();
         try {
             RunFile(path);
         } catch (const CLanguageError& e) {
-            m_Progress.Clear();
-            m_Messages.Error(ShownName(path) + ": " + e.what());
-            Worsen(kToolCouldNotRun);
+            TellFailure(path, ShownName(path) + ": " + e.what());
+        } catch (const CSourceRefusal& e) {
+            TellUnread(path, e);
         } catch (const std::bad_alloc&) {
             // What the text has taken goes with its parser.
             m_Hosts.clear();
-            m_Progress.Clear();
-            m_Messages.Error(ShownName(path) + ": out of memory");
-            Worsen(kToolCouldNotRun);
+            TellFailure(path, ShownName(path) + ": out of memory");
         } catch (const std::exception& e) {
-            m_Progress.Clear();
-            m_Messages.Error(e.what());
-            Worsen(kToolCouldNotRun);
+            TellFailure(path, e.what());
         }
     }
     m_Progress.Clear();
-    if (m_Line.isStat && m_Counted > 1)
-        Tell("sum of " + std::to_string(m_Counted) + " texts", m_Sum.Text());
+    if (m_Line.isStat && m_Counted > 1) {
+        SMessage sum;
+        sum.kind = enMessageKind::Statistics;
+        sum.severity = enSeverity::Note;
+        sum.text = "sum of " + std::to_string(m_Counted) + " texts: " + m_Sum.Text();
+        Write(sum);
+    }
     if (m_Selector && !m_HasSelected)
         Worsen(kToolFindings);
     if (m_Trace) {
@@ -555,11 +548,42 @@ int CRun::Run()
     return m_ExitCode;
 }
 
+int WorkAndTell(const SCommandLine& line, CMessageOutput& messages)
+{
+    SMessage failure;
+    failure.kind = enMessageKind::BadArguments;
+    try {
+        CRun run(line, messages);
+        run.Prepare();
+        failure.kind = enMessageKind::CouldNotRun;
+        return run.Work();
+    } catch (const std::exception& e) {
+        failure.text = e.what();
+    }
+    messages.Write(failure);
+    return kToolCouldNotRun;
+}
+
 } // namespace
 
-int Run(const SCommandLine& line, CToolMessages& messages)
+int Run(const SCommandLine& line)
 {
-    return CRun(line, messages).Run();
+    if (line.isHelp) {
+        WriteStandardOutput(HelpText());
+        return kToolClean;
+    }
+    if (line.isVersion) {
+        WriteStandardOutput("uvparse " UV_VERSION "\n");
+        return kToolClean;
+    }
+    if (line.isListLanguages) {
+        ListLanguages();
+        return kToolClean;
+    }
+    CMessageOutput messages(line.messageForm, line.messageFile);
+    const int exitCode = WorkAndTell(line, messages);
+    messages.End(exitCode);
+    return exitCode;
 }
 
 } // namespace uvparse

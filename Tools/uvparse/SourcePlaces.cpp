@@ -174,6 +174,36 @@ std::string CSourcePlaces::PreparedName() const
     return "the text that " + m_Preparation.pass + " prepared";
 }
 
+// Where the lines begin alike the column has been counted already; the line may be a long one.
+std::size_t CSourcePlaces::ColumnIn(const SPiece& piece, std::size_t sourceByte, const STextPlace& prepared)
+{
+    if (piece.preparedBegin == 0 && piece.sourceBegin == 0)
+        return prepared.column;
+    return CountCodePoints(piece.source.substr(0, sourceByte)) + 1;
+}
+
+SLineColumn CSourcePlaces::FindEnd(std::size_t offset, std::size_t length)
+{
+    const std::string_view prepared = m_Preparation.prepared;
+    offset = std::min(offset, prepared.size());
+    const std::size_t end = offset + std::min(length, prepared.size() - offset);
+    if (m_Preparation.pass.empty()) {
+        const STextPlace at = m_Places.Find(end);
+        return {at.line, at.column};
+    }
+    // The next piece may begin where this one ends, in another line: the last character tells which is meant.
+    const std::size_t last = StepBack(prepared, end, 1, offset);
+    const bool isAfterLast = last < end && prepared[last] != '\n';
+    const STextPlace at = m_Places.Find(last);
+    Relate(at.line, prepared.substr(at.lineStart, at.lineEnd - at.lineStart));
+    const std::size_t inLine = last - at.lineStart;
+    const SPiece* const piece = PieceAt(inLine);
+    if (piece == nullptr || (isAfterLast && inLine - piece->preparedBegin == piece->size))
+        return {};
+    const std::size_t column = ColumnIn(*piece, piece->sourceBegin + (inLine - piece->preparedBegin), at);
+    return {piece->sourceLine, column + (isAfterLast ? 1 : 0)};
+}
+
 SMessagePlace CSourcePlaces::Find(std::size_t offset)
 {
     const std::string_view prepared = m_Preparation.prepared;
@@ -193,10 +223,7 @@ SMessagePlace CSourcePlaces::Find(std::size_t offset)
         if (const SPiece* const piece = PieceAt(inLine)) {
             found.place.line = static_cast<int>(piece->sourceLine);
             center = piece->sourceBegin + (inLine - piece->preparedBegin);
-            // Where the lines begin alike the column has been counted already; the line may be a long one.
-            found.place.column = static_cast<int>(piece->preparedBegin == 0 && piece->sourceBegin == 0
-                                                      ? at.column
-                                                      : CountCodePoints(piece->source.substr(0, center)) + 1);
+            found.place.column = static_cast<int>(ColumnIn(*piece, center, at));
             line = piece->source;
         } else if (m_RelatedSource) {
             found.place.line = static_cast<int>(*m_RelatedSource);

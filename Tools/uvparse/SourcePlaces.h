@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Tools/Support/ToolMessages.h"
+#include "Tools/uvparse/FilePlaces.h"
 #include "Tools/uvparse/PreparedLines.h"
 
 #include <cstddef>
@@ -77,6 +78,12 @@ public:
     // Offsets in ascending order cost a walk through the text, however long its lines are.
     SMessagePlace Find(std::size_t offset);
 
+    // Where in the source `length` bytes of the prepared text end that begin at `offset`: after their last
+    // character, and before the line feed that they may end in. Ends in ascending order cost a walk through
+    // the text; an object that Find is called of as well walks anew each time.
+    // Returns: no line and no column where either isn't known.
+    SLineColumn FindEnd(std::size_t offset, std::size_t length);
+
     // The place of a whole line of the prepared text.
     SMessagePlace FindLine(std::size_t preparedLine);
 
@@ -94,6 +101,7 @@ private:
     void Relate(std::size_t preparedLine, std::string_view prepared);
     void RelateJoined(std::size_t preparedLine, std::string_view prepared, std::size_t sourceLine);
     const SPiece* PieceAt(std::size_t preparedByte) const;
+    static std::size_t ColumnIn(const SPiece& piece, std::size_t sourceByte, const STextPlace& prepared);
     std::string_view SourceLine(std::size_t number);
     void IndexSource();
     std::string PreparedName() const;

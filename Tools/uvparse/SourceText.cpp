@@ -2,10 +2,12 @@
 
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/LegacyEncoding.h"
+#include "Tools/uvparse/SourcePlaces.h"
 #include "UVEnvironment/FileHelper.h"
 #include "UVEnvironment/UVEEncoding.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdio>
 #include <sstream>
@@ -78,7 +80,8 @@ std::string FromUTF32(std::string_view bytes, std::size_t offset, bool isLittleE
     return text;
 }
 
-std::string FromUTF8(std::string bytes, std::size_t offset)
+// Takes the bytes, unless it refuses them.
+std::string FromUTF8(std::string& bytes, std::size_t offset)
 {
     const std::size_t invalid = UVDB::FindInvalidUTF8(bytes);
     if (invalid != std::string_view::npos) {
@@ -88,7 +91,7 @@ std::string FromUTF8(std::string bytes, std::size_t offset)
         throw SRefusal{reason, invalid, kEncodingHint};
     }
     bytes.erase(0, offset);
-    return bytes;
+    return std::move(bytes);
 }
 
 Uve::File::SEncodingMark MarkOf(const std::string& bytes)
@@ -111,19 +114,19 @@ const char* NameOfMark(Uve::File::Encoding encoding)
     }
 }
 
-std::string DecodeByMark(std::string bytes)
+SSourceText DecodeByMark(std::string& bytes)
 {
     const Uve::File::SEncodingMark mark = MarkOf(bytes);
     const auto offset = static_cast<std::size_t>(mark.markLength);
     switch (mark.encoding) {
     case Uve::File::ENCODING_UTF16LE:
-        return FromUTF16(bytes, offset, UVDB::UTF16LEToUTF8);
+        return {FromUTF16(bytes, offset, UVDB::UTF16LEToUTF8), {enFileBytes::Utf16, offset}};
     case Uve::File::ENCODING_UTF16BE:
-        return FromUTF16(bytes, offset, UVDB::UTF16BEToUTF8);
+        return {FromUTF16(bytes, offset, UVDB::UTF16BEToUTF8), {enFileBytes::Utf16, offset}};
     case Uve::File::ENCODING_UTF32LE:
-        return FromUTF32(bytes, offset, true);
+        return {FromUTF32(bytes, offset, true), {enFileBytes::Utf32, offset}};
     case Uve::File::ENCODING_UTF32BE:
-        return FromUTF32(bytes, offset, false);
+        return {FromUTF32(bytes, offset, false), {enFileBytes::Utf32, offset}};
     default:
         break;
     }
@@ -131,7 +134,7 @@ std::string DecodeByMark(std::string bytes)
     const std::size_t nul = bytes.find('\0');
     if (nul != std::string::npos)
         throw SRefusal{"NUL byte, which source text can't hold,", nul, kEncodingHint};
-    return FromUTF8(std::move(bytes), offset);
+    return {FromUTF8(bytes, offset), {enFileBytes::Utf8, offset}};
 }
 
 bool IsMark(std::string_view text)
@@ -152,7 +155,26 @@ bool IsEbcdic(CLegacyDecoder& decoder)
     }
 }
 
-std::string DecodeByName(const std::string& bytes, const std::string& encoding)
+// Whether each byte is a character of its own, whatever stands beside it.
+bool IsOneByteEach(std::string_view bytes, CLegacyDecoder& decoder)
+{
+    std::array<bool, 256> isKnown{};
+    for (const char& byte : bytes) {
+        bool& isByteKnown = isKnown[static_cast<unsigned char>(byte)];
+        if (isByteKnown)
+            continue;
+        try {
+            if (CountCodePoints(decoder.Decode(std::string_view(&byte, 1))) != 1)
+                return false;
+        } catch (const SRefusal&) {
+            return false;
+        }
+        isByteKnown = true;
+    }
+    return true;
+}
+
+std::string DecodeByName(const std::string& bytes, const std::string& encoding, SFileBytes& form)
 {
     CLegacyDecoder decoder(encoding);
     const Uve::File::SEncodingMark mark = MarkOf(bytes);
@@ -169,6 +191,11 @@ std::string DecodeByName(const std::string& bytes, const std::string& encoding)
                            0};
     }
     std::string text = decoder.Decode(bytes);
+    if (text == bytes)
+        form.form = enFileBytes::Utf8;
+    else if (CountCodePoints(text) == bytes.size() && IsOneByteEach(bytes, decoder))
+        form.form = enFileBytes::One;
+    form.markLength = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
     if (text.starts_with(kByteOrderMark))
         text.erase(0, kByteOrderMark.size());
     if (IsEbcdic(decoder))
@@ -177,22 +204,44 @@ std::string DecodeByName(const std::string& bytes, const std::string& encoding)
 }
 
 // One record after the other, so that none begins in the shift state that another one ended in.
-std::string DecodeRecords(std::string_view bytes, const SSourceForm& form)
+std::string DecodeRecords(std::string_view bytes, const SSourceForm& form, SFileBytes& fileBytes)
 {
     if (bytes.size() % form.recordLength != 0)
         throw SRefusal{"no whole records of " + std::to_string(form.recordLength) + " bytes: one begins",
                        bytes.size() - bytes.size() % form.recordLength};
     CLegacyDecoder decoder(form.encoding.empty() ? "UTF-8" : form.encoding);
     std::string text;
+    bool isAsInFile = true;
     for (std::size_t at = 0; at < bytes.size(); at += form.recordLength) {
         try {
-            text += decoder.Decode(bytes.substr(at, form.recordLength));
+            const std::string_view record = bytes.substr(at, form.recordLength);
+            const std::string decoded = decoder.Decode(record);
+            isAsInFile = isAsInFile && decoded == record;
+            text += decoded;
         } catch (const SRefusal& refusal) {
             throw SRefusal{refusal.reason, at + refusal.offset, refusal.advice};
         }
         text += '\n';
     }
+    fileBytes.recordLength = form.recordLength;
+    if (isAsInFile)
+        fileBytes.form = enFileBytes::Utf8;
+    else if (IsOneByteEach(bytes, decoder))
+        fileBytes.form = enFileBytes::One;
     return text;
+}
+
+// Counted in the bytes themselves, which are the text where no encoding is named and no mark says otherwise.
+SLineColumn PlaceIn(std::string_view bytes, std::size_t offset, const SSourceForm& form)
+{
+    const bool isText = form.encoding.empty() && form.recordLength == 0;
+    const Uve::File::SEncodingMark mark = MarkOf(std::string(bytes.substr(0, 4)));
+    const auto markLength = static_cast<std::size_t>(mark.markLength);
+    if (!isText || offset < markLength || (markLength > 0 && mark.encoding != Uve::File::ENCODING_UTF8) ||
+        UVDB::FindInvalidUTF8(bytes.substr(0, offset)) != std::string_view::npos)
+        return {};
+    const STextPlace place = CTextPlaces(bytes.substr(markLength)).Find(offset - markLength);
+    return {place.line, place.column};
 }
 
 // The bytes that a character takes at least.
@@ -230,23 +279,35 @@ bool HasNulUnit(std::string_view bytes, std::size_t unit, std::size_t& searched)
 
 } // namespace
 
-std::string DecodeSourceText(std::string bytes, const std::string& name, const SSourceForm& form)
+SSourceText DecodeSourceText(std::string bytes, const std::string& name, const SSourceForm& form)
 {
+    const auto refuse = [&](const SRefusal& refusal, std::optional<std::size_t> fileOffset,
+                            SLineColumn place) {
+        return CSourceRefusal(name + ": " + refusal.reason + " at byte offset " +
+                                  std::to_string(refusal.offset) + refusal.advice,
+                              fileOffset, place);
+    };
+    SSourceText source;
     try {
-        std::string text = form.recordLength > 0   ? DecodeRecords(bytes, form)
-                           : form.encoding.empty() ? DecodeByMark(std::move(bytes))
-                                                   : DecodeByName(bytes, form.encoding);
-        const std::size_t nul = text.find('\0');
-        if (nul != std::string::npos)
-            throw SRefusal{"NUL character, which source text can't hold, in the text as UTF-8", nul};
-        return text;
+        if (form.recordLength > 0)
+            source.text = DecodeRecords(bytes, form, source.bytes);
+        else if (!form.encoding.empty())
+            source.text = DecodeByName(bytes, form.encoding, source.bytes);
+        else
+            source = DecodeByMark(bytes);
     } catch (const SRefusal& refusal) {
-        throw CToolFailure(name + ": " + refusal.reason + " at byte offset " +
-                           std::to_string(refusal.offset) + refusal.advice);
+        throw refuse(refusal, refusal.offset, PlaceIn(bytes, refusal.offset, form));
     }
+    const std::size_t nul = source.text.find('\0');
+    if (nul != std::string::npos) {
+        const STextPlace place = CTextPlaces(source.text).Find(nul);
+        throw refuse({"NUL character, which source text can't hold, in the text as UTF-8", nul}, {},
+                     {place.line, place.column});
+    }
+    return source;
 }
 
-std::string ReadSourceText(const std::string& path, const SSourceForm& form)
+SSourceText ReadSourceText(const std::string& path, const SSourceForm& form)
 {
     std::size_t searched = 0;
     const auto hasNul = [&](std::string_view bytes) {

@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     CToolMessages messages("uvparse", std::cerr);
     try {
         const uvparse::SCommandLine line = uvparse::ReadCommandLine(argc, argv);
-        return uvparse::Run(line, messages);
+        return uvparse::Run(line);
     } catch (const uvparse::CUsageError& e) {
         messages.Error(std::string(e.what()) + " (try --help)");
     } catch (const std::exception& e) {
