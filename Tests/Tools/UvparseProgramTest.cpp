@@ -210,6 +210,18 @@ TEST_F(UvparseProgram, UnexpectedTokensAreShownInTheirPlace)
     EXPECT_EQ(Run("--quiet a.sql").err, "");
 }
 
+// A raw parse sees zero-width spaces, an ordinary one sees shorter blanks.
+TEST_F(UvparseProgram, PlacesAreTheSameInBothKindsOfTree)
+{
+    Put("a.sql", "select '\xE2\x80\x8B\xE2\x80\x8B', 1 from from t;\n");
+    for (const char* mode : {"", "--raw "}) {
+        SCOPED_TRACE(mode);
+        const SRunResult run = Run(mode + "--verify a.sql"s);
+        EXPECT_EQ(run.err.find("a.sql:1:21: error: unexpected token 'from'"), 0u) << run.err;
+        EXPECT_NE(run.err.find("verified"), std::string::npos) << run.err;
+    }
+}
+
 TEST_F(UvparseProgram, TextsDoNotInfluenceEachOther)
 {
     // One object reads them all, whatever the one before has left: errors, quotes that don't close, another

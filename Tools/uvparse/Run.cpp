@@ -416,9 +416,12 @@ void CRun::TellTime(const SInput& input, double loadSeconds, const char* work, d
                std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
 }
 
-// A parse keeps its prepared text to itself. Messages and comparisons have it made once more.
+// A parse keeps its prepared text to itself. Messages and comparisons have it made once more. A raw tree is
+// of the text as it stands.
 std::string CRun::PrepareAgain(const SInput& input, const SParseResult& result)
 {
+    if (m_Line.isRaw)
+        return input.text;
     if (result.pass.empty())
         return PreparedText(input.text);
     if (result.findings.empty() && !m_Line.isVerify)
@@ -436,10 +439,8 @@ void CRun::ParseFile(const SInput& input)
     const SPreparation preparation{result.pass.empty() ? prepared : input.text, prepared,
                                    result.preparedLines, result.pass};
     Report(input, preparation, result);
-    // A raw tree is of the text as it stands.
     if (m_Line.isVerify && result.isParsed)
-        Verify(input, m_Line.isRaw ? SPreparation{input.text, input.text, {}, {}} : preparation,
-               result.output, host);
+        Verify(input, preparation, result.output, host);
     if (m_Line.isStat) {
         const SStatistics statistics{
             CountStatements(result.output), CountFindings(result.findings, enFinding::SkippedText),
