@@ -16,7 +16,7 @@ test=(
     fp-compiler gnucobol3
     libbenchmark-dev libecpg-dev libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
     clang clang-format clang-tidy libclang-rt-14-dev llvm
-    mariadb-client-core mariadb-server-core postgresql sqlite3
+    mariadb-client-core mariadb-server-core postgresql python3-jsonschema sqlite3
 )
 
 case "${1:-}" in
