@@ -182,8 +182,7 @@ CExpectedTokens::CExpectedTokens(const CParserTables& parser, const CScannerTabl
     m_Tokens[kEndOfText].shown = "end of text";
 }
 
-std::vector<std::string> CExpectedTokens::Find(std::span<const short> stack, int found,
-                                               std::size_t most) const
+std::vector<std::string> CExpectedTokens::Find(std::span<const short> stack, int found, std::size_t most)
 {
     struct SCandidate
     {
@@ -201,13 +200,14 @@ std::vector<std::string> CExpectedTokens::Find(std::span<const short> stack, int
             continue;
         const int rank = (m_Parser.ShiftsBoth(stack, terminal, found) ? 0 : 4) + (token.isWord ? 2 : 0) +
                          (m_Parser.ShiftsAtOnce(stack, terminal) ? 0 : 1);
-        candidates.push_back(
-            {terminal, rank, m_Parser.Becomes(stack, terminal), m_Parser.ShiftsAfter(stack, terminal)});
+        candidates.push_back({terminal, rank, m_Parser.Becomes(stack, terminal, m_Known), {}});
         if (token.isWord) {
             for (const int symbol : candidates.back().becomes)
                 ++words[symbol];
-        } else if (token.isMark)
+        } else if (token.isMark) {
+            candidates.back().shiftsAfter = m_Parser.ShiftsAfter(stack, terminal);
             ++marks[candidates.back().shiftsAfter];
+        }
     }
     const auto isRare = [](const auto& entry) { return entry.second < kAlike; };
     std::erase_if(words, isRare);

@@ -25,7 +25,7 @@ public:
     // single quotes, others are words such as "string"; where many words may be a name, "name" stands for them, and "operator" for many marks that
     // the same follows.
     // Returns: at most `most` of them.
-    std::vector<std::string> Find(std::span<const short> stack, int found, std::size_t most) const;
+    std::vector<std::string> Find(std::span<const short> stack, int found, std::size_t most);
 
 private:
     struct SToken
@@ -36,5 +36,6 @@ private:
     };
 
     const CParserTables& m_Parser;
+    CParserTables::TUnitReductions m_Known;
     std::vector<SToken> m_Tokens; // by terminal
 };

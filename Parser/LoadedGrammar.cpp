@@ -33,11 +33,11 @@ void CLoadedGrammar::Load(const char* parserName, bool isPatternVersion)
     m_Parser = std::move(parser);
 }
 
-const CExpectedTokens& CLoadedGrammar::Expected()
+CExpectedTokens& CLoadedGrammar::Expected()
 {
     if (!m_Expected)
-        m_Expected = std::make_unique<const CExpectedTokens>(m_Parser->Tables(), m_Scanner->Tables(),
-                                                             m_Scanner->Actions(), m_Parser->m_mapDefines);
+        m_Expected = std::make_unique<CExpectedTokens>(m_Parser->Tables(), m_Scanner->Tables(),
+                                                       m_Scanner->Actions(), m_Parser->m_mapDefines);
     return *m_Expected;
 }
 

@@ -36,7 +36,7 @@ public:
     CSQLGrammarParserImplementation& Found() { return m_Parser->m_Extension; }
 
     // What the parser would have taken, for set_Expected. Made when it is first asked for; as good as the grammar.
-    const CExpectedTokens& Expected();
+    CExpectedTokens& Expected();
 
     // Runs `write` on both scanners: their fields follow the same options. Nothing before Load.
     template <class Write>
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<CSQLGrammarLexer> m_Scanner;
     std::shared_ptr<CSQLGrammarParser> m_Parser;
     CSQLGrammarLexer m_ColoringScanner;
-    std::unique_ptr<const CExpectedTokens> m_Expected;
+    std::unique_ptr<CExpectedTokens> m_Expected;
     bool m_IsPatternVersion = false;
     bool m_IsConnected = false;
 };

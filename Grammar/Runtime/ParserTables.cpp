@@ -242,19 +242,23 @@ std::set<unsigned> CParserTables::UnitReductions(std::size_t state) const
     return rules;
 }
 
-std::set<int> CParserTables::Becomes(std::span<const short> stack, int terminal) const
+std::set<int> CParserTables::Becomes(std::span<const short> stack, int terminal, TUnitReductions& known) const
 {
     std::set<int> symbols;
     SStackAhead ahead{stack, {}};
     if (!ReduceAndShift(ahead, terminal))
         return symbols;
     while (true) {
-        const std::set<unsigned> rules = UnitReductions(static_cast<std::size_t>(ahead.Top()));
+        const auto state = static_cast<std::size_t>(ahead.Top());
+        auto found = known.find(state);
+        if (found == known.end())
+            found = known.emplace(state, UnitReductions(state)).first;
+        const std::set<unsigned>& rules = found->second;
         bool isNew = false;
         for (const unsigned rule : rules)
             isNew = symbols.insert(static_cast<int>(r1[rule])).second || isNew;
         // One symbol leads on. One that comes again would come for ever.
-        if (rules.size() != 1 || !isNew || pact[static_cast<std::size_t>(ahead.Top())] != base_ninf)
+        if (rules.size() != 1 || !isNew || pact[state] != base_ninf)
             break;
         ahead.Pop(1);
         const int next =

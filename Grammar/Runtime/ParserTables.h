@@ -2,6 +2,7 @@
 
 #include "Grammar/Runtime/ScannerTables.h"
 
+#include <map>
 #include <set>
 #include <span>
 #include <string>
@@ -52,8 +53,9 @@ public:
     // the same.
     std::vector<int> ShiftsAfter(std::span<const short> stack, int terminal) const;
     // The nonterminals that the terminal alone becomes once it is shifted, by rules of one symbol, up to where the next
-    // token decides.
-    std::set<int> Becomes(std::span<const short> stack, int terminal) const;
+    // token decides. `known` holds what was found out of states for earlier questions to the same tables.
+    using TUnitReductions = std::map<std::size_t, std::set<unsigned>>;
+    std::set<int> Becomes(std::span<const short> stack, int terminal, TUnitReductions& known) const;
 
     std::size_t States() const { return pact.count; }
     std::size_t Rules() const { return r1.count; }
