@@ -58,7 +58,7 @@ std::string FindingText(const SFinding& finding, std::string_view prepared)
     case enFinding::UnfinishedText:
         break;
     }
-    return "never closed " + finding.name;
+    return "never closed " + finding.condition;
 }
 
 // As people are told of them: what an unexpected token stands for already isn't told again.

@@ -202,6 +202,7 @@ std::vector<SMessage> MessagesOf(const SSource& source, const SPreparation& prep
             message.token = std::string(TextOf(finding, preparation.prepared));
         message.expected = std::move(finding.expected);
         message.state = finding.state;
+        message.tokenName = std::move(finding.name);
         message.condition = std::move(finding.condition);
         messages.push_back(std::move(message));
     }

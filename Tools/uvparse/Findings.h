@@ -25,7 +25,7 @@ struct SFinding
     enFinding kind = enFinding::UnexpectedToken;
     std::size_t offset = 0; // bytes into the prepared text
     std::size_t length = 0;
-    bool isReported = false; // skipped text that an unexpected token stands for
+    bool isReported = false;                // skipped text that an unexpected token stands for
     std::vector<std::string> expected = {}; // instead of an unexpected token, the likeliest first
     std::optional<int> state = {};          // of the parser at an unexpected token
     std::string name = {};                  // of an unexpected token in the grammar
