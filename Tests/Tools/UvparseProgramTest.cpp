@@ -174,7 +174,7 @@ TEST_F(UvparseProgram, CommandsOfTheReadmeWork)
                   line.find(" > ") == std::string::npos && line.find("--output") == std::string::npos);
         ++commands;
     }
-    EXPECT_EQ(commands, 9);
+    EXPECT_EQ(commands, 10);
 }
 
 TEST_F(UvparseProgram, StandardInputIsAFileLikeAnyOther)
