@@ -32,7 +32,8 @@ struct SLineColumn
     std::size_t line = 0;   // from 1; 0: none
     std::size_t column = 0; // code points, from 1; 0: none
 
-    auto operator<=>(const SLineColumn&) const = default;
+    // The check takes the comparison with 0 that the compiler writes for a null pointer.
+    auto operator<=>(const SLineColumn&) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 struct SFilePlace
