@@ -144,18 +144,19 @@ void CSQLGrammarLexer::yyinputbuffer()
 int CSQLGrammarLexer::yybegin(int state)
 {
     const int coded = yyFlexLexer::yybegin(state);
-    if (state == m_Extension.m_nStartState) {
-        NoteOpenText(yycurrent_buffer() ? yymatch_end() : 0);
-        m_lstEntered.clear();
-        return coded;
-    }
+    const std::optional<SEntered> open = m_bLongTextsWanted ? OpenText() : std::nullopt;
     // back in a condition that led to the current one
-    const auto open = std::ranges::find(m_lstEntered, state, &SEntered::condition);
-    if (open != m_lstEntered.end())
-        m_lstEntered.erase(open + 1, m_lstEntered.end());
+    const auto entered = std::ranges::find(m_lstEntered, state, &SEntered::condition);
+    if (state == m_Extension.m_nStartState)
+        m_lstEntered.clear();
+    else if (entered != m_lstEntered.end())
+        m_lstEntered.erase(entered + 1, m_lstEntered.end());
+    else if (yycurrent_buffer())
+        m_lstEntered.push_back({state, yymatch_offset(), yymatch_end()});
     else
-        m_lstEntered.push_back(
-            {state, yycurrent_buffer() ? yymatch_offset() : 0, yycurrent_buffer() ? yymatch_end() : 0});
+        m_lstEntered.push_back({state, 0, 0});
+    if (open && !OpenText())
+        NoteLongText(open->offset, open->end, yymatch_end());
     return coded;
 }
 
@@ -183,7 +184,7 @@ int CSQLGrammarLexer::ScanEndAfter(int offset) const
 void CSQLGrammarLexer::NoteToken(std::size_t begin, std::size_t length)
 {
     m_nTokensEnd = begin + length;
-    if (m_lstEntered.empty())
+    if (!OpenText())
         NoteLongText(begin, 0, m_nTokensEnd);
 }
 
@@ -198,11 +199,16 @@ void CSQLGrammarLexer::NoteLongText(std::size_t begin, std::size_t opened, std::
         {begin, end, opened == 0 ? begin + lineEnd + 1 : opened, static_cast<unsigned long>(yylineno)});
 }
 
-// The text that the scan is in, if it isn't in the condition that texts begin in.
-void CSQLGrammarLexer::NoteOpenText(std::size_t end)
+// Where the scan came into conditions in which no text may end, if it is in one.
+std::optional<CSQLGrammarLexer::SEntered> CSQLGrammarLexer::OpenText() const
 {
-    if (m_bLongTextsWanted && !m_lstEntered.empty())
-        NoteLongText(m_lstEntered.front().offset, m_lstEntered.front().end, end);
+    std::optional<SEntered> open;
+    for (auto entered = m_lstEntered.rbegin(); entered != m_lstEntered.rend(); ++entered) {
+        if (MayEndIn(entered->condition))
+            break;
+        open = *entered;
+    }
+    return open;
 }
 
 bool CSQLGrammarLexer::IsEndOfText(int act)
@@ -220,11 +226,11 @@ bool CSQLGrammarLexer::IsEndOfText(int act)
 // Tables in which no condition has such a record don't tell, and then no end is wrong.
 void CSQLGrammarLexer::NoteEnd()
 {
-    NoteOpenText(m_Extension.m_strQuery.size());
-    const int firstRule = yy_end_of_buffer_action + 1;
+    if (const std::optional<SEntered> open = OpenText(); open && m_bLongTextsWanted)
+        NoteLongText(open->offset, open->end, m_Extension.m_strQuery.size());
     const int condition = yystart_condition();
     if (m_lstEntered.empty() || m_Unfinished || m_lstEntered.back().condition != condition ||
-        !m_Actions.HasFrom(firstRule) || m_Actions.Has(firstRule + condition))
+        !m_Actions.HasFrom(yy_end_of_buffer_action + 1) || MayEndIn(condition))
         return;
     const auto name =
         std::ranges::find(m_mapStartConditions, condition, &std::pair<const std::string, int>::second);
@@ -234,12 +240,17 @@ void CSQLGrammarLexer::NoteEnd()
 void CSQLGrammarLexer::FindEofRules()
 {
     m_lstEofRules.clear();
+    m_lstMayEnd.clear();
     for (const auto& condition : m_mapStartConditions) {
         const auto rule = static_cast<std::size_t>(condition.second) +
                           static_cast<std::size_t>(yy_end_of_buffer_action) + 1;
         if (rule >= m_lstEofRules.size())
             m_lstEofRules.resize(rule + 1);
         m_lstEofRules[rule] = true;
+        const auto number = static_cast<std::size_t>(condition.second);
+        if (number >= m_lstMayEnd.size())
+            m_lstMayEnd.resize(number + 1);
+        m_lstMayEnd[number] = m_Actions.Has(static_cast<int>(rule));
     }
 }
 

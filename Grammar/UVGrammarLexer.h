@@ -25,13 +25,13 @@ struct SUnfinishedText
     std::size_t offset = 0; // of the match that began it, in bytes of the query
 };
 
-// Tokens that cover several lines together: one match, or all from the match that leaves the condition that texts
-// begin in to the one that leads back.
+// Tokens that cover several lines together: one match, or all from the match that leads into a condition in which
+// no text may end to the one that leads out of it.
 struct SLongText
 {
     std::size_t begin = 0; // bytes of the query
     std::size_t end = 0;
-    // After the match that left the condition, or after the first line of a single match.
+    // After the match that led into the condition, or after the first line of a single match.
     std::size_t opened = 0;
     unsigned long lastLine = 0; // from 1
 };
@@ -243,7 +243,11 @@ private:
     int ScanEndAfter(int offset) const;
     void NoteToken(std::size_t begin, std::size_t length);
     void NoteLongText(std::size_t begin, std::size_t opened, std::size_t end);
-    void NoteOpenText(std::size_t end);
+    bool MayEndIn(int condition) const
+    {
+        const auto index = static_cast<std::size_t>(condition);
+        return index < m_lstMayEnd.size() && m_lstMayEnd[index];
+    }
 
     SResult Token(std::uint32_t token, int color, ParserNode& node);
     int TokenNumber(const std::string& fullName);
@@ -318,6 +322,7 @@ private:
     std::vector<SToken> m_lstTokens;
     std::map<std::string, std::uint32_t> m_mapTokens;
     std::vector<bool> m_lstEofRules; // by rule number
+    std::vector<bool> m_lstMayEnd;   // by start condition: a text may end in it
     // A start condition that the scan is in, and the match that began it.
     struct SEntered
     {
@@ -325,6 +330,7 @@ private:
         std::size_t offset = 0;
         std::size_t end = 0; // of that match
     };
+    std::optional<SEntered> OpenText() const;
     std::vector<SEntered> m_lstEntered; // outermost first; without the condition that texts begin in
     std::optional<SUnfinishedText> m_Unfinished;
     std::vector<std::size_t> m_lstWalls;
