@@ -101,7 +101,7 @@ TEST_F(UvparseProgram, XpathPrintsWhatItSelects)
 {
     Put("a.sql", kScript);
     Put("b.sql", "select 1;\n");
-    SRunResult run = Run("--xpath '//select_item//T__IDENTIFIER' a.sql");
+    SRunResult run = Run("--xpath '//select_item/alias//T__IDENTIFIER' a.sql");
     EXPECT_EQ(run.code, 0) << run.err;
     EXPECT_EQ(run.out, "<T__IDENTIFIER type=\"TOKEN\" line=\"1\" pos=\"1\">x</T__IDENTIFIER>\n");
     run = Run("--xpath 'count(//T__SELECT)' a.sql b.sql");

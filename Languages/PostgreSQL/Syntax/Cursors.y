@@ -1,21 +1,21 @@
 /* Cursors. */
 
-declare_cursor
-    : T__DECLARE column_name T__CURSOR T__FOR query                             { NODE; }
-    | T__DECLARE column_name cursor_options T__CURSOR T__FOR query              { NODE; }
-    | T__DECLARE column_name T__CURSOR hold_option T__FOR query                 { NODE; }
-    | T__DECLARE column_name cursor_options T__CURSOR hold_option T__FOR query  { NODE; }
+declare_cursor_statement
+    : T__DECLARE cursor_name T__CURSOR T__FOR query                             { NODE; }
+    | T__DECLARE cursor_name cursor_option_list T__CURSOR T__FOR query          { NODE; }
+    | T__DECLARE cursor_name T__CURSOR hold_option T__FOR query                 { NODE; }
+    | T__DECLARE cursor_name cursor_option_list T__CURSOR hold_option T__FOR query  { NODE; }
     ;
-cursor_options
-    : cursor_option
-    | cursor_options cursor_option                                              { NODE; }
+cursor_option_list
+    : cursor_option                                                             { NODE; }
+    | cursor_option_list cursor_option                                          { NODE; }
     ;
 cursor_option
     : T__NO T__SCROLL                                                           { NODE; }
-    | T__SCROLL
-    | T__BINARY
-    | T__ASENSITIVE
-    | T__INSENSITIVE
+    | T__SCROLL                                                                 { NODE; }
+    | T__BINARY                                                                 { NODE; }
+    | T__ASENSITIVE                                                             { NODE; }
+    | T__INSENSITIVE                                                            { NODE; }
     ;
 hold_option
     : T__WITH T__HOLD                                                           { NODE; }
@@ -26,32 +26,32 @@ fetch_statement
     | T__MOVE fetch_target                                                      { NODE; }
     ;
 fetch_target
-    : column_name
-    | from_in column_name                                                       { NODE; }
-    | fetch_direction column_name                                               { NODE; }
-    | fetch_direction from_in column_name                                       { NODE; }
+    : cursor_name
+    | from_in cursor_name                                                       { NODE(fetch_statement); }
+    | fetch_direction cursor_name                                               { NODE(fetch_statement); }
+    | fetch_direction from_in cursor_name                                       { NODE(fetch_statement); }
     ;
 from_in
     : T__FROM
     | T__IN
     ;
 fetch_direction
-    : T__NEXT
-    | T__PRIOR
-    | T__FIRST
-    | T__LAST
+    : T__NEXT                                                                   { NODE; }
+    | T__PRIOR                                                                  { NODE; }
+    | T__FIRST                                                                  { NODE; }
+    | T__LAST                                                                   { NODE; }
     | T__ABSOLUTE signed_integer                                                { NODE; }
     | T__RELATIVE signed_integer                                                { NODE; }
-    | signed_integer
-    | T__ALL
-    | T__FORWARD
+    | signed_integer                                                            { NODE; }
+    | T__ALL                                                                    { NODE; }
+    | T__FORWARD                                                                { NODE; }
     | T__FORWARD signed_integer                                                 { NODE; }
     | T__FORWARD T__ALL                                                         { NODE; }
-    | T__BACKWARD
+    | T__BACKWARD                                                               { NODE; }
     | T__BACKWARD signed_integer                                                { NODE; }
     | T__BACKWARD T__ALL                                                        { NODE; }
     ;
 close_statement
-    : T__CLOSE column_name                                                      { NODE; }
+    : T__CLOSE cursor_name                                                      { NODE; }
     | T__CLOSE T__ALL                                                           { NODE; }
     ;

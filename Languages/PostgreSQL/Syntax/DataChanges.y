@@ -9,42 +9,42 @@ insert_core
     | T__INSERT T__INTO insert_target insert_source insert_tail                 { NODE(insert_statement); }
     ;
 insert_target
-    : qualified_name
-    | qualified_name T__AS column_name                                          { NODE; }
+    : table_name                                                                { NODE(table_reference); }
+    | table_name T__AS alias                                                    { NODE(table_reference); }
     ;
 insert_source
     : query
-    | T__OVERRIDING overriding_kind T__VALUE query                              { NODE; }
-    | insert_columns query                                                      { NODE; }
-    | insert_columns T__OVERRIDING overriding_kind T__VALUE query               { NODE; }
-    | T__DEFAULT T__VALUES                                                      { NODE; }
+    | T__OVERRIDING overriding_kind T__VALUE query                              { NODE(insert_statement); }
+    | insert_columns query                                                      { NODE(insert_statement); }
+    | insert_columns T__OVERRIDING overriding_kind T__VALUE query               { NODE(insert_statement); }
+    | T__DEFAULT T__VALUES                                                      { NODE(insert_statement); }
     ;
 overriding_kind
     : T__USER
     | T__SYSTEM
     ;
 insert_columns
-    : T__LPAREN insert_column_list T__RPAREN                                    { NODE; }
+    : T__LPAREN target_column_list T__RPAREN                                    { NODE(columns); }
     ;
-%list insert_column_list: target_column %separator T__COMMA ;
+%list target_column_list: target_column %separator T__COMMA ;
 
 target_column
-    : column_name
+    : column_name                                                               { NODE; }
     | column_name indirection                                                   { NODE; }
     ;
 insert_tail
-    : on_conflict
-    | on_conflict returning_clause                                              { NODE; }
+    : conflict_clause
+    | conflict_clause returning_clause                                          { NODE(insert_statement); }
     | returning_clause
     ;
-on_conflict
+conflict_clause
     : T__ON T__CONFLICT conflict_action                                         { NODE; }
     | T__ON T__CONFLICT conflict_target conflict_action                         { NODE; }
     ;
 conflict_target
-    : T__LPAREN index_elements T__RPAREN                                        { NODE; }
-    | T__LPAREN index_elements T__RPAREN where_clause                           { NODE; }
-    | T__ON T__CONSTRAINT column_name                                           { NODE; }
+    : T__LPAREN index_element_list T__RPAREN                                    { NODE; }
+    | T__LPAREN index_element_list T__RPAREN where_clause                       { NODE; }
+    | T__ON T__CONSTRAINT constraint_name                                       { NODE; }
     ;
 conflict_action
     : T__DO T__NOTHING                                                          { NODE; }
@@ -53,14 +53,14 @@ conflict_action
     ;
 returning_clause
     : T__RETURNING select_list                                                  { NODE; }
-    | T__RETURNING T__WITH T__LPAREN returning_aliases T__RPAREN select_list    { NODE; }
+    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list { NODE; }
     ;
-returning_aliases
-    : returning_alias
-    | returning_aliases T__COMMA returning_alias                                { NODE; }
+returning_alias_list
+    : returning_alias                                                           { NODE; }
+    | returning_alias_list T__COMMA returning_alias                             { NODE; }
     ;
 returning_alias
-    : old_or_new T__AS column_name                                              { NODE; }
+    : old_or_new T__AS alias                                                    { NODE; }
     ;
 
 update_statement
@@ -73,30 +73,30 @@ update_core
     ;
 update_tail
     : from_clause
-    | from_clause dml_where_part                                                { NODE(dml_clauses); }
-    | dml_where_part
+    | from_clause update_where_part                                             { NODE(update_statement); }
+    | update_where_part
     ;
-dml_where_part
+update_where_part
     : dml_where
-    | dml_where returning_clause                                                { NODE(dml_clauses); }
+    | dml_where returning_clause                                                { NODE(update_statement); }
     | returning_clause
     ;
 dml_where
     : where_clause
-    | T__WHERE T__CURRENT T__OF column_name                                     { NODE(where_clause); }
+    | T__WHERE T__CURRENT T__OF cursor_name                                     { NODE(where_clause); }
     ;
 target_relation
-    : relation %prec UMINUS
-    | relation column_name                                                      { NODE; }
-    | relation T__AS column_name                                                { NODE; }
+    : relation %prec UMINUS                                                     { NODE(table_reference); }
+    | relation alias                                                            { NODE(table_reference); }
+    | relation T__AS alias                                                      { NODE(table_reference); }
     ;
 set_list
-    : set_item
+    : set_item                                                                  { NODE; }
     | set_list T__COMMA set_item                                                { NODE; }
     ;
 set_item
     : target_column T__EQUAL expression                                         { NODE; }
-    | T__LPAREN insert_column_list T__RPAREN T__EQUAL expression                { NODE; }
+    | insert_columns T__EQUAL expression                                        { NODE; }
     ;
 
 delete_statement
@@ -108,12 +108,17 @@ delete_core
     | T__DELETE T__FROM target_relation delete_tail                             { NODE(delete_statement); }
     ;
 delete_tail
-    : using_tables
-    | using_tables dml_where_part                                               { NODE(dml_clauses); }
-    | dml_where_part
+    : using_clause
+    | using_clause delete_where_part                                            { NODE(delete_statement); }
+    | delete_where_part
     ;
-using_tables
-    : T__USING table_reference_list                                             { NODE; }
+delete_where_part
+    : dml_where
+    | dml_where returning_clause                                                { NODE(delete_statement); }
+    | returning_clause
+    ;
+using_clause
+    : T__USING from_list                                                        { NODE; }
     ;
 
 merge_statement
@@ -121,28 +126,28 @@ merge_statement
     | with_clause merge_core                                                    { NODE; }
     ;
 merge_core
-    : T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list
+    : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
       { NODE(merge_statement); }
-    | T__MERGE T__INTO target_relation T__USING table_reference T__ON expression merge_when_list
+    | T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
       returning_clause                                                          { NODE(merge_statement); }
     ;
 merge_when_list
-    : merge_when
+    : merge_when                                                                { NODE; }
     | merge_when_list merge_when                                                { NODE; }
     ;
 merge_when
     : T__WHEN T__MATCHED T__THEN merge_matched_action                           { NODE; }
-    | T__WHEN T__MATCHED T__AND expression T__THEN merge_matched_action         { NODE; }
+    | T__WHEN T__MATCHED T__AND condition T__THEN merge_matched_action          { NODE; }
     | T__WHEN T__NOT T__MATCHED T__THEN merge_insert_action                     { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__AND expression T__THEN merge_insert_action   { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__AND condition T__THEN merge_insert_action    { NODE; }
     | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__THEN merge_matched_action    { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__AND expression T__THEN merge_matched_action  { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__AND condition T__THEN merge_matched_action  { NODE; }
     | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__THEN merge_insert_action     { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__AND expression T__THEN merge_insert_action  { NODE; }
+    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__AND condition T__THEN merge_insert_action  { NODE; }
     ;
 merge_matched_action
     : T__UPDATE T__SET set_list                                                 { NODE; }
-    | T__DELETE
+    | T__DELETE                                                                 { NODE; }
     | T__DO T__NOTHING                                                          { NODE; }
     ;
 merge_insert_action
@@ -164,69 +169,73 @@ statement
     | update_statement
     | delete_statement
     | merge_statement
-    | create_table
-    | create_foreign_table
-    | create_index
-    | create_view
-    | create_materialized_view
-    | create_sequence
-    | create_routine
-    | create_trigger
-    | create_event_trigger
-    | create_rule
-    | create_policy
-    | create_schema
-    | create_role
-    | create_database
-    | create_tablespace
-    | create_extension
-    | create_language
-    | create_publication
-    | create_subscription
-    | create_foreign_object
-    | create_statistics
-    | create_definition
-    | create_type
-    | create_domain
-    | create_aggregate
-    | create_operator_class
-    | create_operator_family
-    | create_cast
-    | create_transform
-    | create_conversion
-    | create_access_method
-    | alter_relation
-    | alter_sequence
-    | alter_type
-    | alter_domain
-    | alter_routine
-    | alter_object
-    | alter_operator
-    | alter_operator_family
-    | alter_policy
-    | alter_role
-    | alter_database
-    | alter_tablespace
-    | alter_extension
-    | alter_publication
-    | alter_subscription
-    | alter_foreign_object
-    | alter_statistics
-    | alter_text_search
-    | alter_event_trigger
-    | alter_system
-    | alter_default_privileges
+    | create_table_statement
+    | create_foreign_table_statement
+    | create_index_statement
+    | create_view_statement
+    | create_materialized_view_statement
+    | create_sequence_statement
+    | create_routine_statement
+    | create_trigger_statement
+    | create_event_trigger_statement
+    | create_rule_statement
+    | create_policy_statement
+    | create_schema_statement
+    | create_role_statement
+    | create_database_statement
+    | create_tablespace_statement
+    | create_extension_statement
+    | create_language_statement
+    | create_publication_statement
+    | create_subscription_statement
+    | create_foreign_object_statement
+    | create_statistics_statement
+    | create_object_statement
+    | create_type_statement
+    | create_domain_statement
+    | create_aggregate_statement
+    | create_operator_class_statement
+    | create_operator_family_statement
+    | create_cast_statement
+    | create_transform_statement
+    | create_conversion_statement
+    | create_access_method_statement
+    | alter_table_statement
+    | alter_index_statement
+    | alter_view_statement
+    | alter_materialized_view_statement
+    | alter_foreign_table_statement
+    | alter_sequence_statement
+    | alter_type_statement
+    | alter_domain_statement
+    | alter_routine_statement
+    | alter_object_statement
+    | alter_operator_statement
+    | alter_operator_family_statement
+    | alter_policy_statement
+    | alter_role_statement
+    | alter_database_statement
+    | alter_tablespace_statement
+    | alter_extension_statement
+    | alter_publication_statement
+    | alter_subscription_statement
+    | alter_foreign_object_statement
+    | alter_statistics_statement
+    | alter_text_search_statement
+    | alter_event_trigger_statement
+    | alter_system_statement
+    | alter_default_privileges_statement
     | drop_statement
     | comment_statement
     | security_label_statement
     | grant_statement
     | revoke_statement
-    | reassign_owned
+    | reassign_owned_statement
     | transaction_statement
     | set_statement
     | show_statement
     | reset_statement
-    | constraints_statement
+    | set_constraints_statement
     | copy_statement
     | explain_statement
     | do_statement
@@ -234,7 +243,7 @@ statement
     | prepare_statement
     | execute_statement
     | deallocate_statement
-    | declare_cursor
+    | declare_cursor_statement
     | fetch_statement
     | close_statement
     | lock_statement
@@ -245,8 +254,10 @@ statement
     | reindex_statement
     | refresh_statement
     | listen_statement
+    | notify_statement
     | discard_statement
     | load_statement
-    | T__CHECKPOINT                                                             { NODE(checkpoint_statement); }
-    | import_foreign_schema
+    | T__CHECKPOINT
+      { NODE(checkpoint_statement); }
+    | import_foreign_schema_statement
     ;

@@ -2,8 +2,8 @@
 
 expression
     : primary
-    | expression T__TYPECAST type_name                                          { NODE; }
-    | expression T__COLLATE qualified_name                                      { NODE; }
+    | expression T__TYPECAST data_type                                          { NODE; }
+    | expression T__COLLATE collation_name                                      { NODE; }
     | expression T__AT T__TIME T__ZONE expression %prec T__AT                   { NODE; }
     | expression T__AT T__LOCAL %prec T__AT                                     { NODE; }
     | T__PLUS expression %prec UMINUS                                           { NODE; }
@@ -76,7 +76,7 @@ expression
 /* What may stand before an AND that isn't its own, and before keywords that could go on with an expression. */
 restricted_expression
     : primary
-    | restricted_expression T__TYPECAST type_name                               { NODE(expression); }
+    | restricted_expression T__TYPECAST data_type                               { NODE(expression); }
     | T__PLUS restricted_expression %prec UMINUS                                { NODE(expression); }
     | T__MINUS restricted_expression %prec UMINUS                               { NODE(expression); }
     | restricted_expression T__PLUS restricted_expression                       { NODE(expression); }
@@ -152,7 +152,7 @@ any_operator_symbol
 
 any_operator
     : any_operator_symbol
-    | column_name T__DOT any_operator                                           { NODE; }
+    | identifier T__DOT any_operator                                            { NODE; }
     ;
 
 quantified_operator
@@ -171,9 +171,29 @@ in_list
 
 %list expression_list: expression %separator T__COMMA ;
 
+/* Literals and columns stand here one by one, since they are most of what there is: each rule between costs time. */
 primary
-    : constant
-    | column_reference
+    : T__INTEGER_NUMBER
+    | T__DECIMAL_NUMBER
+    | T__REAL_NUMBER
+    | T__STRING
+    | T__ESCAPE_STRING
+    | T__UNICODE_STRING
+    | T__CLIENT_STRING
+    | dollar_string
+    | T__BIT_STRING
+    | T__HEX_STRING
+    | T__NATIONAL_STRING
+    | T__TRUE
+    | T__FALSE
+    | T__NULL
+    | typed_literal
+    | any_column
+    | all_columns
+    | any_column subscript                                                      { NODE(indirect_value); }
+    | any_column subscript indirection                                          { NODE(indirect_value); }
+    | function_call
+    | function_call function_suffix                                             { NODE(function_call); }
     | T__PARAMETER_NUMBER
     | T__PARAMETER_NUMBER indirection                                           { NODE(indirect_value); }
     | parenthesized
@@ -189,19 +209,22 @@ primary
     | T__GROUPING T__LPAREN expression_list T__RPAREN                           { NODE(function_call); }
     ;
 
+/* What is true or not, wherever a clause asks for it. */
+condition
+    : expression                                                                { NODE; }
+    ;
+
 parenthesized
     : T__LPAREN expression T__RPAREN                                            { NODE(expression); }
     ;
-
-column_reference
-    : column_name
-    | dotted_name
-    | column_name T__DOT T__ASTERISK                                            { NODE(qualified_sql_identifier); }
-    | dotted_name T__DOT T__ASTERISK                                            { NODE(qualified_sql_identifier); }
-    | column_name subscript                                                     { NODE(indirect_value); }
-    | column_name subscript indirection                                         { NODE(indirect_value); }
-    | dotted_name subscript                                                     { NODE(indirect_value); }
-    | dotted_name subscript indirection                                         { NODE(indirect_value); }
+any_column
+    : identifier                                                                { NODE(column_name); }
+    | dotted_name                                                               { NODE(column_name); }
+    ;
+/* All columns of a table. */
+all_columns
+    : identifier T__DOT T__ASTERISK                                             { NODE; }
+    | dotted_name T__DOT T__ASTERISK                                            { NODE; }
     ;
 
 indirection
@@ -225,7 +248,10 @@ subscript
 row
     : T__ROW T__LPAREN T__RPAREN                                                { NODE; }
     | T__ROW T__LPAREN expression_list T__RPAREN                                { NODE; }
-    | T__LPAREN expression T__COMMA expression_list T__RPAREN                   { NODE; }
+    | T__LPAREN row_values T__RPAREN                                            { NODE; }
+    ;
+row_values
+    : expression T__COMMA expression_list                                       { NODE(expression_list); }
     ;
 
 array_items
@@ -245,7 +271,7 @@ case_expression
     | T__CASE expression when_list else_part T__END                             { NODE; }
     ;
 when_list
-    : when_part
+    : when_part                                                                 { NODE; }
     | when_list when_part                                                       { NODE; }
     ;
 when_part

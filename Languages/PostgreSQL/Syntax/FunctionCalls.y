@@ -1,50 +1,48 @@
 /* Functions. */
 
 function_expression
-    : function_call
-    | function_call function_suffix                                             { NODE(function_call); }
-    | special_value
+    : special_value
     | special_function                                                          { NODE(expression); }
     ;
 
 function_call
     : function_name T__LPAREN T__RPAREN                                         { NODE; }
-    | function_name T__LPAREN function_arguments T__RPAREN                      { NODE; }
-    | function_name T__LPAREN function_arguments sort_clause T__RPAREN          { NODE; }
-    | function_name T__LPAREN T__ALL function_arguments T__RPAREN               { NODE; }
-    | function_name T__LPAREN T__ALL function_arguments sort_clause T__RPAREN   { NODE; }
-    | function_name T__LPAREN T__DISTINCT function_arguments T__RPAREN          { NODE; }
-    | function_name T__LPAREN T__DISTINCT function_arguments sort_clause T__RPAREN  { NODE; }
+    | function_name T__LPAREN argument_list T__RPAREN                           { NODE; }
+    | function_name T__LPAREN argument_list sort_clause T__RPAREN               { NODE; }
+    | function_name T__LPAREN T__ALL argument_list T__RPAREN                    { NODE; }
+    | function_name T__LPAREN T__ALL argument_list sort_clause T__RPAREN        { NODE; }
+    | function_name T__LPAREN T__DISTINCT argument_list T__RPAREN               { NODE; }
+    | function_name T__LPAREN T__DISTINCT argument_list sort_clause T__RPAREN   { NODE; }
     | function_name T__LPAREN T__ASTERISK T__RPAREN                             { NODE; }
     ;
 
-%list function_arguments: function_argument %separator T__COMMA ;
+%list argument_list: argument %separator T__COMMA ;
 
-function_argument
+argument
     : expression
-    | type_function_name T__COLON_EQUAL expression                              { NODE(named_argument); }
-    | type_function_name T__ARROW expression                                    { NODE(named_argument); }
-    | T__VARIADIC function_argument                                             { NODE(variadic_argument); }
+    | parameter_name T__COLON_EQUAL expression                                  { NODE(named_argument); }
+    | parameter_name T__ARROW expression                                        { NODE(named_argument); }
+    | T__VARIADIC argument                                                      { NODE(variadic_argument); }
     ;
 
 function_suffix
     : within_group
     | filter_clause
     | over_clause
-    | within_group filter_clause                                                { NODE; }
-    | within_group over_clause                                                  { NODE; }
-    | filter_clause over_clause                                                 { NODE; }
-    | within_group filter_clause over_clause                                    { NODE; }
+    | within_group filter_clause                                                { NODE(function_call); }
+    | within_group over_clause                                                  { NODE(function_call); }
+    | filter_clause over_clause                                                 { NODE(function_call); }
+    | within_group filter_clause over_clause                                    { NODE(function_call); }
     ;
 within_group
     : T__WITHIN T__GROUP T__LPAREN sort_clause T__RPAREN                        { NODE; }
     ;
 filter_clause
-    : T__FILTER T__LPAREN T__WHERE expression T__RPAREN                         { NODE; }
+    : T__FILTER T__LPAREN T__WHERE condition T__RPAREN                          { NODE; }
     ;
 over_clause
     : T__OVER window_definition                                                 { NODE; }
-    | T__OVER column_name                                                       { NODE; }
+    | T__OVER window_name                                                       { NODE; }
     ;
 
 special_value
@@ -69,7 +67,7 @@ special_value
 /* Functions with words of their own between their arguments. */
 special_function
     : T__COLLATION T__FOR T__LPAREN expression T__RPAREN                        { NODE; }
-    | T__CAST T__LPAREN expression T__AS type_name T__RPAREN                    { NODE(cast_expression); }
+    | T__CAST T__LPAREN expression T__AS data_type T__RPAREN                    { NODE(cast_expression); }
     | T__EXTRACT T__LPAREN extract_field T__FROM expression T__RPAREN           { NODE; }
     | T__NORMALIZE T__LPAREN expression T__RPAREN                               { NODE; }
     | T__NORMALIZE T__LPAREN expression T__COMMA normal_form T__RPAREN          { NODE; }
@@ -78,7 +76,7 @@ special_function
     | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression T__RPAREN
       { NODE; }
     | T__OVERLAY T__LPAREN T__RPAREN                                            { NODE; }
-    | T__OVERLAY T__LPAREN function_arguments T__RPAREN                         { NODE; }
+    | T__OVERLAY T__LPAREN argument_list T__RPAREN                              { NODE; }
     | T__POSITION T__LPAREN restricted_expression T__IN restricted_expression T__RPAREN
       { NODE; }
     | T__SUBSTRING T__LPAREN expression T__FROM expression T__FOR expression T__RPAREN
@@ -90,8 +88,8 @@ special_function
     | T__SUBSTRING T__LPAREN expression T__SIMILAR expression T__ESCAPE expression T__RPAREN
       { NODE; }
     | T__SUBSTRING T__LPAREN T__RPAREN                                          { NODE; }
-    | T__SUBSTRING T__LPAREN function_arguments T__RPAREN                       { NODE; }
-    | T__TREAT T__LPAREN expression T__AS type_name T__RPAREN                   { NODE(cast_expression); }
+    | T__SUBSTRING T__LPAREN argument_list T__RPAREN                            { NODE; }
+    | T__TREAT T__LPAREN expression T__AS data_type T__RPAREN                   { NODE(cast_expression); }
     | T__TRIM T__LPAREN trim_list T__RPAREN                                     { NODE; }
     | T__TRIM T__LPAREN trim_side trim_list T__RPAREN                           { NODE; }
     | T__MERGE_ACTION T__LPAREN T__RPAREN                                       { NODE; }
@@ -100,26 +98,27 @@ special_function
     | T__GREATEST T__LPAREN expression_list T__RPAREN                           { NODE; }
     | T__LEAST T__LPAREN expression_list T__RPAREN                              { NODE; }
     | T__XMLCONCAT T__LPAREN expression_list T__RPAREN                          { NODE; }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__RPAREN                       { NODE; }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__RPAREN
+    | T__XMLELEMENT T__LPAREN T__NAME xml_name T__RPAREN                        { NODE; }
+    | T__XMLELEMENT T__LPAREN T__NAME xml_name T__COMMA xml_attributes T__RPAREN
       { NODE; }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA expression_list T__RPAREN
+    | T__XMLELEMENT T__LPAREN T__NAME xml_name T__COMMA expression_list T__RPAREN
       { NODE; }
-    | T__XMLELEMENT T__LPAREN T__NAME any_label T__COMMA xml_attributes T__COMMA expression_list T__RPAREN
+    | T__XMLELEMENT T__LPAREN T__NAME xml_name T__COMMA xml_attributes T__COMMA expression_list T__RPAREN
       { NODE; }
     | T__XMLEXISTS T__LPAREN primary xml_passing T__RPAREN                      { NODE; }
     | T__XMLFOREST T__LPAREN xml_attribute_list T__RPAREN                       { NODE; }
     | T__XMLPARSE T__LPAREN document_or_content expression T__RPAREN            { NODE; }
     | T__XMLPARSE T__LPAREN document_or_content expression whitespace_option T__RPAREN
       { NODE; }
-    | T__XMLPI T__LPAREN T__NAME any_label T__RPAREN                            { NODE; }
-    | T__XMLPI T__LPAREN T__NAME any_label T__COMMA expression T__RPAREN        { NODE; }
+    | T__XMLPI T__LPAREN T__NAME xml_name T__RPAREN                             { NODE; }
+    | T__XMLPI T__LPAREN T__NAME xml_name T__COMMA expression T__RPAREN         { NODE; }
     | T__XMLROOT T__LPAREN expression T__COMMA xml_version T__RPAREN            { NODE; }
     | T__XMLROOT T__LPAREN expression T__COMMA xml_version xml_standalone T__RPAREN
       { NODE; }
     | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type T__RPAREN
       { NODE; }
-    | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type xml_indent T__RPAREN  { NODE; }
+    | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type xml_indent T__RPAREN
+      { NODE; }
     ;
 
 extract_field
@@ -141,19 +140,22 @@ trim_side
 trim_list
     : expression T__FROM expression_list                                        { NODE; }
     | T__FROM expression_list                                                   { NODE; }
-    | expression_list
+    | expression_list                                                           { NODE; }
     ;
 
+xml_name
+    : any_label                                                                 { NODE; }
+    ;
 xml_attributes
     : T__XMLATTRIBUTES T__LPAREN xml_attribute_list T__RPAREN                   { NODE; }
     ;
 xml_attribute_list
-    : xml_attribute
+    : xml_attribute                                                             { NODE; }
     | xml_attribute_list T__COMMA xml_attribute                                 { NODE; }
     ;
 xml_attribute
-    : expression
-    | expression T__AS any_label                                                { NODE; }
+    : expression                                                                { NODE; }
+    | expression T__AS any_alias                                                { NODE; }
     ;
 document_or_content
     : T__DOCUMENT

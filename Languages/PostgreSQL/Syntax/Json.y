@@ -8,13 +8,13 @@ special_function
     | T__JSON_SERIALIZE T__LPAREN json_operand json_returning T__RPAREN         { NODE; }
     | T__JSON_ARRAY T__LPAREN T__RPAREN                                         { NODE; }
     | T__JSON_ARRAY T__LPAREN json_returning T__RPAREN                          { NODE; }
-    | T__JSON_ARRAY T__LPAREN json_operands T__RPAREN                           { NODE; }
-    | T__JSON_ARRAY T__LPAREN json_operands json_array_options T__RPAREN        { NODE; }
+    | T__JSON_ARRAY T__LPAREN json_operand_list T__RPAREN                       { NODE; }
+    | T__JSON_ARRAY T__LPAREN json_operand_list json_array_options T__RPAREN    { NODE; }
     | T__JSON_ARRAY T__LPAREN query_body T__RPAREN                              { NODE; }
     | T__JSON_ARRAY T__LPAREN query_body json_returning T__RPAREN               { NODE; }
     | json_object_name T__LPAREN json_returning T__RPAREN                       { NODE; }
-    | json_object_name T__LPAREN json_pairs T__RPAREN                           { NODE; }
-    | json_object_name T__LPAREN json_pairs json_object_options T__RPAREN       { NODE; }
+    | json_object_name T__LPAREN json_pair_list T__RPAREN                       { NODE; }
+    | json_object_name T__LPAREN json_pair_list json_object_options T__RPAREN   { NODE; }
     | T__JSON_EXISTS T__LPAREN json_operand T__COMMA expression T__RPAREN       { NODE; }
     | T__JSON_EXISTS T__LPAREN json_operand T__COMMA expression json_exists_clauses T__RPAREN
       { NODE; }
@@ -29,7 +29,7 @@ special_function
 /* There is a plain function of this name too. */
 json_object_call
     : json_object_name T__LPAREN T__RPAREN                                      { NODE(function_call); }
-    | json_object_name T__LPAREN function_arguments T__RPAREN                   { NODE(function_call); }
+    | json_object_name T__LPAREN argument_list T__RPAREN                        { NODE(function_call); }
     ;
 json_object_name
     : T__JSON_OBJECT                                                            { NODE(sql_identifier); }
@@ -56,11 +56,11 @@ json_operand
     : expression
     | expression json_format                                                    { NODE; }
     ;
-%list json_operands: json_operand %separator T__COMMA ;
+%list json_operand_list: json_operand %separator T__COMMA ;
 
 json_format
     : T__FORMAT T__JSON                                                         { NODE; }
-    | T__FORMAT T__JSON T__ENCODING column_name                                 { NODE; }
+    | T__FORMAT T__JSON T__ENCODING identifier                                  { NODE; }
     ;
 /* A colon next to a name looks like a variable of the client. */
 json_pair
@@ -69,7 +69,7 @@ json_pair
     | expression T__CLIENT_VARIABLE                                             { NODE; }
     | expression T__CLIENT_IDENTIFIER                                           { NODE; }
     ;
-%list json_pairs: json_pair %separator T__COMMA ;
+%list json_pair_list: json_pair %separator T__COMMA ;
 
 json_array_options
     : json_nulls
@@ -97,8 +97,8 @@ json_unique_keys
     | T__WITHOUT_LA T__UNIQUE T__KEYS                                           { NODE; }
     ;
 json_returning
-    : T__RETURNING type_name                                                    { NODE; }
-    | T__RETURNING type_name json_format                                        { NODE; }
+    : T__RETURNING data_type                                                    { NODE; }
+    | T__RETURNING data_type json_format                                        { NODE; }
     ;
 json_kind
     : T__JSON %prec LOWEST
@@ -146,14 +146,14 @@ json_quotes_part
     ;
 
 json_passing
-    : T__PASSING json_arguments                                                 { NODE; }
+    : T__PASSING json_argument_list                                             { NODE; }
     ;
-json_arguments
-    : json_argument
-    | json_arguments T__COMMA json_argument                                     { NODE; }
+json_argument_list
+    : json_argument                                                             { NODE; }
+    | json_argument_list T__COMMA json_argument                                 { NODE; }
     ;
 json_argument
-    : json_operand T__AS any_label                                              { NODE; }
+    : json_operand T__AS any_alias                                              { NODE; }
     ;
 json_wrapper
     : T__WITH T__WRAPPER                                                        { NODE; }
@@ -207,23 +207,23 @@ json_table_source
     ;
 json_table_path
     : expression
-    | expression T__AS column_name                                              { NODE; }
+    | expression T__AS alias                                                    { NODE; }
     ;
 json_columns
     : T__COLUMNS T__LPAREN json_column_list T__RPAREN                           { NODE; }
     ;
 json_column_list
-    : json_column
+    : json_column                                                               { NODE; }
     | json_column_list T__COMMA json_column                                     { NODE; }
     ;
 json_column
     : column_name T__FOR T__ORDINALITY                                          { NODE; }
-    | column_name type_name                                                     { NODE; }
-    | column_name type_name json_column_clauses                                 { NODE; }
-    | column_name type_name T__EXISTS                                           { NODE; }
-    | column_name type_name T__EXISTS json_exists_path                          { NODE; }
+    | column_name data_type                                                     { NODE; }
+    | column_name data_type json_column_clauses                                 { NODE; }
+    | column_name data_type T__EXISTS                                           { NODE; }
+    | column_name data_type T__EXISTS json_exists_path                          { NODE; }
     | T__NESTED json_nested_path json_columns                                   { NODE; }
-    | T__NESTED json_nested_path T__AS column_name json_columns                 { NODE; }
+    | T__NESTED json_nested_path T__AS alias json_columns                       { NODE; }
     ;
 json_column_clauses
     : json_format

@@ -13,7 +13,7 @@ dollar_string
     | T__DOLLAR_QUOTE_BEGIN dollar_text T__DOLLAR_QUOTE_END                     { NODE; }
     ;
 dollar_text
-    : T__DOLLAR_QUOTED_TEXT
+    : T__DOLLAR_QUOTED_TEXT                                                     { NODE; }
     | dollar_text T__DOLLAR_QUOTED_TEXT                                         { NODE; }
     ;
 
@@ -25,8 +25,8 @@ number
 
 signed_integer
     : T__INTEGER_NUMBER
-    | T__PLUS T__INTEGER_NUMBER                                                 { NODE; }
-    | T__MINUS T__INTEGER_NUMBER                                                { NODE; }
+    | T__PLUS T__INTEGER_NUMBER                                                 { NODE(signed_number); }
+    | T__MINUS T__INTEGER_NUMBER                                                { NODE(signed_number); }
     ;
 
 signed_number
@@ -44,12 +44,29 @@ constant
     | T__TRUE
     | T__FALSE
     | T__NULL
-    | function_name string_literal                                              { NODE(typed_literal); }
-    | function_name T__LPAREN function_arguments T__RPAREN string_literal       { NODE(typed_literal); }
-    | function_name T__LPAREN function_arguments sort_clause T__RPAREN string_literal
-      { NODE(typed_literal); }
-    | constant_type string_literal                                              { NODE(typed_literal); }
-    | T__INTERVAL string_literal                                                { NODE(typed_literal); }
-    | T__INTERVAL string_literal interval_fields                                { NODE(typed_literal); }
-    | T__INTERVAL T__LPAREN T__INTEGER_NUMBER T__RPAREN string_literal          { NODE(typed_literal); }
+    | typed_literal
+    ;
+typed_literal
+    : literal_type string_literal                                               { NODE; }
+    | called_type string_literal                                                { NODE; }
+    | constant_type string_literal                                              { NODE; }
+    | interval_literal_type string_literal                                      { NODE; }
+    | interval_literal_type string_literal interval_fields                      { NODE; }
+    ;
+
+/* A type by its name. With modifiers it looks like a call of a function up to the string. */
+literal_type
+    : literal_type_name                                                         { NODE(data_type); }
+    ;
+literal_type_name
+    : type_function_name                                                        { NODE(type_name); }
+    | dotted_name                                                               { NODE(type_name); }
+    ;
+called_type
+    : function_name T__LPAREN argument_list T__RPAREN                           { NODE(data_type); }
+    | function_name T__LPAREN argument_list sort_clause T__RPAREN               { NODE(data_type); }
+    ;
+interval_literal_type
+    : interval_name                                                             { NODE(data_type); }
+    | interval_name precision                                                   { NODE(data_type); }
     ;

@@ -2,7 +2,7 @@
 
 query
     : query_body %prec UMINUS
-    | subquery %prec UMINUS
+    | subquery %prec UMINUS                                                     { NODE(select_statement); }
     ;
 
 subquery
@@ -11,7 +11,8 @@ subquery
     ;
 
 query_body
-    : simple_select
+    : plain_select
+    | other_select                                                              { NODE(select_statement); }
     | select_part select_tail                                                   { NODE(select_statement); }
     | with_clause select_part                                                   { NODE(select_statement); }
     | with_clause select_part select_tail                                       { NODE(select_statement); }
@@ -24,25 +25,32 @@ select_part
 
 select_tail
     : sort_clause
-    | sort_clause select_limit_part                                             { NODE; }
+    | sort_clause select_limit_part                                             { NODE(select_statement); }
     | select_limit_part
     ;
 select_limit_part
     : locking_clause
     | limit_clause
-    | locking_clause limit_clause                                               { NODE(select_tail); }
-    | limit_clause locking_clause                                               { NODE(select_tail); }
+    | locking_clause limit_clause                                               { NODE(select_statement); }
+    | limit_clause locking_clause                                               { NODE(select_statement); }
     ;
 
 simple_select
+    : plain_select
+    | other_select
+    ;
+/* A query is a select_statement: by itself if it is a SELECT, or with these in it. */
+plain_select
     : select_head                                                               { NODE(select_statement); }
     | select_head select_list                                                   { NODE(select_statement); }
     | select_head select_clauses                                                { NODE(select_statement); }
     | select_head select_list select_clauses                                    { NODE(select_statement); }
     | distinct_head select_list                                                 { NODE(select_statement); }
     | distinct_head select_list select_clauses                                  { NODE(select_statement); }
-    | values_clause
-    | T__TABLE relation                                                         { NODE(table_statement); }
+    ;
+other_select
+    : values_clause
+    | T__TABLE table                                                            { NODE(table_statement); }
     | select_part T__UNION select_part                                          { NODE(set_operation); }
     | select_part T__UNION set_quantifier select_part %prec T__UNION            { NODE(set_operation); }
     | select_part T__INTERSECT select_part                                      { NODE(intersect_operation); }
@@ -58,46 +66,52 @@ set_quantifier
 
 select_head
     : T__SELECT
-    | T__SELECT T__ALL                                                          { NODE; }
+    | T__SELECT T__ALL                                                          { NODE(select_statement); }
     ;
 distinct_head
-    : T__SELECT T__DISTINCT                                                     { NODE; }
-    | T__SELECT T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN           { NODE; }
+    : T__SELECT distinct_clause                                                 { NODE(select_statement); }
+    ;
+distinct_clause
+    : T__DISTINCT                                                               { NODE; }
+    | T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN                     { NODE; }
     ;
 
 %list select_list: select_item %separator T__COMMA ;
 
 select_item
-    : expression
-    | expression T__AS any_label                                                { NODE; }
-    | expression bare_label                                                     { NODE; }
-    | T__ASTERISK
+    : expression                                                                { NODE; }
+    | expression T__AS any_alias                                                { NODE; }
+    | expression bare_alias                                                     { NODE; }
+    | every_column                                                              { NODE; }
+    ;
+every_column
+    : T__ASTERISK                                                               { NODE(all_columns); }
     ;
 
 /* The clauses of a SELECT in their order, any of them left out. */
 select_clauses
     : into_clause
-    | into_clause clauses_from_from                                             { NODE; }
+    | into_clause clauses_from_from                                             { NODE(select_statement); }
     | clauses_from_from
     ;
 clauses_from_from
     : from_clause
-    | from_clause clauses_from_where                                            { NODE(select_clauses); }
+    | from_clause clauses_from_where                                            { NODE(select_statement); }
     | clauses_from_where
     ;
 clauses_from_where
     : where_clause
-    | where_clause clauses_from_group                                           { NODE(select_clauses); }
+    | where_clause clauses_from_group                                           { NODE(select_statement); }
     | clauses_from_group
     ;
 clauses_from_group
     : group_clause
-    | group_clause clauses_from_having                                          { NODE(select_clauses); }
+    | group_clause clauses_from_having                                          { NODE(select_statement); }
     | clauses_from_having
     ;
 clauses_from_having
     : having_clause
-    | having_clause window_clause                                               { NODE(select_clauses); }
+    | having_clause window_clause                                               { NODE(select_statement); }
     | window_clause
     ;
 
@@ -105,10 +119,10 @@ into_clause
     : T__INTO into_target                                                       { NODE; }
     ;
 into_target
-    : qualified_name
-    | T__TABLE qualified_name                                                   { NODE; }
-    | temporary qualified_name                                                  { NODE; }
-    | temporary T__TABLE qualified_name                                         { NODE; }
+    : table_name
+    | T__TABLE table_name                                                       { NODE(into_clause); }
+    | temporary table_name                                                      { NODE(into_clause); }
+    | temporary T__TABLE table_name                                             { NODE(into_clause); }
     ;
 temporary
     : T__TEMPORARY
@@ -121,17 +135,17 @@ temporary
     ;
 
 from_clause
-    : T__FROM table_reference_list                                              { NODE; }
+    : T__FROM from_list                                                         { NODE; }
     ;
 where_clause
-    : T__WHERE expression                                                       { NODE; }
+    : T__WHERE condition                                                        { NODE; }
     ;
 group_clause
     : T__GROUP T__BY group_list                                                 { NODE; }
     | T__GROUP T__BY set_quantifier group_list                                  { NODE; }
     ;
 having_clause
-    : T__HAVING expression                                                      { NODE; }
+    : T__HAVING condition                                                       { NODE; }
     ;
 window_clause
     : T__WINDOW window_list                                                     { NODE; }
@@ -142,7 +156,7 @@ group_list
     | group_list T__COMMA group_item                                            { NODE; }
     ;
 group_item
-    : expression
+    : expression                                                                { NODE; }
     | T__LPAREN T__RPAREN                                                       { NODE; }
     | T__CUBE T__LPAREN expression_list T__RPAREN                               { NODE; }
     | T__ROLLUP T__LPAREN expression_list T__RPAREN                             { NODE; }
@@ -150,26 +164,26 @@ group_item
     ;
 
 window_list
-    : named_window
+    : named_window                                                              { NODE; }
     | window_list T__COMMA named_window                                         { NODE; }
     ;
 named_window
-    : column_name T__AS window_definition                                       { NODE; }
+    : window_name T__AS window_definition                                       { NODE; }
     ;
 window_definition
     : T__LPAREN T__RPAREN                                                       { NODE; }
     | T__LPAREN window_parts T__RPAREN                                          { NODE; }
-    | T__LPAREN column_name T__RPAREN                                           { NODE; }
-    | T__LPAREN column_name window_parts T__RPAREN                              { NODE; }
+    | T__LPAREN window_name T__RPAREN                                           { NODE; }
+    | T__LPAREN window_name window_parts T__RPAREN                              { NODE; }
     ;
 window_parts
     : window_partition
-    | window_partition window_order_part                                        { NODE; }
+    | window_partition window_order_part                                        { NODE(window_definition); }
     | window_order_part
     ;
 window_order_part
     : sort_clause
-    | sort_clause frame_clause                                                  { NODE(window_parts); }
+    | sort_clause frame_clause                                                  { NODE(window_definition); }
     | frame_clause
     ;
 window_partition
@@ -184,7 +198,7 @@ frame_clause
     | T__GROUPS frame_extent frame_exclusion                                    { NODE; }
     ;
 frame_extent
-    : frame_bound
+    : frame_bound                                                               { NODE; }
     | T__BETWEEN frame_bound T__AND frame_bound                                 { NODE; }
     ;
 frame_bound
@@ -205,18 +219,18 @@ sort_clause
     : T__ORDER T__BY sort_list                                                  { NODE; }
     ;
 sort_list
-    : sort_item
+    : sort_item                                                                 { NODE; }
     | sort_list T__COMMA sort_item                                              { NODE; }
     ;
 sort_item
-    : expression
+    : expression                                                                { NODE; }
     | expression sort_direction                                                 { NODE; }
     | expression nulls_order                                                    { NODE; }
     | expression sort_direction nulls_order                                     { NODE; }
     ;
 sort_direction
-    : T__ASC
-    | T__DESC
+    : T__ASC                                                                    { NODE; }
+    | T__DESC                                                                   { NODE; }
     | T__USING any_operator                                                     { NODE; }
     | T__USING T__OPERATOR T__LPAREN any_operator T__RPAREN                     { NODE; }
     ;
@@ -226,8 +240,8 @@ nulls_order
     ;
 
 limit_clause
-    : limit_part
-    | offset_part
+    : limit_part                                                                { NODE; }
+    | offset_part                                                               { NODE; }
     | limit_part offset_part                                                    { NODE; }
     | offset_part limit_part                                                    { NODE; }
     ;
@@ -260,15 +274,15 @@ only_or_ties
     ;
 
 locking_clause
-    : locking_list
+    : locking_list                                                              { NODE; }
     | T__FOR T__READ T__ONLY                                                    { NODE; }
     ;
 locking_list
-    : locking_item
+    : locking_item                                                              { NODE; }
     | locking_list locking_item                                                 { NODE; }
     ;
 locking_item
-    : locking_strength
+    : locking_strength                                                          { NODE; }
     | locking_strength locked_tables                                            { NODE; }
     | locking_strength locking_wait                                             { NODE; }
     | locking_strength locked_tables locking_wait                               { NODE; }
@@ -280,17 +294,17 @@ locking_strength
     | T__FOR T__KEY T__SHARE                                                    { NODE; }
     ;
 locked_tables
-    : T__OF qualified_name_list                                                 { NODE; }
+    : T__OF table_name_list                                                     { NODE; }
     ;
 locking_wait
-    : T__NOWAIT
+    : T__NOWAIT                                                                 { NODE; }
     | T__SKIP T__LOCKED                                                         { NODE; }
     ;
 
 values_clause
-    : T__VALUES values_rows                                                     { NODE; }
+    : T__VALUES values_list                                                     { NODE; }
     ;
-%list values_rows: values_row %separator T__COMMA ;
+%list values_list: values_row %separator T__COMMA ;
 
 values_row
     : T__LPAREN expression_list T__RPAREN                                       { NODE; }
@@ -302,14 +316,17 @@ with_clause
     | T__WITH T__RECURSIVE common_table_list                                    { NODE; }
     ;
 common_table_list
-    : common_table
+    : common_table                                                              { NODE; }
     | common_table_list T__COMMA common_table                                   { NODE; }
     ;
+table_name_alone
+    : identifier                                                                { NODE(table_name); }
+    ;
 common_table
-    : column_name cte_body                                                      { NODE; }
-    | column_name parenthesized_names cte_body                                  { NODE; }
-    | column_name cte_body cte_tail                                             { NODE; }
-    | column_name parenthesized_names cte_body cte_tail                         { NODE; }
+    : table_name_alone cte_body                                                 { NODE; }
+    | table_name_alone columns cte_body                                         { NODE; }
+    | table_name_alone cte_body cte_tail                                        { NODE; }
+    | table_name_alone columns cte_body cte_tail                                { NODE; }
     ;
 cte_body
     : T__AS T__LPAREN preparable_statement T__RPAREN                            { NODE; }
@@ -319,15 +336,15 @@ cte_body
 cte_tail
     : search_clause
     | cycle_clause
-    | search_clause cycle_clause                                                { NODE; }
+    | search_clause cycle_clause                                                { NODE(common_table); }
     ;
 search_clause
-    : T__SEARCH T__DEPTH T__FIRST T__BY name_list T__SET column_name            { NODE; }
-    | T__SEARCH T__BREADTH T__FIRST T__BY name_list T__SET column_name          { NODE; }
+    : T__SEARCH T__DEPTH T__FIRST T__BY column_name_list T__SET column_name     { NODE; }
+    | T__SEARCH T__BREADTH T__FIRST T__BY column_name_list T__SET column_name   { NODE; }
     ;
 cycle_clause
-    : T__CYCLE name_list T__SET column_name T__USING column_name                { NODE; }
-    | T__CYCLE name_list T__SET column_name T__TO constant T__DEFAULT constant T__USING column_name
+    : T__CYCLE column_name_list T__SET column_name T__USING column_name         { NODE; }
+    | T__CYCLE column_name_list T__SET column_name T__TO constant T__DEFAULT constant T__USING column_name
       { NODE; }
     ;
 

@@ -1,26 +1,26 @@
 /* Rights. */
 
 grant_statement
-    : T__GRANT privileges T__ON privilege_target T__TO grantees                 { NODE; }
-    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION
+    : T__GRANT privileges T__ON privilege_target T__TO grantee_list             { NODE; }
+    | T__GRANT privileges T__ON privilege_target T__TO grantee_list T__WITH T__GRANT T__OPTION
       { NODE; }
-    | T__GRANT privileges T__ON privilege_target T__TO grantees granted_by      { NODE; }
-    | T__GRANT privileges T__ON privilege_target T__TO grantees T__WITH T__GRANT T__OPTION granted_by
+    | T__GRANT privileges T__ON privilege_target T__TO grantee_list granted_by  { NODE; }
+    | T__GRANT privileges T__ON privilege_target T__TO grantee_list T__WITH T__GRANT T__OPTION granted_by
       { NODE; }
-    | T__GRANT privilege_list T__TO grantees                                    { NODE; }
-    | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION         { NODE; }
-    | T__GRANT privilege_list T__TO grantees granted_by                         { NODE; }
-    | T__GRANT privilege_list T__TO grantees T__WITH T__ADMIN T__OPTION granted_by
+    | T__GRANT privilege_list T__TO grantee_list                                { NODE; }
+    | T__GRANT privilege_list T__TO grantee_list T__WITH T__ADMIN T__OPTION     { NODE; }
+    | T__GRANT privilege_list T__TO grantee_list granted_by                     { NODE; }
+    | T__GRANT privilege_list T__TO grantee_list T__WITH T__ADMIN T__OPTION granted_by
       { NODE; }
-    | T__GRANT privilege_list T__TO grantees T__WITH membership_options         { NODE; }
-    | T__GRANT privilege_list T__TO grantees T__WITH membership_options granted_by  { NODE; }
+    | T__GRANT privilege_list T__TO grantee_list T__WITH membership_option_list { NODE; }
+    | T__GRANT privilege_list T__TO grantee_list T__WITH membership_option_list granted_by  { NODE; }
     ;
 /* WITH ADMIN OPTION alone has no node of its own. */
-membership_options
-    : membership_option
+membership_option_list
+    : membership_option                                                         { NODE; }
     | admin_option T__COMMA membership_option                                   { NODE; }
-    | membership_options T__COMMA membership_option                             { NODE; }
-    | membership_options T__COMMA admin_option                                  { NODE; }
+    | membership_option_list T__COMMA membership_option                         { NODE; }
+    | membership_option_list T__COMMA admin_option                              { NODE; }
     ;
 membership_option
     : T__ADMIN truth                                                            { NODE; }
@@ -41,77 +41,77 @@ revoke_statement
     | T__REVOKE revoked_privileges revoke_tail                                  { NODE; }
     ;
 revoked_privileges
-    : privileges T__ON privilege_target T__FROM grantees                        { NODE; }
-    | T__GRANT T__OPTION T__FOR privileges T__ON privilege_target T__FROM grantees
-      { NODE; }
-    | privilege_list T__FROM grantees                                           { NODE; }
-    | T__ADMIN T__OPTION T__FOR privilege_list T__FROM grantees                 { NODE; }
-    | T__INHERIT T__OPTION T__FOR privilege_list T__FROM grantees               { NODE; }
-    | T__SET T__OPTION T__FOR privilege_list T__FROM grantees                   { NODE; }
+    : privileges T__ON privilege_target T__FROM grantee_list                    { NODE(revoke_statement); }
+    | T__GRANT T__OPTION T__FOR privileges T__ON privilege_target T__FROM grantee_list
+      { NODE(revoke_statement); }
+    | privilege_list T__FROM grantee_list                                       { NODE(revoke_statement); }
+    | T__ADMIN T__OPTION T__FOR privilege_list T__FROM grantee_list             { NODE(revoke_statement); }
+    | T__INHERIT T__OPTION T__FOR privilege_list T__FROM grantee_list           { NODE(revoke_statement); }
+    | T__SET T__OPTION T__FOR privilege_list T__FROM grantee_list               { NODE(revoke_statement); }
     ;
 revoke_tail
     : granted_by
     | drop_behavior
-    | granted_by drop_behavior                                                  { NODE; }
+    | granted_by drop_behavior                                                  { NODE(revoke_statement); }
     ;
 granted_by
-    : T__GRANTED T__BY role                                                     { NODE; }
+    : T__GRANTED T__BY role_name                                                { NODE; }
     ;
-grantees
-    : grantee
-    | grantees T__COMMA grantee                                                 { NODE; }
+grantee_list
+    : grantee                                                                   { NODE; }
+    | grantee_list T__COMMA grantee                                             { NODE; }
     ;
 grantee
-    : role
-    | T__GROUP role                                                             { NODE; }
+    : role_name                                                                 { NODE; }
+    | T__GROUP role_name                                                        { NODE; }
     ;
 privileges
-    : privilege_list
-    | T__ALL
+    : privilege_list                                                            { NODE; }
+    | T__ALL                                                                    { NODE; }
     | T__ALL T__PRIVILEGES                                                      { NODE; }
-    | T__ALL parenthesized_names                                                { NODE; }
-    | T__ALL T__PRIVILEGES parenthesized_names                                  { NODE; }
+    | T__ALL columns                                                            { NODE; }
+    | T__ALL T__PRIVILEGES columns                                              { NODE; }
     ;
 privilege_list
-    : privilege
+    : privilege                                                                 { NODE; }
     | privilege_list T__COMMA privilege                                         { NODE; }
     ;
 privilege
-    : privilege_word
-    | privilege_word parenthesized_names                                        { NODE; }
+    : privilege_word                                                            { NODE; }
+    | privilege_word columns                                                    { NODE; }
     | T__ALTER T__SYSTEM                                                        { NODE; }
     ;
 privilege_word
     : T__SELECT
     | T__REFERENCES
     | T__CREATE
-    | column_name
+    | identifier
     ;
 privilege_target
-    : qualified_name_list
-    | T__TABLE qualified_name_list                                              { NODE; }
-    | T__SEQUENCE qualified_name_list                                           { NODE; }
-    | T__FOREIGN T__DATA T__WRAPPER name_list                                   { NODE; }
-    | T__FOREIGN T__SERVER name_list                                            { NODE; }
-    | any_routine_word routine_signatures                                       { NODE; }
-    | T__DATABASE name_list                                                     { NODE; }
-    | T__DOMAIN qualified_name_list                                             { NODE; }
-    | T__LANGUAGE name_list                                                     { NODE; }
+    : table_name_list                                                           { NODE; }
+    | T__TABLE table_name_list                                                  { NODE; }
+    | T__SEQUENCE sequence_name_list                                            { NODE; }
+    | T__FOREIGN T__DATA T__WRAPPER wrapper_name_list                           { NODE; }
+    | T__FOREIGN T__SERVER server_name_list                                     { NODE; }
+    | any_routine_word routine_signature_list                                   { NODE; }
+    | T__DATABASE database_name_list                                            { NODE; }
+    | T__DOMAIN domain_name_list                                                { NODE; }
+    | T__LANGUAGE language_name_list                                            { NODE; }
     | T__LARGE T__OBJECT number_list                                            { NODE; }
-    | T__PARAMETER qualified_name_list                                          { NODE; }
-    | T__SCHEMA name_list                                                       { NODE; }
-    | T__TABLESPACE name_list                                                   { NODE; }
-    | T__TYPE qualified_name_list                                               { NODE; }
-    | T__ALL T__TABLES T__IN T__SCHEMA name_list                                { NODE; }
-    | T__ALL T__SEQUENCES T__IN T__SCHEMA name_list                             { NODE; }
-    | T__ALL T__FUNCTIONS T__IN T__SCHEMA name_list                             { NODE; }
-    | T__ALL T__PROCEDURES T__IN T__SCHEMA name_list                            { NODE; }
-    | T__ALL T__ROUTINES T__IN T__SCHEMA name_list                              { NODE; }
+    | T__PARAMETER setting_name_list                                            { NODE; }
+    | T__SCHEMA schema_name_list                                                { NODE; }
+    | T__TABLESPACE tablespace_name_list                                        { NODE; }
+    | T__TYPE type_name_list                                                    { NODE; }
+    | T__ALL T__TABLES T__IN T__SCHEMA schema_name_list                         { NODE; }
+    | T__ALL T__SEQUENCES T__IN T__SCHEMA schema_name_list                      { NODE; }
+    | T__ALL T__FUNCTIONS T__IN T__SCHEMA schema_name_list                      { NODE; }
+    | T__ALL T__PROCEDURES T__IN T__SCHEMA schema_name_list                     { NODE; }
+    | T__ALL T__ROUTINES T__IN T__SCHEMA schema_name_list                       { NODE; }
     ;
 number_list
-    : signed_number
+    : signed_number                                                             { NODE; }
     | number_list T__COMMA signed_number                                        { NODE; }
     ;
-reassign_owned
-    : T__REASSIGN T__OWNED T__BY role_list T__TO role                           { NODE; }
+reassign_owned_statement
+    : T__REASSIGN T__OWNED T__BY role_name_list T__TO role_name                 { NODE; }
     ;

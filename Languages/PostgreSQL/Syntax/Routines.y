@@ -1,26 +1,30 @@
 /* Routines. */
 
-create_routine
+create_routine_statement
     : T__CREATE routine_definition                                              { NODE; }
     | T__CREATE T__OR T__REPLACE routine_definition                             { NODE; }
     ;
 routine_definition
-    : routine_word function_name parameter_list                                 { NODE; }
-    | routine_word function_name parameter_list routine_items                   { NODE; }
-    | routine_word function_name parameter_list routine_body                    { NODE; }
-    | routine_word function_name parameter_list routine_items routine_body      { NODE; }
+    : routine_word function_name parameters
+      { NODE(create_routine_statement); }
+    | routine_word function_name parameters routine_item_list
+      { NODE(create_routine_statement); }
+    | routine_word function_name parameters routine_body
+      { NODE(create_routine_statement); }
+    | routine_word function_name parameters routine_item_list routine_body
+      { NODE(create_routine_statement); }
     ;
 routine_word
     : T__FUNCTION
     | T__PROCEDURE
     ;
-parameter_list
-    : T__LPAREN T__RPAREN                                                       { NODE; }
-    | T__LPAREN parameters T__RPAREN                                            { NODE; }
-    ;
 parameters
-    : parameter
-    | parameters T__COMMA parameter                                             { NODE; }
+    : T__LPAREN T__RPAREN                                                       { NODE; }
+    | T__LPAREN parameter_list T__RPAREN                                        { NODE; }
+    ;
+parameter_list
+    : parameter                                                                 { NODE; }
+    | parameter_list T__COMMA parameter                                         { NODE; }
     ;
 parameter
     : plain_parameter
@@ -28,68 +32,80 @@ parameter
     | plain_parameter T__EQUAL expression                                       { NODE; }
     ;
 plain_parameter
-    : function_type
-    | type_function_name function_type                                          { NODE; }
-    | parameter_mode function_type                                              { NODE; }
-    | parameter_mode type_function_name function_type                           { NODE; }
-    | type_function_name parameter_mode function_type                           { NODE; }
+    : function_type                                                             { NODE(parameter); }
+    | parameter_name function_type                                              { NODE(parameter); }
+    | parameter_mode function_type                                              { NODE(parameter); }
+    | parameter_mode parameter_name function_type                               { NODE(parameter); }
+    | parameter_name parameter_mode function_type                               { NODE(parameter); }
     ;
 parameter_mode
-    : T__IN
-    | T__OUT
-    | T__INOUT
+    : T__IN                                                                     { NODE; }
+    | T__OUT                                                                    { NODE; }
+    | T__INOUT                                                                  { NODE; }
     | T__IN T__OUT                                                              { NODE; }
-    | T__VARIADIC
+    | T__VARIADIC                                                               { NODE; }
     ;
-routine_items
-    : routine_item
-    | routine_items routine_item                                                { NODE; }
+routine_item_list
+    : routine_item                                                              { NODE; }
+    | routine_item_list routine_item                                            { NODE; }
     ;
 routine_item
-    : T__RETURNS function_type                                                  { NODE; }
-    | T__RETURNS T__TABLE T__LPAREN returned_columns T__RPAREN                  { NODE; }
+    : returns_clause                                                            { NODE; }
     | T__AS string_literal                                                      { NODE; }
     | T__AS string_literal T__COMMA string_literal                              { NODE; }
-    | T__LANGUAGE non_reserved_word                                             { NODE; }
-    | T__LANGUAGE string_literal                                                { NODE; }
-    | T__TRANSFORM transform_types                                              { NODE; }
-    | T__WINDOW
-    | routine_attribute
+    | T__LANGUAGE routine_language                                              { NODE; }
+    | T__TRANSFORM transform_type_list                                          { NODE; }
+    | T__WINDOW                                                                 { NODE; }
+    | routine_attribute                                                         { NODE; }
+    ;
+routine_language
+    : non_reserved_word                                                         { NODE(language_name); }
+    | string_literal                                                            { NODE(language_name); }
+    ;
+returns_clause
+    : T__RETURNS function_type                                                  { NODE; }
+    | T__RETURNS T__TABLE T__LPAREN returned_columns T__RPAREN                  { NODE; }
     ;
 returned_columns
     : returned_column
-    | returned_columns T__COMMA returned_column                                 { NODE; }
+      { NODE(column_definition_list); }
+    | returned_columns T__COMMA returned_column
+      { NODE(column_definition_list); }
     ;
+/* Such a column is a parameter as well, and takes what names one. */
 returned_column
-    : type_function_name function_type                                          { NODE; }
+    : returned_name function_type                                               { NODE(column_definition); }
     ;
-transform_types
-    : T__FOR T__TYPE type_name                                                  { NODE; }
-    | transform_types T__COMMA T__FOR T__TYPE type_name                         { NODE; }
+returned_name
+    : type_function_name                                                        { NODE(column_name); }
     ;
-routine_attributes
-    : routine_attribute
-    | routine_attributes routine_attribute                                      { NODE; }
+transform_type_list
+    : T__FOR T__TYPE data_type                                                  { NODE; }
+    | transform_type_list T__COMMA T__FOR T__TYPE data_type                     { NODE; }
+    ;
+routine_attribute_list
+    : routine_attribute                                                         { NODE; }
+    | routine_attribute_list routine_attribute                                  { NODE; }
     ;
 routine_attribute
     : T__CALLED T__ON T__NULL T__INPUT                                          { NODE; }
     | T__RETURNS T__NULL T__ON T__NULL T__INPUT                                 { NODE; }
-    | T__STRICT
-    | T__IMMUTABLE
-    | T__STABLE
-    | T__VOLATILE
+    | T__STRICT                                                                 { NODE; }
+    | T__IMMUTABLE                                                              { NODE; }
+    | T__STABLE                                                                 { NODE; }
+    | T__VOLATILE                                                               { NODE; }
     | T__SECURITY T__DEFINER                                                    { NODE; }
     | T__SECURITY T__INVOKER                                                    { NODE; }
     | T__EXTERNAL T__SECURITY T__DEFINER                                        { NODE; }
     | T__EXTERNAL T__SECURITY T__INVOKER                                        { NODE; }
-    | T__LEAKPROOF
+    | T__LEAKPROOF                                                              { NODE; }
     | T__NOT T__LEAKPROOF                                                       { NODE; }
     | T__COST signed_number                                                     { NODE; }
     | T__ROWS signed_number                                                     { NODE; }
-    | T__SUPPORT qualified_name                                                 { NODE; }
+    | T__SUPPORT handler_name                                                   { NODE; }
     | T__SET set_item_more                                                      { NODE; }
     | T__RESET reset_target                                                     { NODE; }
-    | T__PARALLEL column_name                                                   { NODE; }
+    | T__PARALLEL identifier                                                    { NODE; }
     ;
 routine_body
     : return_statement
@@ -108,9 +124,12 @@ body_pl_sql_statements
     | body_pl_sql_statements delimited_body_statement                           { NODE; }
     ;
 delimited_body_statement
-    : body_statement pl_sql_statement_delimiter                                 { NODE(delimited_pl_sql_statement); }
-    | pl_sql_statement_delimiter                                                { NODE(delimited_pl_sql_statement); }
-    | error pl_sql_statement_delimiter                                          { NODE(delimited_pl_sql_statement); }
+    : body_statement pl_sql_statement_delimiter
+      { NODE(delimited_pl_sql_statement); }
+    | pl_sql_statement_delimiter
+      { NODE(delimited_pl_sql_statement); }
+    | error pl_sql_statement_delimiter
+      { NODE(delimited_pl_sql_statement); }
     ;
 body_statement
     : statement                                                                 { NODE(pl_sql_statement); }
@@ -119,41 +138,47 @@ body_statement
 
 /* A routine as other statements point at it. */
 routine_signature
-    : function_name parameter_list                                              { NODE; }
-    | qualified_name
-    | type_function_name_keyword                                                { NODE(sql_identifier); }
+    : function_name parameters                                                  { NODE; }
+    | routine_alone                                                             { NODE; }
     ;
-routine_signatures
-    : routine_signature
-    | routine_signatures T__COMMA routine_signature                             { NODE; }
+keyword_routine
+    : type_function_name_keyword                                                { NODE(sql_identifier); }
+    ;
+routine_alone
+    : qualified_name                                                            { NODE(function_name); }
+    | keyword_routine                                                           { NODE(function_name); }
+    ;
+routine_signature_list
+    : routine_signature                                                         { NODE; }
+    | routine_signature_list T__COMMA routine_signature                         { NODE; }
     ;
 aggregate_signature
     : function_name aggregate_parameters                                        { NODE; }
     ;
-aggregate_signatures
-    : aggregate_signature
-    | aggregate_signatures T__COMMA aggregate_signature                         { NODE; }
+aggregate_signature_list
+    : aggregate_signature                                                       { NODE; }
+    | aggregate_signature_list T__COMMA aggregate_signature                     { NODE; }
     ;
 aggregate_parameters
-    : T__LPAREN T__ASTERISK T__RPAREN                                           { NODE; }
-    | T__LPAREN plain_parameters T__RPAREN                                      { NODE; }
-    | T__LPAREN T__ORDER T__BY plain_parameters T__RPAREN                       { NODE; }
-    | T__LPAREN plain_parameters T__ORDER T__BY plain_parameters T__RPAREN      { NODE; }
+    : T__LPAREN T__ASTERISK T__RPAREN                                           { NODE(parameters); }
+    | T__LPAREN plain_parameters T__RPAREN                                      { NODE(parameters); }
+    | T__LPAREN T__ORDER T__BY plain_parameters T__RPAREN                       { NODE(parameters); }
+    | T__LPAREN plain_parameters T__ORDER T__BY plain_parameters T__RPAREN      { NODE(parameters); }
     ;
 plain_parameters
-    : plain_parameter
-    | plain_parameters T__COMMA plain_parameter                                 { NODE; }
+    : plain_parameter                                                           { NODE(parameter_list); }
+    | plain_parameters T__COMMA plain_parameter                                 { NODE(parameter_list); }
     ;
 operator_signature
     : any_operator operator_operands                                            { NODE; }
     ;
-operator_signatures
-    : operator_signature
-    | operator_signatures T__COMMA operator_signature                           { NODE; }
+operator_signature_list
+    : operator_signature                                                        { NODE; }
+    | operator_signature_list T__COMMA operator_signature                       { NODE; }
     ;
 operator_operands
-    : T__LPAREN type_name T__RPAREN                                             { NODE; }
-    | T__LPAREN type_name T__COMMA type_name T__RPAREN                          { NODE; }
-    | T__LPAREN T__NONE T__COMMA type_name T__RPAREN                            { NODE; }
-    | T__LPAREN type_name T__COMMA T__NONE T__RPAREN                            { NODE; }
+    : T__LPAREN data_type T__RPAREN                                             { NODE; }
+    | T__LPAREN data_type T__COMMA data_type T__RPAREN                          { NODE; }
+    | T__LPAREN T__NONE T__COMMA data_type T__RPAREN                            { NODE; }
+    | T__LPAREN data_type T__COMMA T__NONE T__RPAREN                            { NODE; }
     ;

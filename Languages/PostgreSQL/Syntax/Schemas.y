@@ -1,95 +1,97 @@
 /* Schemas, roles, databases. */
 
-create_schema
-    : T__CREATE T__SCHEMA schema_name                                           { NODE; }
-    | T__CREATE T__SCHEMA schema_name schema_elements                           { NODE; }
+create_schema_statement
+    : T__CREATE T__SCHEMA schema_head                                           { NODE; }
+    | T__CREATE T__SCHEMA schema_head schema_element_list                       { NODE; }
     ;
-schema_name
-    : new_name
-    | new_name T__AUTHORIZATION role                                            { NODE; }
-    | T__AUTHORIZATION role                                                     { NODE; }
-    | T__IF T__NOT T__EXISTS T__AUTHORIZATION role                              { NODE; }
+new_schema
+    : schema_name
+    | if_not_exists schema_name
+      { NODE(create_schema_statement); }
     ;
-schema_elements
-    : schema_element
-    | schema_elements schema_element                                            { NODE; }
+schema_head
+    : new_schema
+    | new_schema T__AUTHORIZATION role_name
+      { NODE(create_schema_statement); }
+    | T__AUTHORIZATION role_name
+      { NODE(create_schema_statement); }
+    | if_not_exists T__AUTHORIZATION role_name
+      { NODE(create_schema_statement); }
+    ;
+schema_element_list
+    : schema_element                                                            { NODE; }
+    | schema_element_list schema_element                                        { NODE; }
     ;
 schema_element
-    : create_table
-    | create_index
-    | create_sequence
-    | create_trigger
-    | create_view
+    : create_table_statement
+    | create_index_statement
+    | create_sequence_statement
+    | create_trigger_statement
+    | create_view_statement
     | grant_statement
     ;
 
-role
-    : non_reserved_word
-    | T__CURRENT_ROLE
-    | T__CURRENT_USER
-    | T__SESSION_USER
+role_name_list
+    : role_name                                                                 { NODE; }
+    | role_name_list T__COMMA role_name                                         { NODE; }
     ;
-role_list
-    : role
-    | role_list T__COMMA role                                                   { NODE; }
-    ;
-create_role
-    : T__CREATE role_or_group role                                              { NODE; }
-    | T__CREATE T__USER role                                                    { NODE; }
-    | T__CREATE role_or_group role role_options                                 { NODE; }
-    | T__CREATE T__USER role role_options                                       { NODE; }
-    | T__CREATE role_or_group role T__WITH                                      { NODE; }
-    | T__CREATE T__USER role T__WITH                                            { NODE; }
-    | T__CREATE role_or_group role T__WITH role_options                         { NODE; }
-    | T__CREATE T__USER role T__WITH role_options                               { NODE; }
+create_role_statement
+    : T__CREATE role_or_group role_name                                         { NODE; }
+    | T__CREATE T__USER role_name                                               { NODE; }
+    | T__CREATE role_or_group role_name role_option_list                        { NODE; }
+    | T__CREATE T__USER role_name role_option_list                              { NODE; }
+    | T__CREATE role_or_group role_name T__WITH                                 { NODE; }
+    | T__CREATE T__USER role_name T__WITH                                       { NODE; }
+    | T__CREATE role_or_group role_name T__WITH role_option_list                { NODE; }
+    | T__CREATE T__USER role_name T__WITH role_option_list                      { NODE; }
     ;
 role_or_group
     : T__ROLE
     | T__GROUP
     ;
-role_options
-    : role_option
-    | role_options role_option                                                  { NODE; }
+role_option_list
+    : role_option                                                               { NODE; }
+    | role_option_list role_option                                              { NODE; }
     ;
 role_option
     : T__PASSWORD string_literal                                                { NODE; }
     | T__PASSWORD T__NULL                                                       { NODE; }
     | T__ENCRYPTED T__PASSWORD string_literal                                   { NODE; }
     | T__UNENCRYPTED T__PASSWORD string_literal                                 { NODE; }
-    | T__INHERIT
+    | T__INHERIT                                                                { NODE; }
     | T__CONNECTION T__LIMIT signed_integer                                     { NODE; }
     | T__VALID T__UNTIL string_literal                                          { NODE; }
-    | T__USER role_list                                                         { NODE; }
-    | plain_identifier
+    | T__USER role_name_list                                                    { NODE; }
+    | plain_identifier                                                          { NODE; }
     | T__SYSID T__INTEGER_NUMBER                                                { NODE; }
-    | T__ADMIN role_list                                                        { NODE; }
-    | T__ROLE role_list                                                         { NODE; }
-    | T__IN T__ROLE role_list                                                   { NODE; }
-    | T__IN T__GROUP role_list                                                  { NODE; }
+    | T__ADMIN role_name_list                                                   { NODE; }
+    | T__ROLE role_name_list                                                    { NODE; }
+    | T__IN T__ROLE role_name_list                                              { NODE; }
+    | T__IN T__GROUP role_name_list                                             { NODE; }
     ;
 
-create_database
-    : T__CREATE T__DATABASE column_name                                         { NODE; }
-    | T__CREATE T__DATABASE column_name database_options                        { NODE; }
-    | T__CREATE T__DATABASE column_name T__WITH                                 { NODE; }
-    | T__CREATE T__DATABASE column_name T__WITH database_options                { NODE; }
+create_database_statement
+    : T__CREATE T__DATABASE database_name                                       { NODE; }
+    | T__CREATE T__DATABASE database_name database_option_list                  { NODE; }
+    | T__CREATE T__DATABASE database_name T__WITH                               { NODE; }
+    | T__CREATE T__DATABASE database_name T__WITH database_option_list          { NODE; }
     ;
-database_options
-    : database_option
-    | database_options database_option                                          { NODE; }
+database_option_list
+    : database_option                                                           { NODE(option_list); }
+    | database_option_list database_option                                      { NODE(option_list); }
     ;
 database_option
-    : database_option_name database_option_value                                { NODE; }
-    | database_option_name T__EQUAL database_option_value                       { NODE; }
+    : database_option_name database_option_value                                { NODE(option); }
+    | database_option_name T__EQUAL database_option_value                       { NODE(option); }
     ;
 database_option_name
-    : plain_identifier
-    | T__CONNECTION T__LIMIT                                                    { NODE; }
-    | T__ENCODING
-    | T__LOCATION
-    | T__OWNER
-    | T__TABLESPACE
-    | T__TEMPLATE
+    : plain_identifier                                                          { NODE(option_name); }
+    | T__CONNECTION T__LIMIT                                                    { NODE(option_name); }
+    | T__ENCODING                                                               { NODE(option_name); }
+    | T__LOCATION                                                               { NODE(option_name); }
+    | T__OWNER                                                                  { NODE(option_name); }
+    | T__TABLESPACE                                                             { NODE(option_name); }
+    | T__TEMPLATE                                                               { NODE(option_name); }
     ;
 database_option_value
     : signed_number
@@ -105,58 +107,71 @@ option_text
     | string_literal
     ;
 
-create_tablespace
-    : T__CREATE T__TABLESPACE column_name T__LOCATION string_literal            { NODE; }
-    | T__CREATE T__TABLESPACE column_name T__LOCATION string_literal T__WITH relation_options
+create_tablespace_statement
+    : T__CREATE T__TABLESPACE tablespace_name T__LOCATION string_literal        { NODE; }
+    | T__CREATE T__TABLESPACE tablespace_name T__LOCATION string_literal T__WITH options
       { NODE; }
-    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal
+    | T__CREATE T__TABLESPACE tablespace_name T__OWNER role_name T__LOCATION string_literal
       { NODE; }
-    | T__CREATE T__TABLESPACE column_name T__OWNER role T__LOCATION string_literal T__WITH relation_options
+    | T__CREATE T__TABLESPACE tablespace_name T__OWNER role_name T__LOCATION string_literal T__WITH options
       { NODE; }
     ;
 
-create_extension
-    : T__CREATE T__EXTENSION new_name                                           { NODE; }
-    | T__CREATE T__EXTENSION new_name extension_options                         { NODE; }
-    | T__CREATE T__EXTENSION new_name T__WITH                                   { NODE; }
-    | T__CREATE T__EXTENSION new_name T__WITH extension_options                 { NODE; }
+new_extension
+    : extension_name
+    | if_not_exists extension_name
+      { NODE(create_extension_statement); }
     ;
-extension_options
-    : extension_option
-    | extension_options extension_option                                        { NODE; }
+create_extension_statement
+    : T__CREATE T__EXTENSION new_extension                                      { NODE; }
+    | T__CREATE T__EXTENSION new_extension extension_option_list                { NODE; }
+    | T__CREATE T__EXTENSION new_extension T__WITH                              { NODE; }
+    | T__CREATE T__EXTENSION new_extension T__WITH extension_option_list        { NODE; }
+    ;
+extension_option_list
+    : extension_option                                                          { NODE; }
+    | extension_option_list extension_option                                    { NODE; }
     ;
 extension_option
-    : T__SCHEMA column_name                                                     { NODE; }
+    : T__SCHEMA schema_name                                                     { NODE; }
     | T__VERSION word_or_string                                                 { NODE; }
     | T__FROM word_or_string                                                    { NODE; }
-    | T__CASCADE
+    | T__CASCADE                                                                { NODE; }
     ;
 word_or_string
     : non_reserved_word
     | string_literal
     ;
 
-create_language
+create_language_statement
     : T__CREATE language_definition                                             { NODE; }
     | T__CREATE T__OR T__REPLACE language_definition                            { NODE; }
     ;
 language_definition
-    : language_words column_name                                                { NODE; }
-    | language_words column_name T__HANDLER qualified_name                      { NODE; }
-    | language_words column_name T__HANDLER qualified_name language_handlers    { NODE; }
+    : language_words language_name
+      { NODE(create_language_statement); }
+    | language_words language_name T__HANDLER handler_name
+      { NODE(create_language_statement); }
+    | language_words language_name T__HANDLER handler_name language_handlers
+      { NODE(create_language_statement); }
     ;
 language_words
     : T__LANGUAGE
-    | T__PROCEDURAL T__LANGUAGE                                                 { NODE; }
-    | T__TRUSTED T__LANGUAGE                                                    { NODE; }
-    | T__TRUSTED T__PROCEDURAL T__LANGUAGE                                      { NODE; }
+    | T__PROCEDURAL T__LANGUAGE
+      { NODE(create_language_statement); }
+    | T__TRUSTED T__LANGUAGE
+      { NODE(create_language_statement); }
+    | T__TRUSTED T__PROCEDURAL T__LANGUAGE
+      { NODE(create_language_statement); }
     ;
 language_handlers
-    : T__INLINE qualified_name                                                  { NODE; }
+    : T__INLINE handler_name
+      { NODE(create_language_statement); }
     | language_validator
-    | T__INLINE qualified_name language_validator                               { NODE; }
+    | T__INLINE handler_name language_validator
+      { NODE(create_language_statement); }
     ;
 language_validator
-    : T__VALIDATOR qualified_name                                               { NODE; }
+    : T__VALIDATOR handler_name                                                 { NODE; }
     | T__NO T__VALIDATOR                                                        { NODE; }
     ;

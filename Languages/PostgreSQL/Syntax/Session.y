@@ -1,14 +1,13 @@
 /* Notification and the rest. */
 
 listen_statement
-    : T__LISTEN column_name                                                     { NODE; }
-    | T__UNLISTEN column_name                                                   { NODE; }
+    : T__LISTEN channel_name                                                    { NODE; }
+    | T__UNLISTEN channel_name                                                  { NODE; }
     | T__UNLISTEN T__ASTERISK                                                   { NODE; }
-    | notify_statement
     ;
 notify_statement
-    : T__NOTIFY column_name                                                     { NODE; }
-    | T__NOTIFY column_name T__COMMA string_literal                             { NODE; }
+    : T__NOTIFY channel_name                                                    { NODE; }
+    | T__NOTIFY channel_name T__COMMA string_literal                            { NODE; }
     ;
 discard_statement
     : T__DISCARD T__ALL                                                         { NODE; }

@@ -6,38 +6,38 @@ set_statement
     | T__SET T__SESSION set_target                                              { NODE; }
     ;
 set_target
-    : T__TRANSACTION transaction_modes                                          { NODE; }
-    | T__SESSION T__CHARACTERISTICS T__AS T__TRANSACTION transaction_modes      { NODE; }
+    : T__TRANSACTION transaction_mode_list                                      { NODE(set_statement); }
+    | T__SESSION T__CHARACTERISTICS T__AS T__TRANSACTION transaction_mode_list  { NODE(set_statement); }
     | set_item_more
     ;
 set_item_more
     : setting
-    | qualified_name T__FROM T__CURRENT                                         { NODE; }
-    | T__TIME T__ZONE time_zone_value                                           { NODE; }
-    | T__CATALOG string_literal                                                 { NODE; }
-    | T__SCHEMA string_literal                                                  { NODE; }
-    | T__NAMES
-    | T__NAMES string_literal                                                   { NODE; }
-    | T__NAMES T__DEFAULT                                                       { NODE; }
-    | T__ROLE word_or_string                                                    { NODE; }
-    | T__SESSION T__AUTHORIZATION word_or_string                                { NODE; }
-    | T__SESSION T__AUTHORIZATION T__DEFAULT                                    { NODE; }
-    | T__XML T__OPTION document_or_content                                      { NODE; }
-    | T__TRANSACTION T__SNAPSHOT string_literal                                 { NODE; }
+    | setting_name T__FROM T__CURRENT                                           { NODE(setting); }
+    | T__TIME T__ZONE time_zone_value                                           { NODE(setting); }
+    | T__CATALOG string_literal                                                 { NODE(setting); }
+    | T__SCHEMA string_literal                                                  { NODE(setting); }
+    | T__NAMES                                                                  { NODE(setting); }
+    | T__NAMES string_literal                                                   { NODE(setting); }
+    | T__NAMES T__DEFAULT                                                       { NODE(setting); }
+    | T__ROLE word_or_string                                                    { NODE(setting); }
+    | T__SESSION T__AUTHORIZATION word_or_string                                { NODE(setting); }
+    | T__SESSION T__AUTHORIZATION T__DEFAULT                                    { NODE(setting); }
+    | T__XML T__OPTION document_or_content                                      { NODE(setting); }
+    | T__TRANSACTION T__SNAPSHOT string_literal                                 { NODE(setting); }
     ;
 setting
-    : qualified_name T__TO setting_values                                       { NODE; }
-    | qualified_name T__EQUAL setting_values                                    { NODE; }
-    | qualified_name T__TO T__DEFAULT                                           { NODE; }
-    | qualified_name T__EQUAL T__DEFAULT                                        { NODE; }
+    : setting_name T__TO setting_value_list                                     { NODE; }
+    | setting_name T__EQUAL setting_value_list                                  { NODE; }
+    | setting_name T__TO T__DEFAULT                                             { NODE; }
+    | setting_name T__EQUAL T__DEFAULT                                          { NODE; }
     ;
-setting_values
-    : setting_value
-    | setting_values T__COMMA setting_value                                     { NODE; }
+setting_value_list
+    : setting_value                                                             { NODE; }
+    | setting_value_list T__COMMA setting_value                                 { NODE; }
     ;
 setting_value
-    : option_text
-    | signed_number
+    : option_text                                                               { NODE; }
+    | signed_number                                                             { NODE; }
     ;
 time_zone_value
     : string_literal
@@ -59,15 +59,22 @@ reset_target
     : shown_setting
     ;
 shown_setting
-    : qualified_name
-    | T__TIME T__ZONE                                                           { NODE; }
-    | T__TRANSACTION T__ISOLATION T__LEVEL                                      { NODE; }
-    | T__SESSION T__AUTHORIZATION                                               { NODE; }
-    | T__ALL
+    : setting_name                                                              { NODE(setting); }
+    | T__TIME T__ZONE                                                           { NODE(setting); }
+    | T__TRANSACTION T__ISOLATION T__LEVEL                                      { NODE(setting); }
+    | T__SESSION T__AUTHORIZATION                                               { NODE(setting); }
+    | T__ALL                                                                    { NODE(setting); }
     ;
-constraints_statement
+set_constraints_statement
     : T__SET T__CONSTRAINTS T__ALL constraints_mode                             { NODE; }
-    | T__SET T__CONSTRAINTS qualified_name_list constraints_mode                { NODE; }
+    | T__SET T__CONSTRAINTS constraint_list constraints_mode                    { NODE; }
+    ;
+constraint_list
+    : any_constraint                                                            { NODE; }
+    | constraint_list T__COMMA any_constraint                                   { NODE; }
+    ;
+any_constraint
+    : qualified_name                                                            { NODE(constraint_name); }
     ;
 constraints_mode
     : T__DEFERRED

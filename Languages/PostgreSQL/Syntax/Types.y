@@ -1,6 +1,6 @@
-/* Types. */
+/* Types. What stands at the place of a type is a data_type, and the name in it a type_name. */
 
-type_name
+data_type
     : simple_type
     | simple_type array_bounds                                                  { NODE; }
     | T__SETOF simple_type                                                      { NODE; }
@@ -19,96 +19,98 @@ array_bounds
     ;
 
 simple_type
-    : type_function_name
-    | type_function_name T__LPAREN expression_list T__RPAREN                    { NODE; }
-    | dotted_type_name
-    | dotted_type_name T__LPAREN expression_list T__RPAREN                      { NODE; }
-    | numeric_type
-    | bit_type
-    | bit_type T__LPAREN expression_list T__RPAREN                              { NODE; }
-    | character_type
-    | character_type T__LPAREN T__INTEGER_NUMBER T__RPAREN                      { NODE; }
-    | datetime_type
-    | json_type
-    | T__INTERVAL
-    | T__INTERVAL interval_fields                                               { NODE; }
-    | T__INTERVAL T__LPAREN T__INTEGER_NUMBER T__RPAREN                         { NODE; }
+    : type_name                                                                 { NODE(data_type); }
+    | type_name type_modifiers                                                  { NODE(data_type); }
+    | constant_type
+    | interval_name                                                             { NODE(data_type); }
+    | interval_name interval_fields                                             { NODE(data_type); }
+    | interval_name precision                                                   { NODE(data_type); }
     ;
 
 /* Types that may stand before a string without being a name. */
 constant_type
-    : numeric_type
-    | bit_type
-    | bit_type T__LPAREN expression_list T__RPAREN                              { NODE; }
-    | character_type
-    | character_type T__LPAREN T__INTEGER_NUMBER T__RPAREN                      { NODE; }
-    | datetime_type
-    | json_type
+    : fixed_name                                                                { NODE(data_type); }
+    | float_name                                                                { NODE(data_type); }
+    | float_name precision                                                      { NODE(data_type); }
+    | scaled_name                                                               { NODE(data_type); }
+    | scaled_name type_modifiers                                                { NODE(data_type); }
+    | character_name                                                            { NODE(data_type); }
+    | character_name precision                                                  { NODE(data_type); }
+    | datetime_name                                                             { NODE(data_type); }
+    | datetime_name time_zone_part                                              { NODE(data_type); }
+    | datetime_name precision                                                   { NODE(data_type); }
+    | datetime_name precision time_zone_part                                    { NODE(data_type); }
     ;
 
-json_type
-    : T__JSON                                                                   { NODE(sql_identifier); }
+type_modifiers
+    : T__LPAREN expression_list T__RPAREN                                       { NODE; }
+    ;
+precision
+    : T__LPAREN T__INTEGER_NUMBER T__RPAREN                                     { NODE(type_modifiers); }
     ;
 
-numeric_type
-    : T__INT
-    | T__INTEGER
-    | T__SMALLINT
-    | T__BIGINT
-    | T__REAL
-    | T__BOOLEAN
-    | T__FLOAT
-    | T__FLOAT T__LPAREN T__INTEGER_NUMBER T__RPAREN                            { NODE; }
-    | T__DOUBLE T__PRECISION                                                    { NODE; }
-    | T__DECIMAL
-    | T__DECIMAL T__LPAREN expression_list T__RPAREN                            { NODE; }
-    | T__DEC
-    | T__DEC T__LPAREN expression_list T__RPAREN                                { NODE; }
-    | T__NUMERIC
-    | T__NUMERIC T__LPAREN expression_list T__RPAREN                            { NODE; }
+type_name
+    : type_function_name                                                        { NODE; }
+    | dotted_type_name                                                          { NODE; }
     ;
 
-bit_type
-    : T__BIT
-    | T__BIT T__VARYING                                                         { NODE; }
+/* Types without modifiers. */
+fixed_name
+    : T__INT                                                                    { NODE(type_name); }
+    | T__INTEGER                                                                { NODE(type_name); }
+    | T__SMALLINT                                                               { NODE(type_name); }
+    | T__BIGINT                                                                 { NODE(type_name); }
+    | T__REAL                                                                   { NODE(type_name); }
+    | T__BOOLEAN                                                                { NODE(type_name); }
+    | T__DOUBLE T__PRECISION                                                    { NODE(type_name); }
+    | T__JSON                                                                   { NODE(type_name); }
     ;
 
-character_type
-    : T__CHARACTER
-    | T__CHARACTER T__VARYING                                                   { NODE; }
-    | T__CHAR
-    | T__CHAR T__VARYING                                                        { NODE; }
-    | T__VARCHAR
-    | T__NATIONAL T__CHARACTER                                                  { NODE; }
-    | T__NATIONAL T__CHARACTER T__VARYING                                       { NODE; }
-    | T__NATIONAL T__CHAR                                                       { NODE; }
-    | T__NATIONAL T__CHAR T__VARYING                                            { NODE; }
-    | T__NCHAR
-    | T__NCHAR T__VARYING                                                       { NODE; }
+float_name
+    : T__FLOAT                                                                  { NODE(type_name); }
     ;
 
-datetime_type
-    : datetime_word
-    | datetime_word time_zone_part                                              { NODE; }
-    | datetime_word T__LPAREN T__INTEGER_NUMBER T__RPAREN                       { NODE; }
-    | datetime_word T__LPAREN T__INTEGER_NUMBER T__RPAREN time_zone_part        { NODE; }
+scaled_name
+    : T__DECIMAL                                                                { NODE(type_name); }
+    | T__DEC                                                                    { NODE(type_name); }
+    | T__NUMERIC                                                                { NODE(type_name); }
+    | T__BIT                                                                    { NODE(type_name); }
+    | T__BIT T__VARYING                                                         { NODE(type_name); }
     ;
-datetime_word
-    : T__TIMESTAMP
-    | T__TIME
+
+character_name
+    : T__CHARACTER                                                              { NODE(type_name); }
+    | T__CHARACTER T__VARYING                                                   { NODE(type_name); }
+    | T__CHAR                                                                   { NODE(type_name); }
+    | T__CHAR T__VARYING                                                        { NODE(type_name); }
+    | T__VARCHAR                                                                { NODE(type_name); }
+    | T__NATIONAL T__CHARACTER                                                  { NODE(type_name); }
+    | T__NATIONAL T__CHARACTER T__VARYING                                       { NODE(type_name); }
+    | T__NATIONAL T__CHAR                                                       { NODE(type_name); }
+    | T__NATIONAL T__CHAR T__VARYING                                            { NODE(type_name); }
+    | T__NCHAR                                                                  { NODE(type_name); }
+    | T__NCHAR T__VARYING                                                       { NODE(type_name); }
+    ;
+
+datetime_name
+    : T__TIMESTAMP                                                              { NODE(type_name); }
+    | T__TIME                                                                   { NODE(type_name); }
     ;
 time_zone_part
     : T__WITH_LA T__TIME T__ZONE                                                { NODE; }
     | T__WITHOUT T__TIME T__ZONE                                                { NODE; }
     ;
 
+interval_name
+    : T__INTERVAL                                                               { NODE(type_name); }
+    ;
 interval_fields
-    : T__YEAR
-    | T__MONTH
-    | T__DAY
-    | T__HOUR
-    | T__MINUTE
-    | interval_second
+    : T__YEAR                                                                   { NODE; }
+    | T__MONTH                                                                  { NODE; }
+    | T__DAY                                                                    { NODE; }
+    | T__HOUR                                                                   { NODE; }
+    | T__MINUTE                                                                 { NODE; }
+    | interval_second                                                           { NODE; }
     | T__YEAR T__TO T__MONTH                                                    { NODE; }
     | T__DAY T__TO T__HOUR                                                      { NODE; }
     | T__DAY T__TO T__MINUTE                                                    { NODE; }
@@ -119,5 +121,5 @@ interval_fields
     ;
 interval_second
     : T__SECOND
-    | T__SECOND T__LPAREN T__INTEGER_NUMBER T__RPAREN                           { NODE; }
+    | T__SECOND T__LPAREN T__INTEGER_NUMBER T__RPAREN                           { NODE(interval_fields); }
     ;
