@@ -10,7 +10,8 @@
 %token T__ARROW T__DOT_DOT T__LESS_EQUAL T__GREATER_EQUAL T__NOT_EQUAL T__PLUS T__MINUS T__ASTERISK
 %token T__SLASH T__PERCENT T__CARET T__LESS T__GREATER T__EQUAL T__OPERATOR_SYMBOL T__LPAREN
 %token T__RPAREN T__LBRACKET T__RBRACKET T__COMMA T__SEMICOLON T__DOT T__COLON T__CLIENT_VARIABLE
-%token T__CLIENT_STRING T__CLIENT_IDENTIFIER T__CLIENT_SEND T__BAD_CHARACTER
+%token T__CLIENT_STRING T__CLIENT_IDENTIFIER T__CLIENT_SEND T__CLIENT_COMMAND
+%token T__COPIED_ROW T__END_OF_DATA T__BAD_CHARACTER
 
 /* Binding power, weakest first. */
 %precedence LOWEST
@@ -61,7 +62,15 @@ SQL_ROOT
     ;
 
 /* Statements come in chunks of chunks under one name, so that a long script doesn't become a deep chain. */
-%list pl_sql_statements: delimited %last last_statement %deep ;
+%list pl_sql_statements: script_part %last last_statement %deep ;
+
+/* The rows that follow a COPY ... FROM STDIN stand after its line, as the client reads them. */
+script_part
+    : delimited
+    | T__CLIENT_COMMAND                                                         { NODE(client_command); }
+    | T__COPIED_ROW                                                             { NODE(copied_row); }
+    | T__END_OF_DATA                                                            { NODE(end_of_data); }
+    ;
 
 /* What stands after the last delimiter. A rule may end in an error where nothing but the end of the text follows:
    anywhere else the parser would raise the error again on the same token. */

@@ -94,7 +94,7 @@ TEST(PostgreSQLLimits, LongRunsOfOperatorCharacters)
         };
         EXPECT_EQ(count("select 1 " + run + "a;"), 4 + c.tokens);
         EXPECT_EQ(count("select 1 " + run), 2 + c.tokens);
-        EXPECT_EQ(count("copy t from stdin where 1 < " + run + "a;\n1\n\\.\n;"), 10 + c.tokens);
+        EXPECT_EQ(count("copy t from stdin where 1 < " + run + "a;\n1\n\\.\n;"), 11 + c.tokens);
     }
 }
 

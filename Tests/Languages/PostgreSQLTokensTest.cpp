@@ -99,7 +99,7 @@ constexpr SLiteralCase kSkipped[] = {
     {"$1 \\bind 'a \\g'\n;",          "PARAMETER_NUMBER'$1' SEMICOLON';'"},
     {"1 \\parse a\n\\bind_named a \\g",
      "INTEGER_NUMBER'1' CLIENT_SEND'\\parse a' CLIENT_SEND'\\bind_named a \\g'"},
-    {"1 \\sendpipeline\n\\syncpipeline\n",  "INTEGER_NUMBER'1' CLIENT_SEND'\\sendpipeline'"},
+    {"1 \\sendpipeline\n\\syncpipeline\n",  "INTEGER_NUMBER'1' CLIENT_SEND'\\sendpipeline' CLIENT_COMMAND'\\syncpipeline'"},
 };
 // clang-format on
 
