@@ -120,7 +120,7 @@ command
     | subr_statement
     | tfrctl_statement
     | when_statement
-    | T__PROMPT command                                           { NODE(prompted_command); }
+    | T__PROMPT command                                           { NODE(prompted_statement); }
     ;
 
 /* Any command that the language doesn't treat in a way of its own. A keyword here is a command name with a bracket

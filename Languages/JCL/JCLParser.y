@@ -282,14 +282,17 @@ condition_operand
 
 instream_data
     : T__DATA_START                                                            { NODE; }
-    | T__DATA_START instream_lines                                             { NODE; }
+    | T__DATA_START instream_line_list                                         { NODE; }
     ;
 /* A line that belongs to no DD statement: the system makes one for it. */
 loose_data
     : loose_line                                                               { NODE(pl_sql_statement); }
     ;
 loose_line
+    : loose_text                                                               { NODE(loose_data_statement); }
+    ;
+loose_text
     : T__LOOSE_DATA                                                            { NODE(instream_data); }
     ;
-%list instream_lines: T__DATA %deep ;
+%list instream_line_list: T__DATA %deep ;
 %%

@@ -94,6 +94,44 @@ struct SBadGrammar
 constexpr auto L = enSource::Lexer;
 constexpr auto P = enSource::Parser;
 
+struct SStyleCase
+{
+    const char *statement, *names, *message; // an empty message: the grammar is taken
+};
+
+TEST_F(Uvgrammar, StyleHoldsNamesToTheirForm)
+{
+    const std::string lexer = Replaced(kLexer, "TOKEN_ACTION(OTHER)", "TOKEN_ACTION(__WORD)");
+    const std::string parser = "%token TBEGIN TEND TID TSEMI T__WORD\n%token TPLUS 43\n%start SQL\n%%\n"
+                               "SQL: pl_sql_statements { NODE; } ;\n"
+                               "%list pl_sql_statements: pl_sql_statement %separator TSEMI ;\n"
+                               "pl_sql_statement: statement { NODE; } ;\n"
+                               "statement: STATEMENT | error { NODE(bad_statement); } ;\n"
+                               "%list names: TID %separator TPLUS %node NAMES ;\n";
+    constexpr SStyleCase kCases[] = {
+        {"TBEGIN names { NODE(begin_statement); }", "name_list", ""},
+        {"TBEGIN names { NODE(begin_statement); }", "names", "P.y:9: error: the name of the list 'names'"},
+        {"TBEGIN names { NODE(begin_statement); }", "body_pl_sql_statements", ""},
+        {"TBEGIN names { NODE(Begin_statement); }", "name_list",
+         "P.y:8: error: the name of the node 'Begin_"},
+        {"TBEGIN names { NODE(begin__statement); }", "name_list",
+         "P.y:8: error: the name of the node 'begin_"},
+        {"TBEGIN names { NODE(T__statement); }", "name_list", "P.y:8: error: the node 'T__statement' has"},
+        {"TBEGIN names { NODE(begin); }", "name_list", "P.y:8: error: the name of the statement 'begin'"},
+        {"names", "name_list", "P.y:9: error: the name of the statement 'name_list'"},
+        {"T__WORD | names { NODE(name_statement); }", "name_list",
+         "P.y:8: error: a statement that is the token T__WORD alone"},
+    };
+    for (const SStyleCase& c : kCases) {
+        SCOPED_TRACE(testing::Message() << c.statement << ' ' << c.names);
+        const std::string styled = Replaced(Replaced(parser, "STATEMENT", c.statement), "NAMES", c.names);
+        const SRun run = Build(lexer, styled, "--style");
+        EXPECT_EQ(run.exitCode, *c.message == '\0' ? 0 : 1) << run.messages;
+        EXPECT_THAT(run.messages, HasSubstr(c.message));
+        EXPECT_EQ(Build(lexer, styled).exitCode, 0);
+    }
+}
+
 TEST_F(Uvgrammar, RefusesWhatWouldLoseTextOrMisparse)
 {
     const SBadGrammar kCases[] = {

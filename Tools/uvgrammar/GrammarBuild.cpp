@@ -194,6 +194,8 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
         std::set<std::string> used;
         CheckScannerRules(lexer, files, tables, messages, used);
         CheckParserRules(parser, files, parserReport, tables, messages);
+        if (build.isStyled)
+            CheckStyle(parser, files, parserReport, messages);
         report = ReportText(build, parser, files, parserReport, tables, used);
         if (messages.ErrorCount() > 0)
             return kToolFindings;

@@ -27,6 +27,11 @@ void CheckScannerReach(const CGrammarSource& source, const SGeneratedFiles& file
 void CheckParserRules(const CGrammarSource& source, const SGeneratedFiles& files, const SParserReport& report,
                       const SLoadedTables& tables, CToolMessages& messages);
 
+// Whether the names of nodes keep to what rules are written against: their form, those of lists, and an element of its own
+// for each statement.
+void CheckStyle(const CGrammarSource& source, const SGeneratedFiles& files, const SParserReport& report,
+                CToolMessages& messages);
+
 // ---- Shared by the checks ----
 
 // The statements of an action, with a message for each that can't be read; compared with the record that the

@@ -22,7 +22,7 @@ namespace {
 namespace po = boost::program_options;
 
 constexpr const char* kUsage =
-    "usage: uvgrammar --lexer X.l --parser X.y --output DIR [--name NAME] [--report]\n"
+    "usage: uvgrammar --lexer X.l --parser X.y --output DIR [--name NAME] [--style] [--report]\n"
     "\n"
     "Runs flex and bison over the two sources of a grammar and writes the tables of the language to DIR, "
     "which is\n"
@@ -85,7 +85,8 @@ int Run(int argc, char** argv, CToolMessages& messages)
         ("depfile", po::value(&build.depfilePath)->value_name("FILE"),
          "write the names of all files that were read, as a rule for make or ninja") //
         ("expanded", po::value(&build.expandedPath)->value_name("DIR"),
-         "write the two sources as flex and bison read them") //
+         "write the two sources as flex and bison read them")                                         //
+        ("style", po::bool_switch(&build.isStyled), "refuse names of nodes that rules can't rely on") //
         ("report", "print counts of rules, states, table sizes, conflicts, unused rules; and an example of "
                    "each conflict")                                 //
         ("quiet,q", po::bool_switch(&isQuiet), "write errors only") //
