@@ -124,14 +124,18 @@ TEST(Documents, TheHostsInThemSurviveARefusedGrammar)
 }
 
 // A guide is a script: it puts files ("<!-- put NAME -->" and a block), runs commands (blocks "sh") and shows
-// what they print (blocks "text"). `programs` are the built files that it uses.
+// what they print (blocks "text"). `programs` are the built files
+// and folders that it uses.
 void Follow(const std::string& guide, const std::vector<std::string>& programs, int expectedCommands)
 {
     const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
     const fs::path bin = fs::path(folder.Path()) / "build/dev/bin";
     fs::create_directories(bin);
-    for (const std::string& file : programs)
-        fs::create_hard_link(fs::path(UV_BIN_DIR) / file, bin / file);
+    for (const std::string& file : programs) {
+        fs::create_directories((bin / file).parent_path());
+        fs::copy(fs::path(UV_BIN_DIR) / file, bin / file,
+                 fs::copy_options::recursive | fs::copy_options::create_hard_links);
+    }
 
     const std::string text = ReadWholeFile(UV_SOURCE_DIR "/Documentation/" + guide);
     std::istringstream lines(text);
@@ -177,6 +181,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
         {"LanguageGuide.md", {"uvgrammar", "uvgrammar-test", "uvparse", "libUVParser.so"}, 6},
         {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"}, 10},
         {"RuleFiles.md", {"uvrules"}, 5},
+        {"TreeStyle.md", {"uvparse", "libUVParser.so", "Grammar/PostgreSQL"}, 1},
         {"Types.md", {"uvtypes"}, 6},
         {"Names.md", {"uvnames"}, 6},
         {"NamesExample.md", {"uvnames"}, 6},
