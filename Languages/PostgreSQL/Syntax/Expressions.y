@@ -65,8 +65,8 @@ expression
       { NODE; }
     | expression T__NOT_LA T__BETWEEN between_kind restricted_expression T__AND expression %prec T__NOT_LA
       { NODE; }
-    | expression T__IN in_list %prec T__IN                                      { NODE; }
-    | expression T__NOT_LA T__IN in_list %prec T__NOT_LA                        { NODE; }
+    | expression T__IN in_values %prec T__IN                                    { NODE; }
+    | expression T__NOT_LA T__IN in_values %prec T__NOT_LA                      { NODE; }
     | expression quantified_operator quantifier subquery %prec T__OPERATOR_SYMBOL  { NODE; }
     | expression quantified_operator quantifier T__LPAREN expression T__RPAREN %prec T__OPERATOR_SYMBOL
       { NODE; }
@@ -164,7 +164,7 @@ quantified_operator
     | T__NOT_LA T__ILIKE                                                        { NODE; }
     ;
 
-in_list
+in_values
     : subquery
     | T__LPAREN expression_list T__RPAREN                                       { NODE; }
     ;

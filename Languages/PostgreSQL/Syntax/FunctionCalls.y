@@ -90,8 +90,8 @@ special_function
     | T__SUBSTRING T__LPAREN T__RPAREN                                          { NODE; }
     | T__SUBSTRING T__LPAREN argument_list T__RPAREN                            { NODE; }
     | T__TREAT T__LPAREN expression T__AS data_type T__RPAREN                   { NODE(cast_expression); }
-    | T__TRIM T__LPAREN trim_list T__RPAREN                                     { NODE; }
-    | T__TRIM T__LPAREN trim_side trim_list T__RPAREN                           { NODE; }
+    | T__TRIM T__LPAREN trim_operands T__RPAREN                                 { NODE; }
+    | T__TRIM T__LPAREN trim_side trim_operands T__RPAREN                       { NODE; }
     | T__MERGE_ACTION T__LPAREN T__RPAREN                                       { NODE; }
     | T__NULLIF T__LPAREN expression T__COMMA expression T__RPAREN              { NODE; }
     | T__COALESCE T__LPAREN expression_list T__RPAREN                           { NODE; }
@@ -137,7 +137,7 @@ trim_side
     | T__LEADING
     | T__TRAILING
     ;
-trim_list
+trim_operands
     : expression T__FROM expression_list                                        { NODE; }
     | T__FROM expression_list                                                   { NODE; }
     | expression_list                                                           { NODE; }

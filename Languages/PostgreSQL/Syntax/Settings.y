@@ -67,11 +67,11 @@ shown_setting
     ;
 set_constraints_statement
     : T__SET T__CONSTRAINTS T__ALL constraints_mode                             { NODE; }
-    | T__SET T__CONSTRAINTS constraint_list constraints_mode                    { NODE; }
+    | T__SET T__CONSTRAINTS constraint_name_list constraints_mode               { NODE; }
     ;
-constraint_list
+constraint_name_list
     : any_constraint                                                            { NODE; }
-    | constraint_list T__COMMA any_constraint                                   { NODE; }
+    | constraint_name_list T__COMMA any_constraint                              { NODE; }
     ;
 any_constraint
     : qualified_name                                                            { NODE(constraint_name); }
