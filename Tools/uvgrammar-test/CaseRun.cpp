@@ -88,9 +88,28 @@ std::string Selected(const SCase& one, const std::string& tree)
 
 } // namespace
 
+uvscore::CTextParser& CCaseRunner::ParserWith(const uvparse::TOptions& options)
+{
+    uvparse::TOptions all = options;
+    if (m_IsCoverage)
+        all.emplace_back("REPORT_COVERAGE", "1");
+    return m_Parsers.try_emplace(options, m_Language, all).first->second;
+}
+
+SCaseResult CCaseRunner::RunFile(const std::string& path)
+{
+    const uvscore::SParsedText parsed = ParserWith({}).ParseFile(path);
+    SCaseResult result;
+    result.coverage = parsed.result.coverage;
+    if (!parsed.result.isParsed)
+        result.problem = "not parsed";
+    AppendFindings(parsed, result.lines);
+    return result;
+}
+
 SCaseResult CCaseRunner::Run(const SCase& one, const std::string& path)
 {
-    uvscore::CTextParser& parser = m_Parsers.try_emplace(one.options, m_Language, one.options).first->second;
+    uvscore::CTextParser& parser = ParserWith(one.options);
     uvscore::SParsedText parsed;
     if (one.isRaw) {
         parsed.source = one.text;
@@ -100,6 +119,7 @@ SCaseResult CCaseRunner::Run(const SCase& one, const std::string& path)
         parsed = parser.ParseSource(one.text, path);
     }
     SCaseResult result;
+    result.coverage = parsed.result.coverage;
     if (!parsed.result.isParsed) {
         result.lines.push_back(Finding("not parsed"));
     } else if (parsed.result.output.empty()) {
@@ -138,7 +158,7 @@ SCaseResult CCaseRunner::Run(const SCase& one, const std::string& path)
 std::string WriteCaseResult(const SCaseResult& result)
 {
     std::string text;
-    uvscore::AppendFields(text, {result.problem});
+    uvscore::AppendFields(text, {result.problem, result.coverage});
     for (const std::string& line : result.lines)
         uvscore::AppendFields(text, {line});
     return text;
@@ -149,8 +169,11 @@ SCaseResult ReadCaseResult(const std::string& text)
     SCaseResult result;
     std::istringstream lines(text);
     std::string line;
-    if (std::getline(lines, line))
-        result.problem = uvscore::CFields(line).Text(0);
+    if (std::getline(lines, line)) {
+        const uvscore::CFields fields(line);
+        result.problem = fields.Text(0);
+        result.coverage = fields.Text(1);
+    }
     while (std::getline(lines, line))
         result.lines.push_back(uvscore::CFields(line).Text(0));
     return result;

@@ -11,22 +11,32 @@ namespace uvtest {
 
 struct SCaseResult
 {
-    std::string problem; // why the case fails whatever it expects; empty: it doesn't
-    TLines lines;        // the tree's outline, and the findings
+    std::string problem;  // why the case fails whatever it expects; empty: it doesn't
+    TLines lines;         // the tree's outline, and the findings
+    std::string coverage; // as the library tells it, where that was asked for
 };
 
 // Runs the cases of one language, each as if there were no other. An object serves one process: it loads the library.
 class CCaseRunner
 {
 public:
-    explicit CCaseRunner(uvparse::SLanguage language) : m_Language(std::move(language)) {}
+    // `isCoverage`: the library is asked for the rules that each text uses.
+    CCaseRunner(uvparse::SLanguage language, bool isCoverage)
+        : m_Language(std::move(language)), m_IsCoverage(isCoverage)
+    {}
 
     // `path`: of the case's file.
     // Throws: uvscore::CCannotWork if the language can't be loaded.
     SCaseResult Run(const SCase& one, const std::string& path);
+    // A file that is parsed for what it uses alone.
+    // Throws: CToolFailure if it can't be read; uvscore::CCannotWork.
+    SCaseResult RunFile(const std::string& path);
 
 private:
+    uvscore::CTextParser& ParserWith(const uvparse::TOptions& options);
+
     uvparse::SLanguage m_Language;
+    bool m_IsCoverage;
     std::map<uvparse::TOptions, uvscore::CTextParser> m_Parsers; // by the options of their database info
 };
 

@@ -17,6 +17,7 @@ po::options_description VisibleOptions(SCommandLine& line)
     visible.add_options()
         ("filter", po::value(&line.filter)->value_name("TEXT"), "run the cases that have the text in their names")
         ("update", po::bool_switch(&line.isUpdate), "write the trees that there are into the files, in the place of those that are expected")
+        ("coverage", po::bool_switch(&line.isCoverage), "fail if there are rules that neither a case nor a file in the language's folder Samples uses, and name them")
         ("help,h", po::bool_switch(&line.isHelp), "print this");
     // clang-format on
     return visible;
@@ -29,8 +30,8 @@ constexpr char kUsage[] =
     "that are expected. LANGUAGE is the folder of the sources, with one *Lexer.l and one *Parser.y in it; without a\n"
     "FILE the cases are those of all files *.tests in its folder Tests.\n\n";
 constexpr char kAfterOptions[] =
-    "\nExit code: 0 all trees are as expected, or were updated; 1 a case fails, a file of cases can't be understood or\n"
-    "the grammar is refused; 2 something could not run.\n";
+    "\nExit code: 0 all trees are as expected, or were updated; 1 a case fails, a rule isn't used where that was asked for, a\n"
+    "file of cases can't be understood or the grammar is refused; 2 something could not run.\n";
 // clang-format on
 
 } // namespace

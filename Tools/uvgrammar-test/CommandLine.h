@@ -13,6 +13,7 @@ struct SCommandLine
     std::vector<std::string> files; // of cases; none: those of the language
     std::string filter;             // part of the names of the cases; empty: all
     bool isUpdate = false;
+    bool isCoverage = false;
     bool isHelp = false;
 };
 

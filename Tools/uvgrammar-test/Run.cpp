@@ -2,6 +2,7 @@
 
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
+#include "Tools/uvgrammar-score/Coverage.h"
 #include "Tools/uvgrammar-score/Language.h"
 #include "Tools/uvgrammar-score/Workers.h"
 #include "Tools/uvgrammar-test/CaseRun.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace uvtest {
@@ -18,25 +20,32 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kFolder = "Tests";
+constexpr const char* kCases = "Tests";
+constexpr const char* kSamples = "Samples";
 constexpr const char* kExtension = ".tests";
 // A process that loads the language for fewer cases takes longer than it saves.
 constexpr std::size_t kCasesWorthAProcess = 20;
 
-// Those of the language, in the order of their names.
-std::vector<std::string> FindFiles(const std::string& language)
+// Those in a folder of the language, in the order of their names; of any extension if it is empty.
+std::vector<std::string> FindFiles(const std::string& language, const char* name, std::string_view extension)
 {
-    const fs::path folder = fs::path(language) / kFolder;
+    const fs::path folder = fs::path(language) / name;
     std::vector<std::string> files;
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
-        if (entry->path().extension() == kExtension)
+        if (extension.empty() || entry->path().extension() == extension)
             files.push_back(entry->path().string());
     if (failed)
         throw CToolFailure(folder.string() + ": " + failed.message());
-    if (files.empty())
-        throw CToolFailure(folder.string() + ": no file is called *" + kExtension);
     std::ranges::sort(files);
+    return files;
+}
+
+std::vector<std::string> FindCaseFiles(const std::string& language)
+{
+    std::vector<std::string> files = FindFiles(language, kCases, kExtension);
+    if (files.empty())
+        throw CToolFailure((fs::path(language) / kCases).string() + ": no file is called *" + kExtension);
     return files;
 }
 
@@ -52,16 +61,17 @@ class CRun
 public:
     CRun(const SCommandLine& line, CToolMessages& messages)
         : m_Line(line), m_Messages(messages), m_Sources(uvscore::FindLanguageSources(line.language)),
-          m_Runner({m_Sources.name, uvparse::VersionOfParser(m_Sources.name)})
+          m_Runner({m_Sources.name, uvparse::VersionOfParser(m_Sources.name)}, line.isCoverage),
+          m_Rules(m_Sources)
     {}
 
     int Run()
     {
         const std::vector<std::string> paths =
-            m_Line.files.empty() ? FindFiles(m_Line.language) : m_Line.files;
+            m_Line.files.empty() ? FindCaseFiles(m_Line.language) : m_Line.files;
         // Before anything else is told: errors would refuse the grammar.
         uvparse::ChooseTableCache(true);
-        if (!uvscore::MakeTables(m_Sources, m_Messages)) {
+        if (!uvscore::MakeTables(m_Sources, m_Messages, &m_Rules)) {
             m_Messages.Error("grammar " + m_Sources.name + " refused");
             return kToolFindings;
         }
@@ -76,8 +86,10 @@ public:
         if (m_Line.isUpdate)
             m_Report += "\n  updated: " + std::to_string(m_Updated);
         m_Report += "\n  failed: " + std::to_string(m_Failed) + '\n';
+        if (m_Line.isCoverage)
+            TellUnusedRules(results);
         WriteStandardOutput(m_Report);
-        return m_Failed > 0 || m_Messages.ErrorCount() > 0 ? kToolFindings : kToolClean;
+        return m_Failed > 0 || m_Unused > 0 || m_Messages.ErrorCount() > 0 ? kToolFindings : kToolClean;
     }
 
 private:
@@ -150,6 +162,18 @@ private:
         }
     }
 
+    void TellUnusedRules(const std::vector<SCaseResult>& results)
+    {
+        uvscore::CUsedRules used;
+        for (const SCaseResult& result : results)
+            used.Add(result.coverage);
+        for (const std::string& path : FindFiles(m_Line.language, kSamples, ""))
+            used.Add(m_Runner.RunFile(path).coverage);
+        const uvscore::SCoverageReport report = uvscore::ReportCoverage(m_Rules, used);
+        m_Report += report.text;
+        m_Unused = report.unused;
+    }
+
     void WriteFiles() const
     {
         for (std::size_t i = 0; i < m_Files.size(); ++i) {
@@ -166,6 +190,8 @@ private:
     std::vector<SCaseFile> m_Files;
     std::vector<std::vector<std::optional<TLines>>> m_Trees; // for each file and case, if it is updated
     std::string m_Report;
+    uvscore::CLanguageRules m_Rules;
+    std::size_t m_Unused = 0; // rules
     std::size_t m_Failed = 0;
     std::size_t m_Updated = 0;
 };
