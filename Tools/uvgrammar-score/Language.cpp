@@ -65,19 +65,18 @@ private:
     CToolMessages m_Messages{"", m_Nowhere};
 };
 
-bool AreUpToDate(const SLanguageSources& sources, const fs::path& manifest)
+// What the tables are made from; later than anything if a source can't be read.
+fs::file_time_type NewestOf(const SLanguageSources& sources)
 {
-    const fs::file_time_type made = TimeOf(manifest);
-    if (made == fs::file_time_type::min())
-        return false;
     CSilence silence;
     CToolMessages& messages = silence.Messages();
     std::vector<std::string> paths = AssembleScanner(sources.lexerPath, messages).Paths();
     const std::vector<std::string> ofParser = AssembleParser(sources.parserPath, messages).Paths();
     paths.insert(paths.end(), ofParser.begin(), ofParser.end());
-    paths.push_back(BesideProgram("uvgrammar"));
-    return messages.ErrorCount() == 0 &&
-           std::ranges::all_of(paths, [&](const std::string& path) { return TimeOf(path) <= made; });
+    fs::file_time_type newest = TimeOf(BesideProgram("uvgrammar"));
+    for (const std::string& path : paths)
+        newest = std::max(newest, TimeOf(path));
+    return messages.ErrorCount() == 0 ? newest : fs::file_time_type::max();
 }
 
 // The number that `text` begins with, and a blank after it, are taken off; -1 without them.
@@ -154,7 +153,8 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLangu
 {
     const std::string output = BesideProgram("Grammar") + '/' + sources.name;
     const fs::path manifest = fs::path(output) / kManifestName;
-    if (AreUpToDate(sources, manifest))
+    const fs::file_time_type newest = NewestOf(sources);
+    if (TimeOf(manifest) >= newest)
         return true;
     SGrammarBuild build;
     build.lexerPath = sources.lexerPath;
@@ -167,9 +167,10 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLangu
         return false;
     if (rules != nullptr)
         rules->Take(std::move(generated));
-    // Tables that say the same as before stay in place; they are those of the sources all the same.
+    // Tables that say the same as before stay in place; they are those of the sources all the same. The time is that of
+    // the sources, so that no edit is missed which comes while the tables are made, or right after.
     std::error_code ignored;
-    fs::last_write_time(manifest, fs::file_time_type::clock::now(), ignored);
+    fs::last_write_time(manifest, newest, ignored);
     return true;
 }
 
