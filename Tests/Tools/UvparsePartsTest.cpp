@@ -1,3 +1,4 @@
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvparse/CommandLine.h"
 #include "Tools/uvparse/KnownOptions.h"

@@ -1,5 +1,7 @@
 #include "Tools/uvgrammar-score/CommandLine.h"
 
+#include "Tools/Support/ToolCommandLine.h"
+
 #include <boost/program_options.hpp>
 
 #include <sstream>
@@ -52,27 +54,14 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
 {
     SCommandLine line;
     std::vector<std::string> options;
-    try {
-        po::options_description all = VisibleOptions(line, options);
-        all.add_options()("language", po::value(&line.language))("input", po::value(&line.inputs));
-        po::positional_options_description positions;
-        positions.add("language", 1).add("input", -1);
-        using po::command_line_style::allow_guessing;
-        using po::command_line_style::unix_style;
-        po::variables_map values;
-        po::store(po::command_line_parser(argc, argv)
-                      .options(all)
-                      .positional(positions)
-                      .style(unix_style & ~allow_guessing)
-                      .run(),
-                  values);
-        po::notify(values);
-        for (const char* option : {"save", "against"})
-            if (values.count(option) > 0 && values[option].as<std::string>().empty())
-                throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
-    } catch (const po::error& e) {
-        throw CUsageError(e.what());
-    }
+    po::options_description all = VisibleOptions(line, options);
+    all.add_options()("language", po::value(&line.language))("input", po::value(&line.inputs));
+    po::positional_options_description positions;
+    positions.add("language", 1).add("input", -1);
+    const po::variables_map values = ReadToolOptions(argc, argv, all, positions);
+    for (const char* option : {"save", "against"})
+        if (values.count(option) > 0 && values[option].as<std::string>().empty())
+            throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
     if (line.isHelp)
         return line;
     line.isCoverage = line.isCoverage || line.failsOnUnused;

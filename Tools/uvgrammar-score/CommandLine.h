@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,13 +28,6 @@ struct SCommandLine
     bool isRecovery = false;
     bool isQuiet = false;
     bool isHelp = false;
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.

@@ -1,5 +1,6 @@
 // uvgrammar-score: what "uvgrammar score" runs. A program of its own, since it needs the library that parses, and
 // uvgrammar must not: a change of the library would make the tables of every language anew.
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
 #include "Tools/uvgrammar-score/CommandLine.h"
@@ -14,7 +15,7 @@ int main(int argc, char** argv)
     try {
         const uvscore::SCommandLine line = uvscore::ReadCommandLine(argc, argv);
         return uvscore::Run(line, messages);
-    } catch (const uvscore::CUsageError& e) {
+    } catch (const CUsageError& e) {
         messages.Error(std::string(e.what()) + " (try --help)");
     } catch (const std::exception& e) {
         messages.Error(e.what());

@@ -1,7 +1,6 @@
 // What the author asked for on the command line of uvgrammar test.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -15,13 +14,6 @@ struct SCommandLine
     bool isUpdate = false;
     bool isCoverage = false;
     bool isHelp = false;
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.

@@ -1,5 +1,6 @@
 #include "Tools/uvnames/CommandLine.h"
 
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/uvnames/NameOptions.h"
 #include "Tools/uvnames/Reasons.h"
 
@@ -41,7 +42,7 @@ po::options_description ShownOptions(SRawLine& raw)
     return options;
 }
 
-// Throws: po::error.
+// Throws: CUsageError.
 bool ReadOptions(int argc, const char* const* argv, SRawLine& raw)
 {
     po::options_description options = ShownOptions(raw);
@@ -49,16 +50,7 @@ bool ReadOptions(int argc, const char* const* argv, SRawLine& raw)
     po::positional_options_description operands;
     operands.add("operand", -1);
 
-    using po::command_line_style::allow_guessing;
-    using po::command_line_style::unix_style;
-    po::variables_map values;
-    po::store(po::command_line_parser(argc, argv)
-                  .options(options)
-                  .positional(operands)
-                  .style(unix_style & ~allow_guessing)
-                  .run(),
-              values);
-    po::notify(values);
+    const po::variables_map values = ReadToolOptions(argc, argv, options, operands);
     if (values.count("version") != 0)
         raw.line.command = enCommand::Version;
     return values.count("help") == 0 && values.count("version") == 0;
@@ -109,12 +101,8 @@ void ReadCommand(SRawLine& raw)
 SCommandLine ReadCommandLine(int argc, const char* const* argv)
 {
     SRawLine raw;
-    try {
-        if (!ReadOptions(argc, argv, raw))
-            return raw.line;
-    } catch (const po::error& e) {
-        throw CUsageError(e.what());
-    }
+    if (!ReadOptions(argc, argv, raw))
+        return raw.line;
     const std::optional<enToolFormat> format = ReadToolFormat(raw.format);
     if (!format)
         throw CUsageError("--format takes table, tsv or json, not '" + raw.format + "'");

@@ -3,7 +3,6 @@
 
 #include "Tools/Support/ToolResults.h"
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -34,13 +33,6 @@ struct SCommandLine
     std::string explained; // a name of the source
     std::string type;      // of that name
     bool isChangedOnly = false;
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.

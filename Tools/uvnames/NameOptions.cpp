@@ -1,6 +1,7 @@
 #include "Tools/uvnames/NameOptions.h"
 
 #include "Metadata/Options/UVDBOptionWrapper.h"
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolDatabase.h"
 #include "Tools/uvnames/CommandLine.h"
 

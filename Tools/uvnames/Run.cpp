@@ -1,6 +1,7 @@
 #include "Tools/uvnames/Run.h"
 
 #include "Catalogue/Identifiers/UVDBReservedWords.h"
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolLines.h"

@@ -1,4 +1,5 @@
 // uvnames: what the objects of a database are called in another one.
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolDatabase.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolMessages.h"
@@ -13,7 +14,7 @@ int main(int argc, char** argv)
     CToolMessages messages("uvnames", std::cerr);
     try {
         return uvnames::Run(uvnames::ReadCommandLine(argc, argv), messages);
-    } catch (const uvnames::CUsageError& e) {
+    } catch (const CUsageError& e) {
         messages.Error(std::string(e.what()) + " (try --help)");
     } catch (const std::exception& e) {
         messages.Error(e.what());

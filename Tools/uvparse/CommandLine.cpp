@@ -1,5 +1,7 @@
 #include "Tools/uvparse/CommandLine.h"
 
+#include "Tools/Support/ToolCommandLine.h"
+
 #include <boost/program_options.hpp>
 
 #include <optional>
@@ -128,32 +130,19 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
 {
     SCommandLine line;
     SRawOptions raw;
-    try {
-        po::options_description all = VisibleOptions(line, raw);
-        all.add_options()("file", po::value(&line.files));
-        po::positional_options_description files;
-        files.add("file", -1);
+    po::options_description all = VisibleOptions(line, raw);
+    all.add_options()("file", po::value(&line.files));
+    po::positional_options_description files;
+    files.add("file", -1);
 
-        using po::command_line_style::allow_guessing;
-        using po::command_line_style::unix_style;
-        po::variables_map values;
-        po::store(po::command_line_parser(argc, argv)
-                      .options(all)
-                      .positional(files)
-                      .style(unix_style & ~allow_guessing)
-                      .run(),
-                  values);
-        po::notify(values);
-        if (values.count("record-length") > 0 && line.recordLength == 0)
-            throw CUsageError("--record-length needs a number above 0");
-        for (const char* option : {"encoding", "xpath", "messages-to"})
-            if (values.count(option) > 0 && values[option].as<std::string>().empty())
-                throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
-        if (values.count("messages") > 0)
-            line.messageForm = MessageFormOf(raw.messages);
-    } catch (const po::error& e) {
-        throw CUsageError(e.what());
-    }
+    const po::variables_map values = ReadToolOptions(argc, argv, all, files);
+    if (values.count("record-length") > 0 && line.recordLength == 0)
+        throw CUsageError("--record-length needs a number above 0");
+    for (const char* option : {"encoding", "xpath", "messages-to"})
+        if (values.count(option) > 0 && values[option].as<std::string>().empty())
+            throw CUsageError(std::string("--") + option + " needs a value that isn't empty");
+    if (values.count("messages") > 0)
+        line.messageForm = MessageFormOf(raw.messages);
     line.options = SplitPairs(raw.options, "--option");
     line.objectOptions = SplitPairs(raw.objectOptions, "--object-option");
     RefuseContradictions(line);

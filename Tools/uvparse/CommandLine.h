@@ -4,7 +4,6 @@
 #include "Tools/uvparse/MessageForms.h"
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,13 +41,6 @@ struct SCommandLine
 
     // The text is prepared and not parsed.
     bool IsPreparing() const { return isPrepare || isLines; }
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.

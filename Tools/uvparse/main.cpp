@@ -1,3 +1,4 @@
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
@@ -13,7 +14,7 @@ int main(int argc, char** argv)
     try {
         const uvparse::SCommandLine line = uvparse::ReadCommandLine(argc, argv);
         return uvparse::Run(line);
-    } catch (const uvparse::CUsageError& e) {
+    } catch (const CUsageError& e) {
         messages.Error(std::string(e.what()) + " (try --help)");
     } catch (const std::exception& e) {
         messages.Error(e.what());

@@ -1,5 +1,7 @@
 #include "Tools/uvrules/CommandLine.h"
 
+#include "Tools/Support/ToolCommandLine.h"
+
 #include <boost/program_options.hpp>
 
 #include <algorithm>
@@ -105,16 +107,7 @@ bool ReadCommand(const SCommand& command, int argc, const char* const* argv, SCo
     po::positional_options_description operands;
     operands.add("operand", -1);
 
-    using po::command_line_style::allow_guessing;
-    using po::command_line_style::unix_style;
-    po::variables_map values;
-    po::store(po::command_line_parser(argc, argv)
-                  .options(options)
-                  .positional(operands)
-                  .style(unix_style & ~allow_guessing)
-                  .run(),
-              values);
-    po::notify(values);
+    const po::variables_map values = ReadToolOptions(argc, argv, options, operands);
     line.parameters = SplitPairs(pairs.parameters, "--param", "NAME=XPATH");
     line.xmlParameters = SplitPairs(pairs.xmlParameters, "--param-xml", "NAME=FILE");
     return values.count("help") != 0;
@@ -148,12 +141,8 @@ SCommandLine ReadCommandLine(int argc, const char* const* argv)
                                              [&name](const SCommand& c) { return c.name == name; });
     if (command == std::end(kCommands))
         throw CUsageError("there is no command '" + name + "'");
-    try {
-        if (ReadCommand(*command, argc - 1, argv + 1, line))
-            return line;
-    } catch (const po::error& e) {
-        throw CUsageError(e.what());
-    }
+    if (ReadCommand(*command, argc - 1, argv + 1, line))
+        return line;
     RefuseContradictions(*command, line);
     line.command = command->command;
     return line;

@@ -1,7 +1,6 @@
 // What the user asked for on uvrules' command line.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,13 +32,6 @@ struct SCommandLine
     std::string third;
     NamedTexts parameters;    // apply: name and XPath expression
     NamedTexts xmlParameters; // apply: name and path
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.

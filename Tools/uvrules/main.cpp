@@ -1,4 +1,5 @@
 // uvrules: packs, unpacks, resolves and applies rule files.
+#include "Tools/Support/ToolCommandLine.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolMessages.h"
@@ -43,7 +44,7 @@ int main(int argc, char** argv)
     CToolMessages messages("uvrules", std::cerr);
     try {
         return Run(uvrules::ReadCommandLine(argc, argv), messages);
-    } catch (const uvrules::CUsageError& e) {
+    } catch (const CUsageError& e) {
         messages.Error(std::string(e.what()) + " (try --help)");
     } catch (const uvrules::CBadInput& e) {
         messages.Error(e.what());

@@ -3,7 +3,6 @@
 
 #include "Tools/Support/ToolResults.h"
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -31,13 +30,6 @@ struct SCommandLine
     bool isCheck = false;
     bool isIdentity = false;
     bool isQuiet = false;
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.
