@@ -6,8 +6,8 @@
 #include "Grammar/UVGrammarLexer.h"
 #include "Grammar/UVGrammarParserImplementation.h"
 
-#include <compare>
 #include <cstddef>
+#include <tuple>
 #include <vector>
 
 // How well a text was read. The lesser one is the better.
@@ -18,7 +18,11 @@ struct SReading
         0; // of the text; a token that takes in whole statements can be the only unexpected one
     std::size_t unexpectedTokens = 0;
 
-    auto operator<=>(const SReading&) const = default;
+    bool operator<(const SReading& other) const
+    {
+        return std::tie(isRefused, lostBytes, unexpectedTokens) <
+               std::tie(other.isRefused, other.lostBytes, other.unexpectedTokens);
+    }
 };
 
 // `parsed`: what the parser returned.

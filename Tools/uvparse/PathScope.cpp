@@ -378,7 +378,7 @@ private:
         if (m_Depth == kDeepest)
             Refuse();
         ++m_Depth;
-        const SPathValue value = ReadChain({"or"}, &Either, [this] { return ReadAnd(); });
+        SPathValue value = ReadChain({"or"}, &Either, [this] { return ReadAnd(); });
         --m_Depth;
         return value;
     }
@@ -405,7 +405,8 @@ private:
 
     template <class Operand>
     SPathValue ReadChain(std::initializer_list<std::string_view> operators,
-                         SPathValue (*join)(SPathValue left, std::string_view sign, SPathValue right),
+                         SPathValue (*join)(const SPathValue& left, std::string_view sign,
+                                            const SPathValue& right),
                          Operand operand)
     {
         SPathValue value = operand();

@@ -1,10 +1,8 @@
 #include "Tools/uvparse/PathValue.h"
 
-#include <utility>
-
 namespace uvparse {
 
-SPathValue Both(SPathValue left, std::string_view /*sign*/, SPathValue right)
+SPathValue Both(const SPathValue& left, std::string_view /*sign*/, const SPathValue& right)
 {
     SPathValue both;
     both.asksPosition = left.asksPosition || right.asksPosition;
@@ -16,7 +14,7 @@ SPathValue Both(SPathValue left, std::string_view /*sign*/, SPathValue right)
     return both;
 }
 
-SPathValue Either(SPathValue left, std::string_view /*sign*/, SPathValue right)
+SPathValue Either(const SPathValue& left, std::string_view /*sign*/, const SPathValue& right)
 {
     SPathValue either;
     either.asksPosition = left.asksPosition || right.asksPosition;
@@ -26,39 +24,35 @@ SPathValue Either(SPathValue left, std::string_view /*sign*/, SPathValue right)
     return either;
 }
 
-SPathValue Calculated(SPathValue left, std::string_view /*sign*/, SPathValue right)
+SPathValue Calculated(const SPathValue& left, std::string_view /*sign*/, const SPathValue& right)
 {
-    left.TakeAsString();
-    right.TakeAsString();
     SPathValue number;
     number.isNumber = true;
     number.asksPosition = left.asksPosition || right.asksPosition;
-    number.look = std::max(left.look, right.look);
+    number.look = std::max(left.LookAsString(), right.LookAsString());
     return number;
 }
 
 // Nodes are compared one by one with anything but a boolean.
-SPathValue Compared(SPathValue left, std::string_view sign, SPathValue right)
+SPathValue Compared(const SPathValue& left, std::string_view sign, const SPathValue& right)
 {
-    if (left.isConstant)
-        std::swap(left, right);
+    const SPathValue& nodes = left.isConstant ? right : left;
+    const SPathValue& other = left.isConstant ? left : right;
     SPathValue compared;
-    compared.isWitnessed = left.isLeaves && right.isConstant;
-    if (sign == "=" && right.literal && (left.isSelf || (compared.isWitnessed && left.target))) {
-        compared.target = left.target.value_or(SPathTarget{});
-        compared.target->text = *right.literal;
+    compared.isWitnessed = nodes.isLeaves && other.isConstant;
+    if (sign == "=" && other.literal && (nodes.isSelf || (compared.isWitnessed && nodes.target))) {
+        compared.target = nodes.target.value_or(SPathTarget{});
+        compared.target->text = *other.literal;
         compared.target->isAllText = true;
     }
-    left.TakeAsString();
-    right.TakeAsString();
     compared.asksPosition = left.asksPosition || right.asksPosition;
-    compared.look = std::max(left.look, right.look);
+    compared.look = std::max(left.LookAsString(), right.LookAsString());
     return compared;
 }
 
-SPathValue United(SPathValue left, SPathValue right)
+SPathValue United(const SPathValue& left, const SPathValue& right)
 {
-    SPathValue nodes = Calculated(std::move(left), {}, std::move(right));
+    SPathValue nodes = Calculated(left, {}, right);
     nodes.isNumber = false;
     return nodes;
 }

@@ -38,10 +38,11 @@ struct SPathValue
         value.look = enLook::More;
         return value;
     }
+    enLook LookAsString() const { return isSelf ? std::max(look, enLook::Text) : look; }
     // Of what it is taken as, there is nothing to be said but where it comes from.
     void TakeAsString()
     {
-        look = isSelf ? std::max(look, enLook::Text) : look;
+        look = LookAsString();
         isSelf = false;
         isWitnessed = false;
         isLeaves = false;
@@ -51,10 +52,10 @@ struct SPathValue
 };
 
 // What comes out of two of them. `sign` is the operator between.
-SPathValue Both(SPathValue left, std::string_view sign, SPathValue right);
-SPathValue Either(SPathValue left, std::string_view sign, SPathValue right);
-SPathValue Calculated(SPathValue left, std::string_view sign, SPathValue right);
-SPathValue Compared(SPathValue left, std::string_view sign, SPathValue right);
-SPathValue United(SPathValue left, SPathValue right);
+SPathValue Both(const SPathValue& left, std::string_view sign, const SPathValue& right);
+SPathValue Either(const SPathValue& left, std::string_view sign, const SPathValue& right);
+SPathValue Calculated(const SPathValue& left, std::string_view sign, const SPathValue& right);
+SPathValue Compared(const SPathValue& left, std::string_view sign, const SPathValue& right);
+SPathValue United(const SPathValue& left, const SPathValue& right);
 
 } // namespace uvparse
