@@ -28,6 +28,11 @@ extern const char* g_nativeBase;
         if (g_native.brackets == 0 || ((n) == 1 && g_native.brackets < 2)) \
             BEGIN m_Extension.m_nStartState;                               \
     } while (0)
+#define PATTERNS_ACTION(patterns, others) \
+    do {                                  \
+        BEGIN others;                     \
+        g_native.brackets = 1;            \
+    } while (0)
 #define SET_CONDITION(c) \
     g_native.conditions.emplace(#c, std::string(yytext, static_cast<std::size_t>(yyleng)))
 #define CONDITIONAL_BEGIN(c, a, b)                                     \

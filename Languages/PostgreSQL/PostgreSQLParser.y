@@ -12,6 +12,12 @@
 %token T__RPAREN T__LBRACKET T__RBRACKET T__COMMA T__SEMICOLON T__DOT T__COLON T__CLIENT_VARIABLE
 %token T__CLIENT_STRING T__CLIENT_IDENTIFIER T__CLIENT_SEND T__CLIENT_COMMAND
 %token T__COPIED_ROW T__END_OF_DATA T__BAD_CHARACTER
+/* Of the bodies of routines. */
+%token T__BLOCK_QUOTE_BEGIN T__SQL_QUOTE_BEGIN T__BODY_QUOTE_END T__LABEL_BEGIN T__LABEL_END T__HASH
+%token T__BEGIN_LA T__CURSOR_LA T__END_LA T__IN_LA T__INTO_LA T__INTO_VARIABLES T__RETURN_LA
+%token T__ALIAS T__ASSERT T__CONSTANT T__DEBUG T__DIAGNOSTICS T__ELSIF T__EXCEPTION T__EXIT T__FOREACH T__GET T__INFO
+%token T__LOG T__LOOP T__NOTICE T__OPEN T__PERFORM T__QUERY T__RAISE T__REVERSE T__ROWTYPE T__SLICE T__SQLSTATE
+%token T__STACKED T__WARNING T__WHILE
 
 /* Binding power, weakest first. */
 %precedence LOWEST
@@ -20,7 +26,7 @@
 %precedence T__NESTED
 %precedence T__PATH
 /* An error in the body of a routine is skipped to the next delimiter; only where no more comes it ends the body. */
-%precedence T__SEMICOLON T__CLIENT_SEND
+%precedence T__SEMICOLON T__CLIENT_SEND T__BODY_QUOTE_END
 %precedence T__SET
 /* In GROUP BY these begin their own clause rather than a function call; after the bracket of a window they begin
    its frame rather than naming another window. */
@@ -77,12 +83,16 @@ script_part
 last_statement
     : pl_sql_statement
     | error                                                                     { NODE(pl_sql_statement); }
+    | open_routine                                                              { NODE(pl_sql_statement); }
+    | error open_body                                                           { NODE(pl_sql_statement); }
     ;
 
 delimited
     : pl_sql_statement pl_sql_statement_delimiter                               { NODE(delimited_pl_sql_statement); }
     | pl_sql_statement_delimiter                                                { NODE(delimited_pl_sql_statement); }
     | error pl_sql_statement_delimiter                                          { NODE(delimited_pl_sql_statement); }
+    | error quoted_body pl_sql_statement_delimiter                              { NODE(delimited_pl_sql_statement); }
+    | error quoted_body routine_item_list pl_sql_statement_delimiter                { NODE(delimited_pl_sql_statement); }
     ;
 
 pl_sql_statement_delimiter
@@ -109,6 +119,13 @@ pl_sql_statement
 %include "Syntax/IndexElements.y"
 %include "Syntax/Options.y"
 %include "Syntax/Routines.y"
+%include "Syntax/PlBodies.y"
+%include "Syntax/PlBlocks.y"
+%include "Syntax/PlDeclarations.y"
+%include "Syntax/PlStatements.y"
+%include "Syntax/PlLoops.y"
+%include "Syntax/PlCursors.y"
+%include "Syntax/PlDiagnostics.y"
 %include "Syntax/Triggers.y"
 %include "Syntax/Schemas.y"
 %include "Syntax/Replication.y"

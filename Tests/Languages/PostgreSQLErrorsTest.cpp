@@ -92,11 +92,16 @@ constexpr char kBetween[] = "\n\\echo it's; \"so\ncopy t from stdin;\n1;'\t$$ /*
 Tokens TokensToSpoil(const CSyntaxTree& tree, const SElement& statement)
 {
     Tokens tokens;
+    bool isInBody = false;
     for (const SElement& token : tree.Tokens(statement)) {
-        if (token.name == "T__DOLLAR_QUOTED_TEXT" || token.name == "T__DOLLAR_QUOTE_END")
+        if (isInBody)
+            tokens.back() += ' ' + token.text;
+        else if (token.name == "T__DOLLAR_QUOTED_TEXT" || token.name == "T__DOLLAR_QUOTE_END")
             tokens.back() += token.text;
         else
             tokens.push_back(token.text);
+        isInBody = (isInBody || token.name == "T__BLOCK_QUOTE_BEGIN" || token.name == "T__SQL_QUOTE_BEGIN") &&
+                   token.name != "T__BODY_QUOTE_END";
     }
     tokens.pop_back(); // the delimiter
     return tokens;

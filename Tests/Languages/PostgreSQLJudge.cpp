@@ -95,6 +95,21 @@ std::optional<std::string> JudgeTree(const std::string& sql)
     return tree;
 }
 
+SBlockVerdict JudgeBlock(const std::string& statement)
+{
+    const PgQueryPlpgsqlParseResult result = pg_query_parse_plpgsql(statement.c_str());
+    SBlockVerdict verdict;
+    if (result.error == nullptr) {
+        verdict.isBlock =
+            std::string_view(result.plpgsql_funcs).find("\"action\":") != std::string_view::npos;
+    } else {
+        verdict.error = result.error->message;
+        verdict.isBlock = result.error->context != nullptr;
+    }
+    pg_query_free_plpgsql_parse_result(result);
+    return verdict;
+}
+
 std::optional<std::vector<SByteRange>> JudgeScan(const std::string& sql)
 {
     constexpr int kTokens = 2, kStart = 1, kEnd = 2, kKind = 4;

@@ -17,5 +17,13 @@ struct SByteRange
 bool JudgeAccepts(const std::string& sql);
 // The judge's own tree without the places of its parts; nothing for a text that it refuses.
 std::optional<std::string> JudgeTree(const std::string& sql);
+// What the judge says of the block of PL/pgSQL in a CREATE FUNCTION, CREATE PROCEDURE or DO.
+struct SBlockVerdict
+{
+    bool isBlock = false; // the statement is one of these, in this language
+    std::string error;    // empty: the block is taken
+};
+
+SBlockVerdict JudgeBlock(const std::string& statement);
 // The tokens, comments left out; nothing for a text that it can't scan.
 std::optional<std::vector<SByteRange>> JudgeScan(const std::string& sql);

@@ -54,6 +54,9 @@ conflict_action
 returning_clause
     : T__RETURNING select_list                                                  { NODE; }
     | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list { NODE; }
+    | T__RETURNING select_list into_variables                                   { NODE; }
+    | T__RETURNING into_variables select_list                                   { NODE; }
+    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list into_variables  { NODE; }
     ;
 returning_alias_list
     : returning_alias                                                           { NODE; }
@@ -164,6 +167,14 @@ merge_values
     ;
 
 statement
+    : shared_statement
+    | execute_statement
+    | declare_cursor_statement
+    | fetch_statement
+    | close_statement
+    ;
+/* What a block of PL/pgSQL says in the same words. */
+shared_statement
     : query
     | insert_statement
     | update_statement
@@ -241,11 +252,7 @@ statement
     | do_statement
     | call_statement
     | prepare_statement
-    | execute_statement
     | deallocate_statement
-    | declare_cursor_statement
-    | fetch_statement
-    | close_statement
     | lock_statement
     | truncate_statement
     | vacuum_statement

@@ -265,10 +265,14 @@ array_items_list
     ;
 
 case_expression
-    : T__CASE when_list T__END                                                  { NODE; }
-    | T__CASE when_list else_part T__END                                        { NODE; }
-    | T__CASE expression when_list T__END                                       { NODE; }
-    | T__CASE expression when_list else_part T__END                             { NODE; }
+    : T__CASE when_list case_end                                                { NODE; }
+    | T__CASE when_list else_part case_end                                      { NODE; }
+    | T__CASE expression when_list case_end                                     { NODE; }
+    | T__CASE expression when_list else_part case_end                           { NODE; }
+    ;
+case_end
+    : T__END
+    | T__END_LA
     ;
 when_list
     : when_part                                                                 { NODE; }

@@ -4,6 +4,15 @@
 unreserved_keyword
     : %words unreserved
     | T__WITHOUT_LA
+    | T__ALIAS
+    | T__ASSERT
+    | T__CONSTANT
+    | T__EXIT
+    | T__FOREACH
+    | T__OPEN
+    | T__PERFORM
+    | T__RAISE
+    | T__WHILE
     ;
 
 /* Words that can't name a function or a type, since a construct of theirs looks like one. */
@@ -18,6 +27,11 @@ type_function_name_keyword
 
 reserved_keyword
     : %words reserved
+    ;
+
+/* Words that name nothing in SQL, but variables of PL/pgSQL. */
+variable_keyword
+    : %words variable
     ;
 
 bare_label_keyword

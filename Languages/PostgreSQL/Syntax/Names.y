@@ -90,6 +90,9 @@ channel_name
 constraint_name
     : identifier                                                                { NODE; }
     ;
+condition_name
+    : identifier                                                                { NODE; }
+    ;
 cursor_name
     : identifier                                                                { NODE; }
     ;
@@ -101,6 +104,9 @@ event_trigger_name
     ;
 extension_name
     : identifier                                                                { NODE; }
+    ;
+label_name
+    : non_reserved_word                                                         { NODE; }
     ;
 language_name
     : identifier                                                                { NODE; }

@@ -49,6 +49,7 @@ do_item_list
     ;
 do_item
     : string_literal
+    | quoted_body
     | T__LANGUAGE routine_language                                              { NODE; }
     ;
 call_statement

@@ -24,15 +24,24 @@ select_part
     ;
 
 select_tail
-    : sort_clause
-    | sort_clause select_limit_part                                             { NODE(select_statement); }
+    : sort_part
+    | sort_part select_limit_part                                               { NODE(select_statement); }
     | select_limit_part
+    ;
+sort_part
+    : sort_clause
+    | sort_clause into_variables                                                { NODE(select_statement); }
     ;
 select_limit_part
     : locking_clause
     | limit_clause
     | locking_clause limit_clause                                               { NODE(select_statement); }
     | limit_clause locking_clause                                               { NODE(select_statement); }
+    | locking_clause into_variables                                             { NODE(select_statement); }
+    | limit_clause into_variables                                               { NODE(select_statement); }
+    | locking_clause limit_clause into_variables                                { NODE(select_statement); }
+    | limit_clause locking_clause into_variables                                { NODE(select_statement); }
+    | limit_clause into_variables locking_clause                                { NODE(select_statement); }
     ;
 
 simple_select
@@ -45,6 +54,8 @@ plain_select
     | select_head select_list                                                   { NODE(select_statement); }
     | select_head select_clauses                                                { NODE(select_statement); }
     | select_head select_list select_clauses                                    { NODE(select_statement); }
+    | select_head into_variables select_list                                    { NODE(select_statement); }
+    | select_head into_variables select_list clauses_from_from                  { NODE(select_statement); }
     | distinct_head select_list                                                 { NODE(select_statement); }
     | distinct_head select_list select_clauses                                  { NODE(select_statement); }
     ;
@@ -95,28 +106,51 @@ select_clauses
     | clauses_from_from
     ;
 clauses_from_from
-    : from_clause
-    | from_clause clauses_from_where                                            { NODE(select_statement); }
+    : from_part
+    | from_part clauses_from_where                                              { NODE(select_statement); }
     | clauses_from_where
     ;
 clauses_from_where
-    : where_clause
-    | where_clause clauses_from_group                                           { NODE(select_statement); }
+    : where_part
+    | where_part clauses_from_group                                             { NODE(select_statement); }
     | clauses_from_group
     ;
 clauses_from_group
-    : group_clause
-    | group_clause clauses_from_having                                          { NODE(select_statement); }
+    : group_part
+    | group_part clauses_from_having                                            { NODE(select_statement); }
     | clauses_from_having
     ;
 clauses_from_having
+    : having_part
+    | having_part window_part                                                   { NODE(select_statement); }
+    | window_part
+    ;
+
+/* In a block of PL/pgSQL variables may follow any clause. */
+from_part
+    : from_clause
+    | from_clause into_variables                                                { NODE(select_statement); }
+    ;
+where_part
+    : where_clause
+    | where_clause into_variables                                               { NODE(select_statement); }
+    ;
+group_part
+    : group_clause
+    | group_clause into_variables                                               { NODE(select_statement); }
+    ;
+having_part
     : having_clause
-    | having_clause window_clause                                               { NODE(select_statement); }
-    | window_clause
+    | having_clause into_variables                                              { NODE(select_statement); }
+    ;
+window_part
+    : window_clause
+    | window_clause into_variables                                              { NODE(select_statement); }
     ;
 
 into_clause
     : T__INTO into_target                                                       { NODE; }
+    | into_variables
     ;
 into_target
     : table_name

@@ -52,6 +52,7 @@ routine_item_list
 routine_item
     : returns_clause                                                            { NODE; }
     | T__AS string_literal                                                      { NODE; }
+    | T__AS quoted_body                                                         { NODE; }
     | T__AS string_literal T__COMMA string_literal                              { NODE; }
     | T__LANGUAGE routine_language                                              { NODE; }
     | T__TRANSFORM transform_type_list                                          { NODE; }
@@ -115,6 +116,8 @@ routine_body
     | T__BEGIN T__ATOMIC body_pl_sql_statements error T__END                    { NODE; }
     | T__BEGIN T__ATOMIC error %prec LOWEST                                     { NODE; }
     | T__BEGIN T__ATOMIC body_pl_sql_statements error %prec LOWEST              { NODE; }
+    | T__BEGIN T__ATOMIC open_routine %prec LOWEST                              { NODE; }
+    | T__BEGIN T__ATOMIC body_pl_sql_statements open_routine %prec LOWEST       { NODE; }
     ;
 return_statement
     : T__RETURN expression                                                      { NODE; }
