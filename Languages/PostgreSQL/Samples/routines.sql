@@ -18,7 +18,7 @@ end;
 
 create function shop.touch() returns trigger language plpgsql as $body$
 begin
-    -- the client's $1 and an inner $quote$ are text here
+    -- the client's $1 and an inner $quote$ are comment here
     new.changed := now();
     execute $q$select ';'$q$;
     return new;
@@ -47,3 +47,45 @@ when matched then update set amount = s.amount + d.amount
 when not matched then insert (item, amount) values (d.item, d.amount);
 
 do $$ begin raise notice '%', 1; end $$;
+
+-- A block of PL/pgSQL: variables, loops, cursors, messages, exceptions.
+create or replace function shop.restock(minimum int, inout ordered int default 0) as $restock$
+#variable_conflict use_column
+<<main>>
+declare
+    missing constant int not null := minimum;
+    line    stock%rowtype;
+    amount  stock.amount%type;
+    wanted  cursor (few int) for select * from stock where amount < few order by item;
+    problem text collate "C" default '';
+begin
+    select count(*), sum(s.amount) into strict ordered, amount from stock s where s.amount < missing;
+    <<items>>
+    for line in wanted(missing) loop
+        continue items when line.item is null;
+        if line.amount < 0 then
+            raise exception 'item % has %', line.item, line.amount using errcode = 'data_exception', hint = 'count again';
+        elsif line.amount = 0 then
+            insert into orders_out (item) values (line.item) returning orders_out.amount into amount;
+        else
+            execute format($q$update %I set amount = amount + $1; -- $q$, 'stock') using missing - line.amount;
+        end if;
+        case amount when 0, 1 then null; else perform pg_notify('stock', line.item::text); end case;
+    end loop items;
+    for i in reverse 10 .. ordered by 2 loop
+        exit main when i < 5;
+    end loop;
+    get diagnostics ordered = row_count;
+exception
+    when division_by_zero or sqlstate '22003' then
+        get stacked diagnostics problem = message_text;
+        raise notice '%', main.problem;
+end main;
+$restock$ language plpgsql;
+
+create function shop.cheapest(few int) returns setof stock as $$
+    with sorted as (select * from stock order by price)
+    select * from sorted where amount > $1 limit 3
+$$ language sql stable;
+
+create function shop.count_words(words text) returns int as $$ return len(words.split()) $$ language plpython3u;
