@@ -148,9 +148,11 @@ int CSQLGrammarLexer::yybegin(int state)
     // back in a condition that led to the current one
     const auto entered = std::ranges::find(m_lstEntered, state, &SEntered::condition);
     if (state == m_Extension.m_nStartState)
-        m_lstEntered.clear();
+        LeaveAll();
     else if (entered != m_lstEntered.end())
         m_lstEntered.erase(entered + 1, m_lstEntered.end());
+    else if (ComesBack(state))
+        m_lstEntered.swap(m_lstLeft);
     else if (yycurrent_buffer())
         m_lstEntered.push_back({state, yymatch_offset(), yymatch_end()});
     else
@@ -158,6 +160,27 @@ int CSQLGrammarLexer::yybegin(int state)
     if (open && !OpenText())
         NoteLongText(open->offset, open->end, yymatch_end());
     return coded;
+}
+
+// What they were stays known until the next match: an action may go by the condition that texts begin in to another one.
+void CSQLGrammarLexer::LeaveAll()
+{
+    if (!m_lstEntered.empty() && yycurrent_buffer()) {
+        m_lstLeft.swap(m_lstEntered);
+        m_nLeftAt = yymatch_offset();
+    }
+    m_lstEntered.clear();
+}
+
+// The current match has left this condition. Then those that it was entered in are all that is kept.
+bool CSQLGrammarLexer::ComesBack(int state)
+{
+    const auto left = std::ranges::find(m_lstLeft, state, &SEntered::condition);
+    if (left == m_lstLeft.end() || !m_lstEntered.empty() || !yycurrent_buffer() ||
+        yymatch_offset() != m_nLeftAt)
+        return false;
+    m_lstLeft.erase(left + 1, m_lstLeft.end());
+    return true;
 }
 
 // The scan has come to a wall, or to the end of the text.
@@ -171,6 +194,7 @@ int CSQLGrammarLexer::yywrap()
     if (m_nScanEnd < m_Extension.m_nQueryLength)
         yyend_buffer_at(m_nScanEnd);
     yybegin(m_Extension.m_nStartState);
+    m_lstLeft.clear();
     return 0;
 }
 
@@ -276,6 +300,7 @@ void CSQLGrammarLexer::set_Query(const std::string& query, int db)
         m_Extension.m_nStartState = state;
     FindEofRules();
     m_lstEntered.clear();
+    m_lstLeft.clear();
     yybegin(m_Extension.m_nStartState);
     m_Unfinished.reset();
     m_lstWalls.clear();

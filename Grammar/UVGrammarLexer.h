@@ -331,7 +331,11 @@ private:
         std::size_t end = 0; // of that match
     };
     std::optional<SEntered> OpenText() const;
+    void LeaveAll();
+    bool ComesBack(int state);
     std::vector<SEntered> m_lstEntered; // outermost first; without the condition that texts begin in
+    std::vector<SEntered> m_lstLeft;    // those that a match left all at once
+    std::size_t m_nLeftAt = 0;          // that match
     std::optional<SUnfinishedText> m_Unfinished;
     std::vector<std::size_t> m_lstWalls;
     int m_nScanEnd = 0; // the wall after the scan position, or the end of the query
