@@ -193,6 +193,7 @@ int CSQLGrammarLexer::yywrap()
     m_nScanEnd = ScanEndAfter(m_nScanEnd);
     if (m_nScanEnd < m_Extension.m_nQueryLength)
         yyend_buffer_at(m_nScanEnd);
+    m_Extension.m_mapConditions.clear(); // of texts that began before it
     yybegin(m_Extension.m_nStartState);
     m_lstLeft.clear();
     return 0;

@@ -61,6 +61,18 @@ TEST(ScannerWalls, EachPartIsScannedByItself)
     EXPECT_EQ(Coloring(lexer, "'ab'", {}), "4 0 3\n");
 }
 
+// The delimiter of a string that a wall cuts off isn't that of the strings after it.
+TEST(ScannerWalls, NoDelimiterIsKept)
+{
+    CSQLGrammarLexer lexer("Saved", false);
+    lexer.yycreate();
+    Coloring(lexer, "$a$ x $b$ y $b$ z", {6});
+    EXPECT_FALSE(lexer.Unfinished());
+    Coloring(lexer, "$a$ x $b$ y $a$ z", {6});
+    ASSERT_TRUE(lexer.Unfinished());
+    EXPECT_EQ(lexer.Unfinished()->offset, 6U);
+}
+
 TEST(ScannerWalls, LongTextsAreTokensOfSeveralLines)
 {
     struct SRow
