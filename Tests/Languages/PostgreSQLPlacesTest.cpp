@@ -133,6 +133,8 @@ constexpr SBetweenCase kBetween[] = {
     // inside of a statement they are space
     {"select 1\n\\echo a\n, a[1:2]\n\\b\n;",              "",              "",         1},
     {"select 1 + + 2 /* a */\n\\b\n;\n",                          "",              "",         1},
+    {"select $$;$$\n\\echo a\n, $b$ \\ $b$;\n\\b",       "\\b",           "",         1},
+    {"do $$ begin null; end $$;\\b\ndo $$ begin end $$ \\g\n\\c", "\\b|\\c",      "",         2},
     // data and what ends them
     {"copy t from stdin;\na;\n\n\\N\\.\n\\.\nselect 1;",  "",              "a;|\\N\\.", 2},
     {"copy t from stdin;\r\na\tb\r\n\\.\r\nselect 1;",    "",              "a\tb",     2},
