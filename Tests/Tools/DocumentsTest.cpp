@@ -179,7 +179,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
     const SGuide guides[] = {
         {"LanguageGuide.md", {"uvgrammar", "uvgrammar-test", "uvparse", "libUVParser.so"}, 6},
-        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"}, 10},
+        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"}, 11},
         {"RuleFiles.md", {"uvrules"}, 5},
         {"TreeStyle.md", {"uvparse", "libUVParser.so", "Grammar/PostgreSQL"}, 1},
         {"Types.md", {"uvtypes"}, 6},

@@ -372,6 +372,54 @@ TEST_F(UvgrammarTest, LeavesABrokenFileAloneAndRunsTheOthers)
     EXPECT_EQ(Get("Pairs/Tests/broken.tests"), broken);
 }
 
+TEST_F(UvgrammarTest, NamesTheRulesThatNeitherCasesNorSamplesUse)
+{
+    Put("Pairs/Tests/a.tests", kGood);
+    const std::string clean = "language Pairs\n  cases: 1\n  passed: 1\n  failed: 0\n";
+    EXPECT_EQ(Test("Pairs").out, clean); // only where it is asked for
+    // A language needs no folder of samples.
+    SRunResult run = Test("Pairs --coverage");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, clean + R"(
+coverage
+  rules of the parser in use: 5 of 6 (83.33 %)
+  rules of the scanner in use: 7 of 9 (77.78 %)
+  not used by any case or sample, of the parser
+    Pairs/PairsParser.y:9: pair: error T__SEMICOLON
+  not used by any case or sample, of the scanner
+    Pairs/PairsLexer.l:8: <COMMENT>"*" { ColoringFunc(6); }
+    Pairs/PairsLexer.l:13: . { TOKEN_ACTION(__OTHER); }
+)");
+
+    // A sample may have mistakes, and be in any folder below.
+    Put("Pairs/Samples/below/b.pairs", "a ! b;\n");
+    run = Test("Pairs --coverage");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.out,
+                AllOf(HasSubstr("parser in use: 6 of 6 (100 %)\n"), Not(HasSubstr("PairsParser.y"))));
+    Put("Pairs/Samples/a.pairs", "/* * */ a = b;\n");
+    run = Test("Pairs --coverage");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, clean + "\ncoverage\n  rules of the parser in use: 6 of 6 (100 %)\n"
+                               "  rules of the scanner in use: 9 of 9 (100 %)\n");
+
+    Put("Pairs/Samples/c.pairs", "\xFF");
+    run = Test("Pairs --coverage");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.err, StartsWith("uvgrammar test: error: Pairs/Samples/c.pairs: "));
+    fs::remove(m_Folder / "Pairs/Samples/c.pairs");
+
+    // Cases of other options, and those that fail, have used their rules too.
+    fs::remove_all(m_Folder / "Pairs/Samples");
+    Put("Pairs/Tests/b.tests", "=== raw\n===: raw\n/* * */ a = b;\n---\nnobody\n\n=== option\n"
+                               "===: option A=B\n! a;\n---\n");
+    run = Test("Pairs --coverage");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.out, HasSubstr("failed: 2\n\ncoverage\n  rules of the parser in use: 6 of 6 (100 %)\n"
+                                   "  rules of the scanner in use: 9 of 9 (100 %)\n"));
+}
+
 TEST_F(UvgrammarTest, RefusesWhatItCannotRun)
 {
     Put("Pairs/Tests/a.tests", kGood);

@@ -29,7 +29,7 @@ std::vector<SLanguageRule> CUsedRules::Unused(std::vector<SLanguageRule> rules, 
     return rules;
 }
 
-SCoverageReport ReportCoverage(CLanguageRules& language, const CUsedRules& used)
+SCoverageReport ReportCoverage(CLanguageRules& language, const CUsedRules& used, const std::string& users)
 {
     SCoverageReport report{.text = "\ncoverage\n"};
     std::string named;
@@ -39,7 +39,7 @@ SCoverageReport ReportCoverage(CLanguageRules& language, const CUsedRules& used)
         report.text.append(std::to_string(all - unused.size())).append(" of ").append(std::to_string(all));
         report.text.append(" (").append(ShareText(all - unused.size(), all)).append(")\n");
         if (!unused.empty())
-            named.append("  not used by any file, of the ").append(part).append(1, '\n');
+            named.append("  not used by any ").append(users).append(", of the ").append(part).append(1, '\n');
         for (const SLanguageRule& rule : unused)
             named.append("    ")
                 .append(rule.place.file)

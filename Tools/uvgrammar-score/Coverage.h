@@ -41,8 +41,8 @@ struct SCoverageReport
     std::size_t unused = 0; // rules
 };
 
-// How many of the language's rules were used, and the names of the others.
+// How many of the language's rules were used, and the names of the others. `users`: what might have, such as "file".
 // Throws: CToolFailure.
-SCoverageReport ReportCoverage(CLanguageRules& language, const CUsedRules& used);
+SCoverageReport ReportCoverage(CLanguageRules& language, const CUsedRules& used, const std::string& users);
 
 } // namespace uvscore

@@ -213,7 +213,7 @@ private:
         CUsedRules used;
         for (const SScoredFile& file : files)
             used.Add(file.coverage);
-        const SCoverageReport report = ReportCoverage(m_Rules, used);
+        const SCoverageReport report = ReportCoverage(m_Rules, used, "file");
         WriteStandardOutput(report.text);
         if (m_Line.failsOnUnused && report.unused > 0)
             Worsen(kToolFindings);

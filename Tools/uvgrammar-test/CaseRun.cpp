@@ -96,17 +96,6 @@ uvscore::CTextParser& CCaseRunner::ParserWith(const uvparse::TOptions& options)
     return m_Parsers.try_emplace(options, m_Language, all).first->second;
 }
 
-SCaseResult CCaseRunner::RunFile(const std::string& path)
-{
-    const uvscore::SParsedText parsed = ParserWith({}).ParseFile(path);
-    SCaseResult result;
-    result.coverage = parsed.result.coverage;
-    if (!parsed.result.isParsed)
-        result.problem = "not parsed";
-    AppendFindings(parsed, result.lines);
-    return result;
-}
-
 SCaseResult CCaseRunner::Run(const SCase& one, const std::string& path)
 {
     uvscore::CTextParser& parser = ParserWith(one.options);

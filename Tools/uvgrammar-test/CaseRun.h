@@ -28,9 +28,9 @@ public:
     // `path`: of the case's file.
     // Throws: uvscore::CCannotWork if the language can't be loaded.
     SCaseResult Run(const SCase& one, const std::string& path);
-    // A file that is parsed for what it uses alone.
+    // What a file uses.
     // Throws: CToolFailure if it can't be read; uvscore::CCannotWork.
-    SCaseResult RunFile(const std::string& path);
+    std::string CoverageOf(const std::string& path) { return ParserWith({}).ParseFile(path).result.coverage; }
 
 private:
     uvscore::CTextParser& ParserWith(const uvparse::TOptions& options);

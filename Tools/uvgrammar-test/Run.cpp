@@ -3,15 +3,16 @@
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/uvgrammar-score/Coverage.h"
+#include "Tools/uvgrammar-score/Inputs.h"
 #include "Tools/uvgrammar-score/Language.h"
 #include "Tools/uvgrammar-score/Workers.h"
 #include "Tools/uvgrammar-test/CaseRun.h"
 #include "Tools/uvgrammar-test/LineDifference.h"
+#include "Tools/uvparse/LanguageChoice.h"
 #include "Tools/uvparse/TableCache.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 
 namespace uvtest {
@@ -26,27 +27,31 @@ constexpr const char* kExtension = ".tests";
 // A process that loads the language for fewer cases takes longer than it saves.
 constexpr std::size_t kCasesWorthAProcess = 20;
 
-// Those in a folder of the language, in the order of their names; of any extension if it is empty.
-std::vector<std::string> FindFiles(const std::string& language, const char* name, std::string_view extension)
+// Those of the language, in the order of their names.
+std::vector<std::string> FindCaseFiles(const std::string& language)
 {
-    const fs::path folder = fs::path(language) / name;
+    const fs::path folder = fs::path(language) / kCases;
     std::vector<std::string> files;
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
-        if (extension.empty() || entry->path().extension() == extension)
+        if (entry->path().extension() == kExtension)
             files.push_back(entry->path().string());
     if (failed)
         throw CToolFailure(folder.string() + ": " + failed.message());
+    if (files.empty())
+        throw CToolFailure(folder.string() + ": no file is called *" + kExtension);
     std::ranges::sort(files);
     return files;
 }
 
-std::vector<std::string> FindCaseFiles(const std::string& language)
+// A language needn't have any.
+std::vector<std::string> FindSamples(const std::string& language, const std::string& parserName)
 {
-    std::vector<std::string> files = FindFiles(language, kCases, kExtension);
-    if (files.empty())
-        throw CToolFailure((fs::path(language) / kCases).string() + ": no file is called *" + kExtension);
-    return files;
+    const std::string folder = (fs::path(language) / kSamples).string();
+    std::error_code failed;
+    if (!fs::exists(folder, failed) && !failed)
+        return {};
+    return uvscore::CollectInputs({folder}, uvparse::ExtensionsOf(parserName)).files;
 }
 
 // A case that is to be run.
@@ -167,9 +172,16 @@ private:
         uvscore::CUsedRules used;
         for (const SCaseResult& result : results)
             used.Add(result.coverage);
-        for (const std::string& path : FindFiles(m_Line.language, kSamples, ""))
-            used.Add(m_Runner.RunFile(path).coverage);
-        const uvscore::SCoverageReport report = uvscore::ReportCoverage(m_Rules, used);
+        const std::vector<std::string> samples = FindSamples(m_Line.language, m_Sources.name);
+        uvscore::RunJobs(
+            samples.size(), 1, [&](std::size_t job) { return m_Runner.CoverageOf(samples[job]); },
+            [&](std::size_t job, const uvscore::SJobResult& result) {
+                if (result.isDone)
+                    used.Add(result.text);
+                else // what can't be read is named already
+                    m_Messages.Error(result.isCrash ? samples[job] + ": " + result.text : result.text);
+            });
+        const uvscore::SCoverageReport report = uvscore::ReportCoverage(m_Rules, used, "case or sample");
         m_Report += report.text;
         m_Unused = report.unused;
     }
