@@ -69,9 +69,9 @@ statement_with_data
     : dd_statement_with_data                                                   { NODE(pl_sql_statement); }
     | bad_line_with_data                                                       { NODE(pl_sql_statement); }
     ;
+/* Data come after slashes, so there is no error without them. */
 bad_line_with_data
-    : error instream_data                                                      { NODE(error_statement); }
-    | T__SLASHES error instream_data                                           { NODE(error_statement); }
+    : T__SLASHES error instream_data                                           { NODE(error_statement); }
     | T__SLASHES statement_name error instream_data                            { NODE(error_statement); }
     | statement_head error instream_data                                       { NODE(error_statement); }
     ;
