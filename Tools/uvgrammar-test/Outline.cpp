@@ -106,6 +106,14 @@ public:
         return lines;
     }
 
+    std::vector<SOutlineElement> Elements() const
+    {
+        std::vector<SOutlineElement> elements;
+        for (const SNode& node : m_Nodes)
+            elements.push_back({node.name, node.text, node.parent});
+        return elements;
+    }
+
 private:
     struct SNode
     {
@@ -226,6 +234,53 @@ private:
     std::size_t m_Index;
 };
 
+CNodes NodesOfLines(const TLines& lines)
+{
+    CNodes nodes;
+    std::vector<std::size_t> indents; // of the open nodes; those of one line have one
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        CLineReader line(lines[i], i);
+        const std::size_t indent = line.TakeIndent();
+        std::size_t closed = indent;
+        for (; !indents.empty() && indents.back() >= indent; indents.pop_back()) {
+            nodes.Close();
+            closed = indents.back();
+        }
+        if (closed != indent)
+            line.Refuse("no line above is indented like this one");
+        if (line.IsAtText()) {
+            if (nodes.Depth() == 0)
+                line.Refuse("a text stands in no element");
+            nodes.AddText(line.TakeText());
+        } else {
+            do {
+                nodes.EndText();
+                nodes.Open(line.TakeName());
+                indents.push_back(indent);
+                while (line.Skip(' ')) {
+                    if (line.IsAtText()) {
+                        nodes.AddText(line.TakeText());
+                        break;
+                    }
+                    if (line.IsAtEnd())
+                        break;
+                    const std::string_view attribute = line.TakeName();
+                    if (!line.Skip('=') || !line.IsAtText())
+                        line.Refuse("an attribute's value is expected after '" + std::string(attribute) +
+                                    "'");
+                    nodes.AddAttribute(ShownAttribute(attribute, line.TakeText()));
+                }
+            } while (line.Skip('/'));
+        }
+        line.Skip(' ');
+        if (!line.IsAtEnd())
+            line.Refuse("more stands after the end of the line's last element");
+    }
+    while (nodes.Depth() > 0)
+        nodes.Close();
+    return nodes;
+}
+
 } // namespace
 
 std::string QuotedText(std::string_view text)
@@ -284,49 +339,12 @@ TLines OutlineOfTree(std::string_view tree)
 
 TLines OutlineOfLines(const TLines& lines)
 {
-    CNodes nodes;
-    std::vector<std::size_t> indents; // of the open nodes; those of one line have one
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        CLineReader line(lines[i], i);
-        const std::size_t indent = line.TakeIndent();
-        std::size_t closed = indent;
-        for (; !indents.empty() && indents.back() >= indent; indents.pop_back()) {
-            nodes.Close();
-            closed = indents.back();
-        }
-        if (closed != indent)
-            line.Refuse("no line above is indented like this one");
-        if (line.IsAtText()) {
-            if (nodes.Depth() == 0)
-                line.Refuse("a text stands in no element");
-            nodes.AddText(line.TakeText());
-        } else {
-            do {
-                nodes.EndText();
-                nodes.Open(line.TakeName());
-                indents.push_back(indent);
-                while (line.Skip(' ')) {
-                    if (line.IsAtText()) {
-                        nodes.AddText(line.TakeText());
-                        break;
-                    }
-                    if (line.IsAtEnd())
-                        break;
-                    const std::string_view attribute = line.TakeName();
-                    if (!line.Skip('=') || !line.IsAtText())
-                        line.Refuse("an attribute's value is expected after '" + std::string(attribute) +
-                                    "'");
-                    nodes.AddAttribute(ShownAttribute(attribute, line.TakeText()));
-                }
-            } while (line.Skip('/'));
-        }
-        line.Skip(' ');
-        if (!line.IsAtEnd())
-            line.Refuse("more stands after the end of the line's last element");
-    }
-    while (nodes.Depth() > 0)
-        nodes.Close();
-    return nodes.Lines();
+    return NodesOfLines(lines).Lines();
+}
+
+std::vector<SOutlineElement> ElementsOfLines(const TLines& lines)
+{
+    return NodesOfLines(lines).Elements();
 }
 
 } // namespace uvtest

@@ -44,6 +44,18 @@ TLines OutlineOfTree(std::string_view tree);
 // Throws: COutlineError.
 TLines OutlineOfLines(const TLines& lines);
 
+// An element of an outline, or a text beside elements, which has no name.
+struct SOutlineElement
+{
+    std::string name;
+    std::string text;
+    std::size_t parent = std::string_view::npos; // its index
+};
+
+// In the order of the lines.
+// Throws: COutlineError.
+std::vector<SOutlineElement> ElementsOfLines(const TLines& lines);
+
 std::string QuotedText(std::string_view text);
 
 } // namespace uvtest
