@@ -7,11 +7,13 @@
 
 #include <boost/program_options.hpp>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -35,7 +37,13 @@ constexpr const char* kUsage =
     "       uvgrammar test LANGUAGE [FILE...]\n"
     "\n"
     "Compares the trees of a language's texts with those that are expected; see uvgrammar test --help.\n"
+    "\n"
+    "       uvgrammar elements LANGUAGE\n"
+    "\n"
+    "Tells which elements the trees of a language have; see uvgrammar elements --help.\n"
     "\n";
+
+constexpr std::string_view kSubcommands[] = {"elements", "score", "test"};
 
 constexpr const char* kExitCodes = "\n"
                                    "exit code: 0 tables written, 1 grammar refused, 2 could not run\n";
@@ -71,7 +79,7 @@ int RunSubcommand(char** argv, CToolMessages& messages)
 
 int Run(int argc, char** argv, CToolMessages& messages)
 {
-    if (argc > 1 && (std::string_view(argv[1]) == "score" || std::string_view(argv[1]) == "test"))
+    if (argc > 1 && std::ranges::find(kSubcommands, argv[1]) != std::end(kSubcommands))
         return RunSubcommand(argv, messages);
     SGrammarBuild build;
     bool isQuiet = false;
