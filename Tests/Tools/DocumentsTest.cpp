@@ -179,7 +179,9 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
     const SGuide guides[] = {
         {"LanguageGuide.md", {"uvgrammar", "uvgrammar-test", "uvparse", "libUVParser.so"}, 6},
-        {"UvgrammarGuide.md", {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"}, 11},
+        {"UvgrammarGuide.md",
+         {"uvgrammar", "uvgrammar-elements", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"},
+         12},
         {"RuleFiles.md", {"uvrules"}, 5},
         {"TreeStyle.md", {"uvparse", "libUVParser.so", "Grammar/PostgreSQL"}, 1},
         {"Types.md", {"uvtypes"}, 6},
