@@ -66,7 +66,6 @@ alter_action
     | T__OWNER T__TO role_name                                                  { NODE; }
     | T__SET T__SCHEMA schema_name                                              { NODE; }
     | T__SET T__TABLESPACE tablespace_name                                      { NODE; }
-    | T__SET T__TABLESPACE tablespace_name T__NOWAIT                            { NODE; }
     | T__SET T__ACCESS T__METHOD access_method_name                             { NODE; }
     | T__SET T__ACCESS T__METHOD T__DEFAULT                                     { NODE; }
     | T__SET T__WITHOUT T__OIDS                                                 { NODE; }
