@@ -50,8 +50,8 @@ alter_action
     | T__ADD table_constraint                                                   { NODE; }
     | T__ALTER column_name column_action                                        { NODE; }
     | T__ALTER T__COLUMN column_name column_action                              { NODE; }
-    | T__ALTER T__INTEGER_NUMBER T__SET T__STATISTICS statistics_target         { NODE; }
-    | T__ALTER T__COLUMN T__INTEGER_NUMBER T__SET T__STATISTICS statistics_target  { NODE; }
+    | T__ALTER T__INTEGER_NUMBER numbered_column_action                         { NODE; }
+    | T__ALTER T__COLUMN T__INTEGER_NUMBER numbered_column_action               { NODE; }
     | T__ALTER T__CONSTRAINT constraint_name                                    { NODE; }
     | T__ALTER T__CONSTRAINT constraint_name constraint_attribute_list          { NODE; }
     | T__ALTER T__CONSTRAINT constraint_name T__INHERIT                         { NODE; }
@@ -91,13 +91,17 @@ alter_action
     | T__REPLICA T__IDENTITY T__FULL                                            { NODE; }
     | T__REPLICA T__IDENTITY T__DEFAULT                                         { NODE; }
     | T__REPLICA T__IDENTITY T__USING T__INDEX index_name                       { NODE; }
-    | T__ATTACH T__PARTITION table_name                                         { NODE; }
+    | T__ATTACH T__PARTITION attached_index                                     { NODE; }
     | T__ATTACH T__PARTITION table_name partition_bound                         { NODE; }
     | T__DETACH T__PARTITION table_name                                         { NODE; }
     | T__DETACH T__PARTITION table_name T__CONCURRENTLY                         { NODE; }
     | T__DETACH T__PARTITION table_name T__FINALIZE                             { NODE; }
-    | extension_dependency
-    | alter_generic_options
+    | extension_dependency                                                      { NODE; }
+    | alter_generic_options                                                     { NODE; }
+    ;
+/* Partitions of an index have no bounds. */
+attached_index
+    : qualified_name                                                            { NODE(index_name); }
     ;
 extension_dependency
     : T__DEPENDS T__ON T__EXTENSION extension_name                              { NODE; }
@@ -149,6 +153,10 @@ column_action
     | type_change                                                               { NODE; }
     | type_change T__USING expression                                           { NODE; }
     | alter_generic_options                                                     { NODE; }
+    ;
+/* Columns of an index have numbers. */
+numbered_column_action
+    : T__SET T__STATISTICS statistics_target                                    { NODE(column_action); }
     ;
 statistics_target
     : signed_integer                                                            { NODE; }
