@@ -362,9 +362,7 @@ alter_role_statement
     | T__ALTER role_or_group T__ALL T__IN T__DATABASE database_name role_setting  { NODE; }
     | T__ALTER T__USER T__ALL T__IN T__DATABASE database_name role_setting      { NODE; }
     | T__ALTER role_or_group role_name T__ADD T__USER role_name_list            { NODE; }
-    | T__ALTER T__USER role_name T__ADD T__USER role_name_list                  { NODE; }
     | T__ALTER role_or_group role_name T__DROP T__USER role_name_list           { NODE; }
-    | T__ALTER T__USER role_name T__DROP T__USER role_name_list                 { NODE; }
     ;
 role_setting
     : T__SET set_target                                                         { NODE(set_statement); }
