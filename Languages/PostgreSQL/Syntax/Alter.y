@@ -293,25 +293,7 @@ language_word
 
 alter_operator_statement
     : T__ALTER T__OPERATOR operator_signature common_change                     { NODE; }
-    | T__ALTER T__OPERATOR operator_signature T__SET T__LPAREN operator_change_list T__RPAREN
-      { NODE; }
-    ;
-operator_change_list
-    : operator_change                                                           { NODE(option_list); }
-    | operator_change_list T__COMMA operator_change                             { NODE(option_list); }
-    ;
-operator_change
-    : option_name                                                               { NODE(option); }
-    | option_name T__EQUAL T__NONE                                              { NODE(option); }
-    | option_name T__EQUAL operator_change_value                                { NODE(option); }
-    ;
-operator_change_value
-    : function_type
-    | reserved_keyword
-    | any_operator_symbol
-    | T__OPERATOR T__LPAREN any_operator T__RPAREN                              { NODE; }
-    | signed_number
-    | string_literal
+    | T__ALTER T__OPERATOR operator_signature T__SET definitions                { NODE; }
     ;
 
 alter_operator_family_statement
