@@ -193,10 +193,16 @@ alter_option
     | T__DROP option_name                                                       { NODE(option); }
     ;
 
+renaming
+    : T__RENAME T__TO new_name                                                  { NODE(alter_action); }
+    ;
+owner_change
+    : T__OWNER T__TO role_name                                                  { NODE(alter_action); }
+    ;
 /* What most objects can be made to do. */
 common_change
-    : T__RENAME T__TO new_name                                                  { NODE(alter_action); }
-    | T__OWNER T__TO role_name                                                  { NODE(alter_action); }
+    : renaming
+    | owner_change
     | T__SET T__SCHEMA schema_name                                              { NODE(alter_action); }
     ;
 
@@ -232,17 +238,19 @@ attribute_change
     ;
 
 alter_domain_statement
-    : T__ALTER T__DOMAIN domain_name common_change                              { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__SET T__DEFAULT expression               { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__DROP T__DEFAULT                         { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__SET T__NOT T__NULL                      { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__DROP T__NOT T__NULL                     { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__ADD common_constraint                   { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__ADD domain_not_null                     { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__DROP T__CONSTRAINT dropped_constraint   { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__VALIDATE T__CONSTRAINT constraint_name  { NODE; }
-    | T__ALTER T__DOMAIN domain_name T__RENAME T__CONSTRAINT constraint_name T__TO new_name
-      { NODE; }
+    : T__ALTER T__DOMAIN domain_name domain_change                              { NODE; }
+    ;
+domain_change
+    : common_change
+    | T__SET T__DEFAULT expression                                              { NODE(alter_action); }
+    | T__DROP T__DEFAULT                                                        { NODE(alter_action); }
+    | T__SET T__NOT T__NULL                                                     { NODE(alter_action); }
+    | T__DROP T__NOT T__NULL                                                    { NODE(alter_action); }
+    | T__ADD common_constraint                                                  { NODE(alter_action); }
+    | T__ADD domain_not_null                                                    { NODE(alter_action); }
+    | T__DROP T__CONSTRAINT dropped_constraint                                  { NODE(alter_action); }
+    | T__VALIDATE T__CONSTRAINT constraint_name                                 { NODE(alter_action); }
+    | T__RENAME T__CONSTRAINT constraint_name T__TO new_name                    { NODE(alter_action); }
     ;
 domain_not_null
     : T__NOT T__NULL                                                            { NODE(table_constraint); }
@@ -273,13 +281,13 @@ alter_object_statement
       { NODE(alter_conversion_statement); }
     | T__ALTER language_word language_name common_change
       { NODE(alter_language_statement); }
-    | T__ALTER T__LARGE T__OBJECT signed_number T__OWNER T__TO role_name
+    | T__ALTER T__LARGE T__OBJECT signed_number owner_change
       { NODE(alter_large_object_statement); }
     | T__ALTER T__SCHEMA schema_name common_change
       { NODE(alter_schema_statement); }
-    | T__ALTER T__RULE rule_name T__ON table_name T__RENAME T__TO new_name
+    | T__ALTER T__RULE rule_name T__ON table_name renaming
       { NODE(alter_rule_statement); }
-    | T__ALTER T__TRIGGER trigger_name T__ON table_name T__RENAME T__TO new_name
+    | T__ALTER T__TRIGGER trigger_name T__ON table_name renaming
       { NODE(alter_trigger_statement); }
     | T__ALTER T__TRIGGER trigger_name T__ON table_name extension_dependency
       { NODE(alter_trigger_statement); }
@@ -316,9 +324,9 @@ dropped_family_item
     ;
 
 alter_policy_statement
-    : T__ALTER T__POLICY policy_name T__ON table_name T__RENAME T__TO new_name
+    : T__ALTER T__POLICY policy_name T__ON table_name renaming
       { NODE; }
-    | T__ALTER T__POLICY if_exists policy_name T__ON table_name T__RENAME T__TO new_name
+    | T__ALTER T__POLICY if_exists policy_name T__ON table_name renaming
       { NODE; }
     | T__ALTER T__POLICY policy_name T__ON table_name                           { NODE; }
     | T__ALTER T__POLICY policy_name T__ON table_name policy_clause_list        { NODE; }
@@ -333,8 +341,8 @@ alter_role_statement
     | T__ALTER T__USER role_name T__WITH role_option_list                       { NODE; }
     | T__ALTER role_or_group role_name                                          { NODE; }
     | T__ALTER T__USER role_name                                                { NODE; }
-    | T__ALTER role_or_group role_name T__RENAME T__TO new_role                 { NODE; }
-    | T__ALTER T__USER role_name T__RENAME T__TO new_role                       { NODE; }
+    | T__ALTER role_or_group role_name role_renaming                            { NODE; }
+    | T__ALTER T__USER role_name role_renaming                                  { NODE; }
     | T__ALTER role_or_group role_name role_setting                             { NODE; }
     | T__ALTER T__USER role_name role_setting                                   { NODE; }
     | T__ALTER role_or_group role_name T__IN T__DATABASE database_name role_setting  { NODE; }
@@ -350,8 +358,11 @@ role_setting
     : T__SET set_target                                                         { NODE(set_statement); }
     | T__RESET reset_target                                                     { NODE(reset_statement); }
     ;
+role_renaming
+    : T__RENAME T__TO new_role                                                  { NODE(alter_action); }
+    ;
 new_role
-    : role_name                                                                 { NODE(new_name); }
+    : non_reserved_word                                                         { NODE(new_name); }
     ;
 
 alter_database_statement
@@ -362,13 +373,13 @@ alter_database_statement
     | T__ALTER T__DATABASE database_name T__SET T__TABLESPACE tablespace_name   { NODE; }
     | T__ALTER T__DATABASE database_name T__REFRESH T__COLLATION T__VERSION     { NODE; }
     | T__ALTER T__DATABASE database_name role_setting                           { NODE; }
-    | T__ALTER T__DATABASE database_name T__RENAME T__TO new_name               { NODE; }
-    | T__ALTER T__DATABASE database_name T__OWNER T__TO role_name               { NODE; }
+    | T__ALTER T__DATABASE database_name renaming                               { NODE; }
+    | T__ALTER T__DATABASE database_name owner_change                           { NODE; }
     ;
 
 alter_tablespace_statement
-    : T__ALTER T__TABLESPACE tablespace_name T__RENAME T__TO new_name           { NODE; }
-    | T__ALTER T__TABLESPACE tablespace_name T__OWNER T__TO role_name           { NODE; }
+    : T__ALTER T__TABLESPACE tablespace_name renaming                           { NODE; }
+    | T__ALTER T__TABLESPACE tablespace_name owner_change                       { NODE; }
     | T__ALTER T__TABLESPACE tablespace_name T__SET options                     { NODE; }
     | T__ALTER T__TABLESPACE tablespace_name T__RESET options                   { NODE; }
     ;
