@@ -498,8 +498,8 @@ default_privileges_scope
     ;
 default_privileges_part
     : T__IN T__SCHEMA schema_name_list                                          { NODE; }
-    | T__FOR T__ROLE grantee_list                                               { NODE; }
-    | T__FOR T__USER grantee_list                                               { NODE; }
+    | T__FOR T__ROLE role_name_list                                             { NODE; }
+    | T__FOR T__USER role_name_list                                             { NODE; }
     ;
 default_privileges_action
     : T__GRANT privileges T__ON default_privileges_target T__TO grantee_list    { NODE; }
