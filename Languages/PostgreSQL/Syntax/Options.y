@@ -16,7 +16,10 @@ option_name
     ;
 qualified_option_name
     : any_label                                                                 { NODE(option_name); }
-    | any_label T__DOT any_label                                                { NODE(option_name); }
+    | dotted_option_name                                                        { NODE(option_name); }
+    ;
+dotted_option_name
+    : any_label T__DOT any_label                                                { NODE(qualified_sql_identifier); }
     ;
 
 definitions
