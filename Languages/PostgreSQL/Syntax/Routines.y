@@ -180,8 +180,7 @@ operator_signature_list
     | operator_signature_list T__COMMA operator_signature                       { NODE; }
     ;
 operator_operands
-    : T__LPAREN data_type T__RPAREN                                             { NODE; }
-    | T__LPAREN data_type T__COMMA data_type T__RPAREN                          { NODE; }
+    : T__LPAREN data_type T__COMMA data_type T__RPAREN                          { NODE; }
     | T__LPAREN T__NONE T__COMMA data_type T__RPAREN                            { NODE; }
     | T__LPAREN data_type T__COMMA T__NONE T__RPAREN                            { NODE; }
     ;
