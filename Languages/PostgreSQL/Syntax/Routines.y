@@ -116,8 +116,17 @@ routine_body
     | T__BEGIN T__ATOMIC body_pl_sql_statements error T__END                    { NODE; }
     | T__BEGIN T__ATOMIC error %prec LOWEST                                     { NODE; }
     | T__BEGIN T__ATOMIC body_pl_sql_statements error %prec LOWEST              { NODE; }
-    | T__BEGIN T__ATOMIC open_routine %prec LOWEST                              { NODE; }
-    | T__BEGIN T__ATOMIC body_pl_sql_statements open_routine %prec LOWEST       { NODE; }
+    | T__BEGIN T__ATOMIC open_routine_body %prec LOWEST                         { NODE; }
+    ;
+open_routine_body
+    : open_body_statement                                                       { NODE(body_pl_sql_statements); }
+    | body_pl_sql_statements open_body_statement                                { NODE(body_pl_sql_statements); }
+    ;
+open_body_statement
+    : open_pl_sql_statement                                                     { NODE(delimited_pl_sql_statement); }
+    ;
+open_pl_sql_statement
+    : open_routine                                                              { NODE(pl_sql_statement); }
     ;
 return_statement
     : T__RETURN expression                                                      { NODE; }
