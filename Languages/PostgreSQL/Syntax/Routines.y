@@ -81,8 +81,11 @@ returned_name
     : type_function_name                                                        { NODE(column_name); }
     ;
 transform_type_list
+    : transform_type                                                            { NODE; }
+    | transform_type_list T__COMMA transform_type                               { NODE; }
+    ;
+transform_type
     : T__FOR T__TYPE data_type                                                  { NODE; }
-    | transform_type_list T__COMMA T__FOR T__TYPE data_type                     { NODE; }
     ;
 routine_attribute_list
     : routine_attribute                                                         { NODE; }
