@@ -4,7 +4,6 @@ create_trigger_statement
     : T__CREATE trigger_definition                                              { NODE; }
     | T__CREATE T__OR T__REPLACE trigger_definition                             { NODE; }
     | T__CREATE T__CONSTRAINT trigger_definition                                { NODE; }
-    | T__CREATE T__OR T__REPLACE T__CONSTRAINT trigger_definition               { NODE; }
     ;
 trigger_definition
     : T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name trigger_action
