@@ -279,7 +279,7 @@ alter_object_statement
       { NODE(alter_collation_statement); }
     | T__ALTER T__CONVERSION conversion_name common_change
       { NODE(alter_conversion_statement); }
-    | T__ALTER language_word language_name common_change
+    | T__ALTER altered_language language_name common_change
       { NODE(alter_language_statement); }
     | T__ALTER T__LARGE T__OBJECT signed_number owner_change
       { NODE(alter_large_object_statement); }
@@ -294,9 +294,9 @@ alter_object_statement
     | T__ALTER T__OPERATOR T__CLASS operator_class_name T__USING access_method_name common_change
       { NODE(alter_operator_class_statement); }
     ;
-language_word
+altered_language
     : T__LANGUAGE
-    | T__PROCEDURAL T__LANGUAGE                                                 { NODE; }
+    | T__PROCEDURAL T__LANGUAGE                                                 { NODE(alter_language_statement); }
     ;
 
 alter_operator_statement

@@ -15,7 +15,7 @@ named_object
     | T__EVENT T__TRIGGER event_trigger_name                                    { NODE; }
     | T__EXTENSION extension_name                                               { NODE; }
     | T__FOREIGN T__DATA T__WRAPPER wrapper_name                                { NODE; }
-    | language_word language_name                                               { NODE; }
+    | named_language language_name                                              { NODE; }
     | T__PUBLICATION publication_name                                           { NODE; }
     | T__SCHEMA schema_name                                                     { NODE; }
     | T__SERVER server_name                                                     { NODE; }
@@ -32,6 +32,10 @@ named_object
     | T__OPERATOR T__FAMILY operator_family_name T__USING access_method_name    { NODE; }
     | T__CAST T__LPAREN data_type T__AS data_type T__RPAREN                     { NODE; }
     | T__TRANSFORM T__FOR data_type T__LANGUAGE language_name                   { NODE; }
+    ;
+named_language
+    : T__LANGUAGE
+    | T__PROCEDURAL T__LANGUAGE                                                 { NODE(named_object); }
     ;
 commented_object
     : named_object

@@ -34,8 +34,8 @@ dropped_objects
     | T__EXTENSION if_exists extension_name_list                                { NODE(drop_statement); }
     | T__FOREIGN T__DATA T__WRAPPER wrapper_name_list                           { NODE(drop_statement); }
     | T__FOREIGN T__DATA T__WRAPPER if_exists wrapper_name_list                 { NODE(drop_statement); }
-    | language_word language_name_list                                          { NODE(drop_statement); }
-    | language_word if_exists language_name_list                                { NODE(drop_statement); }
+    | dropped_language language_name_list                                       { NODE(drop_statement); }
+    | dropped_language if_exists language_name_list                             { NODE(drop_statement); }
     | T__PUBLICATION publication_name_list                                      { NODE(drop_statement); }
     | T__PUBLICATION if_exists publication_name_list                            { NODE(drop_statement); }
     | T__SCHEMA schema_name_list                                                { NODE(drop_statement); }
@@ -75,6 +75,10 @@ dropped_objects
     | T__TRANSFORM T__FOR data_type T__LANGUAGE language_name                   { NODE(drop_statement); }
     | T__TRANSFORM if_exists T__FOR data_type T__LANGUAGE language_name         { NODE(drop_statement); }
     | T__OWNED T__BY role_name_list                                             { NODE(drop_statement); }
+    ;
+dropped_language
+    : T__LANGUAGE
+    | T__PROCEDURAL T__LANGUAGE                                                 { NODE(drop_statement); }
     ;
 if_exists
     : T__IF T__EXISTS                                                           { NODE; }
