@@ -14,7 +14,6 @@ set_item_more
     : setting
     | setting_name T__FROM T__CURRENT                                           { NODE(setting); }
     | T__TIME T__ZONE time_zone_value                                           { NODE(setting); }
-    | T__CATALOG string_literal                                                 { NODE(setting); }
     | T__SCHEMA string_literal                                                  { NODE(setting); }
     | T__NAMES                                                                  { NODE(setting); }
     | T__NAMES string_literal                                                   { NODE(setting); }
