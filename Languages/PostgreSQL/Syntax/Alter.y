@@ -482,8 +482,11 @@ alter_event_trigger_statement
 
 alter_system_statement
     : T__ALTER T__SYSTEM T__SET setting                                         { NODE; }
-    | T__ALTER T__SYSTEM T__RESET setting_name                                  { NODE; }
-    | T__ALTER T__SYSTEM T__RESET T__ALL                                        { NODE; }
+    | T__ALTER T__SYSTEM T__RESET system_setting                                { NODE; }
+    ;
+system_setting
+    : setting_name                                                              { NODE(setting); }
+    | T__ALL                                                                    { NODE(setting); }
     ;
 
 alter_default_privileges_statement
