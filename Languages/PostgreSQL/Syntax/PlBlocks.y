@@ -46,13 +46,14 @@ exception_condition
 block_statements
     : listed_statement                                                          { NODE(body_pl_sql_statements); }
     | labeled_statement pl_sql_statement_delimiter                              { NODE(body_pl_sql_statements); }
+    | labeled_bad_head pl_sql_statement_delimiter                               { NODE(body_pl_sql_statements); }
     | block_statements listed_statement                                         { NODE(body_pl_sql_statements); }
     | block_statements labeled_statement pl_sql_statement_delimiter             { NODE(body_pl_sql_statements); }
+    | block_statements labeled_bad_head pl_sql_statement_delimiter              { NODE(body_pl_sql_statements); }
     ;
 listed_statement
     : bare_statement pl_sql_statement_delimiter                                 { NODE(delimited_pl_sql_statement); }
     | bad_head pl_sql_statement_delimiter                                       { NODE(delimited_pl_sql_statement); }
-    | block_label bad_head pl_sql_statement_delimiter                           { NODE(delimited_pl_sql_statement); }
     | bad_statement
     ;
 /* The delimiter stands beside it: in the list of a body a labeled statement loses what it holds itself. */
@@ -78,6 +79,12 @@ loop_or_block
 bad_head
     : bad_first_part                                                            { NODE(pl_sql_statement); }
     ;
+labeled_bad_head
+    : label_and_bad_head                                                        { NODE(delimited_pl_sql_statement); }
+    ;
+label_and_bad_head
+    : block_label bad_head                                                      { NODE(labeled_pl_sql_statement); }
+    ;
 bad_first_part
     : T__IF error                                                               { NODE(if_statement); }
     | T__WHILE error                                                            { NODE(loop_statement); }
@@ -93,7 +100,7 @@ open_list
 last_in_open_list
     : error %prec LOWEST                                                        { NODE(delimited_pl_sql_statement); }
     | bad_head %prec LOWEST                                                     { NODE(delimited_pl_sql_statement); }
-    | block_label bad_head %prec LOWEST                                         { NODE(delimited_pl_sql_statement); }
+    | labeled_bad_head %prec LOWEST
     | open_statement
     | open_routine                                                              { NODE(delimited_pl_sql_statement); }
     ;

@@ -17,6 +17,7 @@ stray_statements
     : bad_statement                                                             { NODE(body_pl_sql_statements); }
     | stray_statements listed_statement                                         { NODE(body_pl_sql_statements); }
     | stray_statements labeled_statement pl_sql_statement_delimiter             { NODE(body_pl_sql_statements); }
+    | stray_statements labeled_bad_head pl_sql_statement_delimiter              { NODE(body_pl_sql_statements); }
     ;
 bad_statement
     : error pl_sql_statement_delimiter                                          { NODE(delimited_pl_sql_statement); }
