@@ -1,14 +1,19 @@
 /* Bodies of routines in dollar quotes: a block of PL/pgSQL, or statements of SQL. */
 
 /* The closing quote ends a body whatever is wrong in it. So an error that no delimiter follows makes an open body, and all
-   that is still open around it. */
+   that is still open around it. Flattening takes a node in its like for a list and leaves statements in that as they are, so
+   options have no such node with their block. */
 quoted_body
-    : T__BLOCK_QUOTE_BEGIN block_body T__BODY_QUOTE_END                         { NODE; }
-    | T__BLOCK_QUOTE_BEGIN block_body stray_statements T__BODY_QUOTE_END        { NODE; }
-    | T__BLOCK_QUOTE_BEGIN block_body open_strays T__BODY_QUOTE_END             { NODE; }
+    : T__BLOCK_QUOTE_BEGIN body_block T__BODY_QUOTE_END                         { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_option_list body_block T__BODY_QUOTE_END        { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_block stray_statements T__BODY_QUOTE_END        { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_option_list body_block stray_statements T__BODY_QUOTE_END  { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_block open_strays T__BODY_QUOTE_END             { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_option_list body_block open_strays T__BODY_QUOTE_END  { NODE; }
     | T__BLOCK_QUOTE_BEGIN stray_statements T__BODY_QUOTE_END                   { NODE; }
     | T__BLOCK_QUOTE_BEGIN open_strays T__BODY_QUOTE_END                        { NODE; }
     | T__BLOCK_QUOTE_BEGIN open_block T__BODY_QUOTE_END                         { NODE; }
+    | T__BLOCK_QUOTE_BEGIN body_option_list open_block T__BODY_QUOTE_END        { NODE; }
     | T__SQL_QUOTE_BEGIN sql_body T__BODY_QUOTE_END                             { NODE; }
     | T__SQL_QUOTE_BEGIN open_sql_body T__BODY_QUOTE_END                        { NODE; }
     ;
@@ -48,16 +53,14 @@ open_do_items
     | do_item_list open_body                                                    { NODE(do_item_list); }
     ;
 open_body
-    : T__BLOCK_QUOTE_BEGIN block_body open_strays %prec LOWEST                  { NODE(quoted_body); }
+    : T__BLOCK_QUOTE_BEGIN body_block open_strays %prec LOWEST                  { NODE(quoted_body); }
+    | T__BLOCK_QUOTE_BEGIN body_option_list body_block open_strays %prec LOWEST { NODE(quoted_body); }
     | T__BLOCK_QUOTE_BEGIN open_strays %prec LOWEST                             { NODE(quoted_body); }
     | T__BLOCK_QUOTE_BEGIN open_block %prec LOWEST                              { NODE(quoted_body); }
+    | T__BLOCK_QUOTE_BEGIN body_option_list open_block %prec LOWEST             { NODE(quoted_body); }
     | T__SQL_QUOTE_BEGIN open_sql_body %prec LOWEST                             { NODE(quoted_body); }
     ;
 
-block_body
-    : body_block
-    | body_option_list body_block                                               { NODE(quoted_body); }
-    ;
 body_block
     : last_block                                                                { NODE(body_pl_sql_statements); }
     | ended_block                                                               { NODE(body_pl_sql_statements); }
@@ -81,7 +84,6 @@ label_and_block
     ;
 open_block
     : first_open_block                                                          { NODE(body_pl_sql_statements); }
-    | body_option_list first_open_block                                         { NODE(quoted_body); }
     ;
 first_open_block
     : bare_open_block                                                           { NODE(delimited_pl_sql_statement); }
