@@ -98,7 +98,7 @@ open_list
     | last_in_open_list                                                         { NODE(body_pl_sql_statements); }
     ;
 last_in_open_list
-    : error %prec LOWEST                                                        { NODE(delimited_pl_sql_statement); }
+    : bad_last_statement
     | bad_head %prec LOWEST                                                     { NODE(delimited_pl_sql_statement); }
     | labeled_bad_head %prec LOWEST
     | open_statement

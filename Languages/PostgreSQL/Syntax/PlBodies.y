@@ -27,8 +27,12 @@ stray_statements
 bad_statement
     : error pl_sql_statement_delimiter                                          { NODE(delimited_pl_sql_statement); }
     ;
+/* One that is wrong up to the end of the body. */
+bad_last_statement
+    : error %prec LOWEST                                                        { NODE(delimited_pl_sql_statement); }
+    ;
 open_strays
-    : error %prec LOWEST                                                        { NODE(body_pl_sql_statements); }
+    : bad_last_statement                                                        { NODE(body_pl_sql_statements); }
     | stray_statements last_in_open_list                                        { NODE(body_pl_sql_statements); }
     ;
 
@@ -129,7 +133,7 @@ last_sql_statement
     ;
 bad_sql_statement
     : open_routine                                                              { NODE(delimited_pl_sql_statement); }
-    | error %prec LOWEST                                                        { NODE(delimited_pl_sql_statement); }
+    | bad_last_statement
     ;
 sql_statement
     : statement                                                                 { NODE(pl_sql_statement); }
