@@ -102,7 +102,6 @@ last_in_open_list
     | bad_head %prec LOWEST                                                     { NODE(delimited_pl_sql_statement); }
     | labeled_bad_head %prec LOWEST
     | open_statement
-    | open_routine                                                              { NODE(delimited_pl_sql_statement); }
     ;
 open_statement
     : bare_open_statement                                                       { NODE(delimited_pl_sql_statement); }

@@ -116,8 +116,8 @@ sql_body
     | last_sql_statement                                                        { NODE(body_pl_sql_statements); }
     ;
 open_sql_body
-    : sql_statements bad_sql_statement                                          { NODE(body_pl_sql_statements); }
-    | bad_sql_statement                                                         { NODE(body_pl_sql_statements); }
+    : sql_statements bad_last_statement                                         { NODE(body_pl_sql_statements); }
+    | bad_last_statement                                                        { NODE(body_pl_sql_statements); }
     ;
 sql_statements
     : delimited_sql_statement                                                   { NODE(body_pl_sql_statements); }
@@ -130,10 +130,6 @@ delimited_sql_statement
     ;
 last_sql_statement
     : sql_statement                                                             { NODE(delimited_pl_sql_statement); }
-    ;
-bad_sql_statement
-    : open_routine                                                              { NODE(delimited_pl_sql_statement); }
-    | bad_last_statement
     ;
 sql_statement
     : statement                                                                 { NODE(pl_sql_statement); }
