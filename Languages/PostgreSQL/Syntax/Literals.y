@@ -64,7 +64,6 @@ literal_type_name
     ;
 called_type
     : function_name T__LPAREN argument_list T__RPAREN                           { NODE(data_type); }
-    | function_name T__LPAREN argument_list sort_clause T__RPAREN               { NODE(data_type); }
     ;
 interval_literal_type
     : interval_name                                                             { NODE(data_type); }

@@ -300,7 +300,6 @@ statistics_name_list
     ;
 subscription_name_list
     : subscription_name                                                         { NODE; }
-    | subscription_name_list T__COMMA subscription_name                         { NODE; }
     ;
 tablespace_name_list
     : tablespace_name                                                           { NODE; }

@@ -46,8 +46,7 @@ copied_type
     | type_name T__PERCENT T__ROWTYPE                                           { NODE(data_type); }
     ;
 declared_value
-    : T__NOT T__NULL                                                            { NODE(variable_declaration); }
-    | default_value
+    : default_value
     | T__NOT T__NULL default_value                                              { NODE(variable_declaration); }
     ;
 default_value
