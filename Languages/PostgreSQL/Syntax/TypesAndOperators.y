@@ -73,8 +73,11 @@ create_aggregate_statement
 aggregate_definition
     : T__AGGREGATE function_name aggregate_parameters definitions
       { NODE(create_aggregate_statement); }
-    | T__AGGREGATE function_name T__LPAREN old_aggregate_list T__RPAREN
+    | T__AGGREGATE function_name old_aggregate_options
       { NODE(create_aggregate_statement); }
+    ;
+old_aggregate_options
+    : T__LPAREN old_aggregate_list T__RPAREN                                    { NODE(options); }
     ;
 old_aggregate_list
     : old_aggregate_item                                                        { NODE(option_list); }
