@@ -116,6 +116,56 @@ item: T__BEGIN items T__END T__SEMI { NODE(block); }
     EXPECT_EQ(Tables(File("own/written/L.l"), File("own/written/P.y")), wanted);
 }
 
+// Names together, an action for all, parts that may be left out, choices, and clauses in their order.
+TEST_F(UvgrammarForms, ShortRulesGiveTheTablesOfThoseWrittenOut)
+{
+    const std::string head =
+        "%token T__BEGIN T__END T__SET T__ID T__SEMI T__COMMA T__OTHER\n%start SQL_ROOT\n%%\n";
+    const auto wanted = Tables(kLexer, head + R"(SQL_ROOT: names { CREATE_NODE(SQL, 1); } ;
+names: item { CREATE_NODE(names, 1); }
+     | names item { CREATE_NODE(names, 2); } ;
+item: T__BEGIN T__END { CREATE_NODE(item, 2); }
+    | T__BEGIN T__ID T__SET T__END %prec T__SET { CREATE_NODE(item, 4); }
+    | T__BEGIN T__COMMA clauses T__END { CREATE_NODE(item, 4); }
+    | T__BEGIN T__SEMI clauses T__END { CREATE_NODE(item, 4); }
+    | T__BEGIN T__COMMA clauses T__OTHER T__END { CREATE_NODE(item, 5); }
+    | T__BEGIN T__SEMI clauses T__OTHER T__END { CREATE_NODE(item, 5); }
+    | error T__SEMI { CREATE_NODE_WITH_ERROR(bad, 2, 0); }
+    | T__END until T__SEMI { CREATE_NODE(item, 3); }
+    | one ;
+one: T__SET ;
+one: T__SET T__COMMA { CREATE_NODE(item, 2); } ;
+clauses: into
+       | into clauses_from_from { CREATE_NODE(query, 2); }
+       | clauses_from_from ;
+clauses_from_from: from
+                 | from where { CREATE_NODE(query, 2); }
+                 | where ;
+into: T__ID { CREATE_NODE(clause, 1); } ;
+from: T__SET T__ID { CREATE_NODE(clause, 2); } ;
+from: T__SET T__ID T__ID { CREATE_NODE(clause, 3); } ;
+until: T__SET T__ID { CREATE_NODE(clause, 2); } | T__SET T__ID T__ID { CREATE_NODE(clause, 3); } ;
+where: T__COMMA { CREATE_NODE(where, 1); } ;
+%%
+)");
+    const auto found = Tables(kLexer, head + R"(SQL_ROOT { NODE(SQL); }: names ;
+%list names: item %short ;
+item { NODE; }
+    : T__BEGIN (T__ID T__SET)? T__END %prec T__SET
+    | T__BEGIN (T__COMMA | T__SEMI) clauses T__OTHER? T__END
+    | error T__SEMI { NODE(bad); }
+    | T__END until T__SEMI
+    | one { PART; } ;
+one: T__SET T__COMMA? { PART(item); }
+%parts clauses: into from where %node query ;
+into { NODE(clause); }: T__ID ;
+from, until { NODE(clause); }: T__SET T__ID T__ID? ;
+where { NODE; }: T__COMMA ;
+%%
+)");
+    EXPECT_EQ(found, wanted);
+}
+
 // A list against its rules written out. `%deep` has too many to write here: the languages' own tests count them.
 TEST_F(UvgrammarForms, AListGivesTheTablesOfItsRules)
 {
@@ -278,6 +328,18 @@ TEST_F(UvgrammarForms, WhatTheFormsCantMeanIsRefusedWithItsPlace)
         {"name: T__ID", "%list l: x %trailing ;\nname: T__ID", "error: a list without a separator"},
         {"name: T__ID", "%list l: x %separator T__COMMA %last y %trailing ;\nname: T__ID",
          "error: a list with another last item doesn't end"},
+        {"name: T__ID", "%list l: x %short %deep ;\nname: T__ID", "error: a short list takes"},
+        {"name: T__ID", "%list l, m: x ;\nname: T__ID", "error: %list has one name"},
+        {"name: T__ID", "%parts l: x ;\nname: T__ID", "error: %parts takes two symbols"},
+        {"name: T__ID", "name: ? T__ID", "own/P.y:10:7: error: '?' can't stand here"},
+        {"name: T__ID", "name: T__ID ) T__ID", "error: ')' can't stand here"},
+        {"name: T__ID", "name: (T__ID | ) T__ID", "own/P.y:10:8: error: a choice in brackets holds nothing"},
+        {"name: T__ID", "name: (T__ID { NODE; }) T__ID", "error: '{ NODE; }' can't stand here"},
+        {"name: T__ID", "name: T__ID (T__SET | T__SEMI ;\nother: T__ID",
+         "own/P.y:10:14: error: the bracket is never closed"},
+        {"name: T__ID", "name: T__ID? T__SET?", "error: all of the alternative may be left out"},
+        {"name: T__ID", "name: T__ID? T__ID? T__ID? T__ID? T__ID? T__ID? T__ID? T__SET",
+         "error: an alternative stands for no more than 64"},
         {"%start", "%keywords \"Bad.words\"\n%start",
          "own/Bad.words:2:1: error: the word one is there already, in own/Bad.words:1"},
         {"%start", "%keywords \"Bad.words\"\n%start",

@@ -64,6 +64,16 @@ std::vector<std::string> Joined(std::vector<std::string> symbols, const std::str
     return symbols;
 }
 
+std::string ShortRules(const SListRule& list)
+{
+    CRuleWriter rules(list.node);
+    rules.Begin(list.name);
+    rules.Alternative({list.item});
+    rules.Alternative(Joined({list.name}, list.separator, list.item));
+    rules.End();
+    return rules.Take();
+}
+
 // Chunks of eight items, and the chunks one after the other.
 std::string FlatRules(const SListRule& list)
 {
@@ -172,5 +182,26 @@ std::string ListRules(const SListRule& list)
         rules = whole.item + "\n    : " + list.item + "\n    | error { CREATE_NODE_WITH_ERROR(" + list.error +
                 ", 1, 0); }\n    ;\n";
     }
+    if (list.isShort)
+        return ShortRules(whole) + rules;
     return (list.isDeep ? DeepRules(whole) : FlatRules(whole)) + rules;
+}
+
+std::string PartsRules(const SPartsRule& parts)
+{
+    CRuleWriter rules(parts.node);
+    std::string name = parts.name;
+    for (std::size_t i = 0; i + 1 < parts.symbols.size(); ++i) {
+        const std::string& symbol = parts.symbols[i];
+        const std::string& next = parts.symbols[i + 1];
+        const bool isLastPair = i + 2 == parts.symbols.size();
+        const std::string rest = isLastPair ? next : std::string(parts.name).append("_from_").append(next);
+        rules.Begin(name);
+        rules.Alternative({symbol}, false);
+        rules.Alternative({symbol, rest});
+        rules.Alternative({rest}, false);
+        rules.End();
+        name = rest;
+    }
+    return rules.Take();
 }

@@ -1,6 +1,7 @@
 // The rules section of a parser source and of the fragments that it includes.
 #pragma once
 
+#include "Tools/uvgrammar/AlternativeParts.h"
 #include "Tools/uvgrammar/BisonReader.h"
 #include "Tools/uvgrammar/ListRules.h"
 #include "Tools/uvgrammar/SourceFile.h"
@@ -19,8 +20,10 @@ struct SAlternative
     std::size_t end = 0;
     std::vector<std::string> symbols;
     std::vector<std::string> groups; // of %words
+    std::string precedence;          // "%prec" with its operand
     std::size_t actionBegin = 0;     // equal to actionEnd without an action
     std::size_t actionEnd = 0;
+    bool isWrittenOut = false; // it isn't what stands in the file from `begin` to `end`, but made of it
     bool isDropped = false;
 };
 
@@ -28,6 +31,7 @@ enum class enRuleItem
 {
     Rule,
     List,
+    Parts,
     Without,
     Other // bison's own affair, copied as it stands
 };
@@ -39,10 +43,12 @@ struct SRuleItem
     std::size_t begin = 0;
     std::size_t end = 0;
     std::string left;
+    bool hasOwnHead = false; // the name isn't all that stands before the colon
     bool replaces = false;
     bool isDropped = false;
     std::vector<SAlternative> alternatives;
     SListRule list;
+    SPartsRule parts;
 };
 
 // Reads rules from an offset to the end of the text or to a "%%".
@@ -59,8 +65,14 @@ public:
 private:
     void ReadDirective(std::vector<SRuleItem>& items, const SBisonWord& directive);
     void ReadRule(SRuleItem item, std::vector<SRuleItem>& items);
-    void ReadAlternative(SAlternative& alternative);
+    std::vector<SAlternative> ReadAlternative(const SBisonWord& mark, const SBisonWord& headAction);
+    void ReadParts(SAlternative& alternative, AlternativeParts& parts, bool isInBrackets);
+    void ReadBrackets(SAlternative& alternative, AlternativeParts& parts);
+    void ReadWords(SAlternative& alternative, const SBisonWord& directive);
+    bool EndsParts(const SBisonWord& word) const;
+    bool Is(const SBisonWord& word, std::string_view text) const { return m_Words.TextOf(word) == text; }
     void ReadList(SRuleItem item, std::vector<SRuleItem>& items);
+    void ReadPartsRule(SRuleItem item, std::vector<SRuleItem>& items);
     void SkipRest(SRuleItem item, std::vector<SRuleItem>& items);
     bool BeginsRule(const SBisonWord& word) const;
     void Error(std::size_t offset, const std::string& text);

@@ -14,22 +14,26 @@ namespace {
 
 constexpr std::string_view kNameBytes = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
 
-// "NODE;" or "NODE(name);" in an action.
+// "NODE;", "NODE(name);", or the same with "PART", in an action. A part is a node only if it holds several symbols.
 struct SNodeForm
 {
     std::size_t begin = std::string_view::npos;
     std::size_t end = 0;
     std::string name;
+    bool isPart = false;
 };
 
 SNodeForm FindNodeForm(std::string_view action)
 {
-    constexpr std::string_view kWord = "NODE";
-    for (std::size_t at = 0; (at = action.find(kWord, at)) != std::string_view::npos; at += kWord.size()) {
-        if (at > 0 && kNameBytes.find(action[at - 1]) != std::string_view::npos)
+    constexpr std::string_view kNode = "NODE", kPart = "PART";
+    static_assert(kNode.size() == kPart.size());
+    for (std::size_t at = 0; at + kNode.size() < action.size(); ++at) {
+        const std::string_view word = action.substr(at, kNode.size());
+        if ((word != kNode && word != kPart) ||
+            (at > 0 && kNameBytes.find(action[at - 1]) != std::string_view::npos))
             continue;
-        std::size_t end = action.find_first_not_of(" \t\r\n", at + kWord.size());
-        SNodeForm form{at, 0, {}};
+        std::size_t end = action.find_first_not_of(" \t\r\n", at + kNode.size());
+        SNodeForm form{at, 0, {}, word == kPart};
         if (end != std::string_view::npos && action[end] == '(') {
             const std::size_t close = action.find(')', end);
             if (close == std::string_view::npos)
@@ -158,7 +162,8 @@ private:
 
     bool HasRule(const SRuleItem& item) const
     {
-        return !item.isDropped && (item.kind == enRuleItem::Rule || item.kind == enRuleItem::List);
+        return !item.isDropped && (item.kind == enRuleItem::Rule || item.kind == enRuleItem::List ||
+                                   item.kind == enRuleItem::Parts);
     }
 
     void ApplyReplacements()
@@ -231,6 +236,8 @@ private:
     {
         if (item.kind == enRuleItem::List)
             return {item.list.item, item.list.separator, item.list.last};
+        if (item.kind == enRuleItem::Parts)
+            return item.parts.symbols;
         std::vector<std::string> symbols;
         for (const SAlternative& alternative : item.alternatives) {
             if (!alternative.isDropped)
@@ -276,6 +283,8 @@ private:
                 text.Copy(*item.file, item.begin, item.end);
             else if (item.kind == enRuleItem::List && !item.isDropped)
                 text.Write(*item.file, item.begin, ListRules(item.list), ++m_Lists);
+            else if (item.kind == enRuleItem::Parts && !item.isDropped)
+                text.Write(*item.file, item.begin, PartsRules(item.parts));
             else if (item.kind == enRuleItem::Rule && !item.isDropped)
                 WriteRule(text, item);
         }
@@ -285,46 +294,74 @@ private:
     {
         const CSourceFile& file = *item.file;
         bool isFirst = true;
-        text.Copy(file, item.begin, item.alternatives.front().mark);
+        const std::size_t colon = item.alternatives.front().mark;
+        if (item.hasOwnHead)
+            text.Write(file, item.begin, item.left);
+        else
+            text.Copy(file, item.begin, colon);
         for (const SAlternative& alternative : item.alternatives) {
             if (alternative.isDropped)
                 continue;
             if (!alternative.groups.empty())
                 WriteWords(text, item, alternative, isFirst);
-            else {
-                const bool hasColon = alternative.mark == item.alternatives.front().mark;
-                std::size_t begin = alternative.mark;
-                if (hasColon != isFirst) {
-                    text.Write(file, alternative.mark, isFirst ? ":" : "|");
-                    begin = alternative.begin;
-                }
-                WriteAlternative(text, item, alternative, begin);
-            }
+            else if (alternative.isWrittenOut || (alternative.mark == colon) != isFirst ||
+                     FindNodeForm(ActionOf(item, alternative)).isPart)
+                WriteWrittenOut(text, item, alternative, isFirst);
+            else
+                WriteAlternative(text, item, alternative);
             isFirst = false;
         }
         text.Write(file, item.end - 1, ";\n");
     }
 
-    void WriteAlternative(CAssembledText& text, const SRuleItem& item, const SAlternative& alternative,
-                          std::size_t begin)
+    // As it stands there, so that bison's messages find the column.
+    static void WriteAlternative(CAssembledText& text, const SRuleItem& item, const SAlternative& alternative)
     {
         const CSourceFile& file = *item.file;
-        const std::string_view action =
-            std::string_view(file.Text())
-                .substr(alternative.actionBegin, alternative.actionEnd - alternative.actionBegin);
-        const SNodeForm form = FindNodeForm(action);
+        const SNodeForm form = FindNodeForm(ActionOf(item, alternative));
         if (form.begin == std::string_view::npos) {
-            text.Copy(file, begin, alternative.end);
+            text.Copy(file, alternative.mark, alternative.end);
             return;
         }
         const std::size_t at = alternative.actionBegin + form.begin;
-        text.Copy(file, begin, at);
-        text.Write(file, at, NodeStatement(form.name.empty() ? item.left : form.name, alternative.symbols));
+        text.Copy(file, alternative.mark, at);
+        text.Write(file, at, NodeStatement(form, item.left, alternative.symbols));
         text.Copy(file, alternative.actionBegin + form.end, alternative.end);
     }
 
-    static std::string NodeStatement(const std::string& name, const std::vector<std::string>& symbols)
+    void WriteWrittenOut(CAssembledText& text, const SRuleItem& item, const SAlternative& alternative,
+                         bool isFirst)
     {
+        std::string rule = isFirst ? "    :" : "    |";
+        for (const std::string& symbol : alternative.symbols)
+            rule.append(1, ' ').append(symbol);
+        if (alternative.symbols.empty())
+            rule += " %empty";
+        rule.append(1, ' ').append(alternative.precedence).append(1, ' ');
+        const std::string_view action = ActionOf(item, alternative);
+        const SNodeForm form = FindNodeForm(action);
+        std::string written(action);
+        if (form.begin != std::string_view::npos)
+            written.replace(form.begin, form.end - form.begin,
+                            NodeStatement(form, item.left, alternative.symbols));
+        if (written.find_first_not_of("{} \t\r\n") != std::string::npos)
+            rule += written;
+        std::replace(rule.begin(), rule.end(), '\n', ' ');
+        text.Write(*item.file, alternative.mark, rule + '\n');
+    }
+
+    static std::string_view ActionOf(const SRuleItem& item, const SAlternative& alternative)
+    {
+        return std::string_view(item.file->Text())
+            .substr(alternative.actionBegin, alternative.actionEnd - alternative.actionBegin);
+    }
+
+    static std::string NodeStatement(const SNodeForm& form, const std::string& left,
+                                     const std::vector<std::string>& symbols)
+    {
+        const std::string& name = form.name.empty() ? left : form.name;
+        if (form.isPart && symbols.size() == 1)
+            return {};
         const std::string count = std::to_string(symbols.size());
         if (symbols.empty())
             return "EMPTY(" + name + ");";
@@ -339,11 +376,9 @@ private:
                     bool isFirst)
     {
         const CSourceFile& file = *item.file;
-        std::string action =
-            file.Text().substr(alternative.actionBegin, alternative.actionEnd - alternative.actionBegin);
+        std::string action(ActionOf(item, alternative));
         if (const SNodeForm form = FindNodeForm(action); form.begin != std::string_view::npos)
-            action.replace(form.begin, form.end - form.begin,
-                           NodeStatement(form.name.empty() ? item.left : form.name, {"word"}));
+            action.replace(form.begin, form.end - form.begin, NodeStatement(form, item.left, {"word"}));
         for (const std::string& group : alternative.groups) {
             if (!m_Keywords.HasGroup(group))
                 Error(file, file.Text().find('%', alternative.begin), "no word is in the group " + group);
