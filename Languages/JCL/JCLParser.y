@@ -18,281 +18,117 @@
 %start SQL_ROOT
 %%
 
-SQL_ROOT
-    : %empty                                                                   { NODE(SQL); }
-    | pl_sql_statements                                                        { NODE(SQL); }
-    ;
+SQL_ROOT { NODE(SQL); }: %empty | pl_sql_statements ;
 
 /* Statements come in chunks of chunks under one name, so that a long job doesn't become a deep chain. */
 %list pl_sql_statements: statement %last last_statement %deep ;
 
 /* What stands in a last line without its end. A rule may end in an error where nothing but the end of the text
    follows: anywhere else the parser would raise the error again on the same token. */
-last_statement
-    : pl_sql_statement
-    | bad_end                                                                  { NODE(pl_sql_statement); }
-    ;
-bad_end
-    : error                                                                    { NODE(error_statement); }
-    | T__SLASHES error                                                         { NODE(error_statement); }
-    | T__SLASHES statement_name error                                          { NODE(error_statement); }
-    | statement_head error                                                     { NODE(error_statement); }
-    ;
+last_statement: pl_sql_statement | bad_end  { NODE(pl_sql_statement); } ;
+bad_end { NODE(error_statement); }
+    : error
+    | T__SLASHES error
+    | T__SLASHES statement_name error
+    | statement_head error ;
 
 /* Data end at their delimiter or, without one, at the next statement. */
-statement
-    : pl_sql_statement line_end                                                { NODE(delimited_pl_sql_statement); }
-    | bad_statement                                                            { NODE(delimited_pl_sql_statement); }
-    | statement_with_data
-    | statement_with_data data_end                                             { NODE(delimited_pl_sql_statement); }
-    | loose_data
-    | T__LOOSE_DELIMITER                                                       { NODE(delimited_pl_sql_statement); }
-    ;
-line_end
-    : T__LINE_END                                                              { NODE(pl_sql_statement_delimiter); }
-    ;
-data_end
-    : T__DELIMITER                                                             { NODE(pl_sql_statement_delimiter); }
-    ;
+statement { NODE(delimited_pl_sql_statement); }
+    : pl_sql_statement line_end
+    | bad_statement
+    | statement_with_data  { PART; }
+    | statement_with_data data_end
+    | loose_data  { PART; }
+    | T__LOOSE_DELIMITER ;
+line_end { NODE(pl_sql_statement_delimiter); }: T__LINE_END ;
+data_end { NODE(pl_sql_statement_delimiter); }: T__DELIMITER ;
 
 /* An error costs its statement: what isn't the head of it becomes space. Its data stay data. */
-bad_statement
-    : bad_line                                                                 { NODE(pl_sql_statement); }
-    ;
-bad_line
-    : error T__LINE_END                                                        { NODE(error_statement); }
-    | T__SLASHES error T__LINE_END                                             { NODE(error_statement); }
-    | T__SLASHES statement_name error T__LINE_END                              { NODE(error_statement); }
-    | statement_head error T__LINE_END                                         { NODE(error_statement); }
-    ;
-statement_with_data
-    : dd_statement_with_data                                                   { NODE(pl_sql_statement); }
-    | bad_line_with_data                                                       { NODE(pl_sql_statement); }
-    ;
+bad_statement { NODE(pl_sql_statement); }: bad_line ;
+bad_line { NODE(error_statement); }
+    : error T__LINE_END
+    | T__SLASHES error T__LINE_END
+    | T__SLASHES statement_name error T__LINE_END
+    | statement_head error T__LINE_END ;
+statement_with_data { NODE(pl_sql_statement); }: dd_statement_with_data | bad_line_with_data ;
 /* Data come after slashes, so there is no error without them. */
-bad_line_with_data
-    : T__SLASHES error instream_data                                           { NODE(error_statement); }
-    | T__SLASHES statement_name error instream_data                            { NODE(error_statement); }
-    | statement_head error instream_data                                       { NODE(error_statement); }
-    ;
+bad_line_with_data { NODE(error_statement); }
+    : T__SLASHES error instream_data
+    | T__SLASHES statement_name error instream_data
+    | statement_head error instream_data ;
 
-pl_sql_statement
-    : job_statement                                                            { NODE; }
-    | exec_statement                                                           { NODE; }
-    | dd_statement                                                             { NODE; }
-    | proc_statement                                                           { NODE; }
-    | pend_statement                                                           { NODE; }
-    | set_statement                                                            { NODE; }
-    | include_statement                                                        { NODE; }
-    | jcllib_statement                                                         { NODE; }
-    | if_statement                                                             { NODE; }
-    | else_statement                                                           { NODE; }
-    | endif_statement                                                          { NODE; }
-    | output_statement                                                         { NODE; }
-    | cntl_statement                                                           { NODE; }
-    | endcntl_statement                                                        { NODE; }
-    | printdev_statement                                                       { NODE; }
-    | command_statement                                                        { NODE; }
-    | export_statement                                                         { NODE; }
-    | notify_statement                                                         { NODE; }
-    | schedule_statement                                                       { NODE; }
-    | xmit_statement                                                           { NODE; }
-    | null_statement                                                           { NODE; }
-    | jes2_statement                                                           { NODE; }
-    | jes3_statement                                                           { NODE; }
-    ;
+pl_sql_statement { NODE; }
+    : job_statement | exec_statement | dd_statement | proc_statement | pend_statement | set_statement
+    | include_statement | jcllib_statement | if_statement | else_statement | endif_statement
+    | output_statement | cntl_statement | endcntl_statement | printdev_statement | command_statement
+    | export_statement | notify_statement | schedule_statement | xmit_statement | null_statement
+    | jes2_statement | jes3_statement ;
 
-statement_head
-    : T__SLASHES %prec HEAD                                                    { NODE; }
-    | T__SLASHES statement_name %prec HEAD                                     { NODE; }
-    ;
+statement_head { NODE; }: T__SLASHES statement_name? %prec HEAD ;
 /* A name with a period in it: the step of a procedure, and its DD statement that is overridden. */
-statement_name
-    : T__NAME                                                                  { NODE; }
-    | statement_name T__PERIOD T__NAME                                         { NODE; }
-    ;
-null_statement
-    : T__SLASHES                                                               { NODE; }
-    ;
+statement_name { NODE; }: T__NAME | statement_name T__PERIOD T__NAME ;
+null_statement { NODE; }: T__SLASHES ;
 
-job_statement
-    : statement_head T__JOB                                                    { NODE; }
-    | statement_head T__JOB operands                                           { NODE; }
-    ;
-exec_statement
-    : statement_head T__EXEC exec_target                                       { NODE; }
-    | statement_head T__EXEC exec_target T__COMMA operands                     { NODE; }
-    ;
-exec_target
-    : T__PGM T__EQUALS parameter_value                                         { NODE(exec_program); }
-    | T__PROC T__EQUALS parameter_value                                        { NODE(exec_procedure); }
-    | parameter_value                                                          { NODE(exec_procedure); }
-    ;
-dd_statement
-    : statement_head T__DD                                                     { NODE; }
-    | statement_head T__DD operands                                            { NODE; }
-    ;
-dd_statement_with_data
-    : statement_head T__DD operands instream_data                              { NODE(dd_statement); }
-    | statement_head T__XMIT operands instream_data                            { NODE(xmit_statement); }
-    | statement_head T__XMIT instream_data                                     { NODE(xmit_statement); }
-    ;
-xmit_statement
-    : statement_head T__XMIT                                                   { NODE; }
-    | statement_head T__XMIT operands                                          { NODE; }
-    ;
-proc_statement
-    : statement_head T__PROC                                                   { NODE; }
-    | statement_head T__PROC operands                                          { NODE; }
-    ;
-pend_statement
-    : statement_head T__PEND                                                   { NODE; }
-    ;
-else_statement
-    : statement_head T__ELSE                                                   { NODE; }
-    ;
-endif_statement
-    : statement_head T__ENDIF                                                  { NODE; }
-    ;
-endcntl_statement
-    : statement_head T__ENDCNTL                                                { NODE; }
-    ;
-set_statement
-    : statement_head T__SET operands                                           { NODE; }
-    ;
-include_statement
-    : statement_head T__INCLUDE operands                                       { NODE; }
-    ;
-jcllib_statement
-    : statement_head T__JCLLIB operands                                        { NODE; }
-    ;
-command_statement
-    : statement_head T__COMMAND operands                                       { NODE; }
-    ;
-export_statement
-    : statement_head T__EXPORT operands                                        { NODE; }
-    ;
-notify_statement
-    : statement_head T__NOTIFY operands                                        { NODE; }
-    ;
-schedule_statement
-    : statement_head T__SCHEDULE operands                                      { NODE; }
-    ;
-printdev_statement
-    : statement_head T__PRINTDEV operands                                      { NODE; }
-    ;
-output_statement
-    : statement_head T__OUTPUT                                                 { NODE; }
-    | statement_head T__OUTPUT operands                                        { NODE; }
-    ;
-cntl_statement
-    : statement_head T__CNTL                                                   { NODE; }
-    | statement_head T__CNTL operands                                          { NODE; }
-    ;
-if_statement
-    : statement_head T__IF expression T__THEN                                  { NODE; }
-    ;
-jes2_statement
-    : T__JES2                                                                  { NODE(jes2_statement); }
-    | T__JES2 T__JES_TEXT                                                      { NODE(jes2_statement); }
-    | T__JES2_JOBPARM                                                          { NODE(jes2_statement); }
-    | T__JES2_JOBPARM operands                                                 { NODE(jes2_statement); }
-    ;
-jes3_statement
-    : T__JES3                                                                  { NODE(jes3_statement); }
-    | T__JES3 T__JES_TEXT                                                      { NODE(jes3_statement); }
-    ;
+job_statement { NODE; }: statement_head T__JOB operands? ;
+exec_statement { NODE; }: statement_head T__EXEC exec_target (T__COMMA operands)? ;
+exec_target { NODE(exec_procedure); }
+    : T__PGM T__EQUALS parameter_value  { NODE(exec_program); }
+    | (T__PROC T__EQUALS)? parameter_value ;
+dd_statement { NODE; }: statement_head T__DD operands? ;
+dd_statement_with_data { NODE(xmit_statement); }
+    : statement_head T__DD operands instream_data  { NODE(dd_statement); }
+    | statement_head T__XMIT operands? instream_data ;
+xmit_statement { NODE; }: statement_head T__XMIT operands? ;
+proc_statement { NODE; }: statement_head T__PROC operands? ;
+pend_statement { NODE; }: statement_head T__PEND ;
+else_statement { NODE; }: statement_head T__ELSE ;
+endif_statement { NODE; }: statement_head T__ENDIF ;
+endcntl_statement { NODE; }: statement_head T__ENDCNTL ;
+set_statement { NODE; }: statement_head T__SET operands ;
+include_statement { NODE; }: statement_head T__INCLUDE operands ;
+jcllib_statement { NODE; }: statement_head T__JCLLIB operands ;
+command_statement { NODE; }: statement_head T__COMMAND operands ;
+export_statement { NODE; }: statement_head T__EXPORT operands ;
+notify_statement { NODE; }: statement_head T__NOTIFY operands ;
+schedule_statement { NODE; }: statement_head T__SCHEDULE operands ;
+printdev_statement { NODE; }: statement_head T__PRINTDEV operands ;
+output_statement { NODE; }: statement_head T__OUTPUT operands? ;
+cntl_statement { NODE; }: statement_head T__CNTL operands? ;
+if_statement { NODE; }: statement_head T__IF expression T__THEN ;
+jes2_statement { NODE; }: T__JES2 T__JES_TEXT? | T__JES2_JOBPARM operands? ;
+jes3_statement { NODE; }: T__JES3 T__JES_TEXT? ;
 
 /* The first operand may be left out, the last one may not: a comma at the end of a line asks for another line. */
-operands
-    : operand                                                                  { NODE; }
-    | T__COMMA operand                                                         { NODE; }
-    | operands T__COMMA operand                                                { NODE; }
-    ;
-operand
-    : parameter
-    | parameter_value
-    ;
-parameter
-    : parameter_name T__EQUALS                                                 { NODE; }
-    | parameter_name T__EQUALS parameter_value                                 { NODE; }
-    | parameter_name T__EQUALS parameter_in_value                              { NODE; }
-    ;
+operands { NODE; }: operand | operands? T__COMMA operand ;
+operand: parameter | parameter_value ;
+parameter { NODE; }: parameter_name T__EQUALS (parameter_value | parameter_in_value)? ;
 /* VOL=SER=A: the value of one is another. */
-parameter_in_value
-    : parameter                                                                { NODE(parameter_value); }
-    ;
+parameter_in_value { NODE(parameter_value); }: parameter ;
 /* PARM.STEP= speaks to a step of the procedure. */
-parameter_name
-    : keyword                                                                  { NODE; }
-    | keyword T__PERIOD keyword                                                { NODE; }
-    ;
-keyword
-    : T__KEYWORD
-    | T__PGM
-    | T__PROC
-    ;
+parameter_name { NODE; }: keyword | keyword T__PERIOD keyword ;
+keyword: T__KEYWORD | T__PGM | T__PROC ;
 /* Pieces that stand side by side make one value: &HLQ..DATA(MEMBER). */
-parameter_value
-    : value_piece                                                              { NODE; }
-    | parameter_value value_piece                                              { NODE; }
-    | parameter_value keyword                                                  { NODE; }
-    | parameter_value T__EQUALS                                                { NODE; }
-    ;
+parameter_value { NODE; }: parameter_value? value_piece | parameter_value (keyword | T__EQUALS) ;
 value_piece
-    : T__WORD
-    | T__NUMBER
-    | T__STRING
-    | T__SYMBOL
-    | T__TEMPORARY
-    | T__ASTERISK
-    | T__REFERENCE
-    | parameter_list
-    ;
-parameter_list
-    : T__LPAREN T__RPAREN                                                      { NODE; }
-    | T__LPAREN parameter_list_items T__RPAREN                                 { NODE; }
-    ;
-parameter_list_items
-    : operand                                                                  { NODE; }
-    | T__COMMA                                                                 { NODE; }
-    | T__COMMA operand                                                         { NODE; }
-    | parameter_list_items T__COMMA                                            { NODE; }
-    | parameter_list_items T__COMMA operand                                    { NODE; }
-    ;
+    : T__WORD | T__NUMBER | T__STRING | T__SYMBOL | T__TEMPORARY | T__ASTERISK | T__REFERENCE | parameter_list ;
+parameter_list { NODE; }: T__LPAREN parameter_list_items? T__RPAREN ;
+parameter_list_items { NODE; }: operand | parameter_list_items? T__COMMA operand? ;
 
 /* ---- IF ---- */
 
-expression
-    : expression T__OR expression                                              { NODE; }
-    | expression T__AND expression                                             { NODE; }
-    | T__NOT expression                                                        { NODE; }
-    | T__LPAREN expression T__RPAREN                                           { NODE; }
-    | condition_operand T__COMPARISON condition_operand                        { NODE; }
-    | condition_operand                                                        { NODE; }
-    ;
-condition_operand
-    : T__WORD
-    | T__NUMBER
-    | T__SYMBOL
-    | T__STRING
-    ;
+expression { NODE; }
+    : expression (T__OR | T__AND) expression
+    | T__NOT expression
+    | T__LPAREN expression T__RPAREN
+    | condition_operand (T__COMPARISON condition_operand)? ;
+condition_operand: T__WORD | T__NUMBER | T__SYMBOL | T__STRING ;
 
 /* ---- Data in the stream ---- */
 
-instream_data
-    : T__DATA_START                                                            { NODE; }
-    | T__DATA_START instream_line_list                                         { NODE; }
-    ;
+instream_data { NODE; }: T__DATA_START instream_line_list? ;
 /* A line that belongs to no DD statement: the system makes one for it. */
-loose_data
-    : loose_line                                                               { NODE(pl_sql_statement); }
-    ;
-loose_line
-    : loose_text                                                               { NODE(loose_data_statement); }
-    ;
-loose_text
-    : T__LOOSE_DATA                                                            { NODE(instream_data); }
-    ;
+loose_data { NODE(pl_sql_statement); }: loose_line ;
+loose_line { NODE(loose_data_statement); }: loose_text ;
+loose_text { NODE(instream_data); }: T__LOOSE_DATA ;
 %list instream_line_list: T__DATA %deep ;
 %%

@@ -1,270 +1,88 @@
 /* INSERT, UPDATE, DELETE, MERGE. */
 
-insert_statement
-    : insert_core
-    | with_clause insert_core                                                   { NODE; }
-    ;
-insert_core
-    : T__INSERT T__INTO insert_target insert_source                             { NODE(insert_statement); }
-    | T__INSERT T__INTO insert_target insert_source insert_tail                 { NODE(insert_statement); }
-    ;
-insert_target
-    : table_name                                                                { NODE(table_reference); }
-    | table_name T__AS alias                                                    { NODE(table_reference); }
-    ;
-insert_source
+insert_statement { PART; }: with_clause? insert_core ;
+insert_core { NODE(insert_statement); }: T__INSERT T__INTO insert_target insert_source insert_tail? ;
+insert_target { NODE(table_reference); }: table_name (T__AS alias)? ;
+insert_source { PART(insert_statement); }
     : query
-    | T__OVERRIDING overriding_kind T__VALUE query                              { NODE(insert_statement); }
-    | insert_columns query                                                      { NODE(insert_statement); }
-    | insert_columns T__OVERRIDING overriding_kind T__VALUE query               { NODE(insert_statement); }
-    | T__DEFAULT T__VALUES                                                      { NODE(insert_statement); }
-    ;
-overriding_kind
-    : T__USER
-    | T__SYSTEM
-    ;
-insert_columns
-    : T__LPAREN target_column_list T__RPAREN                                    { NODE(columns); }
-    ;
+    | insert_columns? T__OVERRIDING overriding_kind T__VALUE query
+    | insert_columns query
+    | T__DEFAULT T__VALUES ;
+overriding_kind: T__USER | T__SYSTEM ;
+insert_columns { NODE(columns); }: T__LPAREN target_column_list T__RPAREN ;
 %list target_column_list: target_column %separator T__COMMA ;
 
-target_column
-    : column_name                                                               { NODE; }
-    | column_name indirection                                                   { NODE; }
-    ;
-insert_tail
-    : conflict_clause
-    | conflict_clause returning_clause                                          { NODE(insert_statement); }
-    | returning_clause
-    ;
-conflict_clause
-    : T__ON T__CONFLICT conflict_action                                         { NODE; }
-    | T__ON T__CONFLICT conflict_target conflict_action                         { NODE; }
-    ;
-conflict_target
-    : T__LPAREN index_element_list T__RPAREN                                    { NODE; }
-    | T__LPAREN index_element_list T__RPAREN where_clause                       { NODE; }
-    | T__ON T__CONSTRAINT constraint_name                                       { NODE; }
-    ;
-conflict_action
-    : T__DO T__NOTHING                                                          { NODE; }
-    | T__DO T__UPDATE T__SET set_list                                           { NODE; }
-    | T__DO T__UPDATE T__SET set_list where_clause                              { NODE; }
-    ;
-returning_clause
-    : T__RETURNING select_list                                                  { NODE; }
-    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list { NODE; }
-    | T__RETURNING select_list into_variables                                   { NODE; }
-    | T__RETURNING into_variables select_list                                   { NODE; }
-    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list into_variables  { NODE; }
-    ;
-returning_alias_list
-    : returning_alias                                                           { NODE; }
-    | returning_alias_list T__COMMA returning_alias                             { NODE; }
-    ;
-returning_alias
-    : old_or_new T__AS alias                                                    { NODE; }
-    ;
+target_column { NODE; }: column_name indirection? ;
+%parts insert_tail: conflict_clause returning_clause %node insert_statement ;
+conflict_clause { NODE; }: T__ON T__CONFLICT conflict_target? conflict_action ;
+conflict_target { NODE; }
+    : T__LPAREN index_element_list T__RPAREN where_clause?
+    | T__ON T__CONSTRAINT constraint_name ;
+conflict_action { NODE; }: T__DO T__NOTHING | T__DO T__UPDATE T__SET set_list where_clause? ;
+returning_clause { NODE; }
+    : T__RETURNING (T__WITH T__LPAREN returning_alias_list T__RPAREN)? select_list into_variables?
+    | T__RETURNING into_variables select_list ;
+%list returning_alias_list: returning_alias %short %separator T__COMMA ;
+returning_alias { NODE; }: old_or_new T__AS alias ;
 
-update_statement
-    : update_core
-    | with_clause update_core                                                   { NODE; }
-    ;
-update_core
-    : T__UPDATE target_relation T__SET set_list                                 { NODE(update_statement); }
-    | T__UPDATE target_relation T__SET set_list update_tail                     { NODE(update_statement); }
-    ;
-update_tail
-    : from_clause
-    | from_clause update_where_part                                             { NODE(update_statement); }
-    | update_where_part
-    ;
-update_where_part
-    : dml_where
-    | dml_where returning_clause                                                { NODE(update_statement); }
-    | returning_clause
-    ;
-dml_where
-    : where_clause
-    | T__WHERE T__CURRENT T__OF cursor_name                                     { NODE(where_clause); }
-    ;
-target_relation
-    : relation %prec UMINUS                                                     { NODE(table_reference); }
-    | relation alias                                                            { NODE(table_reference); }
-    | relation T__AS alias                                                      { NODE(table_reference); }
-    ;
-set_list
-    : set_item                                                                  { NODE; }
-    | set_list T__COMMA set_item                                                { NODE; }
-    ;
-set_item
-    : target_column T__EQUAL expression                                         { NODE; }
-    | insert_columns T__EQUAL expression                                        { NODE; }
-    ;
+update_statement { PART; }: with_clause? update_core ;
+update_core { NODE(update_statement); }: T__UPDATE target_relation T__SET set_list update_tail? ;
+%parts update_tail: from_clause dml_where returning_clause %node update_statement ;
+dml_where { PART(where_clause); }: where_clause | T__WHERE T__CURRENT T__OF cursor_name ;
+target_relation { NODE(table_reference); }: relation %prec UMINUS | relation T__AS? alias ;
+%list set_list: set_item %short %separator T__COMMA ;
+set_item { NODE; }: target_column T__EQUAL expression | insert_columns T__EQUAL expression ;
 
-delete_statement
-    : delete_core
-    | with_clause delete_core                                                   { NODE; }
-    ;
-delete_core
-    : T__DELETE T__FROM target_relation                                         { NODE(delete_statement); }
-    | T__DELETE T__FROM target_relation delete_tail                             { NODE(delete_statement); }
-    ;
-delete_tail
-    : using_clause
-    | using_clause delete_where_part                                            { NODE(delete_statement); }
-    | delete_where_part
-    ;
-delete_where_part
-    : dml_where
-    | dml_where returning_clause                                                { NODE(delete_statement); }
-    | returning_clause
-    ;
-using_clause
-    : T__USING from_list                                                        { NODE; }
-    ;
+delete_statement { PART; }: with_clause? delete_core ;
+delete_core { NODE(delete_statement); }: T__DELETE T__FROM target_relation delete_tail? ;
+%parts delete_tail: using_clause dml_where returning_clause %node delete_statement ;
+using_clause { NODE; }: T__USING from_list ;
 
-merge_statement
-    : merge_core
-    | with_clause merge_core                                                    { NODE; }
-    ;
-merge_core
+merge_statement { PART; }: with_clause? merge_core ;
+merge_core { NODE(merge_statement); }
     : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
-      { NODE(merge_statement); }
-    | T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
-      returning_clause                                                          { NODE(merge_statement); }
-    ;
-merge_when_list
-    : merge_when                                                                { NODE; }
-    | merge_when_list merge_when                                                { NODE; }
-    ;
-merge_when
-    : T__WHEN T__MATCHED T__THEN merge_matched_action                           { NODE; }
-    | T__WHEN T__MATCHED T__AND condition T__THEN merge_matched_action          { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__THEN merge_insert_action                     { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__AND condition T__THEN merge_insert_action    { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__THEN merge_matched_action    { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE T__AND condition T__THEN merge_matched_action  { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__THEN merge_insert_action     { NODE; }
-    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET T__AND condition T__THEN merge_insert_action  { NODE; }
-    ;
-merge_matched_action
-    : T__UPDATE T__SET set_list                                                 { NODE; }
-    | T__DELETE                                                                 { NODE; }
-    | T__DO T__NOTHING                                                          { NODE; }
-    ;
-merge_insert_action
-    : T__INSERT merge_values                                                    { NODE; }
-    | T__INSERT T__OVERRIDING overriding_kind T__VALUE merge_values             { NODE; }
-    | T__INSERT insert_columns merge_values                                     { NODE; }
-    | T__INSERT insert_columns T__OVERRIDING overriding_kind T__VALUE merge_values
-      { NODE; }
-    | T__INSERT T__DEFAULT T__VALUES                                            { NODE; }
-    | T__DO T__NOTHING                                                          { NODE; }
-    ;
-merge_values
-    : T__VALUES T__LPAREN expression_list T__RPAREN                             { NODE; }
-    ;
+          returning_clause? ;
+%list merge_when_list: merge_when %short ;
+merge_when { NODE; }
+    : T__WHEN T__MATCHED (T__AND condition)? T__THEN merge_matched_action
+    | T__WHEN T__NOT T__MATCHED (T__BY T__TARGET)? (T__AND condition)? T__THEN merge_insert_action
+    | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE (T__AND condition)? T__THEN merge_matched_action ;
+merge_matched_action { NODE; }
+    : T__UPDATE T__SET set_list
+    | T__DELETE
+    | T__DO T__NOTHING ;
+merge_insert_action { NODE; }
+    : T__INSERT insert_columns? (T__OVERRIDING overriding_kind T__VALUE)? merge_values
+    | T__INSERT T__DEFAULT T__VALUES
+    | T__DO T__NOTHING ;
+merge_values { NODE; }: T__VALUES T__LPAREN expression_list T__RPAREN ;
 
-statement
-    : shared_statement
-    | execute_statement
-    | declare_cursor_statement
-    | fetch_statement
-    | close_statement
-    ;
+statement: shared_statement | execute_statement | declare_cursor_statement | fetch_statement | close_statement ;
 /* What a block of PL/pgSQL says in the same words. */
 shared_statement
-    : query
-    | insert_statement
-    | update_statement
-    | delete_statement
-    | merge_statement
-    | create_table_statement
-    | create_foreign_table_statement
-    | create_index_statement
-    | create_view_statement
-    | create_materialized_view_statement
-    | create_sequence_statement
-    | create_routine_statement
-    | create_trigger_statement
-    | create_event_trigger_statement
-    | create_rule_statement
-    | create_policy_statement
-    | create_schema_statement
-    | create_role_statement
-    | create_database_statement
-    | create_tablespace_statement
-    | create_extension_statement
-    | create_language_statement
-    | create_publication_statement
-    | create_subscription_statement
-    | create_foreign_object_statement
-    | create_statistics_statement
-    | create_object_statement
-    | create_type_statement
-    | create_domain_statement
-    | create_aggregate_statement
-    | create_operator_class_statement
-    | create_operator_family_statement
-    | create_cast_statement
-    | create_transform_statement
-    | create_conversion_statement
-    | create_access_method_statement
-    | alter_table_statement
-    | alter_index_statement
-    | alter_view_statement
-    | alter_materialized_view_statement
-    | alter_foreign_table_statement
-    | alter_sequence_statement
-    | alter_type_statement
-    | alter_domain_statement
-    | alter_routine_statement
-    | alter_object_statement
-    | alter_operator_statement
-    | alter_operator_family_statement
-    | alter_policy_statement
-    | alter_role_statement
-    | alter_database_statement
-    | alter_tablespace_statement
-    | alter_extension_statement
-    | alter_publication_statement
-    | alter_subscription_statement
-    | alter_foreign_object_statement
-    | alter_statistics_statement
-    | alter_text_search_statement
-    | alter_event_trigger_statement
-    | alter_system_statement
-    | alter_default_privileges_statement
-    | drop_statement
-    | comment_statement
-    | security_label_statement
-    | grant_statement
-    | revoke_statement
-    | reassign_owned_statement
-    | transaction_statement
-    | set_statement
-    | show_statement
-    | reset_statement
-    | set_constraints_statement
-    | copy_statement
-    | explain_statement
-    | do_statement
-    | call_statement
-    | prepare_statement
-    | deallocate_statement
-    | lock_statement
-    | truncate_statement
-    | vacuum_statement
-    | analyze_statement
-    | cluster_statement
-    | reindex_statement
-    | refresh_statement
-    | listen_statement
-    | notify_statement
-    | discard_statement
-    | load_statement
-    | T__CHECKPOINT
-      { NODE(checkpoint_statement); }
-    | import_foreign_schema_statement
-    ;
+    : query | insert_statement | update_statement | delete_statement | merge_statement
+    | create_table_statement | create_foreign_table_statement | create_index_statement | create_view_statement
+    | create_materialized_view_statement | create_sequence_statement | create_routine_statement
+    | create_trigger_statement | create_event_trigger_statement | create_rule_statement
+    | create_policy_statement | create_schema_statement | create_role_statement | create_database_statement
+    | create_tablespace_statement | create_extension_statement | create_language_statement
+    | create_publication_statement | create_subscription_statement | create_foreign_object_statement
+    | create_statistics_statement | create_object_statement | create_type_statement | create_domain_statement
+    | create_aggregate_statement | create_operator_class_statement | create_operator_family_statement
+    | create_cast_statement | create_transform_statement | create_conversion_statement
+    | create_access_method_statement | alter_table_statement | alter_index_statement | alter_view_statement
+    | alter_materialized_view_statement | alter_foreign_table_statement | alter_sequence_statement
+    | alter_type_statement | alter_domain_statement | alter_routine_statement | alter_object_statement
+    | alter_operator_statement | alter_operator_family_statement | alter_policy_statement
+    | alter_role_statement | alter_database_statement | alter_tablespace_statement | alter_extension_statement
+    | alter_publication_statement | alter_subscription_statement | alter_foreign_object_statement
+    | alter_statistics_statement | alter_text_search_statement | alter_event_trigger_statement
+    | alter_system_statement | alter_default_privileges_statement | drop_statement | comment_statement
+    | security_label_statement | grant_statement | revoke_statement | reassign_owned_statement
+    | transaction_statement | set_statement | show_statement | reset_statement | set_constraints_statement
+    | copy_statement | explain_statement | do_statement | call_statement | prepare_statement
+    | deallocate_statement | lock_statement | truncate_statement | vacuum_statement | analyze_statement
+    | cluster_statement | reindex_statement | refresh_statement | listen_statement | notify_statement
+    | discard_statement | load_statement
+    | T__CHECKPOINT  { NODE(checkpoint_statement); }
+    | import_foreign_schema_statement ;

@@ -1,71 +1,27 @@
 /* Literals. */
 
-string_literal
-    : T__STRING
-    | T__ESCAPE_STRING
-    | T__UNICODE_STRING
-    | T__CLIENT_STRING
-    | dollar_string
-    ;
+string_literal: T__STRING | T__ESCAPE_STRING | T__UNICODE_STRING | T__CLIENT_STRING | dollar_string ;
 
-dollar_string
-    : T__DOLLAR_QUOTE_BEGIN T__DOLLAR_QUOTE_END                                 { NODE; }
-    | T__DOLLAR_QUOTE_BEGIN dollar_text T__DOLLAR_QUOTE_END                     { NODE; }
-    ;
-dollar_text
-    : T__DOLLAR_QUOTED_TEXT                                                     { NODE; }
-    | dollar_text T__DOLLAR_QUOTED_TEXT                                         { NODE; }
-    ;
+dollar_string { NODE; }: T__DOLLAR_QUOTE_BEGIN dollar_text? T__DOLLAR_QUOTE_END ;
+dollar_text { NODE; }: dollar_text? T__DOLLAR_QUOTED_TEXT ;
 
-number
-    : T__INTEGER_NUMBER
-    | T__DECIMAL_NUMBER
-    | T__REAL_NUMBER
-    ;
+number: T__INTEGER_NUMBER | T__DECIMAL_NUMBER | T__REAL_NUMBER ;
 
-signed_integer
-    : T__INTEGER_NUMBER
-    | T__PLUS T__INTEGER_NUMBER                                                 { NODE(signed_number); }
-    | T__MINUS T__INTEGER_NUMBER                                                { NODE(signed_number); }
-    ;
+signed_integer { PART(signed_number); }: (T__PLUS | T__MINUS)? T__INTEGER_NUMBER ;
 
-signed_number
-    : number
-    | T__PLUS number                                                            { NODE; }
-    | T__MINUS number                                                           { NODE; }
-    ;
+signed_number { PART; }: T__PLUS? number | T__MINUS number ;
 
 constant
-    : number
-    | string_literal
-    | T__BIT_STRING
-    | T__HEX_STRING
-    | T__NATIONAL_STRING
-    | T__TRUE
-    | T__FALSE
-    | T__NULL
-    | typed_literal
-    ;
-typed_literal
-    : literal_type string_literal                                               { NODE; }
-    | called_type string_literal                                                { NODE; }
-    | constant_type string_literal                                              { NODE; }
-    | interval_literal_type string_literal                                      { NODE; }
-    | interval_literal_type string_literal interval_fields                      { NODE; }
-    ;
+    : number | string_literal | T__BIT_STRING | T__HEX_STRING | T__NATIONAL_STRING | T__TRUE | T__FALSE
+    | T__NULL | typed_literal ;
+typed_literal { NODE; }
+    : literal_type string_literal
+    | called_type string_literal
+    | constant_type string_literal
+    | interval_literal_type string_literal interval_fields? ;
 
 /* A type by its name. With modifiers it looks like a call of a function up to the string. */
-literal_type
-    : literal_type_name                                                         { NODE(data_type); }
-    ;
-literal_type_name
-    : type_function_name                                                        { NODE(type_name); }
-    | dotted_name                                                               { NODE(type_name); }
-    ;
-called_type
-    : function_name T__LPAREN argument_list T__RPAREN                           { NODE(data_type); }
-    ;
-interval_literal_type
-    : interval_name                                                             { NODE(data_type); }
-    | interval_name precision                                                   { NODE(data_type); }
-    ;
+literal_type { NODE(data_type); }: literal_type_name ;
+literal_type_name { NODE(type_name); }: type_function_name | dotted_name ;
+called_type { NODE(data_type); }: function_name T__LPAREN argument_list T__RPAREN ;
+interval_literal_type { NODE(data_type); }: interval_name precision? ;

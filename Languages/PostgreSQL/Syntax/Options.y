@@ -1,232 +1,82 @@
 /* Options. */
 
-options
-    : T__LPAREN option_list T__RPAREN                                           { NODE; }
-    ;
-option_list
-    : relation_option                                                           { NODE; }
-    | option_list T__COMMA relation_option                                      { NODE; }
-    ;
-relation_option
-    : qualified_option_name                                                     { NODE(option); }
-    | qualified_option_name T__EQUAL definition_value                           { NODE(option); }
-    ;
-option_name
-    : any_label                                                                 { NODE; }
-    ;
-qualified_option_name
-    : any_label                                                                 { NODE(option_name); }
-    | dotted_option_name                                                        { NODE(option_name); }
-    ;
-dotted_option_name
-    : any_label T__DOT any_label                                                { NODE(qualified_sql_identifier); }
-    ;
+options { NODE; }: T__LPAREN option_list T__RPAREN ;
+%list option_list: relation_option %short %separator T__COMMA ;
+relation_option { NODE(option); }: qualified_option_name (T__EQUAL definition_value)? ;
+option_name { NODE; }: any_label ;
+qualified_option_name { NODE(option_name); }: any_label | dotted_option_name ;
+dotted_option_name { NODE(qualified_sql_identifier); }: any_label T__DOT any_label ;
 
-definitions
-    : T__LPAREN definition_list T__RPAREN                                       { NODE(options); }
-    ;
-definition_list
-    : definition_item                                                           { NODE(option_list); }
-    | definition_list T__COMMA definition_item                                  { NODE(option_list); }
-    ;
-definition_item
-    : option_name                                                               { NODE(option); }
-    | option_name T__EQUAL definition_value                                     { NODE(option); }
-    ;
-definition_value
-    : function_type
-    | reserved_keyword
-    | any_operator_symbol
-    | T__OPERATOR T__LPAREN any_operator T__RPAREN                              { NODE; }
-    | signed_number
-    | string_literal
-    | T__NONE
-    ;
+definitions { NODE(options); }: T__LPAREN definition_list T__RPAREN ;
+%list definition_list: definition_item %short %separator T__COMMA %node option_list ;
+definition_item { NODE(option); }: option_name (T__EQUAL definition_value)? ;
+definition_value { PART; }
+    : function_type | reserved_keyword | any_operator_symbol
+    | T__OPERATOR T__LPAREN any_operator T__RPAREN
+    | signed_number | string_literal | T__NONE ;
 
 /* A type as functions take it, that of a column included. */
-function_type
-    : data_type
-    | column_type                                                               { NODE(data_type); }
-    | T__SETOF column_type                                                      { NODE(data_type); }
-    ;
+function_type { NODE(data_type); }: data_type  { PART; } | T__SETOF? column_type ;
 /* The type that a column has. */
-column_type
-    : dotted_type_name T__PERCENT T__TYPE                                       { NODE; }
-    ;
+column_type { NODE; }: dotted_type_name T__PERCENT T__TYPE ;
 
-generic_options
-    : T__OPTIONS T__LPAREN generic_option_list T__RPAREN                        { NODE(options_clause); }
-    ;
-generic_option_list
-    : generic_option                                                            { NODE(option_list); }
-    | generic_option_list T__COMMA generic_option                               { NODE(option_list); }
-    ;
-generic_option
-    : option_name string_literal                                                { NODE(option); }
-    ;
+generic_options { NODE(options_clause); }: T__OPTIONS T__LPAREN generic_option_list T__RPAREN ;
+%list generic_option_list: generic_option %short %separator T__COMMA %node option_list ;
+generic_option { NODE(option); }: option_name string_literal ;
 
-sequence_option_list
-    : sequence_option                                                           { NODE; }
-    | sequence_option_list sequence_option                                      { NODE; }
-    ;
-sequence_option
-    : T__AS simple_type                                                         { NODE; }
-    | T__CACHE signed_number                                                    { NODE; }
-    | T__CYCLE                                                                  { NODE; }
-    | T__NO T__CYCLE                                                            { NODE; }
-    | T__INCREMENT signed_number                                                { NODE; }
-    | T__INCREMENT T__BY signed_number                                          { NODE; }
-    | T__MAXVALUE signed_number                                                 { NODE; }
-    | T__NO T__MAXVALUE                                                         { NODE; }
-    | T__MINVALUE signed_number                                                 { NODE; }
-    | T__NO T__MINVALUE                                                         { NODE; }
-    | T__OWNED T__BY qualified_column_name                                      { NODE; }
-    | T__SEQUENCE T__NAME sequence_name                                         { NODE; }
-    | T__START signed_number                                                    { NODE; }
-    | T__START T__WITH signed_number                                            { NODE; }
-    | T__RESTART                                                                { NODE; }
-    | T__RESTART signed_number                                                  { NODE; }
-    | T__RESTART T__WITH signed_number                                          { NODE; }
-    ;
+%list sequence_option_list: sequence_option %short ;
+sequence_option { NODE; }
+    : T__AS simple_type
+    | (T__CACHE | T__MAXVALUE | T__MINVALUE) signed_number
+    | T__NO? T__CYCLE
+    | T__INCREMENT T__BY? signed_number
+    | T__NO T__MAXVALUE
+    | T__NO T__MINVALUE
+    | T__OWNED T__BY qualified_column_name
+    | T__SEQUENCE T__NAME sequence_name
+    | T__START T__WITH? signed_number
+    | T__RESTART (T__WITH? signed_number)? ;
 
-create_foreign_table_statement
-    : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER server_name
-      { NODE; }
-    | T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER server_name generic_options
-      { NODE; }
-    ;
-new_foreign_table
-    : table_name
-    | if_not_exists table_name
-      { NODE(create_foreign_table_statement); }
-    ;
-foreign_table_definition
-    : new_foreign_table T__LPAREN T__RPAREN
-      { NODE(create_foreign_table_statement); }
-    | new_foreign_table T__LPAREN table_element_list T__RPAREN
-      { NODE(create_foreign_table_statement); }
-    | new_foreign_table T__LPAREN T__RPAREN inherits_clause
-      { NODE(create_foreign_table_statement); }
-    | new_foreign_table T__LPAREN table_element_list T__RPAREN inherits_clause
-      { NODE(create_foreign_table_statement); }
-    | new_foreign_table T__PARTITION T__OF table_name partition_bound
-      { NODE(create_foreign_table_statement); }
-    | new_foreign_table T__PARTITION T__OF table_name T__LPAREN typed_element_list T__RPAREN partition_bound
-      { NODE(create_foreign_table_statement); }
-    ;
-inherits_clause
-    : T__INHERITS T__LPAREN table_name_list T__RPAREN                           { NODE; }
-    ;
+create_foreign_table_statement { NODE; }
+    : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER server_name generic_options? ;
+new_foreign_table { PART(create_foreign_table_statement); }: if_not_exists? table_name ;
+foreign_table_definition { NODE(create_foreign_table_statement); }
+    : new_foreign_table T__LPAREN table_element_list? T__RPAREN inherits_clause?
+    | new_foreign_table T__PARTITION T__OF table_name (T__LPAREN typed_element_list T__RPAREN)? partition_bound
+          ;
+inherits_clause { NODE; }: T__INHERITS T__LPAREN table_name_list T__RPAREN ;
 
-create_index_statement
-    : T__CREATE T__INDEX index_definition                                       { NODE; }
-    | T__CREATE T__UNIQUE T__INDEX index_definition                             { NODE; }
-    ;
-new_index
-    : index_name
-    | if_not_exists index_name
-      { NODE(create_index_statement); }
-    ;
-index_definition
-    : index_target
-    | T__CONCURRENTLY index_target
-      { NODE(create_index_statement); }
-    | new_index index_target
-      { NODE(create_index_statement); }
-    | T__CONCURRENTLY new_index index_target
-      { NODE(create_index_statement); }
-    ;
-index_target
-    : T__ON table index_columns
-      { NODE(create_index_statement); }
-    | T__ON table index_columns index_clause_list
-      { NODE(create_index_statement); }
-    ;
-index_columns
-    : T__LPAREN index_element_list T__RPAREN
-      { NODE(create_index_statement); }
-    | T__USING access_method_name T__LPAREN index_element_list T__RPAREN
-      { NODE(create_index_statement); }
-    ;
-index_clause_list
-    : index_clause                                                              { NODE; }
-    | index_clause_list index_clause                                            { NODE; }
-    ;
-index_clause
-    : T__INCLUDE T__LPAREN index_element_list T__RPAREN                         { NODE; }
-    | nulls_distinct                                                            { NODE; }
-    | T__WITH options                                                           { NODE; }
-    | T__TABLESPACE tablespace_name                                             { NODE; }
-    | where_clause                                                              { NODE; }
-    ;
+create_index_statement { NODE; }: T__CREATE T__UNIQUE? T__INDEX index_definition ;
+new_index { PART(create_index_statement); }: if_not_exists? index_name ;
+index_definition { PART(create_index_statement); }: T__CONCURRENTLY? new_index? index_target ;
+index_target { NODE(create_index_statement); }: T__ON table index_columns index_clause_list? ;
+index_columns { NODE(create_index_statement); }
+    : (T__USING access_method_name)? T__LPAREN index_element_list T__RPAREN ;
+%list index_clause_list: index_clause %short ;
+index_clause { NODE; }
+    : T__INCLUDE T__LPAREN index_element_list T__RPAREN
+    | nulls_distinct
+    | T__WITH options
+    | T__TABLESPACE tablespace_name
+    | where_clause ;
 
-create_view_statement
-    : T__CREATE view_definition                                                 { NODE; }
-    | T__CREATE T__OR T__REPLACE view_definition                                { NODE; }
-    | T__CREATE temporary view_definition                                       { NODE; }
-    | T__CREATE T__OR T__REPLACE temporary view_definition                      { NODE; }
-    ;
-view_definition
-    : T__VIEW view_name view_body
-      { NODE(create_view_statement); }
-    | T__VIEW view_name columns view_body
-      { NODE(create_view_statement); }
-    | T__RECURSIVE T__VIEW view_name columns view_body
-      { NODE(create_view_statement); }
-    ;
-view_body
-    : T__AS query
-      { NODE(create_view_statement); }
-    | T__AS query check_option
-      { NODE(create_view_statement); }
-    | T__WITH options T__AS query
-      { NODE(create_view_statement); }
-    | T__WITH options T__AS query check_option
-      { NODE(create_view_statement); }
-    ;
-check_option
-    : T__WITH T__CHECK T__OPTION                                                { NODE; }
-    | T__WITH T__CASCADED T__CHECK T__OPTION                                    { NODE; }
-    | T__WITH T__LOCAL T__CHECK T__OPTION                                       { NODE; }
-    ;
+create_view_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? temporary? view_definition ;
+view_definition { NODE(create_view_statement); }
+    : T__VIEW view_name columns? view_body
+    | T__RECURSIVE T__VIEW view_name columns view_body ;
+view_body { NODE(create_view_statement); }: (T__WITH options)? T__AS query check_option? ;
+check_option { NODE; }: T__WITH (T__LOCAL | T__CASCADED)? T__CHECK T__OPTION ;
 
-create_materialized_view_statement
-    : T__CREATE T__MATERIALIZED T__VIEW materialized_definition                 { NODE; }
-    | T__CREATE T__UNLOGGED T__MATERIALIZED T__VIEW materialized_definition     { NODE; }
-    ;
-new_view
-    : view_name
-    | if_not_exists view_name
-      { NODE(create_materialized_view_statement); }
-    ;
-materialized_definition
-    : new_view as_query
-      { NODE(create_materialized_view_statement); }
-    | new_view columns as_query
-      { NODE(create_materialized_view_statement); }
-    | new_view materialized_option_list as_query
-      { NODE(create_materialized_view_statement); }
-    | new_view columns materialized_option_list as_query
-      { NODE(create_materialized_view_statement); }
-    ;
-materialized_option_list
-    : materialized_option                                                       { NODE(table_option_list); }
-    | materialized_option_list materialized_option                              { NODE(table_option_list); }
-    ;
-materialized_option
-    : T__USING access_method_name                                               { NODE(table_option); }
-    | T__WITH options                                                           { NODE(table_option); }
-    | T__TABLESPACE tablespace_name                                             { NODE(table_option); }
-    ;
+create_materialized_view_statement { NODE; }
+    : T__CREATE T__UNLOGGED? T__MATERIALIZED T__VIEW materialized_definition ;
+new_view { PART(create_materialized_view_statement); }: if_not_exists? view_name ;
+materialized_definition { NODE(create_materialized_view_statement); }
+    : new_view columns? materialized_option_list? as_query ;
+%list materialized_option_list: materialized_option %short %node table_option_list ;
+materialized_option { NODE(table_option); }
+    : T__USING access_method_name
+    | T__WITH options
+    | T__TABLESPACE tablespace_name ;
 
-new_sequence
-    : sequence_name
-    | if_not_exists sequence_name
-      { NODE(create_sequence_statement); }
-    ;
-create_sequence_statement
-    : T__CREATE T__SEQUENCE new_sequence                                        { NODE; }
-    | T__CREATE T__SEQUENCE new_sequence sequence_option_list                   { NODE; }
-    | T__CREATE temporary T__SEQUENCE new_sequence                              { NODE; }
-    | T__CREATE temporary T__SEQUENCE new_sequence sequence_option_list         { NODE; }
-    ;
+new_sequence { PART(create_sequence_statement); }: if_not_exists? sequence_name ;
+create_sequence_statement { NODE; }: T__CREATE temporary? T__SEQUENCE new_sequence sequence_option_list? ;

@@ -1,61 +1,20 @@
 /* Messages, errors and what a block knows of them. */
 
-raise_statement
-    : T__RAISE                                                                  { NODE; }
-    | T__RAISE raised                                                           { NODE; }
-    | T__RAISE raise_level raised                                               { NODE; }
-    ;
-raise_level
-    : T__DEBUG                                                                  { NODE; }
-    | T__LOG                                                                    { NODE; }
-    | T__INFO                                                                   { NODE; }
-    | T__NOTICE                                                                 { NODE; }
-    | T__WARNING                                                                { NODE; }
-    | T__EXCEPTION                                                              { NODE; }
-    ;
-raised
-    : raised_condition
-    | raised_condition raise_using                                              { NODE(raise_statement); }
-    | raise_using
-    ;
-raised_condition
-    : string_literal                                                            { NODE(raise_format); }
-    | string_literal T__COMMA value_list                                        { NODE(raise_format); }
-    | condition_word                                                            { NODE(exception_condition); }
-    | T__SQLSTATE T__STRING                                                     { NODE(exception_condition); }
-    ;
-condition_word
-    : plain_identifier                                                          { NODE(condition_name); }
-    ;
-raise_using
-    : T__USING raise_option_list                                                { NODE(raise_using_clause); }
-    ;
-raise_option_list
-    : raise_option                                                              { NODE(option_list); }
-    | raise_option_list T__COMMA raise_option                                   { NODE(option_list); }
-    ;
-raise_option
-    : raise_option_name assignment_operator expression                          { NODE(option); }
-    ;
-raise_option_name
-    : any_label                                                                 { NODE(option_name); }
-    ;
-assert_statement
-    : T__ASSERT condition                                                       { NODE; }
-    | T__ASSERT condition T__COMMA expression                                   { NODE; }
-    ;
-get_diagnostics
-    : T__GET T__DIAGNOSTICS diagnostics_item_list                               { NODE(get_diagnostics_statement); }
-    | T__GET T__CURRENT T__DIAGNOSTICS diagnostics_item_list                    { NODE(get_diagnostics_statement); }
-    | T__GET T__STACKED T__DIAGNOSTICS diagnostics_item_list                    { NODE(get_diagnostics_statement); }
-    ;
-diagnostics_item_list
-    : diagnostics_item                                                          { NODE; }
-    | diagnostics_item_list T__COMMA diagnostics_item                           { NODE; }
-    ;
-diagnostics_item
-    : variable assignment_operator item_name                                    { NODE; }
-    ;
-item_name
-    : plain_identifier                                                          { NODE; }
-    ;
+raise_statement { NODE; }: T__RAISE raised? | T__RAISE raise_level raised ;
+raise_level { NODE; }: T__DEBUG | T__LOG | T__INFO | T__NOTICE | T__WARNING | T__EXCEPTION ;
+%parts raised: raised_condition raise_using %node raise_statement ;
+raised_condition { NODE(raise_format); }
+    : string_literal (T__COMMA value_list)?
+    | condition_word  { NODE(exception_condition); }
+    | T__SQLSTATE T__STRING  { NODE(exception_condition); } ;
+condition_word { NODE(condition_name); }: plain_identifier ;
+raise_using { NODE(raise_using_clause); }: T__USING raise_option_list ;
+%list raise_option_list: raise_option %short %separator T__COMMA %node option_list ;
+raise_option { NODE(option); }: raise_option_name assignment_operator expression ;
+raise_option_name { NODE(option_name); }: any_label ;
+assert_statement { NODE; }: T__ASSERT condition (T__COMMA expression)? ;
+get_diagnostics { NODE(get_diagnostics_statement); }
+    : T__GET (T__CURRENT | T__STACKED)? T__DIAGNOSTICS diagnostics_item_list ;
+%list diagnostics_item_list: diagnostics_item %short %separator T__COMMA ;
+diagnostics_item { NODE; }: variable assignment_operator item_name ;
+item_name { NODE; }: plain_identifier ;

@@ -1,395 +1,134 @@
 /* Queries. */
 
-query
-    : query_body %prec UMINUS
-    | subquery %prec UMINUS                                                     { NODE(select_statement); }
-    ;
+query: query_body %prec UMINUS | subquery %prec UMINUS  { NODE(select_statement); } ;
 
-subquery
-    : T__LPAREN query_body T__RPAREN                                            { NODE; }
-    | T__LPAREN subquery T__RPAREN                                              { NODE; }
-    ;
+subquery { NODE; }: T__LPAREN (query_body | subquery) T__RPAREN ;
 
-query_body
-    : plain_select
-    | other_select                                                              { NODE(select_statement); }
-    | select_part select_tail                                                   { NODE(select_statement); }
-    | with_clause select_part                                                   { NODE(select_statement); }
-    | with_clause select_part select_tail                                       { NODE(select_statement); }
-    ;
-
-select_part
-    : simple_select
-    | subquery
-    ;
-
-select_tail
-    : sort_part
-    | sort_part select_limit_part                                               { NODE(select_statement); }
-    | select_limit_part
-    ;
-sort_part
-    : sort_clause
-    | sort_clause into_variables                                                { NODE(select_statement); }
-    ;
-select_limit_part
-    : locking_clause
-    | limit_clause
-    | locking_clause limit_clause                                               { NODE(select_statement); }
-    | limit_clause locking_clause                                               { NODE(select_statement); }
-    | locking_clause into_variables                                             { NODE(select_statement); }
-    | limit_clause into_variables                                               { NODE(select_statement); }
-    | locking_clause limit_clause into_variables                                { NODE(select_statement); }
-    | limit_clause locking_clause into_variables                                { NODE(select_statement); }
-    | limit_clause into_variables locking_clause                                { NODE(select_statement); }
-    ;
-
-simple_select
-    : plain_select
+query_body { NODE(select_statement); }
+    : plain_select  { PART; }
     | other_select
-    ;
+    | select_part select_tail
+    | with_clause select_part select_tail? ;
+
+select_part: simple_select | subquery ;
+
+%parts select_tail: sort_part select_limit_part %node select_statement ;
+sort_part { PART(select_statement); }: sort_clause into_variables? ;
+select_limit_part { PART(select_statement); }
+    : locking_clause limit_clause? into_variables?
+    | limit_clause (into_variables? locking_clause)?
+    | limit_clause locking_clause? into_variables ;
+
+simple_select: plain_select | other_select ;
 /* A query is a select_statement: by itself if it is a SELECT, or with these in it. */
-plain_select
-    : select_head                                                               { NODE(select_statement); }
-    | select_head select_list                                                   { NODE(select_statement); }
-    | select_head select_clauses                                                { NODE(select_statement); }
-    | select_head select_list select_clauses                                    { NODE(select_statement); }
-    | select_head into_variables select_list                                    { NODE(select_statement); }
-    | select_head into_variables select_list clauses_from_from                  { NODE(select_statement); }
-    | distinct_head select_list                                                 { NODE(select_statement); }
-    | distinct_head select_list select_clauses                                  { NODE(select_statement); }
-    ;
-other_select
+plain_select { NODE(select_statement); }
+    : select_head select_list? select_clauses?
+    | select_head into_variables select_list clauses_after_into?
+    | distinct_head select_list select_clauses? ;
+other_select { PART(set_operation); }
     : values_clause
-    | T__TABLE table                                                            { NODE(table_statement); }
-    | select_part T__UNION select_part                                          { NODE(set_operation); }
-    | select_part T__UNION set_quantifier select_part %prec T__UNION            { NODE(set_operation); }
-    | select_part T__INTERSECT select_part                                      { NODE(intersect_operation); }
-    | select_part T__INTERSECT set_quantifier select_part %prec T__INTERSECT    { NODE(intersect_operation); }
-    | select_part T__EXCEPT select_part                                         { NODE(set_operation); }
-    | select_part T__EXCEPT set_quantifier select_part %prec T__EXCEPT          { NODE(set_operation); }
-    ;
+    | T__TABLE table  { NODE(table_statement); }
+    | select_part T__UNION set_quantifier? select_part %prec T__UNION
+    | select_part T__EXCEPT set_quantifier? select_part %prec T__EXCEPT
+    | select_part T__INTERSECT set_quantifier? select_part %prec T__INTERSECT  { NODE(intersect_operation); } ;
 
-set_quantifier
-    : T__ALL
-    | T__DISTINCT
-    ;
+set_quantifier: T__ALL | T__DISTINCT ;
 
-select_head
-    : T__SELECT
-    | T__SELECT T__ALL                                                          { NODE(select_statement); }
-    ;
-distinct_head
-    : T__SELECT distinct_clause                                                 { NODE(select_statement); }
-    ;
-distinct_clause
-    : T__DISTINCT                                                               { NODE; }
-    | T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN                     { NODE; }
-    ;
+select_head { PART(select_statement); }: T__SELECT T__ALL? ;
+distinct_head { NODE(select_statement); }: T__SELECT distinct_clause ;
+distinct_clause { NODE; }: T__DISTINCT (T__ON T__LPAREN expression_list T__RPAREN)? ;
 
 %list select_list: select_item %separator T__COMMA ;
 
-select_item
-    : expression                                                                { NODE; }
-    | expression T__AS any_alias                                                { NODE; }
-    | expression bare_alias                                                     { NODE; }
-    | every_column                                                              { NODE; }
-    ;
-every_column
-    : T__ASTERISK                                                               { NODE(all_columns); }
-    ;
+select_item { NODE; }: expression (bare_alias | T__AS any_alias)? | every_column ;
+every_column { NODE(all_columns); }: T__ASTERISK ;
 
 /* The clauses of a SELECT in their order, any of them left out. */
-select_clauses
-    : into_clause
-    | into_clause clauses_from_from                                             { NODE(select_statement); }
-    | clauses_from_from
-    ;
-clauses_from_from
-    : from_part
-    | from_part clauses_from_where                                              { NODE(select_statement); }
-    | clauses_from_where
-    ;
-clauses_from_where
-    : where_part
-    | where_part clauses_from_group                                             { NODE(select_statement); }
-    | clauses_from_group
-    ;
-clauses_from_group
-    : group_part
-    | group_part clauses_from_having                                            { NODE(select_statement); }
-    | clauses_from_having
-    ;
-clauses_from_having
-    : having_part
-    | having_part window_part                                                   { NODE(select_statement); }
-    | window_part
-    ;
+%parts select_clauses: into_clause clauses_after_into %node select_statement ;
+%parts clauses_after_into: from_part where_part group_part having_part window_part %node select_statement ;
 
 /* In a block of PL/pgSQL variables may follow any clause. */
-from_part
-    : from_clause
-    | from_clause into_variables                                                { NODE(select_statement); }
-    ;
-where_part
-    : where_clause
-    | where_clause into_variables                                               { NODE(select_statement); }
-    ;
-group_part
-    : group_clause
-    | group_clause into_variables                                               { NODE(select_statement); }
-    ;
-having_part
-    : having_clause
-    | having_clause into_variables                                              { NODE(select_statement); }
-    ;
-window_part
-    : window_clause
-    | window_clause into_variables                                              { NODE(select_statement); }
-    ;
+from_part { PART(select_statement); }: from_clause into_variables? ;
+where_part { PART(select_statement); }: where_clause into_variables? ;
+group_part { PART(select_statement); }: group_clause into_variables? ;
+having_part { PART(select_statement); }: having_clause into_variables? ;
+window_part { PART(select_statement); }: window_clause into_variables? ;
 
-into_clause
-    : T__INTO into_target                                                       { NODE; }
-    | into_variables
-    ;
-into_target
-    : table_name
-    | T__TABLE table_name                                                       { NODE(into_clause); }
-    | temporary table_name                                                      { NODE(into_clause); }
-    | temporary T__TABLE table_name                                             { NODE(into_clause); }
-    ;
-temporary
-    : T__TEMPORARY
-    | T__TEMP
-    | T__LOCAL T__TEMPORARY                                                     { NODE; }
-    | T__LOCAL T__TEMP                                                          { NODE; }
-    | T__GLOBAL T__TEMPORARY                                                    { NODE; }
-    | T__GLOBAL T__TEMP                                                         { NODE; }
-    | T__UNLOGGED
-    ;
+into_clause { PART; }: T__INTO into_target | into_variables ;
+into_target { PART(into_clause); }: temporary? T__TABLE? table_name ;
+temporary { PART; }: (T__LOCAL | T__GLOBAL)? (T__TEMPORARY | T__TEMP) | T__UNLOGGED ;
 
-from_clause
-    : T__FROM from_list                                                         { NODE; }
-    ;
-where_clause
-    : T__WHERE condition                                                        { NODE; }
-    ;
-group_clause
-    : T__GROUP T__BY group_list                                                 { NODE; }
-    | T__GROUP T__BY set_quantifier group_list                                  { NODE; }
-    ;
-having_clause
-    : T__HAVING condition                                                       { NODE; }
-    ;
-window_clause
-    : T__WINDOW window_list                                                     { NODE; }
-    ;
+from_clause { NODE; }: T__FROM from_list ;
+where_clause { NODE; }: T__WHERE condition ;
+group_clause { NODE; }: T__GROUP T__BY set_quantifier? group_list ;
+having_clause { NODE; }: T__HAVING condition ;
+window_clause { NODE; }: T__WINDOW window_list ;
 
-group_list
-    : group_item                                                                { NODE; }
-    | group_list T__COMMA group_item                                            { NODE; }
-    ;
-group_item
-    : expression                                                                { NODE; }
-    | T__LPAREN T__RPAREN                                                       { NODE; }
-    | T__CUBE T__LPAREN expression_list T__RPAREN                               { NODE; }
-    | T__ROLLUP T__LPAREN expression_list T__RPAREN                             { NODE; }
-    | T__GROUPING T__SETS T__LPAREN group_list T__RPAREN                        { NODE; }
-    ;
+%list group_list: group_item %short %separator T__COMMA ;
+group_item { NODE; }
+    : expression
+    | T__LPAREN T__RPAREN
+    | (T__CUBE | T__ROLLUP) T__LPAREN expression_list T__RPAREN
+    | T__GROUPING T__SETS T__LPAREN group_list T__RPAREN ;
 
-window_list
-    : named_window                                                              { NODE; }
-    | window_list T__COMMA named_window                                         { NODE; }
-    ;
-named_window
-    : window_name T__AS window_definition                                       { NODE; }
-    ;
-window_definition
-    : T__LPAREN T__RPAREN                                                       { NODE; }
-    | T__LPAREN window_parts T__RPAREN                                          { NODE; }
-    | T__LPAREN window_name T__RPAREN                                           { NODE; }
-    | T__LPAREN window_name window_parts T__RPAREN                              { NODE; }
-    ;
-window_parts
-    : window_partition
-    | window_partition window_order_part                                        { NODE(window_definition); }
-    | window_order_part
-    ;
-window_order_part
-    : sort_clause
-    | sort_clause frame_clause                                                  { NODE(window_definition); }
-    | frame_clause
-    ;
-window_partition
-    : T__PARTITION T__BY expression_list                                        { NODE; }
-    ;
-frame_clause
-    : T__RANGE frame_extent                                                     { NODE; }
-    | T__RANGE frame_extent frame_exclusion                                     { NODE; }
-    | T__ROWS frame_extent                                                      { NODE; }
-    | T__ROWS frame_extent frame_exclusion                                      { NODE; }
-    | T__GROUPS frame_extent                                                    { NODE; }
-    | T__GROUPS frame_extent frame_exclusion                                    { NODE; }
-    ;
-frame_extent
-    : frame_bound                                                               { NODE; }
-    | T__BETWEEN frame_bound T__AND frame_bound                                 { NODE; }
-    ;
-frame_bound
-    : T__UNBOUNDED T__PRECEDING                                                 { NODE; }
-    | T__UNBOUNDED T__FOLLOWING                                                 { NODE; }
-    | T__CURRENT T__ROW                                                         { NODE; }
-    | expression T__PRECEDING                                                   { NODE; }
-    | expression T__FOLLOWING                                                   { NODE; }
-    ;
-frame_exclusion
-    : T__EXCLUDE T__CURRENT T__ROW                                              { NODE; }
-    | T__EXCLUDE T__GROUP                                                       { NODE; }
-    | T__EXCLUDE T__TIES                                                        { NODE; }
-    | T__EXCLUDE T__NO T__OTHERS                                                { NODE; }
-    ;
+%list window_list: named_window %short %separator T__COMMA ;
+named_window { NODE; }: window_name T__AS window_definition ;
+window_definition { NODE; }: T__LPAREN window_name? window_parts? T__RPAREN ;
+%parts window_parts: window_partition sort_clause frame_clause %node window_definition ;
+window_partition { NODE; }: T__PARTITION T__BY expression_list ;
+frame_clause { NODE; }: (T__RANGE | T__ROWS | T__GROUPS) frame_extent frame_exclusion? ;
+frame_extent { NODE; }: frame_bound | T__BETWEEN frame_bound T__AND frame_bound ;
+frame_bound { NODE; }
+    : T__UNBOUNDED (T__PRECEDING | T__FOLLOWING)
+    | T__CURRENT T__ROW
+    | expression (T__PRECEDING | T__FOLLOWING) ;
+frame_exclusion { NODE; }: T__EXCLUDE (T__CURRENT T__ROW | T__GROUP | T__TIES | T__NO T__OTHERS) ;
 
-sort_clause
-    : T__ORDER T__BY sort_list                                                  { NODE; }
-    ;
-sort_list
-    : sort_item                                                                 { NODE; }
-    | sort_list T__COMMA sort_item                                              { NODE; }
-    ;
-sort_item
-    : expression                                                                { NODE; }
-    | expression sort_direction                                                 { NODE; }
-    | expression nulls_order                                                    { NODE; }
-    | expression sort_direction nulls_order                                     { NODE; }
-    ;
-sort_direction
-    : T__ASC                                                                    { NODE; }
-    | T__DESC                                                                   { NODE; }
-    | T__USING any_operator                                                     { NODE; }
-    | T__USING T__OPERATOR T__LPAREN any_operator T__RPAREN                     { NODE; }
-    ;
-nulls_order
-    : T__NULLS_LA T__FIRST                                                      { NODE; }
-    | T__NULLS_LA T__LAST                                                       { NODE; }
-    ;
+sort_clause { NODE; }: T__ORDER T__BY sort_list ;
+%list sort_list: sort_item %short %separator T__COMMA ;
+sort_item { NODE; }: expression sort_direction? nulls_order? ;
+sort_direction { NODE; }
+    : T__ASC | T__DESC
+    | T__USING any_operator
+    | T__USING T__OPERATOR T__LPAREN any_operator T__RPAREN ;
+nulls_order { NODE; }: T__NULLS_LA (T__FIRST | T__LAST) ;
 
-limit_clause
-    : limit_part                                                                { NODE; }
-    | offset_part                                                               { NODE; }
-    | limit_part offset_part                                                    { NODE; }
-    | offset_part limit_part                                                    { NODE; }
-    ;
-limit_part
-    : T__LIMIT expression                                                       { NODE; }
-    | T__LIMIT T__ALL                                                           { NODE; }
-    | T__FETCH first_or_next row_or_rows only_or_ties                           { NODE; }
-    | T__FETCH first_or_next fetch_count row_or_rows only_or_ties               { NODE; }
-    ;
-offset_part
-    : T__OFFSET expression                                                      { NODE; }
-    | T__OFFSET fetch_count row_or_rows                                         { NODE; }
-    ;
-fetch_count
+limit_clause { NODE; }: offset_part? limit_part | limit_part? offset_part ;
+limit_part { NODE; }
+    : T__LIMIT expression
+    | T__LIMIT T__ALL
+    | T__FETCH first_or_next fetch_count? row_or_rows only_or_ties ;
+offset_part { NODE; }: T__OFFSET (expression | fetch_count row_or_rows) ;
+fetch_count { PART; }
     : primary
-    | T__PLUS number                                                            { NODE; }
-    | T__MINUS number                                                           { NODE; }
-    ;
-first_or_next
-    : T__FIRST
-    | T__NEXT
-    ;
-row_or_rows
-    : T__ROW
-    | T__ROWS
-    ;
-only_or_ties
-    : T__ONLY
-    | T__WITH T__TIES                                                           { NODE; }
-    ;
+    | T__PLUS number
+    | T__MINUS number ;
+first_or_next: T__FIRST | T__NEXT ;
+row_or_rows: T__ROW | T__ROWS ;
+only_or_ties { PART; }: T__ONLY | T__WITH T__TIES ;
 
-locking_clause
-    : locking_list                                                              { NODE; }
-    | T__FOR T__READ T__ONLY                                                    { NODE; }
-    ;
-locking_list
-    : locking_item                                                              { NODE; }
-    | locking_list locking_item                                                 { NODE; }
-    ;
-locking_item
-    : locking_strength                                                          { NODE; }
-    | locking_strength locked_tables                                            { NODE; }
-    | locking_strength locking_wait                                             { NODE; }
-    | locking_strength locked_tables locking_wait                               { NODE; }
-    ;
-locking_strength
-    : T__FOR T__UPDATE                                                          { NODE; }
-    | T__FOR T__NO T__KEY T__UPDATE                                             { NODE; }
-    | T__FOR T__SHARE                                                           { NODE; }
-    | T__FOR T__KEY T__SHARE                                                    { NODE; }
-    ;
-locked_tables
-    : T__OF table_name_list                                                     { NODE; }
-    ;
-locking_wait
-    : T__NOWAIT                                                                 { NODE; }
-    | T__SKIP T__LOCKED                                                         { NODE; }
-    ;
+locking_clause { NODE; }: locking_list | T__FOR T__READ T__ONLY ;
+%list locking_list: locking_item %short ;
+locking_item { NODE; }: locking_strength locked_tables? locking_wait? ;
+locking_strength { NODE; }: T__FOR (T__NO T__KEY)? T__UPDATE | T__FOR T__KEY? T__SHARE ;
+locked_tables { NODE; }: T__OF table_name_list ;
+locking_wait { NODE; }: T__NOWAIT | T__SKIP T__LOCKED ;
 
-values_clause
-    : T__VALUES values_list                                                     { NODE; }
-    ;
+values_clause { NODE; }: T__VALUES values_list ;
 %list values_list: values_row %separator T__COMMA ;
 
-values_row
-    : T__LPAREN expression_list T__RPAREN                                       { NODE; }
-    ;
+values_row { NODE; }: T__LPAREN expression_list T__RPAREN ;
 
-with_clause
-    : T__WITH common_table_list                                                 { NODE; }
-    | T__WITH_LA common_table_list                                              { NODE; }
-    | T__WITH T__RECURSIVE common_table_list                                    { NODE; }
-    ;
-common_table_list
-    : common_table                                                              { NODE; }
-    | common_table_list T__COMMA common_table                                   { NODE; }
-    ;
-table_name_alone
-    : identifier                                                                { NODE(table_name); }
-    ;
-common_table
-    : table_name_alone cte_body                                                 { NODE; }
-    | table_name_alone columns cte_body                                         { NODE; }
-    | table_name_alone cte_body cte_tail                                        { NODE; }
-    | table_name_alone columns cte_body cte_tail                                { NODE; }
-    ;
-cte_body
-    : T__AS T__LPAREN preparable_statement T__RPAREN                            { NODE; }
-    | T__AS T__MATERIALIZED T__LPAREN preparable_statement T__RPAREN            { NODE; }
-    | T__AS T__NOT T__MATERIALIZED T__LPAREN preparable_statement T__RPAREN     { NODE; }
-    ;
-cte_tail
-    : search_clause
-    | cycle_clause
-    | search_clause cycle_clause                                                { NODE(common_table); }
-    ;
-search_clause
-    : T__SEARCH T__DEPTH T__FIRST T__BY column_name_list T__SET column_name     { NODE; }
-    | T__SEARCH T__BREADTH T__FIRST T__BY column_name_list T__SET column_name   { NODE; }
-    ;
-cycle_clause
-    : T__CYCLE column_name_list T__SET column_name T__USING column_name         { NODE; }
-    | T__CYCLE column_name_list T__SET column_name T__TO constant T__DEFAULT constant T__USING column_name
-      { NODE; }
-    ;
+with_clause { NODE; }: T__WITH T__RECURSIVE? common_table_list | T__WITH_LA common_table_list ;
+%list common_table_list: common_table %short %separator T__COMMA ;
+table_name_alone { NODE(table_name); }: identifier ;
+common_table { NODE; }: table_name_alone columns? cte_body cte_tail? ;
+cte_body { NODE; }: T__AS (T__NOT? T__MATERIALIZED)? T__LPAREN preparable_statement T__RPAREN ;
+%parts cte_tail: search_clause cycle_clause %node common_table ;
+search_clause { NODE; }: T__SEARCH (T__DEPTH | T__BREADTH) T__FIRST T__BY column_name_list T__SET column_name ;
+cycle_clause { NODE; }
+    : T__CYCLE column_name_list T__SET column_name (T__TO constant T__DEFAULT constant)? T__USING column_name ;
 
-preparable_statement
-    : ruled_statement
-    | merge_statement
-    ;
+preparable_statement: ruled_statement | merge_statement ;
 /* What a rule may do as well. */
-ruled_statement
-    : query
-    | insert_statement
-    | update_statement
-    | delete_statement
-    ;
+ruled_statement: query | insert_statement | update_statement | delete_statement ;

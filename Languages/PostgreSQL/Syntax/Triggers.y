@@ -1,160 +1,61 @@
 /* Triggers, rules, policies. */
 
-create_trigger_statement
-    : T__CREATE trigger_definition                                              { NODE; }
-    | T__CREATE T__OR T__REPLACE trigger_definition                             { NODE; }
-    | T__CREATE T__CONSTRAINT trigger_definition                                { NODE; }
-    ;
-trigger_definition
-    : T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name trigger_action
-      { NODE(create_trigger_statement); }
-    | T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name trigger_clause_list trigger_action
-      { NODE(create_trigger_statement); }
-    ;
-trigger_time
-    : T__BEFORE                                                                 { NODE; }
-    | T__AFTER                                                                  { NODE; }
-    | T__INSTEAD T__OF                                                          { NODE; }
-    ;
-trigger_event_list
-    : trigger_event                                                             { NODE; }
-    | trigger_event_list T__OR trigger_event                                    { NODE; }
-    ;
-trigger_event
-    : T__INSERT                                                                 { NODE; }
-    | T__DELETE                                                                 { NODE; }
-    | T__UPDATE                                                                 { NODE; }
-    | T__UPDATE T__OF column_name_list                                          { NODE; }
-    | T__TRUNCATE                                                               { NODE; }
-    ;
-trigger_clause_list
-    : trigger_clause                                                            { NODE; }
-    | trigger_clause_list trigger_clause                                        { NODE; }
-    ;
-trigger_clause
-    : T__FROM table_name                                                        { NODE; }
-    | constraint_attribute                                                      { NODE; }
-    | T__REFERENCING transition_table_list                                      { NODE; }
-    | T__FOR trigger_level                                                      { NODE; }
-    | T__FOR T__EACH trigger_level                                              { NODE; }
-    | T__WHEN T__LPAREN condition T__RPAREN                                     { NODE; }
-    ;
-trigger_level
-    : T__ROW
-    | T__STATEMENT
-    ;
-transition_table_list
-    : transition_table                                                          { NODE; }
-    | transition_table_list transition_table                                    { NODE; }
-    ;
-transition_table
-    : old_or_new T__TABLE alias                                                 { NODE; }
-    | old_or_new T__TABLE T__AS alias                                           { NODE; }
-    | old_or_new T__ROW alias                                                   { NODE; }
-    | old_or_new T__ROW T__AS alias                                             { NODE; }
-    ;
-old_or_new
-    : T__OLD
-    | T__NEW
-    ;
-trigger_action
-    : T__EXECUTE T__FUNCTION function_name T__LPAREN T__RPAREN                  { NODE; }
-    | T__EXECUTE T__FUNCTION function_name T__LPAREN trigger_arguments T__RPAREN  { NODE; }
-    | T__EXECUTE T__PROCEDURE function_name T__LPAREN T__RPAREN                 { NODE; }
-    | T__EXECUTE T__PROCEDURE function_name T__LPAREN trigger_arguments T__RPAREN  { NODE; }
-    ;
-trigger_arguments
-    : trigger_argument                                                          { NODE(argument_list); }
-    | trigger_arguments T__COMMA trigger_argument                               { NODE(argument_list); }
-    ;
-trigger_argument
-    : number
-    | string_literal
-    | any_label
-    ;
+create_trigger_statement { NODE; }: T__CREATE (T__CONSTRAINT | T__OR T__REPLACE)? trigger_definition ;
+trigger_definition { NODE(create_trigger_statement); }
+    : T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name trigger_clause_list?
+          trigger_action ;
+trigger_time { NODE; }
+    : T__BEFORE | T__AFTER
+    | T__INSTEAD T__OF ;
+%list trigger_event_list: trigger_event %short %separator T__OR ;
+trigger_event { NODE; }
+    : T__INSERT | T__DELETE
+    | T__UPDATE (T__OF column_name_list)?
+    | T__TRUNCATE ;
+%list trigger_clause_list: trigger_clause %short ;
+trigger_clause { NODE; }
+    : T__FROM table_name
+    | constraint_attribute
+    | T__REFERENCING transition_table_list
+    | T__FOR T__EACH? trigger_level
+    | T__WHEN T__LPAREN condition T__RPAREN ;
+trigger_level: T__ROW | T__STATEMENT ;
+%list transition_table_list: transition_table %short ;
+transition_table { NODE; }: old_or_new (T__TABLE | T__ROW) T__AS? alias ;
+old_or_new: T__OLD | T__NEW ;
+trigger_action { NODE; }
+    : T__EXECUTE (T__FUNCTION | T__PROCEDURE) function_name T__LPAREN trigger_arguments? T__RPAREN ;
+%list trigger_arguments: trigger_argument %short %separator T__COMMA %node argument_list ;
+trigger_argument: number | string_literal | any_label ;
 
-create_event_trigger_statement
-    : T__CREATE T__EVENT T__TRIGGER event_trigger_name T__ON any_label event_trigger_action
-      { NODE; }
-    | T__CREATE T__EVENT T__TRIGGER event_trigger_name T__ON any_label T__WHEN event_condition_list
-      event_trigger_action                                                      { NODE; }
-    ;
-event_trigger_action
-    : T__EXECUTE T__FUNCTION function_name T__LPAREN T__RPAREN                  { NODE; }
-    | T__EXECUTE T__PROCEDURE function_name T__LPAREN T__RPAREN                 { NODE; }
-    ;
-event_condition_list
-    : event_condition                                                           { NODE; }
-    | event_condition_list T__AND event_condition                               { NODE; }
-    ;
-event_condition
-    : identifier T__IN T__LPAREN string_list T__RPAREN                          { NODE; }
-    ;
-string_list
-    : string_literal                                                            { NODE; }
-    | string_list T__COMMA string_literal                                       { NODE; }
-    ;
+create_event_trigger_statement { NODE; }
+    : T__CREATE T__EVENT T__TRIGGER event_trigger_name T__ON any_label (T__WHEN event_condition_list)?
+          event_trigger_action ;
+event_trigger_action { NODE; }: T__EXECUTE (T__FUNCTION | T__PROCEDURE) function_name T__LPAREN T__RPAREN ;
+%list event_condition_list: event_condition %short %separator T__AND ;
+event_condition { NODE; }: identifier T__IN T__LPAREN string_list T__RPAREN ;
+%list string_list: string_literal %short %separator T__COMMA ;
 
-create_rule_statement
-    : T__CREATE rule_definition                                                 { NODE; }
-    | T__CREATE T__OR T__REPLACE rule_definition                                { NODE; }
-    ;
-rule_definition
-    : T__RULE rule_name T__AS T__ON rule_event T__TO table_name T__DO rule_actions
-      { NODE(create_rule_statement); }
-    | T__RULE rule_name T__AS T__ON rule_event T__TO table_name where_clause T__DO rule_actions
-      { NODE(create_rule_statement); }
-    ;
-rule_event
-    : T__SELECT
-    | T__UPDATE
-    | T__DELETE
-    | T__INSERT
-    ;
-rule_actions
-    : rule_action
-    | T__INSTEAD rule_action
-      { NODE(create_rule_statement); }
-    | T__ALSO rule_action
-      { NODE(create_rule_statement); }
-    ;
-rule_action
-    : T__NOTHING                                                                { NODE; }
-    | rule_statement                                                            { NODE; }
-    | T__LPAREN T__RPAREN                                                       { NODE; }
-    | T__LPAREN rule_statement_list T__RPAREN                                   { NODE; }
-    ;
-rule_statement_list
-    : rule_statement                                                            { NODE; }
-    | T__SEMICOLON                                                              { NODE; }
-    | T__SEMICOLON rule_statement                                               { NODE; }
-    | rule_statement_list T__SEMICOLON                                          { NODE; }
-    | rule_statement_list T__SEMICOLON rule_statement                           { NODE; }
-    ;
-rule_statement
-    : ruled_statement
-    | notify_statement
-    ;
+create_rule_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? rule_definition ;
+rule_definition { NODE(create_rule_statement); }
+    : T__RULE rule_name T__AS T__ON rule_event T__TO table_name where_clause? T__DO rule_actions ;
+rule_event: T__SELECT | T__UPDATE | T__DELETE | T__INSERT ;
+rule_actions { PART(create_rule_statement); }: (T__ALSO | T__INSTEAD)? rule_action ;
+rule_action { NODE; }
+    : T__NOTHING | rule_statement
+    | T__LPAREN rule_statement_list? T__RPAREN ;
+rule_statement_list { NODE; }
+    : T__SEMICOLON? rule_statement
+    | T__SEMICOLON
+    | rule_statement_list T__SEMICOLON rule_statement? ;
+rule_statement: ruled_statement | notify_statement ;
 
-create_policy_statement
-    : T__CREATE T__POLICY policy_name T__ON table_name                          { NODE; }
-    | T__CREATE T__POLICY policy_name T__ON table_name policy_clause_list       { NODE; }
-    ;
-policy_clause_list
-    : policy_clause                                                             { NODE; }
-    | policy_clause_list policy_clause                                          { NODE; }
-    ;
-policy_clause
-    : T__AS plain_identifier                                                    { NODE; }
-    | T__FOR policy_command                                                     { NODE; }
-    | T__TO role_name_list                                                      { NODE; }
-    | T__USING T__LPAREN condition T__RPAREN                                    { NODE; }
-    | T__WITH T__CHECK T__LPAREN condition T__RPAREN                            { NODE; }
-    ;
-policy_command
-    : T__ALL
-    | T__SELECT
-    | T__INSERT
-    | T__UPDATE
-    | T__DELETE
-    ;
+create_policy_statement { NODE; }: T__CREATE T__POLICY policy_name T__ON table_name policy_clause_list? ;
+%list policy_clause_list: policy_clause %short ;
+policy_clause { NODE; }
+    : T__AS plain_identifier
+    | T__FOR policy_command
+    | T__TO role_name_list
+    | T__USING T__LPAREN condition T__RPAREN
+    | T__WITH T__CHECK T__LPAREN condition T__RPAREN ;
+policy_command: T__ALL | T__SELECT | T__INSERT | T__UPDATE | T__DELETE ;
