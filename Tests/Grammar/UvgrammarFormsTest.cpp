@@ -11,7 +11,6 @@ namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
-using testing::Not;
 
 constexpr const char* kLexer = R"(%option noyywrap reject yylineno noecs nometa-ecs lex-compat
 %s SS_GENERAL

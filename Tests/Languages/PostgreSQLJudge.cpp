@@ -6,6 +6,13 @@
 #include <stdexcept>
 #include <string_view>
 
+// The judge keeps a copy of its own messages for every body that it reads.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:pg_query_raw_parse\n";
+}
+
 namespace {
 
 // A protobuf message: fields of a varint key (number * 8 + kind), then a varint (kind 0) or counted bytes
