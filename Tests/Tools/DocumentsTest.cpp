@@ -124,20 +124,33 @@ TEST(Documents, TheHostsInThemSurviveARefusedGrammar)
 }
 
 // A guide is a script: it puts files ("<!-- put NAME -->" and a block), runs commands (blocks "sh") and shows
-// what they print (blocks "text"). `programs` are the built files
-// and folders that it uses.
-void Follow(const std::string& guide, const std::vector<std::string>& programs, int expectedCommands)
+// what they print (blocks "text").
+struct SGuide
+{
+    const char* name;
+    std::vector<std::string> programs; // the built files and folders that it uses
+    int commands;
+    std::vector<std::string> sources = {}; // the project's folders that it changes
+};
+
+void Follow(const SGuide& guide)
 {
     const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
     const fs::path bin = fs::path(folder.Path()) / "build/dev/bin";
     fs::create_directories(bin);
-    for (const std::string& file : programs) {
+    for (const std::string& file : guide.programs) {
         fs::create_directories((bin / file).parent_path());
         fs::copy(fs::path(UV_BIN_DIR) / file, bin / file,
                  fs::copy_options::recursive | fs::copy_options::create_hard_links);
     }
 
-    const std::string text = ReadWholeFile(UV_SOURCE_DIR "/Documentation/" + guide);
+    for (const std::string& source : guide.sources) {
+        const fs::path copy = fs::path(folder.Path()) / source;
+        fs::create_directories(copy.parent_path());
+        fs::copy(fs::path(UV_SOURCE_DIR) / source, copy, fs::copy_options::recursive);
+    }
+
+    const std::string text = ReadWholeFile(std::string(UV_SOURCE_DIR "/Documentation/") + guide.name);
     std::istringstream lines(text);
     std::string name;
     std::string printed;
@@ -165,20 +178,16 @@ void Follow(const std::string& guide, const std::vector<std::string>& programs, 
             EXPECT_EQ(printed, content);
         }
     }
-    EXPECT_EQ(commands, expectedCommands);
+    EXPECT_EQ(commands, guide.commands);
 }
-
-struct SGuide
-{
-    const char* name;
-    std::vector<std::string> programs;
-    int commands;
-};
 
 TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
 {
     const SGuide guides[] = {
-        {"LanguageGuide.md", {"uvgrammar", "uvgrammar-test", "uvparse", "libUVParser.so"}, 6},
+        {"LanguageGuide.md",
+         {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "uvparse", "libUVParser.so"},
+         9,
+         {"Languages/PostgreSQL"}},
         {"UvgrammarGuide.md",
          {"uvgrammar", "uvgrammar-elements", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"},
          12},
@@ -190,7 +199,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
     };
     for (const SGuide& guide : guides) {
         SCOPED_TRACE(guide.name);
-        Follow(guide.name, guide.programs, guide.commands);
+        Follow(guide);
     }
 }
 
