@@ -23,6 +23,7 @@
 %precedence FUNCTION
 %precedence T__LPAREN
 
+%warnings 2
 %start SQL_ROOT
 %%
 

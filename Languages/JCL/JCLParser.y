@@ -15,6 +15,7 @@
 %left T__AND
 %precedence T__NOT
 
+%warnings 4
 %start SQL_ROOT
 %%
 

@@ -370,6 +370,19 @@ TEST_F(UvgrammarForms, WhatTheFormsCantMeanIsRefusedWithItsPlace)
         expectRefused(entry, Replaced(kLexer, entry.from, entry.to), kParser);
 }
 
+TEST_F(UvgrammarForms, WarningsThatAreMeantAreSilentWhileTheirNumberHolds)
+{
+    const std::string parser = Replaced(
+        kParser, "| T__OTHER ;", "| T__OTHER | T__COMMA error { CREATE_NODE_WITH_ERROR(bad, 2, 1); } ;");
+    const std::string warning = "warning: a rule that ends in error";
+    EXPECT_THAT(Build(kLexer, parser).messages, HasSubstr(warning));
+    EXPECT_EQ(Build(kLexer, Replaced(parser, "%start", "%warnings 1\n%start")).messages, "");
+    EXPECT_THAT(Build(kLexer, Replaced(parser, "%start", "%warnings 2\n%start")).messages,
+                AllOf(HasSubstr(warning), HasSubstr("own/P.y: note: 1 warnings, where %warnings says 2\n")));
+    EXPECT_THAT(Build(kLexer, Replaced(parser, "%start", "%warnings few\n%start")).messages,
+                HasSubstr("own/P.y:2:1: error: %warnings takes the number"));
+}
+
 TEST_F(UvgrammarForms, TheDepfileNamesEveryFileThatWasRead)
 {
     m_Folder.Write("own/My.words", "begin\n");

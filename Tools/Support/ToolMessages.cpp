@@ -56,9 +56,24 @@ void CToolMessages::WriteLine(enSeverity severity, const std::string& place, con
         ++m_Warnings;
     if (m_Quiet && severity != enSeverity::Error)
         return;
-    m_Stream << place << ": " << SeverityWord(severity) << ": " << text << '\n';
+    std::string message = place;
+    message.append(": ").append(SeverityWord(severity)).append(": ").append(text).append(1, '\n');
     if (!sourceLine.empty())
-        m_Stream << "    " << Printable(sourceLine) << '\n';
+        message.append("    ").append(Printable(sourceLine)).append(1, '\n');
+    if (m_IsHolding)
+        m_Held.emplace_back(severity, std::move(message));
+    else
+        m_Stream << message;
+}
+
+void CToolMessages::Release(bool withWarnings)
+{
+    m_IsHolding = false;
+    for (const auto& [severity, message] : m_Held) {
+        if (withWarnings || severity != enSeverity::Warning)
+            m_Stream << message;
+    }
+    m_Held.clear();
 }
 
 CToolProgress::CToolProgress(std::size_t total, bool isWanted)

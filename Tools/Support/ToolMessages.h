@@ -6,6 +6,8 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 // Where in an input a message belongs. Lines and columns count from 1, 0 leaves them out.
 struct SSourcePlace
@@ -52,6 +54,10 @@ public:
     // Warnings and notes are counted but no longer written.
     void SetQuiet(bool quiet) { m_Quiet = quiet; }
 
+    // Messages are kept back until `Release` writes them in their order, all or those alone that are no warnings.
+    void Hold() { m_IsHolding = true; }
+    void Release(bool withWarnings);
+
 private:
     void WriteLine(enSeverity severity, const std::string& place, const std::string& text,
                    const std::string& sourceLine);
@@ -61,6 +67,8 @@ private:
     std::size_t m_Errors = 0;
     std::size_t m_Warnings = 0;
     bool m_Quiet = false;
+    bool m_IsHolding = false;
+    std::vector<std::pair<enSeverity, std::string>> m_Held;
 };
 
 // One line of progress over many inputs, rewritten in place. Only a terminal sees it: a log would fill with

@@ -153,6 +153,34 @@ std::string ReportText(const SGrammarBuild& build, const CGrammarSource& source,
     return report;
 }
 
+// Shows no warnings if they are as many as are meant, else all of them.
+class CMeantWarnings
+{
+public:
+    CMeantWarnings(const std::string& path, std::optional<std::size_t> count, CToolMessages& messages)
+        : m_Path(path), m_Count(count), m_Messages(messages)
+    {
+        if (m_Count)
+            m_Messages.Hold();
+    }
+    CMeantWarnings(const CMeantWarnings&) = delete;
+    CMeantWarnings& operator=(const CMeantWarnings&) = delete;
+    ~CMeantWarnings()
+    {
+        const bool isMeant = m_Count == m_Messages.WarningCount();
+        if (m_Count && !isMeant && m_Messages.ErrorCount() == 0)
+            m_Messages.Write(enSeverity::Note, {m_Path, 0, 0, {}},
+                             std::to_string(m_Messages.WarningCount()) + " warnings, where %warnings says " +
+                                 std::to_string(*m_Count));
+        m_Messages.Release(!isMeant);
+    }
+
+private:
+    const std::string& m_Path;
+    std::optional<std::size_t> m_Count;
+    CToolMessages& m_Messages;
+};
+
 } // namespace
 
 enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report,
@@ -160,6 +188,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
 {
     CGrammarSource lexer = AssembleScanner(build.lexerPath, messages);
     CGrammarSource parser = AssembleParser(build.parserPath, messages);
+    const CMeantWarnings meant(build.parserPath, parser.MeantWarnings(), messages);
     if (!build.depfilePath.empty())
         WriteWholeFile(build.depfilePath, DependencyRule(build, lexer, parser));
     if (messages.ErrorCount() > 0)

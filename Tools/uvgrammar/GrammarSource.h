@@ -6,7 +6,9 @@
 #include "Tools/uvgrammar/AssembledText.h"
 #include "Tools/uvgrammar/SourceFile.h"
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +31,9 @@ public:
     // The number of the written-out list that the line belongs to, from 1 on; 0 for any other line.
     int ListOf(int line) const;
     int ListCount() const { return m_Lists; }
+    // The number after %warnings: as many are meant; nothing without it.
+    std::optional<std::size_t> MeantWarnings() const { return m_MeantWarnings; }
+    void SetMeantWarnings(std::size_t count) { m_MeantWarnings = count; }
     // The place of the %words that the line is an alternative of; null for any other line.
     const SSourcePlace* WordsOf(int line) const;
 
@@ -40,4 +45,5 @@ private:
     CAssembledText m_Text;
     int m_Lists;
     std::vector<SSourcePlace> m_Words;
+    std::optional<std::size_t> m_MeantWarnings;
 };

@@ -6,7 +6,9 @@
 #include "Tools/uvgrammar/ParserRules.h"
 
 #include <algorithm>
+#include <charconv>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -74,7 +76,10 @@ public:
             WriteItems(text);
             text.Copy(main, end, main.Text().size());
         }
-        return {std::move(m_Files), std::move(text), m_Lists, std::move(m_Words)};
+        CGrammarSource source(std::move(m_Files), std::move(text), m_Lists, std::move(m_Words));
+        if (m_MeantWarnings)
+            source.SetMeantWarnings(*m_MeantWarnings);
+        return source;
     }
 
 private:
@@ -101,11 +106,15 @@ private:
             const std::string_view name = words.TextOf(word);
             if (name == "%start" && words.Peek().kind == enBisonWord::Name)
                 m_Start = words.TextOf(words.Peek());
-            if (name != "%include" && name != "%keywords")
+            if (name != "%include" && name != "%keywords" && name != "%warnings")
                 continue;
             m_Declarations.Copy(file, copied, word.begin);
             const SBisonWord operand = words.Next();
             copied = operand.end;
+            if (name == "%warnings") {
+                TakeMeantWarnings(file, word.begin, words.TextOf(operand));
+                continue;
+            }
             const std::string path = QuotedName(words.TextOf(operand));
             if (path.empty())
                 Error(file, word.begin, std::string(name) + " takes one path in quotes");
@@ -114,6 +123,15 @@ private:
             else
                 TakeKeywords(file, word.begin, path);
         }
+    }
+
+    void TakeMeantWarnings(const CSourceFile& file, std::size_t offset, std::string_view number)
+    {
+        std::size_t count = 0;
+        const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), count);
+        if (error != std::errc() || end != number.data() + number.size())
+            Error(file, offset, "%warnings takes the number of warnings that are meant");
+        m_MeantWarnings = count;
     }
 
     void IncludeDeclarations(const CSourceFile& file, std::size_t offset, const std::string& name)
@@ -412,6 +430,7 @@ private:
     std::vector<SRuleItem> m_Items;
     int m_Lists = 0;
     std::vector<SSourcePlace> m_Words; // of each %words
+    std::optional<std::size_t> m_MeantWarnings;
 };
 
 } // namespace
