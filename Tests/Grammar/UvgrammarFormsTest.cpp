@@ -165,6 +165,41 @@ where { NODE; }: T__COMMA ;
     EXPECT_EQ(found, wanted);
 }
 
+// What a dialect hasn't takes along what shared rules make of it, as far as it goes, and nothing of the dialect's own.
+TEST_F(UvgrammarForms, RemovedWordsAndSymbolsTakeSharedAlternativesAlong)
+{
+    const auto wanted = Tables(kLexer, kParser);
+    m_Folder.Write("common/All.words", "# shared\nname : begin end set over\n: rows within\n");
+    m_Folder.Write("own/My.words", "%include \"../common/All.words\"\n= : begin\n= end \"end\" \"quit\"\n"
+                                   "%color 3\n= name : set\n- over rows within\n");
+    m_Folder.Write("common/Items.y", R"(items: %empty { NODE; } | items item { NODE; } ;
+item { NODE; }: name T__SEMI | name tail T__SEMI | windows T__SEMI | name? hook ;
+tail { PART; }: over_clause within_clause? | hook;
+over_clause { NODE; }: T__OVER name | T__OVER T__ROWS name ;
+within_clause { NODE; }: T__WITHIN name ;
+%list windows: over_clause %separator T__COMMA ;
+%parts name: word over_clause ;
+)");
+    const std::string lexer = Replaced(kLexer, "\"begin\"  { TOKEN_ACTIONE(__BEGIN, 1); }\n", "");
+    const auto found =
+        Tables(Replaced(Replaced(Replaced(lexer, "\"end\"    { TOKEN_ACTIONE(__END, 1); }\n", ""),
+                                 "\"quit\"   { TOKEN_ACTIONE(__END, 1); }\n", ""),
+                        "\"set\"    { TOKEN_ACTIONE(__SET, 3); }", "%keywords \"My.words\""),
+               R"(%keywords "My.words"
+%token T__ID T__SEMI T__COMMA T__OTHER
+%start SQL_ROOT
+%%
+SQL_ROOT: items { NODE(SQL); } ;
+%include "../common/Items.y"
+%without hook ;
+item: T__BEGIN items T__END T__SEMI { NODE(block); }
+    | error T__SEMI { NODE(item) ; }
+%replace name: T__ID | %words name { NODE; } | T__OTHER ;
+%%
+)");
+    EXPECT_EQ(found, wanted);
+}
+
 // A list against its rules written out. `%deep` has too many to write here: the languages' own tests count them.
 TEST_F(UvgrammarForms, AListGivesTheTablesOfItsRules)
 {
@@ -319,6 +354,8 @@ TEST_F(UvgrammarForms, WhatTheFormsCantMeanIsRefusedWithItsPlace)
          "own/P.y:10:14: error: no other file has this alternative for name"},
         {"name: T__ID", "%include \"A.y\"\n%without extra: T__ID ;\nname: T__ID",
          "own/P.y:11:10: error: nothing is left of extra"},
+        {"name: T__ID", "%without nobody ;\nname: T__ID",
+         "own/P.y:10:10: error: no other file has or uses nobody"},
         {"name: T__ID", "name: %words verbs | T__ID", "own/P.y:10:7: error: no word is in the group verbs"},
         {"name: T__ID", "name: T__ID %words verbs | T__ID", "error: %words stands alone in its alternative"},
         {"name: T__ID", "%list: x ;\nname: T__ID", "own/P.y:10:1: error: %list is followed by a rule"},

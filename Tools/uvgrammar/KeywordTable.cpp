@@ -91,37 +91,49 @@ void CKeywordTable::ReadFile(CSourceFiles& files, const CSourceFile& file, CTool
     }
 }
 
+std::set<std::string> CKeywordTable::RemovedTokens() const
+{
+    std::set<std::string> tokens;
+    for (const std::string& token : m_Removed)
+        tokens.insert("T" + token);
+    for (const auto& [word, keyword] : m_Words)
+        tokens.erase("T" + keyword.token);
+    return tokens;
+}
+
 void CKeywordTable::ReadRow(const CSourceFile& file, std::size_t offset, std::string_view row, int color,
                             CToolMessages& messages)
 {
     const auto complain = [&](const std::string& text) {
         messages.Write(enSeverity::Error, file.PlaceAt(offset), text);
     };
-    std::string_view word = TakeWord(row);
-    const char change = word == "=" || word == "-" ? word.front() : '\0';
-    if (change != '\0')
-        word = TakeWord(row);
-    if (!IsName(word))
-        return complain(std::string("'").append(word).append(
-            "' can't be a word of the language: its token gets its name"));
+    std::string_view rest = row;
+    const std::string_view first = TakeWord(rest);
+    if (first == "-")
+        return Remove(file, offset, rest, messages);
+    const bool takesPlace = first == "=";
+    if (!takesPlace)
+        rest = row;
 
-    const auto known = m_Words.find(std::string(word));
-    if (change == '\0' && known != m_Words.end())
-        return complain("the word " + std::string(word) + " is there already, in " +
-                        known->second.file->Path() + ':' +
-                        std::to_string(known->second.file->LineAt(known->second.offset)) +
-                        "; '= " + std::string(word) + "' takes its place");
-    if (change != '\0' && (known == m_Words.end() || known->second.file == &file))
-        return complain("no included table has the word " + std::string(word));
-    if (change == '-') {
-        if (!TakeWord(row).empty())
-            complain("a word that goes takes nothing after it");
-        m_Words.erase(known);
+    SKeyword keyword{{}, {}, color, {}, {}, &file, offset};
+    const std::size_t colon = rest.find(':');
+    if (colon != std::string_view::npos && rest.substr(0, colon).find('"') == std::string_view::npos) {
+        std::string_view groups = rest.substr(0, colon), words = rest.substr(colon + 1);
+        for (std::string_view group = TakeWord(groups); !group.empty(); group = TakeWord(groups)) {
+            if (!IsName(group))
+                complain(std::string("'").append(group).append("' is no group"));
+            keyword.groups.emplace_back(group);
+        }
+        for (std::string_view word = TakeWord(words); !word.empty(); word = TakeWord(words)) {
+            keyword.word = word;
+            keyword.token = "__" + UpperCase(word);
+            Add(keyword, takesPlace, messages);
+        }
         return;
     }
-
-    SKeyword keyword{std::string(word), "__" + UpperCase(word), color, {}, {}, &file, offset};
-    for (std::string_view next = TakeWord(row); !next.empty(); next = TakeWord(row)) {
+    keyword.word = TakeWord(rest);
+    keyword.token = "__" + UpperCase(keyword.word);
+    for (std::string_view next = TakeWord(rest); !next.empty(); next = TakeWord(rest)) {
         if (IsQuoted(next))
             keyword.spellings.emplace_back(next.substr(1, next.size() - 2));
         else if (next.starts_with("token=") && IsName(next.substr(6)))
@@ -134,7 +146,39 @@ void CKeywordTable::ReadRow(const CSourceFile& file, std::size_t offset, std::st
             complain(std::string("'").append(next).append(
                 "' is no group, token=NAME, color=NUMBER or \"spelling\""));
     }
+    Add(std::move(keyword), takesPlace, messages);
+}
+
+void CKeywordTable::Add(SKeyword keyword, bool takesPlace, CToolMessages& messages)
+{
+    const auto complain = [&](const std::string& text) {
+        messages.Write(enSeverity::Error, keyword.file->PlaceAt(keyword.offset), text);
+    };
+    if (!IsName(keyword.word))
+        return complain("'" + keyword.word + "' can't be a word of the language: its token gets its name");
+    const auto known = m_Words.find(keyword.word);
+    if (!takesPlace && known != m_Words.end())
+        return complain("the word " + keyword.word + " is there already, in " + known->second.file->Path() +
+                        ':' + std::to_string(known->second.file->LineAt(known->second.offset)) +
+                        "; '= " + keyword.word + "' takes its place");
+    if (takesPlace && (known == m_Words.end() || known->second.file == keyword.file))
+        return complain("no included table has the word " + keyword.word);
     if (keyword.spellings.empty())
-        keyword.spellings.emplace_back(word);
-    m_Words.insert_or_assign(std::string(word), std::move(keyword));
+        keyword.spellings.emplace_back(keyword.word);
+    m_Words.insert_or_assign(keyword.word, std::move(keyword));
+}
+
+void CKeywordTable::Remove(const CSourceFile& file, std::size_t offset, std::string_view words,
+                           CToolMessages& messages)
+{
+    for (std::string_view word = TakeWord(words); !word.empty(); word = TakeWord(words)) {
+        const auto known = m_Words.find(std::string(word));
+        if (known == m_Words.end() || known->second.file == &file) {
+            messages.Write(enSeverity::Error, file.PlaceAt(offset),
+                           "no included table has the word " + std::string(word));
+            continue;
+        }
+        m_Removed.insert(known->second.token);
+        m_Words.erase(known);
+    }
 }

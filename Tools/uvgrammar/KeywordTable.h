@@ -5,15 +5,17 @@
 //     line    = "%include" '"' path '"'               another table's words come first
 //             | "%color" number                       of the words that follow; 1 at the beginning
 //             | word { group } { "token" '=' name } { "color" '=' number } { '"' spelling '"' }
-//             | '=' word ...                          takes the place of what an included table says of the word
-//             | '-' word                              removes an included table's word
+//             | { group } ':' { word }                several words of the same groups
+//             | '=' word ... | '=' { group } ':' ...  takes the place of what an included table says of the word
+//             | '-' word { word }                     removes an included table's words
 //             | '#' any text
 //
 // for example
 //     %include "../Common/SQL/Words.words"
 //     character    column_name bare    "character" "charset"
+//     bare : absolute action add
 //     = current    unreserved
-//     - placing
+//     - placing overlaps
 //
 // The spelling of a word is the word itself unless others are given; its token is "__" and the word in upper case, or the name that
 // is given. A
@@ -24,6 +26,7 @@
 
 #include <cstddef>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,11 +53,16 @@ public:
     // In the order of the words' letters.
     const std::map<std::string, SKeyword>& Words() const { return m_Words; }
     bool HasGroup(std::string_view group) const;
+    // The parser's tokens of words that were removed, as far as no other word has them.
+    std::set<std::string> RemovedTokens() const;
 
 private:
     void ReadFile(CSourceFiles& files, const CSourceFile& file, CToolMessages& messages);
     void ReadRow(const CSourceFile& file, std::size_t offset, std::string_view row, int color,
                  CToolMessages& messages);
+    void Add(SKeyword keyword, bool takesPlace, CToolMessages& messages);
+    void Remove(const CSourceFile& file, std::size_t offset, std::string_view words, CToolMessages& messages);
 
     std::map<std::string, SKeyword> m_Words;
+    std::set<std::string> m_Removed; // their tokens
 };

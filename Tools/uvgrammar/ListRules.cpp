@@ -191,6 +191,11 @@ std::string PartsRules(const SPartsRule& parts)
 {
     CRuleWriter rules(parts.node);
     std::string name = parts.name;
+    if (parts.symbols.size() == 1) {
+        rules.Begin(name);
+        rules.Alternative({parts.symbols.front()}, false);
+        rules.End();
+    }
     for (std::size_t i = 0; i + 1 < parts.symbols.size(); ++i) {
         const std::string& symbol = parts.symbols[i];
         const std::string& next = parts.symbols[i + 1];

@@ -108,11 +108,18 @@ void CRulesReader::ReadDirective(std::vector<SRuleItem>& items, const SBisonWord
         form = TextOf(word);
         word = m_Words.Next();
     }
+    item.left = TextOf(word);
+    if (name == "%without" && word.kind == enBisonWord::Name &&
+        m_Words.Peek().kind == enBisonWord::Semicolon) {
+        item.kind = enRuleItem::Without;
+        item.end = m_Words.Next().end;
+        items.push_back(std::move(item));
+        return;
+    }
     if (!BeginsRule(word)) {
         Error(directive.begin, name + " is followed by a rule");
         return;
     }
-    item.left = TextOf(word);
     if (form == "%list" || form == "%parts") {
         if (m_Words.Peek().kind == enBisonWord::Tag)
             m_Words.Next();

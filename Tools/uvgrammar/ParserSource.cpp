@@ -4,6 +4,7 @@
 #include "Tools/uvgrammar/KeywordTable.h"
 #include "Tools/uvgrammar/ListRules.h"
 #include "Tools/uvgrammar/ParserRules.h"
+#include "Tools/uvgrammar/RuleChoice.h"
 
 #include <algorithm>
 #include <charconv>
@@ -69,9 +70,7 @@ public:
         CAssembledText text;
         text.Append(m_Declarations);
         if (sections < main.Text().size()) {
-            ApplyReplacements();
-            ApplyOmissions();
-            DropUnreached();
+            ChooseRules(m_Items, *m_Files, m_Keywords.RemovedTokens(), m_Start, m_Messages);
             text.Copy(main, sections, sections + 2);
             WriteItems(text);
             text.Copy(main, end, main.Text().size());
@@ -174,122 +173,6 @@ private:
         const std::size_t end = ReadRules(fragment, begin);
         if (end != fragment.Text().size())
             Error(fragment, end, "a fragment ends with its rules");
-    }
-
-    // ---- What files say of each other's rules ----
-
-    bool HasRule(const SRuleItem& item) const
-    {
-        return !item.isDropped && (item.kind == enRuleItem::Rule || item.kind == enRuleItem::List ||
-                                   item.kind == enRuleItem::Parts);
-    }
-
-    void ApplyReplacements()
-    {
-        for (const SRuleItem& item : m_Items) {
-            if (!item.replaces)
-                continue;
-            bool isFound = false;
-            for (SRuleItem& other : m_Items) {
-                if (other.left != item.left || other.file == item.file || !HasRule(other))
-                    continue;
-                if (other.replaces) {
-                    Error(*item.file, item.begin,
-                          item.left + " is replaced twice; the other one is at " + PlaceText(other));
-                    continue;
-                }
-                isFound = other.isDropped = true;
-            }
-            if (!isFound)
-                Error(*item.file, item.begin, "no other file has a rule for " + item.left);
-        }
-    }
-
-    void ApplyOmissions()
-    {
-        for (const SRuleItem& item : m_Items) {
-            if (item.kind != enRuleItem::Without)
-                continue;
-            for (const SAlternative& alternative : item.alternatives) {
-                if (!Drop(item, alternative.symbols))
-                    Error(*item.file, alternative.end > alternative.begin ? alternative.mark : item.begin,
-                          "no other file has this alternative for " + item.left);
-            }
-            const bool isLeft = std::any_of(m_Items.begin(), m_Items.end(), [&](const SRuleItem& other) {
-                return other.left == item.left && HasRule(other);
-            });
-            if (!isLeft)
-                Error(*item.file, item.begin,
-                      "nothing is left of " + item.left + "; %replace gives it a rule of its own");
-        }
-    }
-
-    bool Drop(const SRuleItem& omission, const std::vector<std::string>& symbols)
-    {
-        bool isFound = false;
-        for (SRuleItem& other : m_Items) {
-            if (other.kind != enRuleItem::Rule || other.left != omission.left || other.file == omission.file)
-                continue;
-            for (SAlternative& alternative : other.alternatives) {
-                if (alternative.isDropped || !alternative.groups.empty() || alternative.symbols != symbols)
-                    continue;
-                isFound = alternative.isDropped = true;
-            }
-            other.isDropped =
-                other.isDropped ||
-                std::all_of(other.alternatives.begin(), other.alternatives.end(),
-                            [](const SAlternative& alternative) { return alternative.isDropped; });
-        }
-        return isFound;
-    }
-
-    static std::string PlaceText(const SRuleItem& item)
-    {
-        return item.file->Path() + ':' + std::to_string(item.file->LineAt(item.begin));
-    }
-
-    // ---- Reach ----
-
-    static std::vector<std::string> SymbolsOf(const SRuleItem& item)
-    {
-        if (item.kind == enRuleItem::List)
-            return {item.list.item, item.list.separator, item.list.last};
-        if (item.kind == enRuleItem::Parts)
-            return item.parts.symbols;
-        std::vector<std::string> symbols;
-        for (const SAlternative& alternative : item.alternatives) {
-            if (!alternative.isDropped)
-                symbols.insert(symbols.end(), alternative.symbols.begin(), alternative.symbols.end());
-        }
-        return symbols;
-    }
-
-    void DropUnreached()
-    {
-        std::multimap<std::string_view, const SRuleItem*> rules;
-        for (const SRuleItem& item : m_Items) {
-            if (!HasRule(item))
-                continue;
-            rules.emplace(item.left, &item);
-            if (m_Start.empty())
-                m_Start = item.left;
-        }
-        std::set<std::string> reached;
-        std::vector<std::string> open{m_Start};
-        while (!open.empty()) {
-            const std::string symbol = open.back();
-            open.pop_back();
-            if (!reached.insert(symbol).second)
-                continue;
-            for (auto [at, end] = rules.equal_range(symbol); at != end; ++at) {
-                for (std::string& next : SymbolsOf(*at->second))
-                    open.push_back(std::move(next));
-            }
-        }
-        for (SRuleItem& item : m_Items) {
-            if (HasRule(item) && m_Files->IsShared(*item.file) && reached.count(item.left) == 0)
-                item.isDropped = true;
-        }
     }
 
     // ---- Writing ----
