@@ -1,5 +1,7 @@
 #include "Tools/uvgrammar-elements/CommandLine.h"
 
+#include "Tools/Support/ToolCommandLine.h"
+
 #include <boost/program_options.hpp>
 
 #include <sstream>
@@ -39,24 +41,11 @@ constexpr char kAfterOptions[] =
 SCommandLine ReadCommandLine(int argc, const char* const* argv)
 {
     SCommandLine line;
-    try {
-        po::options_description all = VisibleOptions(line);
-        all.add_options()("language", po::value(&line.language));
-        po::positional_options_description positions;
-        positions.add("language", 1);
-        using po::command_line_style::allow_guessing;
-        using po::command_line_style::unix_style;
-        po::variables_map values;
-        po::store(po::command_line_parser(argc, argv)
-                      .options(all)
-                      .positional(positions)
-                      .style(unix_style & ~allow_guessing)
-                      .run(),
-                  values);
-        po::notify(values);
-    } catch (const po::error& e) {
-        throw CUsageError(e.what());
-    }
+    po::options_description all = VisibleOptions(line);
+    all.add_options()("language", po::value(&line.language));
+    po::positional_options_description positions;
+    positions.add("language", 1);
+    ReadToolOptions(argc, argv, all, positions);
     if (!line.isHelp && line.language.empty())
         throw CUsageError("no language given");
     if (line.isCheck && line.output.empty())

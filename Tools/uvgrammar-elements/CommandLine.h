@@ -1,7 +1,6 @@
 // What the author asked for on the command line of uvgrammar elements.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 
 namespace uvelements {
@@ -13,13 +12,6 @@ struct SCommandLine
     bool isJson = false;  // otherwise a page
     bool isCheck = false; // nothing is written: `output` is compared
     bool isHelp = false;
-};
-
-// The command line makes no sense; the text says why.
-class CUsageError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws: CUsageError.
