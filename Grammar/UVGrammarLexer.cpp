@@ -259,7 +259,8 @@ void CSQLGrammarLexer::NoteEnd()
         return;
     const auto name =
         std::ranges::find(m_mapStartConditions, condition, &std::pair<const std::string, int>::second);
-    m_Unfinished = {name->first, m_lstEntered.back().offset};
+    const std::size_t begin = m_lstEntered.back().offset;
+    m_Unfinished = {name->first, begin, std::max(begin, m_nTokensEnd)};
 }
 
 void CSQLGrammarLexer::FindEofRules()

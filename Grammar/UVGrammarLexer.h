@@ -23,6 +23,7 @@ struct SUnfinishedText
 {
     std::string condition;  // the start condition, by its name in the language's source
     std::size_t offset = 0; // of the match that began it, in bytes of the query
+    std::size_t read = 0;   // where the last token in it ends, if long texts are collected; else as `offset`
 };
 
 // Tokens that cover several lines together: one match, or all from the match that leads into a condition in which

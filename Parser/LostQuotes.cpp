@@ -12,11 +12,15 @@ constexpr unsigned long kNearLines = 2;
 } // namespace
 
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
-                   const std::vector<SDiscardedText>& lost)
+                   const std::vector<SDiscardedText>& lost, const std::optional<SUnfinishedText>& unfinished,
+                   std::size_t size)
 {
     SReading reading{parsed != UVDB_OK, 0, unexpected.size()};
     for (const SDiscardedText& text : lost)
         reading.lostBytes += text.end - text.begin;
+    // An open comment is no token that anybody could miss, and takes in all that follows.
+    if (unfinished)
+        reading.lostBytes += size - std::min(unfinished->read, size);
     return reading;
 }
 

@@ -7,6 +7,7 @@
 #include "Grammar/UVGrammarParserImplementation.h"
 
 #include <cstddef>
+#include <optional>
 #include <tuple>
 #include <vector>
 
@@ -25,9 +26,10 @@ struct SReading
     }
 };
 
-// `parsed`: what the parser returned.
+// `parsed`: what the parser returned; `size`: of the text.
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
-                   const std::vector<SDiscardedText>& lost);
+                   const std::vector<SDiscardedText>& lost, const std::optional<SUnfinishedText>& unfinished,
+                   std::size_t size);
 
 // Where the scan can go on as if a long text that one of the tokens makes suspect had not been opened, or had
 // ended at its first line: bytes of the text, each once, in the order of the tokens.

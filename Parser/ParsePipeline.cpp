@@ -304,7 +304,8 @@ int CParsePipeline::ReadBest(SParseFindings& findings)
     };
     const auto suspects = [&] { return SuspectPlaces(scanner.LongTexts(), findings.unexpected); };
     const auto reading = [&] {
-        return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches());
+        return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches(),
+                         findings.unfinished, m_Parsed.text.size());
     };
     SReading best = reading();
     std::vector<std::size_t> walls;
