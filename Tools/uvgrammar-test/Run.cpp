@@ -158,6 +158,9 @@ private:
             ++m_Updated;
             m_Trees[chosen.file][chosen.number] = result.lines;
             m_Report += "updated: " + head;
+            for (const std::string& line : result.lines)
+                if (line.starts_with("! "))
+                    m_Report += "  " + line + '\n';
         } else if (!one.expected) {
             ++m_Failed;
             m_Report += head + "  no tree is expected yet; --update writes the one that there is\n\n";
