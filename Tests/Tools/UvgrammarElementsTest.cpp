@@ -525,6 +525,24 @@ name in let, target_list
 )"));
 }
 
+// A file that several languages share adds to the section of the language's own file.
+TEST_F(UvgrammarElements, OfFilesOfOneNameStandTogether)
+{
+    const std::string name = "name: T__NAME { NODE; } ;\n";
+    const std::string parser = kParser;
+    const std::size_t include = parser.find("%include");
+    Put("Shared/Let.y", name);
+    Put("Lets/Let.y", std::string(kLet).substr(0, std::string_view(kLet).find(name)));
+    Put("Lets/LetsParser.y",
+        parser.substr(0, include) + "%include \"../Shared/Let.y\"\n" + parser.substr(include));
+    const SRunResult run = Run("elements Lets");
+    ASSERT_EQ(run.code, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("\n## Let\n\n```\nname in let, target_list\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nlet in lets\n"));
+    EXPECT_EQ(run.out.find("## Let\n"), run.out.rfind("## Let\n"));
+    EXPECT_THAT(Run("elements Lets --json").out, HasSubstr("../Shared/Let.y"));
+}
+
 TEST_F(UvgrammarElements, GiveSetsOfManyAName)
 {
     std::string words = "%token";

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <set>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace uvelements {
@@ -89,21 +90,28 @@ public:
 
     std::string Text()
     {
-        std::string body;
-        std::string file;
+        // Files of one name, a language's own and those that it shares with others, have one section.
+        using TSection = std::pair<std::string, std::string>; // its title and its text
+        std::vector<TSection> sections;
+        auto section = sections.end();
         for (const STreeElement& element : m_Elements.tree.elements) {
-            const std::string section = element.places.empty() ? file : element.places.front().file;
-            if (section != file || body.empty()) {
-                body += (body.empty() ? "" : "```\n\n");
-                body += "## " + (section.empty() ? "Made by flattening" : Title(section)) + "\n\n```\n";
-            } else {
-                body += '\n';
+            if (sections.empty() || !element.places.empty()) {
+                const std::string title =
+                    element.places.empty() ? "Made by flattening" : Title(element.places.front().file);
+                section = std::ranges::find(sections, title, &TSection::first);
+                if (section == sections.end())
+                    section = sections.emplace(section, title, "");
             }
-            file = section;
-            AppendElement(element, body);
+            section->second += section->second.empty() ? "" : "\n";
+            AppendElement(element, section->second);
         }
-        if (!body.empty())
-            body += "```\n";
+        std::string body;
+        for (const auto& [title, text] : sections)
+            body.append(body.empty() ? "## " : "\n## ")
+                .append(title)
+                .append("\n\n```\n")
+                .append(text)
+                .append("```\n");
         return Head() + ClassesText() + body;
     }
 
