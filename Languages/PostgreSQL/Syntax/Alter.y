@@ -16,7 +16,8 @@ tablespace_move { NODE; }: moved_objects T__SET T__TABLESPACE tablespace_name T_
 moved_objects { NODE(tablespace_move); }
     : T__ALL T__IN T__TABLESPACE tablespace_name (T__OWNED T__BY role_name_list)? ;
 alter_sequence_statement { NODE; }
-    : T__ALTER T__SEQUENCE if_exists? sequence_name (sequence_option_list | alter_action_list) ;
+    : T__ALTER T__SEQUENCE if_exists? sequence_name sequence_option_list
+    | T__ALTER T__SEQUENCE if_exists? sequence_name alter_action_list ;
 %list alter_action_list: alter_action %short %separator T__COMMA ;
 alter_action { NODE; }
     : T__ADD T__COLUMN? if_not_exists? column_definition
@@ -27,7 +28,9 @@ alter_action { NODE; }
     | T__VALIDATE T__CONSTRAINT constraint_name
     | T__DROP T__COLUMN? dropped_column
     | T__DROP T__CONSTRAINT dropped_constraint
-    | T__RENAME (T__COLUMN? column_name)? T__TO new_name
+    | T__RENAME T__TO new_name
+    | T__RENAME T__COLUMN column_name T__TO new_name
+    | T__RENAME column_name T__TO new_name
     | T__RENAME T__CONSTRAINT constraint_name T__TO new_name
     | T__OWNER T__TO role_name
     | T__SET T__SCHEMA schema_name
@@ -69,13 +72,16 @@ column_action { NODE; }
     | T__RESET options
     | T__SET (T__STORAGE | T__COMPRESSION) (identifier | T__DEFAULT)
     | T__ADD T__GENERATED generated_when T__AS T__IDENTITY (T__LPAREN sequence_option_list T__RPAREN)?
-    | identity_change_list
-    | type_change (T__USING expression)?
+    | identity_change_list | type_change
+    | type_change T__USING expression
     | alter_generic_options ;
 /* Columns of an index have numbers. */
 numbered_column_action { NODE(column_action); }: T__SET T__STATISTICS statistics_target ;
 statistics_target { NODE; }: signed_integer | T__DEFAULT ;
-type_change { NODE(column_action); }: (T__SET T__DATA)? T__TYPE data_type collate_clause? ;
+type_change { NODE(column_action); }
+    : T__SET T__DATA T__TYPE data_type
+    | T__SET T__DATA T__TYPE data_type collate_clause
+    | T__TYPE data_type collate_clause? ;
 %list identity_change_list: identity_change %short ;
 identity_change { NODE; }
     : T__RESTART (T__WITH? signed_number)?

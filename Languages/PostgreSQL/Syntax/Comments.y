@@ -1,9 +1,11 @@
 /* COMMENT, SECURITY LABEL. */
 
 named_object { NODE; }
-    : T__FOREIGN? T__TABLE table_name
+    : T__TABLE table_name
+    | T__FOREIGN T__TABLE table_name
     | T__SEQUENCE sequence_name
-    | T__MATERIALIZED? T__VIEW view_name
+    | T__VIEW view_name
+    | T__MATERIALIZED T__VIEW view_name
     | T__INDEX index_name
     | T__COLLATION collation_name
     | T__CONVERSION conversion_name
@@ -37,7 +39,9 @@ commented_object { PART(named_object); }
     | T__RULE rule_name T__ON table_name
     | T__TRIGGER trigger_name T__ON table_name
     | T__LARGE T__OBJECT signed_number ;
-comment_statement { NODE; }: T__COMMENT T__ON commented_object T__IS (string_literal | T__NULL) ;
+comment_statement { NODE; }
+    : T__COMMENT T__ON commented_object T__IS string_literal
+    | T__COMMENT T__ON commented_object T__IS T__NULL ;
 security_label_statement { NODE; }
     : T__SECURITY T__LABEL (T__FOR word_or_string)? T__ON commented_object T__IS security_label ;
 security_label: string_literal | T__NULL ;

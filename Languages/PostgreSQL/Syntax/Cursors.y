@@ -7,12 +7,13 @@ cursor_option { NODE; }
     : T__NO? T__SCROLL
     | T__BINARY | T__ASENSITIVE | T__INSENSITIVE ;
 hold_option { NODE; }: T__WITH T__HOLD | T__WITHOUT T__HOLD ;
-fetch_statement { NODE; }: (T__FETCH | T__MOVE) fetch_target ;
+fetch_statement { NODE; }: T__FETCH fetch_target | T__MOVE fetch_target ;
 fetch_target { PART(fetch_statement); }: fetch_direction? from_in? cursor_name ;
 from_in: T__FROM | T__IN ;
 fetch_direction { NODE; }
     : T__NEXT | T__PRIOR | T__FIRST | T__LAST
-    | (T__ABSOLUTE | T__RELATIVE | T__FORWARD | T__BACKWARD)? signed_integer
+    | (T__ABSOLUTE | T__RELATIVE) signed_integer
+    | (T__FORWARD | T__BACKWARD)? signed_integer
     | T__ALL
     | T__FORWARD T__ALL?
     | T__BACKWARD T__ALL? ;

@@ -12,7 +12,7 @@ overriding_kind: T__USER | T__SYSTEM ;
 insert_columns { NODE(columns); }: T__LPAREN target_column_list T__RPAREN ;
 %list target_column_list: target_column %separator T__COMMA ;
 
-target_column { NODE; }: column_name indirection? ;
+target_column { NODE; }: column_name | column_name indirection ;
 %parts insert_tail: conflict_clause returning_clause %node insert_statement ;
 conflict_clause { NODE; }: T__ON T__CONFLICT conflict_target? conflict_action ;
 conflict_target { NODE; }
@@ -20,7 +20,8 @@ conflict_target { NODE; }
     | T__ON T__CONSTRAINT constraint_name ;
 conflict_action { NODE; }: T__DO T__NOTHING | T__DO T__UPDATE T__SET set_list where_clause? ;
 returning_clause { NODE; }
-    : T__RETURNING (T__WITH T__LPAREN returning_alias_list T__RPAREN)? select_list into_variables?
+    : T__RETURNING select_list into_variables?
+    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list into_variables?
     | T__RETURNING into_variables select_list ;
 %list returning_alias_list: returning_alias %short %separator T__COMMA ;
 returning_alias { NODE; }: old_or_new T__AS alias ;
@@ -41,18 +42,21 @@ using_clause { NODE; }: T__USING from_list ;
 merge_statement { PART; }: with_clause? merge_core ;
 merge_core { NODE(merge_statement); }
     : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
-          returning_clause? ;
+    | T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list returning_clause
+          ;
 %list merge_when_list: merge_when %short ;
 merge_when { NODE; }
     : T__WHEN T__MATCHED (T__AND condition)? T__THEN merge_matched_action
-    | T__WHEN T__NOT T__MATCHED (T__BY T__TARGET)? (T__AND condition)? T__THEN merge_insert_action
+    | T__WHEN T__NOT T__MATCHED (T__AND condition)? T__THEN merge_insert_action
+    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET (T__AND condition)? T__THEN merge_insert_action
     | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE (T__AND condition)? T__THEN merge_matched_action ;
 merge_matched_action { NODE; }
     : T__UPDATE T__SET set_list
     | T__DELETE
     | T__DO T__NOTHING ;
 merge_insert_action { NODE; }
-    : T__INSERT insert_columns? (T__OVERRIDING overriding_kind T__VALUE)? merge_values
+    : T__INSERT insert_columns? merge_values
+    | T__INSERT insert_columns? T__OVERRIDING overriding_kind T__VALUE merge_values
     | T__INSERT T__DEFAULT T__VALUES
     | T__DO T__NOTHING ;
 merge_values { NODE; }: T__VALUES T__LPAREN expression_list T__RPAREN ;

@@ -2,10 +2,13 @@
 
 drop_statement { NODE; }: T__DROP dropped_objects drop_behavior? | T__DROP dropped_roles ;
 dropped_objects { NODE(drop_statement); }
-    : T__FOREIGN? T__TABLE if_exists? table_name_list
+    : T__TABLE if_exists? table_name_list
+    | T__FOREIGN T__TABLE if_exists? table_name_list
     | T__SEQUENCE if_exists? sequence_name_list
-    | T__MATERIALIZED? T__VIEW if_exists? view_name_list
-    | T__INDEX T__CONCURRENTLY? if_exists? index_name_list
+    | T__VIEW if_exists? view_name_list
+    | T__MATERIALIZED T__VIEW if_exists? view_name_list
+    | T__INDEX if_exists? index_name_list
+    | T__INDEX T__CONCURRENTLY if_exists? index_name_list
     | T__COLLATION if_exists? collation_name_list
     | T__CONVERSION if_exists? conversion_name_list
     | T__STATISTICS if_exists? statistics_name_list

@@ -3,28 +3,34 @@
 expression { PART; }
     : primary
     | expression T__TYPECAST data_type
-    | expression (T__COLLATE collation_name | T__ISNULL | T__NOTNULL)
+    | expression T__COLLATE collation_name
+    | expression (T__ISNULL | T__NOTNULL)
     | expression T__AT T__TIME T__ZONE expression %prec T__AT
     | expression T__AT T__LOCAL %prec T__AT
     | (T__PLUS | T__MINUS) expression %prec UMINUS
-    | expression (T__PLUS | T__MINUS | T__ASTERISK | T__SLASH | T__PERCENT | T__CARET | T__LESS | T__GREATER |
-          T__EQUAL | T__LESS_EQUAL | T__GREATER_EQUAL | T__NOT_EQUAL) expression
-    | expression? operator expression %prec T__OPERATOR_SYMBOL
+    | expression (T__PLUS | T__MINUS | T__ASTERISK | T__SLASH | T__PERCENT) expression
+    | expression T__CARET expression
+    | expression (T__LESS | T__GREATER | T__EQUAL | T__LESS_EQUAL | T__GREATER_EQUAL | T__NOT_EQUAL) expression
+    | expression operator expression %prec T__OPERATOR_SYMBOL
+    | operator expression %prec T__OPERATOR_SYMBOL
     | expression (T__AND | T__OR) expression
     | T__NOT expression
     | T__NOT_LA expression %prec T__NOT
     | expression T__LIKE expression (T__ESCAPE expression)? %prec T__LIKE
-    | expression T__NOT_LA (T__LIKE | T__ILIKE | T__SIMILAR T__TO) expression (T__ESCAPE expression)?
-          %prec T__NOT_LA
+    | expression T__NOT_LA T__LIKE expression (T__ESCAPE expression)? %prec T__NOT_LA
+    | expression T__NOT_LA (T__ILIKE | T__SIMILAR T__TO) expression (T__ESCAPE expression)? %prec T__NOT_LA
     | expression T__ILIKE expression (T__ESCAPE expression)? %prec T__ILIKE
     | expression T__SIMILAR T__TO expression (T__ESCAPE expression)? %prec T__SIMILAR
-    | expression T__IS T__NOT? (T__NULL | truth_value | T__DOCUMENT) %prec T__IS
+    | expression T__IS T__NOT? (T__NULL | truth_value) %prec T__IS
+    | expression T__IS T__NOT? T__DOCUMENT %prec T__IS
     | expression T__IS T__NOT? T__DISTINCT T__FROM expression %prec T__IS
     | expression T__IS T__NOT? normal_form? T__NORMALIZED %prec T__IS
     | expression T__IS T__NOT? json_kind json_unique_keys? %prec T__IS
     | row T__OVERLAPS row
-    | expression T__BETWEEN between_kind? restricted_expression T__AND expression %prec T__BETWEEN
-    | expression T__NOT_LA T__BETWEEN between_kind? restricted_expression T__AND expression %prec T__NOT_LA
+    | expression T__BETWEEN restricted_expression T__AND expression %prec T__BETWEEN
+    | expression T__BETWEEN between_kind restricted_expression T__AND expression %prec T__BETWEEN
+    | expression T__NOT_LA T__BETWEEN restricted_expression T__AND expression %prec T__NOT_LA
+    | expression T__NOT_LA T__BETWEEN between_kind restricted_expression T__AND expression %prec T__NOT_LA
     | expression T__IN in_values %prec T__IN
     | expression T__NOT_LA T__IN in_values %prec T__NOT_LA
     | expression quantified_operator quantifier subquery %prec T__OPERATOR_SYMBOL
@@ -36,9 +42,12 @@ restricted_expression { PART(expression); }
     : primary
     | restricted_expression T__TYPECAST data_type
     | (T__PLUS | T__MINUS) restricted_expression %prec UMINUS
-    | restricted_expression (T__PLUS | T__MINUS | T__ASTERISK | T__SLASH | T__PERCENT | T__CARET | T__LESS |
-          T__GREATER | T__EQUAL | T__LESS_EQUAL | T__GREATER_EQUAL | T__NOT_EQUAL) restricted_expression
-    | restricted_expression? operator restricted_expression %prec T__OPERATOR_SYMBOL
+    | restricted_expression (T__PLUS | T__MINUS | T__ASTERISK | T__SLASH | T__PERCENT) restricted_expression
+    | restricted_expression T__CARET restricted_expression
+    | restricted_expression (T__LESS | T__GREATER | T__EQUAL | T__LESS_EQUAL | T__GREATER_EQUAL | T__NOT_EQUAL)
+          restricted_expression
+    | restricted_expression operator restricted_expression %prec T__OPERATOR_SYMBOL
+    | operator restricted_expression %prec T__OPERATOR_SYMBOL
     | restricted_expression T__IS T__NOT? T__DISTINCT T__FROM restricted_expression %prec T__IS
     | restricted_expression T__IS T__NOT? T__DOCUMENT %prec T__IS ;
 
@@ -72,12 +81,13 @@ in_values { PART; }: subquery | T__LPAREN expression_list T__RPAREN ;
 primary { PART(indirect_value); }
     : T__INTEGER_NUMBER | T__DECIMAL_NUMBER | T__REAL_NUMBER | T__STRING | T__ESCAPE_STRING
     | T__UNICODE_STRING | T__CLIENT_STRING | dollar_string | T__BIT_STRING | T__HEX_STRING
-    | T__NATIONAL_STRING | T__TRUE | T__FALSE | T__NULL | typed_literal
-    | any_column (subscript | subscript indirection)?
+    | T__NATIONAL_STRING | T__TRUE | T__FALSE | T__NULL | typed_literal | any_column
+    | any_column subscript indirection?
     | all_columns | function_call
     | function_call function_suffix  { NODE(function_call); }
     | T__PARAMETER_NUMBER indirection?
-    | parenthesized indirection?
+    | parenthesized
+    | parenthesized indirection
     | case_expression  { NODE(expression); }
     | function_expression
     | subquery %prec UMINUS

@@ -6,12 +6,17 @@ table_reference { NODE; }
     : relation (T__AS? alias columns?)?
     | relation alias_part? tablesample
     | T__LATERAL? function_table function_alias?
-    | T__LATERAL? (xml_table | json_table | subquery) alias_part?
+    | subquery
+    | subquery alias_part
+    | T__LATERAL subquery
+    | T__LATERAL subquery alias_part
+    | T__LATERAL? (xml_table | json_table) alias_part?
     | joined_table
     | T__LPAREN joined_table T__RPAREN alias_part ;
 
 relation { PART(table_reference); }
-    : T__ONLY? table_name
+    : table_name
+    | T__ONLY table_name
     | table_name T__ASTERISK
     | T__ONLY T__LPAREN table_name T__RPAREN ;
 /* Where it gets no alias. */
@@ -47,7 +52,10 @@ joined_table { NODE; }
     | table_reference join_type? T__JOIN table_reference join_condition
     | table_reference T__NATURAL join_type? T__JOIN table_reference ;
 join_type { NODE; }: (T__FULL | T__LEFT | T__RIGHT) T__OUTER? | T__INNER ;
-join_condition { NODE; }: T__ON condition | T__USING columns (T__AS alias)? ;
+join_condition { NODE; }
+    : T__ON condition
+    | T__USING columns
+    | T__USING columns T__AS alias ;
 
 xml_table { NODE; }
     : T__XMLTABLE T__LPAREN (T__XMLNAMESPACES T__LPAREN xml_namespace_list T__RPAREN T__COMMA)? primary

@@ -31,11 +31,13 @@ special_value { PART; }
 /* Functions with words of their own between their arguments. */
 special_function { NODE; }
     : T__COLLATION T__FOR T__LPAREN expression T__RPAREN
-    | (T__CAST | T__TREAT) T__LPAREN expression T__AS data_type T__RPAREN  { NODE(cast_expression); }
+    | T__CAST T__LPAREN expression T__AS data_type T__RPAREN  { NODE(cast_expression); }
+    | T__TREAT T__LPAREN expression T__AS data_type T__RPAREN  { NODE(cast_expression); }
     | T__EXTRACT T__LPAREN extract_field T__FROM expression T__RPAREN
     | T__NORMALIZE T__LPAREN expression (T__COMMA normal_form)? T__RPAREN
     | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression (T__FOR expression)? T__RPAREN
-    | (T__OVERLAY | T__SUBSTRING) T__LPAREN argument_list? T__RPAREN
+    | T__OVERLAY T__LPAREN argument_list? T__RPAREN
+    | T__SUBSTRING T__LPAREN argument_list? T__RPAREN
     | T__POSITION T__LPAREN restricted_expression T__IN restricted_expression T__RPAREN
     | T__SUBSTRING T__LPAREN expression (T__FROM expression)? T__FOR expression T__RPAREN
     | T__SUBSTRING T__LPAREN expression (T__FOR expression)? T__FROM expression T__RPAREN

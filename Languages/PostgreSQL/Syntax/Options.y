@@ -48,10 +48,14 @@ inherits_clause { NODE; }: T__INHERITS T__LPAREN table_name_list T__RPAREN ;
 
 create_index_statement { NODE; }: T__CREATE T__UNIQUE? T__INDEX index_definition ;
 new_index { PART(create_index_statement); }: if_not_exists? index_name ;
-index_definition { PART(create_index_statement); }: T__CONCURRENTLY? new_index? index_target ;
+index_definition { PART(create_index_statement); }
+    : new_index index_target
+    | index_target
+    | T__CONCURRENTLY new_index? index_target ;
 index_target { NODE(create_index_statement); }: T__ON table index_columns index_clause_list? ;
 index_columns { NODE(create_index_statement); }
-    : (T__USING access_method_name)? T__LPAREN index_element_list T__RPAREN ;
+    : T__LPAREN index_element_list T__RPAREN
+    | T__USING access_method_name T__LPAREN index_element_list T__RPAREN ;
 %list index_clause_list: index_clause %short ;
 index_clause { NODE; }
     : T__INCLUDE T__LPAREN index_element_list T__RPAREN
@@ -64,7 +68,9 @@ create_view_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? temporary? view_d
 view_definition { NODE(create_view_statement); }
     : T__VIEW view_name columns? view_body
     | T__RECURSIVE T__VIEW view_name columns view_body ;
-view_body { NODE(create_view_statement); }: (T__WITH options)? T__AS query check_option? ;
+view_body { NODE(create_view_statement); }
+    : T__AS query check_option?
+    | T__WITH options T__AS query check_option? ;
 check_option { NODE; }: T__WITH (T__LOCAL | T__CASCADED)? T__CHECK T__OPTION ;
 
 create_materialized_view_statement { NODE; }

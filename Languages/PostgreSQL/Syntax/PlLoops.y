@@ -7,8 +7,10 @@ loop_head { NODE(for_head); }
     : T__LOOP  { NODE; }
     | T__WHILE tested T__LOOP  { NODE(while_head); }
     | T__WHILE error T__LOOP  { NODE(while_head); }
-    | T__FOR plain_variable_list T__IN (loop_range | loop_query | loop_cursor) T__LOOP
-    | T__FOR plain_variable_list T__IN_LA (T__REVERSE loop_range | loop_result | loop_execute) T__LOOP
+    | T__FOR plain_variable_list T__IN (loop_range | loop_query) T__LOOP
+    | T__FOR plain_variable_list T__IN loop_cursor T__LOOP
+    | T__FOR plain_variable_list T__IN_LA T__REVERSE loop_range T__LOOP
+    | T__FOR plain_variable_list T__IN_LA (loop_result | loop_execute) T__LOOP
     | T__FOR error T__LOOP
     | T__FOREACH plain_variable_list (T__SLICE T__INTEGER_NUMBER)? T__IN T__ARRAY expression T__LOOP
           { NODE(foreach_head); }

@@ -20,5 +20,10 @@ do_item { PART; }
 call_statement { NODE; }: T__CALL function_call ;
 prepare_statement { NODE; }
     : T__PREPARE statement_name (T__LPAREN data_type_list T__RPAREN)? T__AS preparable_statement ;
-execute_statement { NODE; }: T__EXECUTE statement_name (T__LPAREN expression_list T__RPAREN)? ;
-deallocate_statement { NODE; }: T__DEALLOCATE T__PREPARE? (statement_name | T__ALL) ;
+execute_statement { NODE; }
+    : T__EXECUTE statement_name
+    | T__EXECUTE statement_name T__LPAREN expression_list T__RPAREN ;
+deallocate_statement { NODE; }
+    : T__DEALLOCATE T__PREPARE statement_name
+    | T__DEALLOCATE statement_name
+    | T__DEALLOCATE T__PREPARE? T__ALL ;

@@ -36,7 +36,7 @@ set_quantifier: T__ALL | T__DISTINCT ;
 
 select_head { PART(select_statement); }: T__SELECT T__ALL? ;
 distinct_head { NODE(select_statement); }: T__SELECT distinct_clause ;
-distinct_clause { NODE; }: T__DISTINCT (T__ON T__LPAREN expression_list T__RPAREN)? ;
+distinct_clause { NODE; }: T__DISTINCT | T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN ;
 
 %list select_list: select_item %separator T__COMMA ;
 
@@ -56,7 +56,10 @@ window_part { PART(select_statement); }: window_clause into_variables? ;
 
 into_clause { PART; }: T__INTO into_target | into_variables ;
 into_target { PART(into_clause); }: temporary? T__TABLE? table_name ;
-temporary { PART; }: (T__LOCAL | T__GLOBAL)? (T__TEMPORARY | T__TEMP) | T__UNLOGGED ;
+temporary { PART; }
+    : (T__LOCAL | T__GLOBAL)? T__TEMPORARY
+    | (T__LOCAL | T__GLOBAL)? T__TEMP
+    | T__UNLOGGED ;
 
 from_clause { NODE; }: T__FROM from_list ;
 where_clause { NODE; }: T__WHERE condition ;
@@ -86,7 +89,7 @@ frame_exclusion { NODE; }: T__EXCLUDE (T__CURRENT T__ROW | T__GROUP | T__TIES | 
 
 sort_clause { NODE; }: T__ORDER T__BY sort_list ;
 %list sort_list: sort_item %short %separator T__COMMA ;
-sort_item { NODE; }: expression sort_direction? nulls_order? ;
+sort_item { NODE; }: expression sort_direction? | expression sort_direction? nulls_order ;
 sort_direction { NODE; }
     : T__ASC | T__DESC
     | T__USING any_operator
@@ -110,7 +113,10 @@ only_or_ties { PART; }: T__ONLY | T__WITH T__TIES ;
 locking_clause { NODE; }: locking_list | T__FOR T__READ T__ONLY ;
 %list locking_list: locking_item %short ;
 locking_item { NODE; }: locking_strength locked_tables? locking_wait? ;
-locking_strength { NODE; }: T__FOR (T__NO T__KEY)? T__UPDATE | T__FOR T__KEY? T__SHARE ;
+locking_strength { NODE; }
+    : T__FOR (T__UPDATE | T__SHARE)
+    | T__FOR T__NO T__KEY T__UPDATE
+    | T__FOR T__KEY T__SHARE ;
 locked_tables { NODE; }: T__OF table_name_list ;
 locking_wait { NODE; }: T__NOWAIT | T__SKIP T__LOCKED ;
 
@@ -122,8 +128,10 @@ values_row { NODE; }: T__LPAREN expression_list T__RPAREN ;
 with_clause { NODE; }: T__WITH T__RECURSIVE? common_table_list | T__WITH_LA common_table_list ;
 %list common_table_list: common_table %short %separator T__COMMA ;
 table_name_alone { NODE(table_name); }: identifier ;
-common_table { NODE; }: table_name_alone columns? cte_body cte_tail? ;
-cte_body { NODE; }: T__AS (T__NOT? T__MATERIALIZED)? T__LPAREN preparable_statement T__RPAREN ;
+common_table { NODE; }: table_name_alone columns? cte_body | table_name_alone columns? cte_body cte_tail ;
+cte_body { NODE; }
+    : T__AS T__LPAREN preparable_statement T__RPAREN
+    | T__AS T__NOT? T__MATERIALIZED T__LPAREN preparable_statement T__RPAREN ;
 %parts cte_tail: search_clause cycle_clause %node common_table ;
 search_clause { NODE; }: T__SEARCH (T__DEPTH | T__BREADTH) T__FIRST T__BY column_name_list T__SET column_name ;
 cycle_clause { NODE; }

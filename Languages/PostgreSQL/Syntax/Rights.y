@@ -20,7 +20,8 @@ revoked_privileges { NODE(revoke_statement); }
     : privileges T__ON privilege_target T__FROM grantee_list
     | T__GRANT T__OPTION T__FOR privileges T__ON privilege_target T__FROM grantee_list
     | privilege_list T__FROM grantee_list
-    | (T__ADMIN | T__INHERIT | T__SET) T__OPTION T__FOR privilege_list T__FROM grantee_list ;
+    | T__ADMIN T__OPTION T__FOR privilege_list T__FROM grantee_list
+    | (T__INHERIT | T__SET) T__OPTION T__FOR privilege_list T__FROM grantee_list ;
 %parts revoke_tail: granted_by drop_behavior %node revoke_statement ;
 granted_by { NODE; }: T__GRANTED T__BY role_name ;
 %list grantee_list: grantee %short %separator T__COMMA ;

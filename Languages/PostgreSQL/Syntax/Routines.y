@@ -6,13 +6,15 @@ routine_definition { NODE(create_routine_statement); }
 routine_word: T__FUNCTION | T__PROCEDURE ;
 parameters { NODE; }: T__LPAREN parameter_list? T__RPAREN ;
 %list parameter_list: parameter %short %separator T__COMMA ;
-parameter { PART; }: plain_parameter (T__EQUAL expression | T__DEFAULT expression)? ;
+parameter { PART; }: plain_parameter (T__DEFAULT expression)? | plain_parameter T__EQUAL expression ;
 plain_parameter { NODE(parameter); }
-    : (parameter_name parameter_mode?)? function_type
-    | parameter_mode parameter_name? function_type ;
+    : function_type
+    | parameter_name parameter_mode function_type
+    | parameter_mode? parameter_name function_type
+    | parameter_mode function_type ;
 parameter_mode { NODE; }
-    : T__IN
-    | T__IN? T__OUT
+    : T__IN | T__OUT
+    | T__IN T__OUT
     | T__INOUT | T__VARIADIC ;
 %list routine_item_list: routine_item %short ;
 routine_item { NODE; }

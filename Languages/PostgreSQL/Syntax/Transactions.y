@@ -1,9 +1,11 @@
 /* Transactions. */
 
 transaction_statement { NODE; }
-    : (T__ABORT | T__COMMIT | T__ROLLBACK) transaction_words?
+    : (T__COMMIT | T__ROLLBACK) transaction_words?
+    | T__ABORT transaction_words?
     | T__START T__TRANSACTION transaction_mode_list?
-    | T__RELEASE? T__SAVEPOINT savepoint_name
+    | T__SAVEPOINT savepoint_name
+    | T__RELEASE T__SAVEPOINT savepoint_name
     | T__RELEASE savepoint_name
     | T__ROLLBACK transaction_word? T__TO T__SAVEPOINT? savepoint_name
     | T__PREPARE T__TRANSACTION string_literal

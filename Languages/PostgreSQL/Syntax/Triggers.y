@@ -1,6 +1,8 @@
 /* Triggers, rules, policies. */
 
-create_trigger_statement { NODE; }: T__CREATE (T__CONSTRAINT | T__OR T__REPLACE)? trigger_definition ;
+create_trigger_statement { NODE; }
+    : T__CREATE (T__OR T__REPLACE)? trigger_definition
+    | T__CREATE T__CONSTRAINT trigger_definition ;
 trigger_definition { NODE(create_trigger_statement); }
     : T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name trigger_clause_list?
           trigger_action ;
@@ -17,7 +19,8 @@ trigger_clause { NODE; }
     : T__FROM table_name
     | constraint_attribute
     | T__REFERENCING transition_table_list
-    | T__FOR T__EACH? trigger_level
+    | T__FOR T__EACH trigger_level
+    | T__FOR trigger_level
     | T__WHEN T__LPAREN condition T__RPAREN ;
 trigger_level: T__ROW | T__STATEMENT ;
 %list transition_table_list: transition_table %short ;

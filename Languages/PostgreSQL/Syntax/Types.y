@@ -1,7 +1,9 @@
 /* Types. What stands at the place of a type is a data_type, and the name in it a type_name. */
 
 data_type { PART; }
-    : T__SETOF? simple_type (T__ARRAY | array_bounds)?
+    : simple_type
+    | T__SETOF simple_type
+    | T__SETOF? simple_type (T__ARRAY | array_bounds)
     | T__SETOF? simple_type T__ARRAY T__LBRACKET T__INTEGER_NUMBER T__RBRACKET ;
 
 array_bounds { NODE; }: array_bounds? T__LBRACKET T__INTEGER_NUMBER? T__RBRACKET ;
