@@ -93,6 +93,15 @@ pl_sql_statement_delimiter { NODE; }: T__SEMICOLON | T__CLIENT_SEND ;
 /* BEGIN and END as statements stand at the top alone: in the body of a routine END closes the body. */
 pl_sql_statement { NODE; }: statement | begin_end_statement ;
 
+%include "../Common/SQL/Names.y"
+%include "../Common/SQL/Literals.y"
+%include "../Common/SQL/Types.y"
+%include "../Common/SQL/Intervals.y"
+%include "../Common/SQL/Expressions.y"
+%include "../Common/SQL/TimeZones.y"
+%include "../Common/SQL/FunctionCalls.y"
+%include "../Common/SQL/Aggregates.y"
+%include "../Common/SQL/Windows.y"
 %include "Syntax/Names.y"
 %include "Syntax/Literals.y"
 %include "Syntax/Types.y"

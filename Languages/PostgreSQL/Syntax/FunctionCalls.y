@@ -1,48 +1,18 @@
-/* Functions. */
-
-function_expression: special_value | special_function  { NODE(expression); } ;
-
-function_call { NODE; }
-    : function_name T__LPAREN T__ASTERISK? T__RPAREN
-    | function_name T__LPAREN (T__ALL | T__DISTINCT)? argument_list sort_clause? T__RPAREN ;
-
-%list argument_list: argument %separator T__COMMA ;
+/* Functions with words of PostgreSQL's own, those of XML among them. */
 
 argument { PART(named_argument); }
-    : (parameter_name T__ARROW)? expression
-    | parameter_name T__COLON_EQUAL expression
+    : parameter_name T__COLON_EQUAL expression
     | T__VARIADIC argument  { NODE(variadic_argument); } ;
 
-function_suffix { PART(function_call); }
-    : within_group over_clause?
-    | within_group? filter_clause over_clause?
-    | over_clause ;
-within_group { NODE; }: T__WITHIN T__GROUP T__LPAREN sort_clause T__RPAREN ;
-filter_clause { NODE; }: T__FILTER T__LPAREN T__WHERE condition T__RPAREN ;
-over_clause { NODE; }: T__OVER window_definition | T__OVER window_name ;
+special_value { PART; }: T__CURRENT_ROLE | T__SYSTEM_USER | T__CURRENT_CATALOG | T__CURRENT_SCHEMA ;
 
-special_value { PART; }
-    : T__CURRENT_DATE
-    | (T__CURRENT_TIME | T__CURRENT_TIMESTAMP | T__LOCALTIME | T__LOCALTIMESTAMP) (T__LPAREN T__INTEGER_NUMBER
-          T__RPAREN)?
-    | T__CURRENT_ROLE | T__CURRENT_USER | T__SESSION_USER | T__SYSTEM_USER | T__USER | T__CURRENT_CATALOG
-    | T__CURRENT_SCHEMA ;
-
-/* Functions with words of their own between their arguments. */
 special_function { NODE; }
     : T__COLLATION T__FOR T__LPAREN expression T__RPAREN
-    | T__CAST T__LPAREN expression T__AS data_type T__RPAREN  { NODE(cast_expression); }
     | T__TREAT T__LPAREN expression T__AS data_type T__RPAREN  { NODE(cast_expression); }
-    | T__EXTRACT T__LPAREN extract_field T__FROM expression T__RPAREN
     | T__NORMALIZE T__LPAREN expression (T__COMMA normal_form)? T__RPAREN
     | T__OVERLAY T__LPAREN expression T__PLACING expression T__FROM expression (T__FOR expression)? T__RPAREN
     | T__OVERLAY T__LPAREN argument_list? T__RPAREN
-    | T__SUBSTRING T__LPAREN argument_list? T__RPAREN
-    | T__POSITION T__LPAREN restricted_expression T__IN restricted_expression T__RPAREN
-    | T__SUBSTRING T__LPAREN expression (T__FROM expression)? T__FOR expression T__RPAREN
-    | T__SUBSTRING T__LPAREN expression (T__FOR expression)? T__FROM expression T__RPAREN
     | T__SUBSTRING T__LPAREN expression T__SIMILAR expression T__ESCAPE expression T__RPAREN
-    | T__TRIM T__LPAREN trim_side? trim_operands T__RPAREN
     | T__MERGE_ACTION T__LPAREN T__RPAREN
     | T__NULLIF T__LPAREN expression T__COMMA expression T__RPAREN
     | (T__COALESCE | T__GREATEST | T__LEAST | T__XMLCONCAT) T__LPAREN expression_list T__RPAREN
@@ -55,11 +25,7 @@ special_function { NODE; }
     | T__XMLROOT T__LPAREN expression T__COMMA xml_version xml_standalone? T__RPAREN
     | T__XMLSERIALIZE T__LPAREN document_or_content expression T__AS simple_type xml_indent? T__RPAREN ;
 
-extract_field
-    : plain_identifier | T__YEAR | T__MONTH | T__DAY | T__HOUR | T__MINUTE | T__SECOND | string_literal ;
-
-trim_side: T__BOTH | T__LEADING | T__TRAILING ;
-trim_operands { NODE; }: expression T__FROM expression_list | T__FROM? expression_list ;
+extract_field: plain_identifier | string_literal ;
 
 xml_name { NODE; }: any_label ;
 xml_attributes { NODE; }: T__XMLATTRIBUTES T__LPAREN xml_attribute_list T__RPAREN ;

@@ -74,19 +74,6 @@ group_item { NODE; }
     | (T__CUBE | T__ROLLUP) T__LPAREN expression_list T__RPAREN
     | T__GROUPING T__SETS T__LPAREN group_list T__RPAREN ;
 
-%list window_list: named_window %short %separator T__COMMA ;
-named_window { NODE; }: window_name T__AS window_definition ;
-window_definition { NODE; }: T__LPAREN window_name? window_parts? T__RPAREN ;
-%parts window_parts: window_partition sort_clause frame_clause %node window_definition ;
-window_partition { NODE; }: T__PARTITION T__BY expression_list ;
-frame_clause { NODE; }: (T__RANGE | T__ROWS | T__GROUPS) frame_extent frame_exclusion? ;
-frame_extent { NODE; }: frame_bound | T__BETWEEN frame_bound T__AND frame_bound ;
-frame_bound { NODE; }
-    : T__UNBOUNDED (T__PRECEDING | T__FOLLOWING)
-    | T__CURRENT T__ROW
-    | expression (T__PRECEDING | T__FOLLOWING) ;
-frame_exclusion { NODE; }: T__EXCLUDE (T__CURRENT T__ROW | T__GROUP | T__TIES | T__NO T__OTHERS) ;
-
 sort_clause { NODE; }: T__ORDER T__BY sort_list ;
 %list sort_list: sort_item %short %separator T__COMMA ;
 sort_item { NODE; }: expression sort_direction? | expression sort_direction? nulls_order ;
@@ -127,7 +114,6 @@ values_row { NODE; }: T__LPAREN expression_list T__RPAREN ;
 
 with_clause { NODE; }: T__WITH T__RECURSIVE? common_table_list | T__WITH_LA common_table_list ;
 %list common_table_list: common_table %short %separator T__COMMA ;
-table_name_alone { NODE(table_name); }: identifier ;
 common_table { NODE; }: table_name_alone columns? cte_body | table_name_alone columns? cte_body cte_tail ;
 cte_body { NODE; }
     : T__AS T__LPAREN preparable_statement T__RPAREN

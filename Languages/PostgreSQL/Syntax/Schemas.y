@@ -11,7 +11,6 @@ schema_element
     : create_table_statement | create_index_statement | create_sequence_statement | create_trigger_statement
     | create_view_statement | grant_statement ;
 
-%list role_name_list: role_name %short %separator T__COMMA ;
 create_role_statement { NODE; }: T__CREATE (role_or_group | T__USER) role_name T__WITH? role_option_list? ;
 role_or_group: T__ROLE | T__GROUP ;
 %list role_option_list: role_option %short ;
