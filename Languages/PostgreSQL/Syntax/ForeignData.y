@@ -22,4 +22,3 @@ import_foreign_schema_statement { NODE; }
 import_filter { NODE; }
     : T__LIMIT T__TO T__LPAREN relation_list T__RPAREN
     | T__EXCEPT T__LPAREN relation_list T__RPAREN ;
-%list relation_list: table %short %separator T__COMMA %node table_reference_list ;

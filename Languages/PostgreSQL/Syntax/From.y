@@ -1,31 +1,15 @@
-/* What stands in FROM. */
-
-%list from_list: table_reference %short %separator T__COMMA ;
+/* What else PostgreSQL takes in FROM: functions, tables of XML and JSON, ONLY. */
 
 table_reference { NODE; }
-    : relation (T__AS? alias columns?)?
-    | relation alias_part? tablesample
-    | T__LATERAL? function_table function_alias?
+    : T__LATERAL? function_table function_alias?
     | subquery
-    | subquery alias_part
     | T__LATERAL subquery
-    | T__LATERAL subquery alias_part
-    | T__LATERAL? (xml_table | json_table) alias_part?
-    | joined_table
-    | T__LPAREN joined_table T__RPAREN alias_part ;
+    | T__LATERAL? (xml_table | json_table) alias_part? ;
 
 relation { PART(table_reference); }
-    : table_name
-    | T__ONLY table_name
+    : T__ONLY table_name
     | table_name T__ASTERISK
     | T__ONLY T__LPAREN table_name T__RPAREN ;
-/* Where it gets no alias. */
-table { NODE(table_reference); }: relation ;
-
-alias_part { PART(table_reference); }
-    : alias
-    | T__AS? alias columns
-    | T__AS alias ;
 
 function_alias { PART(table_reference); }
     : alias_part
@@ -35,10 +19,6 @@ function_alias { PART(table_reference); }
 /* A column of a row that has no table: a name and a type. */
 plain_column_definition { NODE(column_definition); }: column_name data_type (T__COLLATE collation_name)? ;
 
-tablesample { NODE; }
-    : T__TABLESAMPLE function_name T__LPAREN expression_list T__RPAREN (T__REPEATABLE T__LPAREN expression
-          T__RPAREN)? ;
-
 plain_function: function_call | special_value | special_function | json_aggregate | json_object_call ;
 function_table { NODE; }
     : plain_function (T__WITH_LA T__ORDINALITY)?
@@ -46,16 +26,7 @@ function_table { NODE; }
 %list rows_from_list: rows_from_item %short %separator T__COMMA ;
 rows_from_item { NODE; }: plain_function (T__AS T__LPAREN column_definition_list T__RPAREN)? ;
 
-joined_table { NODE; }
-    : T__LPAREN joined_table T__RPAREN
-    | table_reference T__CROSS T__JOIN table_reference
-    | table_reference join_type? T__JOIN table_reference join_condition
-    | table_reference T__NATURAL join_type? T__JOIN table_reference ;
-join_type { NODE; }: (T__FULL | T__LEFT | T__RIGHT) T__OUTER? | T__INNER ;
-join_condition { NODE; }
-    : T__ON condition
-    | T__USING columns
-    | T__USING columns T__AS alias ;
+join_condition { NODE; }: T__USING columns T__AS alias ;
 
 xml_table { NODE; }
     : T__XMLTABLE T__LPAREN (T__XMLNAMESPACES T__LPAREN xml_namespace_list T__RPAREN T__COMMA)? primary

@@ -1,0 +1,3 @@
+/* LATERAL: a query in FROM that sees what stands before it. */
+
+table_reference { NODE; }: T__LATERAL subquery alias_part ;
