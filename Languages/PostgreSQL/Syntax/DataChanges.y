@@ -1,18 +1,6 @@
-/* INSERT, UPDATE, DELETE, MERGE. */
+/* What PostgreSQL adds to INSERT, UPDATE, DELETE and MERGE, and the statements that there are. */
 
-insert_statement { PART; }: with_clause? insert_core ;
-insert_core { NODE(insert_statement); }: T__INSERT T__INTO insert_target insert_source insert_tail? ;
-insert_target { NODE(table_reference); }: table_name (T__AS alias)? ;
-insert_source { PART(insert_statement); }
-    : query
-    | insert_columns? T__OVERRIDING overriding_kind T__VALUE query
-    | insert_columns query
-    | T__DEFAULT T__VALUES ;
-overriding_kind: T__USER | T__SYSTEM ;
-insert_columns { NODE(columns); }: T__LPAREN target_column_list T__RPAREN ;
-%list target_column_list: target_column %separator T__COMMA ;
-
-target_column { NODE; }: column_name | column_name indirection ;
+target_column { NODE; }: column_name indirection ;
 %parts insert_tail: conflict_clause returning_clause %node insert_statement ;
 conflict_clause { NODE; }: T__ON T__CONFLICT conflict_target? conflict_action ;
 conflict_target { NODE; }
@@ -20,46 +8,27 @@ conflict_target { NODE; }
     | T__ON T__CONSTRAINT constraint_name ;
 conflict_action { NODE; }: T__DO T__NOTHING | T__DO T__UPDATE T__SET set_list where_clause? ;
 returning_clause { NODE; }
-    : T__RETURNING select_list into_variables?
-    | T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list into_variables?
+    : T__RETURNING T__WITH T__LPAREN returning_alias_list T__RPAREN select_list into_variables?
     | T__RETURNING into_variables select_list ;
 %list returning_alias_list: returning_alias %short %separator T__COMMA ;
 returning_alias { NODE; }: old_or_new T__AS alias ;
 
-update_statement { PART; }: with_clause? update_core ;
-update_core { NODE(update_statement); }: T__UPDATE target_relation T__SET set_list update_tail? ;
 %parts update_tail: from_clause dml_where returning_clause %node update_statement ;
-dml_where { PART(where_clause); }: where_clause | T__WHERE T__CURRENT T__OF cursor_name ;
-target_relation { NODE(table_reference); }: relation %prec UMINUS | relation T__AS? alias ;
-%list set_list: set_item %short %separator T__COMMA ;
-set_item { NODE; }: target_column T__EQUAL expression | insert_columns T__EQUAL expression ;
 
-delete_statement { PART; }: with_clause? delete_core ;
-delete_core { NODE(delete_statement); }: T__DELETE T__FROM target_relation delete_tail? ;
 %parts delete_tail: using_clause dml_where returning_clause %node delete_statement ;
 using_clause { NODE; }: T__USING from_list ;
 
-merge_statement { PART; }: with_clause? merge_core ;
 merge_core { NODE(merge_statement); }
-    : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list
-    | T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list returning_clause
+    : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list returning_clause
           ;
-%list merge_when_list: merge_when %short ;
 merge_when { NODE; }
-    : T__WHEN T__MATCHED (T__AND condition)? T__THEN merge_matched_action
-    | T__WHEN T__NOT T__MATCHED (T__AND condition)? T__THEN merge_insert_action
-    | T__WHEN T__NOT T__MATCHED T__BY T__TARGET (T__AND condition)? T__THEN merge_insert_action
+    : T__WHEN T__NOT T__MATCHED T__BY T__TARGET (T__AND condition)? T__THEN merge_insert_action
     | T__WHEN T__NOT T__MATCHED T__BY T__SOURCE (T__AND condition)? T__THEN merge_matched_action ;
-merge_matched_action { NODE; }
-    : T__UPDATE T__SET set_list
-    | T__DELETE
-    | T__DO T__NOTHING ;
+merge_matched_action { NODE; }: T__DO T__NOTHING ;
 merge_insert_action { NODE; }
-    : T__INSERT insert_columns? merge_values
-    | T__INSERT insert_columns? T__OVERRIDING overriding_kind T__VALUE merge_values
+    : T__INSERT insert_columns? T__OVERRIDING overriding_kind T__VALUE merge_values
     | T__INSERT T__DEFAULT T__VALUES
     | T__DO T__NOTHING ;
-merge_values { NODE; }: T__VALUES T__LPAREN expression_list T__RPAREN ;
 
 statement: shared_statement | execute_statement | declare_cursor_statement | fetch_statement | close_statement ;
 /* What a block of PL/pgSQL says in the same words. */

@@ -2,7 +2,8 @@
 
 create_table_statement { NODE; }: T__CREATE temporary? T__TABLE table_definition ;
 table_definition { PART(create_table_statement); }
-    : new_table T__LPAREN table_element_list? T__RPAREN table_option_list?
+    : new_table T__LPAREN table_element_list T__RPAREN table_option_list?
+    | new_table T__LPAREN T__RPAREN table_option_list?
     | new_table T__OF defined_type_name (T__LPAREN typed_element_list T__RPAREN)? table_option_list?
     | new_table T__PARTITION T__OF table_name (T__LPAREN typed_element_list T__RPAREN)? partition_bound
           table_option_list?
@@ -85,15 +86,17 @@ table_constraint { NODE; }: common_constraint  { PART; } | (T__CONSTRAINT constr
 common_constraint { NODE(table_constraint); }: (T__CONSTRAINT constraint_name)? table_constraint_body ;
 not_null_column { NODE(table_constraint); }: T__NOT T__NULL column_name constraint_attribute_list? ;
 table_constraint_body { NODE(table_constraint); }
-    : T__CHECK T__LPAREN condition T__RPAREN constraint_attribute_list?
+    : T__CHECK T__LPAREN condition T__RPAREN
+    | T__CHECK T__LPAREN condition T__RPAREN constraint_attribute_list
     | T__UNIQUE key_columns
     | T__UNIQUE nulls_distinct key_columns
     | T__PRIMARY T__KEY key_columns
     | T__UNIQUE T__USING T__INDEX index_name constraint_attribute_list?
     | T__PRIMARY T__KEY T__USING T__INDEX index_name constraint_attribute_list?
     | T__EXCLUDE exclusion
-    | T__FOREIGN T__KEY foreign_columns references_clause constraint_attribute_list? ;
-key_columns { PART(table_constraint); }: unique_columns key_tail? ;
+    | T__FOREIGN T__KEY foreign_columns references_clause
+    | T__FOREIGN T__KEY foreign_columns references_clause constraint_attribute_list ;
+key_columns { PART(table_constraint); }: unique_columns | unique_columns key_tail ;
 unique_columns { NODE(columns); }: T__LPAREN unique_column_list T__RPAREN ;
 %list unique_column_list: unique_column %separator T__COMMA %node key_column_list ;
 

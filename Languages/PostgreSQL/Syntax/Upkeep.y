@@ -2,14 +2,14 @@
 
 lock_statement { NODE; }: T__LOCK locked_tables_part lock_mode? T__NOWAIT? ;
 locked_tables_part { PART(lock_statement); }: T__TABLE? relation_list ;
-truncated_tables { PART(truncate_statement); }: T__TABLE relation_list | relation_list ;
+truncated_tables { PART(truncate_statement); }: relation_list ;
 lock_mode { NODE; }: T__IN lock_mode_words T__MODE ;
 lock_mode_words { PART(lock_mode); }
     : T__ACCESS T__SHARE
     | T__ROW? T__SHARE
     | (T__ROW | T__ACCESS)? T__EXCLUSIVE
     | T__SHARE (T__UPDATE | T__ROW) T__EXCLUSIVE ;
-truncate_statement { NODE; }: T__TRUNCATE truncated_tables | T__TRUNCATE truncated_tables truncate_tail ;
+truncate_statement { NODE; }: T__TRUNCATE truncated_tables truncate_tail ;
 %parts truncate_tail: identity_restart drop_behavior %node truncate_statement ;
 identity_restart { NODE; }: (T__CONTINUE | T__RESTART) T__IDENTITY ;
 vacuum_statement { NODE; }: T__VACUUM (vacuum_words | utility_options)? vacuumed_table_list? ;
