@@ -1,8 +1,6 @@
 /* ALTER. */
 
-alter_table_statement { NODE; }
-    : T__ALTER T__TABLE if_exists? table alter_action_list
-    | T__ALTER T__TABLE tablespace_move ;
+alter_table_statement { NODE; }: T__ALTER T__TABLE tablespace_move ;
 alter_index_statement { NODE; }
     : T__ALTER T__INDEX if_exists? index_name alter_action_list
     | T__ALTER T__INDEX tablespace_move ;
@@ -15,21 +13,12 @@ alter_foreign_table_statement { NODE; }: T__ALTER T__FOREIGN T__TABLE if_exists?
 tablespace_move { NODE; }: moved_objects T__SET T__TABLESPACE tablespace_name T__NOWAIT? ;
 moved_objects { NODE(tablespace_move); }
     : T__ALL T__IN T__TABLESPACE tablespace_name (T__OWNED T__BY role_name_list)? ;
-alter_sequence_statement { NODE; }
-    : T__ALTER T__SEQUENCE if_exists? sequence_name sequence_option_list
-    | T__ALTER T__SEQUENCE if_exists? sequence_name alter_action_list ;
+alter_sequence_statement { NODE; }: T__ALTER T__SEQUENCE if_exists? sequence_name alter_action_list ;
 %list alter_action_list: alter_action %short %separator T__COMMA ;
 alter_action { NODE; }
-    : T__ADD T__COLUMN? if_not_exists? column_definition
-    | T__ADD table_constraint
-    | T__ALTER T__COLUMN? column_name column_action
-    | T__ALTER T__COLUMN? T__INTEGER_NUMBER numbered_column_action
+    : T__ALTER T__COLUMN? T__INTEGER_NUMBER numbered_column_action
     | T__ALTER T__CONSTRAINT constraint_name (T__INHERIT | constraint_attribute_list)?
     | T__VALIDATE T__CONSTRAINT constraint_name
-    | T__DROP T__COLUMN? dropped_column
-    | T__DROP T__CONSTRAINT dropped_constraint
-    | T__RENAME T__TO new_name
-    | T__RENAME T__COLUMN column_name T__TO new_name
     | T__RENAME column_name T__TO new_name
     | T__RENAME T__CONSTRAINT constraint_name T__TO new_name
     | T__OWNER T__TO role_name
@@ -58,29 +47,22 @@ alter_action { NODE; }
 attached_index { NODE(index_name); }: qualified_name ;
 extension_dependency { NODE; }: T__NO? T__DEPENDS T__ON T__EXTENSION extension_name ;
 trigger_or_rule { NODE(alter_action); }: T__TRIGGER (trigger_name | T__ALL | T__USER) | T__RULE rule_name ;
-dropped_column { PART(alter_action); }: if_exists? column_name drop_behavior? ;
-dropped_constraint { PART(alter_action); }: if_exists? constraint_name drop_behavior? ;
-drop_behavior { NODE; }: T__CASCADE | T__RESTRICT ;
 column_action { NODE; }
-    : T__SET T__DEFAULT expression
-    | T__DROP T__DEFAULT
-    | (T__SET | T__DROP) T__NOT T__NULL
-    | T__DROP (T__EXPRESSION | T__IDENTITY) if_exists?
+    : T__DROP (T__EXPRESSION | T__IDENTITY) if_exists?
     | T__SET T__EXPRESSION T__AS T__LPAREN expression T__RPAREN
     | T__SET T__STATISTICS statistics_target
     | T__SET options
     | T__RESET options
     | T__SET (T__STORAGE | T__COMPRESSION) (identifier | T__DEFAULT)
     | T__ADD T__GENERATED generated_when T__AS T__IDENTITY (T__LPAREN sequence_option_list T__RPAREN)?
-    | identity_change_list | type_change
+    | identity_change_list
     | type_change T__USING expression
     | alter_generic_options ;
 /* Columns of an index have numbers. */
 numbered_column_action { NODE(column_action); }: T__SET T__STATISTICS statistics_target ;
 statistics_target { NODE; }: signed_integer | T__DEFAULT ;
 type_change { NODE(column_action); }
-    : T__SET T__DATA T__TYPE data_type
-    | T__SET T__DATA T__TYPE data_type collate_clause
+    : T__SET T__DATA T__TYPE data_type collate_clause
     | T__TYPE data_type collate_clause? ;
 %list identity_change_list: identity_change %short ;
 identity_change { NODE; }

@@ -1,12 +1,8 @@
-/* COMMENT, SECURITY LABEL. */
+/* What else has comments, and SECURITY LABEL. */
 
 named_object { NODE; }
-    : T__TABLE table_name
-    | T__FOREIGN T__TABLE table_name
-    | T__SEQUENCE sequence_name
-    | T__VIEW view_name
+    : T__FOREIGN T__TABLE table_name
     | T__MATERIALIZED T__VIEW view_name
-    | T__INDEX index_name
     | T__COLLATION collation_name
     | T__CONVERSION conversion_name
     | T__STATISTICS statistics_name
@@ -32,16 +28,12 @@ named_object { NODE; }
     | T__TRANSFORM T__FOR data_type T__LANGUAGE language_name ;
 named_language { PART(named_object); }: T__PROCEDURAL? T__LANGUAGE ;
 commented_object { PART(named_object); }
-    : named_object
-    | T__COLUMN qualified_column_name
-    | T__CONSTRAINT constraint_name T__ON (table_name | T__DOMAIN domain_name)
+    : T__CONSTRAINT constraint_name T__ON (table_name | T__DOMAIN domain_name)
     | T__POLICY policy_name T__ON table_name
     | T__RULE rule_name T__ON table_name
     | T__TRIGGER trigger_name T__ON table_name
     | T__LARGE T__OBJECT signed_number ;
-comment_statement { NODE; }
-    : T__COMMENT T__ON commented_object T__IS string_literal
-    | T__COMMENT T__ON commented_object T__IS T__NULL ;
+comment_statement { NODE; }: T__COMMENT T__ON commented_object T__IS T__NULL ;
 security_label_statement { NODE; }
     : T__SECURITY T__LABEL (T__FOR word_or_string)? T__ON commented_object T__IS security_label ;
 security_label: string_literal | T__NULL ;

@@ -1,13 +1,9 @@
-/* DROP. */
+/* What else PostgreSQL drops. */
 
-drop_statement { NODE; }: T__DROP dropped_objects drop_behavior? | T__DROP dropped_roles ;
+drop_statement { NODE; }: T__DROP dropped_roles ;
 dropped_objects { NODE(drop_statement); }
-    : T__TABLE if_exists? table_name_list
-    | T__FOREIGN T__TABLE if_exists? table_name_list
-    | T__SEQUENCE if_exists? sequence_name_list
-    | T__VIEW if_exists? view_name_list
+    : T__FOREIGN T__TABLE if_exists? table_name_list
     | T__MATERIALIZED T__VIEW if_exists? view_name_list
-    | T__INDEX if_exists? index_name_list
     | T__INDEX T__CONCURRENTLY if_exists? index_name_list
     | T__COLLATION if_exists? collation_name_list
     | T__CONVERSION if_exists? conversion_name_list
@@ -19,7 +15,6 @@ dropped_objects { NODE(drop_statement); }
     | T__FOREIGN T__DATA T__WRAPPER if_exists? wrapper_name_list
     | dropped_language if_exists? language_name_list
     | T__PUBLICATION if_exists? publication_name_list
-    | T__SCHEMA if_exists? schema_name_list
     | T__SERVER if_exists? server_name_list
     | T__SUBSCRIPTION if_exists? subscription_name_list
     | T__TABLESPACE if_exists? tablespace_name_list
@@ -27,7 +22,6 @@ dropped_objects { NODE(drop_statement); }
     | T__POLICY if_exists? policy_name T__ON table_name
     | T__RULE if_exists? rule_name T__ON table_name
     | T__TRIGGER if_exists? trigger_name T__ON table_name
-    | any_routine_word if_exists? routine_signature_list
     | T__AGGREGATE if_exists? aggregate_signature_list
     | T__OPERATOR if_exists? operator_signature_list
     | T__OPERATOR T__CLASS if_exists? operator_class_name T__USING access_method_name
@@ -36,7 +30,6 @@ dropped_objects { NODE(drop_statement); }
     | T__TRANSFORM if_exists? T__FOR data_type T__LANGUAGE language_name
     | T__OWNED T__BY role_name_list ;
 dropped_language { PART(drop_statement); }: T__PROCEDURAL? T__LANGUAGE ;
-if_exists { NODE; }: T__IF T__EXISTS ;
 dropped_roles { NODE(drop_statement); }
     : role_or_group if_exists? role_name_list
     | T__USER if_exists? role_name_list

@@ -1,6 +1,5 @@
-/* Indexed things. */
+/* What an index holds. */
 
-%list index_element_list: index_element %short %separator T__COMMA ;
 index_element { NODE; }: index_key index_element_options? ;
 index_key { PART(expression); }
     : column_name | plain_function
@@ -8,4 +7,3 @@ index_key { PART(expression); }
 %parts index_element_options: collate_clause index_class_part %node index_element ;
 index_class_part { PART(index_element); }: operator_class_name options? index_order_part? | index_order_part ;
 %parts index_order_part: index_direction nulls_order %node index_element ;
-index_direction { NODE(sort_direction); }: T__ASC | T__DESC ;

@@ -1,4 +1,4 @@
-/* Options. */
+/* Options, and what PostgreSQL adds to indexes, views and sequences. */
 
 options { NODE; }: T__LPAREN option_list T__RPAREN ;
 %list option_list: relation_option %short %separator T__COMMA ;
@@ -24,18 +24,7 @@ generic_options { NODE(options_clause); }: T__OPTIONS T__LPAREN generic_option_l
 %list generic_option_list: generic_option %short %separator T__COMMA %node option_list ;
 generic_option { NODE(option); }: option_name string_literal ;
 
-%list sequence_option_list: sequence_option %short ;
-sequence_option { NODE; }
-    : T__AS simple_type
-    | (T__CACHE | T__MAXVALUE | T__MINVALUE) signed_number
-    | T__NO? T__CYCLE
-    | T__INCREMENT T__BY? signed_number
-    | T__NO T__MAXVALUE
-    | T__NO T__MINVALUE
-    | T__OWNED T__BY qualified_column_name
-    | T__SEQUENCE T__NAME sequence_name
-    | T__START T__WITH? signed_number
-    | T__RESTART (T__WITH? signed_number)? ;
+sequence_option { NODE; }: T__OWNED T__BY qualified_column_name | T__SEQUENCE T__NAME sequence_name ;
 
 create_foreign_table_statement { NODE; }
     : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER server_name generic_options? ;
@@ -46,17 +35,9 @@ foreign_table_definition { NODE(create_foreign_table_statement); }
           ;
 inherits_clause { NODE; }: T__INHERITS T__LPAREN table_name_list T__RPAREN ;
 
-create_index_statement { NODE; }: T__CREATE T__UNIQUE? T__INDEX index_definition ;
-new_index { PART(create_index_statement); }: if_not_exists? index_name ;
-index_definition { PART(create_index_statement); }
-    : new_index index_target
-    | index_target
-    | T__CONCURRENTLY new_index? index_target ;
-index_target { NODE(create_index_statement); }: T__ON table index_columns index_clause_list? ;
+index_definition { PART(create_index_statement); }: index_target | T__CONCURRENTLY new_index? index_target ;
 index_columns { NODE(create_index_statement); }
-    : T__LPAREN index_element_list T__RPAREN
-    | T__USING access_method_name T__LPAREN index_element_list T__RPAREN ;
-%list index_clause_list: index_clause %short ;
+    : T__USING access_method_name T__LPAREN index_element_list T__RPAREN ;
 index_clause { NODE; }
     : T__INCLUDE T__LPAREN index_element_list T__RPAREN
     | nulls_distinct
@@ -64,14 +45,8 @@ index_clause { NODE; }
     | T__TABLESPACE tablespace_name
     | where_clause ;
 
-create_view_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? temporary? view_definition ;
-view_definition { NODE(create_view_statement); }
-    : T__VIEW view_name columns? view_body
-    | T__RECURSIVE T__VIEW view_name columns view_body ;
-view_body { NODE(create_view_statement); }
-    : T__AS query check_option?
-    | T__WITH options T__AS query check_option? ;
-check_option { NODE; }: T__WITH (T__LOCAL | T__CASCADED)? T__CHECK T__OPTION ;
+view_definition { NODE(create_view_statement); }: T__RECURSIVE T__VIEW view_name columns view_body ;
+view_body { NODE(create_view_statement); }: T__WITH options T__AS query check_option? ;
 
 create_materialized_view_statement { NODE; }
     : T__CREATE T__UNLOGGED? T__MATERIALIZED T__VIEW materialized_definition ;
@@ -83,6 +58,3 @@ materialized_option { NODE(table_option); }
     : T__USING access_method_name
     | T__WITH options
     | T__TABLESPACE tablespace_name ;
-
-new_sequence { PART(create_sequence_statement); }: if_not_exists? sequence_name ;
-create_sequence_statement { NODE; }: T__CREATE temporary? T__SEQUENCE new_sequence sequence_option_list? ;

@@ -1,12 +1,5 @@
 /* Schemas, roles, databases. */
 
-create_schema_statement { NODE; }: T__CREATE T__SCHEMA schema_head schema_element_list? ;
-new_schema { PART(create_schema_statement); }: if_not_exists? schema_name ;
-schema_head { PART(create_schema_statement); }
-    : new_schema
-    | new_schema? T__AUTHORIZATION role_name
-    | if_not_exists T__AUTHORIZATION role_name ;
-%list schema_element_list: schema_element %short ;
 schema_element
     : create_table_statement | create_index_statement | create_sequence_statement | create_trigger_statement
     | create_view_statement | grant_statement ;

@@ -1,31 +1,16 @@
-/* CREATE TABLE. */
+/* What PostgreSQL adds to CREATE TABLE. */
 
-create_table_statement { NODE; }: T__CREATE temporary? T__TABLE table_definition ;
 table_definition { PART(create_table_statement); }
-    : new_table T__LPAREN table_element_list T__RPAREN table_option_list?
-    | new_table T__LPAREN T__RPAREN table_option_list?
+    : new_table T__LPAREN T__RPAREN table_option_list?
     | new_table T__OF defined_type_name (T__LPAREN typed_element_list T__RPAREN)? table_option_list?
     | new_table T__PARTITION T__OF table_name (T__LPAREN typed_element_list T__RPAREN)? partition_bound
-          table_option_list?
-    | table_as ;
-/* The name of something to be made. Parts of a statement have its name, so that they end up directly in it. */
-if_not_exists { NODE; }: T__IF T__NOT T__EXISTS ;
-new_table { PART(create_table_statement); }: if_not_exists? table_name ;
+          table_option_list? ;
 
-table_as { NODE(create_table_statement); }
-    : new_table columns? table_option_list? as_query
-    | new_table columns? table_option_list? as_execute ;
-as_query { NODE; }: T__AS query with_data? ;
-with_data { NODE; }: T__WITH T__NO? T__DATA ;
+table_as { NODE(create_table_statement); }: new_table columns? table_option_list? as_execute ;
 as_execute { NODE; }: T__AS execute_part with_data? ;
 execute_part { NODE(execute_statement); }: T__EXECUTE statement_name (T__LPAREN expression_list T__RPAREN)? ;
 
-%list table_element_list: table_element %separator T__COMMA ;
-
-table_element { PART(like_clause); }
-    : column_definition | table_constraint
-    | T__LIKE table_name
-    | T__LIKE table_name like_options ;
+table_element { PART(like_clause); }: T__LIKE table_name like_options ;
 like_options { PART(like_clause); }: like_options? like_option ;
 like_option { NODE; }: (T__INCLUDING | T__EXCLUDING) like_what ;
 like_what
@@ -36,75 +21,34 @@ typed_element { NODE(column_definition); }
     : column_name (T__WITH T__OPTIONS)? column_constraint_list?
     | table_constraint  { PART; } ;
 
-column_definition { NODE; }
-    : column_name data_type column_constraint_list?
-    | column_name data_type column_options column_constraint_list? ;
+column_definition { NODE; }: column_name data_type column_options column_constraint_list? ;
 %parts column_options: column_storage column_compression generic_options %node column_definition ;
 column_storage { NODE; }: T__STORAGE (identifier | T__DEFAULT) ;
 column_compression { NODE; }: T__COMPRESSION (identifier | T__DEFAULT) ;
-%list column_constraint_list: column_constraint %short ;
-column_constraint { PART; }
-    : (T__CONSTRAINT constraint_name)? (column_constraint_body | default_clause)
-    | constraint_attribute | enforcement | collate_clause ;
-collate_clause { NODE; }: T__COLLATE collation_name ;
 column_constraint_body { NODE(column_constraint); }
-    : T__NOT? T__NULL
-    | T__NOT T__NULL T__NO T__INHERIT
-    | T__UNIQUE
+    : T__NOT T__NULL T__NO T__INHERIT
     | T__UNIQUE index_parameters
     | T__UNIQUE nulls_distinct index_parameters?
-    | T__PRIMARY T__KEY
     | T__PRIMARY T__KEY index_parameters
-    | T__CHECK T__LPAREN condition T__RPAREN
     | T__CHECK T__LPAREN condition T__RPAREN T__NO T__INHERIT
-    | T__GENERATED generated_when T__AS T__IDENTITY (T__LPAREN sequence_option_list T__RPAREN)?
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN (T__STORED | T__VIRTUAL)
-    | references_clause ;
-default_clause { NODE; }: T__DEFAULT restricted_expression ;
-generated_when { NODE; }: T__ALWAYS | T__BY T__DEFAULT ;
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN (T__STORED | T__VIRTUAL) ;
 nulls_distinct { NODE; }: T__NULLS T__NOT? T__DISTINCT ;
 index_parameters { NODE; }: T__WITH definitions index_tablespace? | index_tablespace ;
 index_tablespace { NODE; }: T__USING T__INDEX T__TABLESPACE tablespace_name ;
-references_clause { NODE; }: T__REFERENCES table_name foreign_columns? reference_option_list? ;
-%list reference_option_list: reference_option %short ;
-reference_option { NODE; }
-    : T__MATCH T__FULL
-    | T__MATCH T__PARTIAL
-    | T__MATCH T__SIMPLE
-    | T__ON (T__UPDATE | T__DELETE) reference_action ;
-reference_action { NODE; }
-    : T__NO T__ACTION
-    | T__RESTRICT | T__CASCADE
-    | T__SET (T__NULL | T__DEFAULT)
-    | T__SET (T__NULL | T__DEFAULT) columns ;
-constraint_attribute { NODE; }: T__NOT? T__DEFERRABLE | T__INITIALLY (T__DEFERRED | T__IMMEDIATE) ;
-enforcement { NODE(constraint_attribute); }: T__NOT? T__ENFORCED ;
+reference_action { NODE; }: T__SET (T__NULL | T__DEFAULT) columns ;
 
-table_constraint { NODE; }: common_constraint  { PART; } | (T__CONSTRAINT constraint_name)? not_null_column ;
-/* What a domain may have too. */
-common_constraint { NODE(table_constraint); }: (T__CONSTRAINT constraint_name)? table_constraint_body ;
+table_constraint { NODE; }: (T__CONSTRAINT constraint_name)? not_null_column ;
 not_null_column { NODE(table_constraint); }: T__NOT T__NULL column_name constraint_attribute_list? ;
 table_constraint_body { NODE(table_constraint); }
-    : T__CHECK T__LPAREN condition T__RPAREN
-    | T__CHECK T__LPAREN condition T__RPAREN constraint_attribute_list
-    | T__UNIQUE key_columns
-    | T__UNIQUE nulls_distinct key_columns
-    | T__PRIMARY T__KEY key_columns
+    : T__UNIQUE nulls_distinct key_columns
     | T__UNIQUE T__USING T__INDEX index_name constraint_attribute_list?
     | T__PRIMARY T__KEY T__USING T__INDEX index_name constraint_attribute_list?
-    | T__EXCLUDE exclusion
-    | T__FOREIGN T__KEY foreign_columns references_clause
-    | T__FOREIGN T__KEY foreign_columns references_clause constraint_attribute_list ;
-key_columns { PART(table_constraint); }: unique_columns | unique_columns key_tail ;
-unique_columns { NODE(columns); }: T__LPAREN unique_column_list T__RPAREN ;
-%list unique_column_list: unique_column %separator T__COMMA %node key_column_list ;
+    | T__EXCLUDE exclusion ;
+key_columns { PART(table_constraint); }: unique_columns key_tail ;
 
-unique_column { NODE(key_column); }: column_name | column_name T__WITHOUT T__OVERLAPS ;
-foreign_columns { NODE(columns); }: T__LPAREN foreign_column_list T__RPAREN ;
-%list foreign_column_list: foreign_column %short %separator T__COMMA %node key_column_list ;
+unique_column { NODE(key_column); }: column_name T__WITHOUT T__OVERLAPS ;
 
-foreign_column { NODE(key_column); }: column_name | T__PERIOD column_name ;
+foreign_column { NODE(key_column); }: T__PERIOD column_name ;
 %parts key_tail: include_clause index_parameters constraint_attribute_list %node table_constraint ;
 include_clause { NODE; }: T__INCLUDE columns ;
 exclusion { NODE; }: (T__USING access_method_name)? T__LPAREN exclusion_list T__RPAREN exclusion_tail? ;
@@ -116,13 +60,8 @@ exclusion_item { NODE; }
 exclusion_tail_where { PART(exclusion); }
     : T__WHERE T__LPAREN condition T__RPAREN constraint_attribute_list?
     | constraint_attribute_list ;
-%list constraint_attribute_list: constraint_mark %short ;
-constraint_mark { PART(constraint_attribute); }
-    : constraint_attribute | enforcement
-    | T__NOT T__VALID
-    | T__NO T__INHERIT ;
+constraint_mark { PART(constraint_attribute); }: T__NOT T__VALID | T__NO T__INHERIT ;
 
-%list table_option_list: table_option %short ;
 table_option { NODE; }
     : T__INHERITS T__LPAREN table_name_list T__RPAREN
     | T__PARTITION T__BY identifier T__LPAREN index_element_list T__RPAREN
