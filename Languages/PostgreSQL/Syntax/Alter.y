@@ -1,4 +1,4 @@
-/* ALTER. */
+/* What PostgreSQL adds to ALTER TABLE, and the other statements with ALTER. */
 
 alter_table_statement { NODE; }: T__ALTER T__TABLE tablespace_move ;
 alter_index_statement { NODE; }
@@ -106,7 +106,6 @@ domain_change { PART(alter_action); }
 domain_not_null { NODE(table_constraint); }
     : (T__CONSTRAINT constraint_name)? T__NOT T__NULL constraint_attribute_list? ;
 
-any_routine_word: T__FUNCTION | T__PROCEDURE | T__ROUTINE ;
 alter_routine_statement { NODE; }
     : T__ALTER any_routine_word routine_signature (common_change | extension_dependency)
     | T__ALTER any_routine_word routine_signature routine_attribute_list T__RESTRICT?

@@ -17,13 +17,7 @@ do_statement { NODE; }: T__DO do_item_list ;
 do_item { PART; }
     : string_literal | quoted_body
     | T__LANGUAGE routine_language ;
-call_statement { NODE; }: T__CALL function_call ;
 prepare_statement { NODE; }
     : T__PREPARE statement_name (T__LPAREN data_type_list T__RPAREN)? T__AS preparable_statement ;
-execute_statement { NODE; }
-    : T__EXECUTE statement_name
-    | T__EXECUTE statement_name T__LPAREN expression_list T__RPAREN ;
-deallocate_statement { NODE; }
-    : T__DEALLOCATE T__PREPARE statement_name
-    | T__DEALLOCATE statement_name
-    | T__DEALLOCATE T__PREPARE? T__ALL ;
+execute_statement { NODE; }: T__EXECUTE statement_name T__LPAREN expression_list T__RPAREN ;
+deallocate_statement { NODE; }: T__DEALLOCATE statement_name | T__DEALLOCATE T__PREPARE? T__ALL ;

@@ -1,31 +1,17 @@
-/* Routines. */
+/* What PostgreSQL adds to routines, bodies in SQL, aggregates and operators. */
 
-create_routine_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? routine_definition ;
-routine_definition { NODE(create_routine_statement); }
-    : routine_word function_name parameters routine_item_list? routine_body? ;
-routine_word: T__FUNCTION | T__PROCEDURE ;
-parameters { NODE; }: T__LPAREN parameter_list? T__RPAREN ;
-%list parameter_list: parameter %short %separator T__COMMA ;
-parameter { PART; }: plain_parameter (T__DEFAULT expression)? | plain_parameter T__EQUAL expression ;
+parameter { PART; }: plain_parameter T__EQUAL expression ;
 plain_parameter { NODE(parameter); }
     : function_type
     | parameter_name parameter_mode function_type
-    | parameter_mode? parameter_name function_type
     | parameter_mode function_type ;
-parameter_mode { NODE; }
-    : T__IN | T__OUT
-    | T__IN T__OUT
-    | T__INOUT | T__VARIADIC ;
-%list routine_item_list: routine_item %short ;
+parameter_mode { NODE; }: T__IN T__OUT | T__VARIADIC ;
 routine_item { NODE; }
-    : returns_clause
-    | T__AS string_literal (T__COMMA string_literal)?
+    : T__AS string_literal (T__COMMA string_literal)?
     | T__AS quoted_body
-    | T__LANGUAGE routine_language
     | T__TRANSFORM transform_type_list
-    | T__WINDOW | routine_attribute ;
-routine_language { NODE(language_name); }: non_reserved_word | string_literal ;
-returns_clause { NODE; }: T__RETURNS function_type | T__RETURNS T__TABLE T__LPAREN returned_columns T__RPAREN ;
+    | T__WINDOW ;
+returns_clause { NODE; }: T__RETURNS T__TABLE T__LPAREN returned_columns T__RPAREN ;
 %list returned_columns: returned_column %short %separator T__COMMA %node column_definition_list ;
 /* Such a column is a parameter as well, and takes what names one. */
 returned_column { NODE(column_definition); }: returned_name function_type ;
@@ -34,9 +20,7 @@ returned_name { NODE(column_name); }: type_function_name ;
 transform_type { NODE; }: T__FOR T__TYPE data_type ;
 %list routine_attribute_list: routine_attribute %short ;
 routine_attribute { NODE; }
-    : T__CALLED T__ON T__NULL T__INPUT
-    | T__RETURNS T__NULL T__ON T__NULL T__INPUT
-    | T__STRICT | T__IMMUTABLE | T__STABLE | T__VOLATILE
+    : T__STRICT | T__IMMUTABLE | T__STABLE | T__VOLATILE
     | T__EXTERNAL? T__SECURITY (T__DEFINER | T__INVOKER)
     | T__NOT? T__LEAKPROOF
     | (T__COST | T__ROWS) signed_number
@@ -55,18 +39,14 @@ routine_body { PART; }
 open_routine_body { NODE(body_pl_sql_statements); }: body_pl_sql_statements? open_body_statement ;
 open_body_statement { NODE(delimited_pl_sql_statement); }: open_pl_sql_statement ;
 open_pl_sql_statement { NODE(pl_sql_statement); }: open_routine ;
-return_statement { NODE; }: T__RETURN expression ;
 body_pl_sql_statements { NODE; }: body_pl_sql_statements? delimited_body_statement ;
 delimited_body_statement { NODE(delimited_pl_sql_statement); }
     : body_statement? pl_sql_statement_delimiter
     | error pl_sql_statement_delimiter ;
 body_statement { NODE(pl_sql_statement); }: statement | return_statement ;
 
-/* A routine as other statements point at it. */
-routine_signature { NODE; }: function_name parameters | routine_alone ;
 keyword_routine { NODE(sql_identifier); }: type_function_name_keyword ;
-routine_alone { NODE(function_name); }: qualified_name | keyword_routine ;
-%list routine_signature_list: routine_signature %short %separator T__COMMA ;
+routine_alone { NODE(function_name); }: keyword_routine ;
 aggregate_signature { NODE; }: function_name aggregate_parameters ;
 %list aggregate_signature_list: aggregate_signature %short %separator T__COMMA ;
 aggregate_parameters { NODE(parameters); }
