@@ -14,9 +14,6 @@ stray_statements { NODE(body_pl_sql_statements); }
     : bad_statement
     | stray_statements listed_statement
     | stray_statements (labeled_statement | labeled_bad_head) pl_sql_statement_delimiter ;
-bad_statement { NODE(delimited_pl_sql_statement); }: error pl_sql_statement_delimiter ;
-/* One that is wrong up to the end of the body. */
-bad_last_statement { NODE(delimited_pl_sql_statement); }: error %prec LOWEST ;
 open_strays { NODE(body_pl_sql_statements); }: bad_last_statement | stray_statements last_in_open_list ;
 
 /* A routine whose closing quote is missing reaches to the end of the text. */

@@ -1,10 +1,5 @@
-/* Declarations of a block of PL/pgSQL. */
+/* Declarations of a block of PL/pgSQL, its variables and values. */
 
-declare_clause { NODE; }
-    : T__DECLARE declaration_list?
-    | T__DECLARE error
-    | T__DECLARE declaration_list error ;
-%list declaration_list: declaration %short ;
 declaration { NODE; }
     : variable_declaration pl_sql_statement_delimiter
     | alias_declaration pl_sql_statement_delimiter
@@ -42,23 +37,15 @@ variable { PART(variable_name); }
     | T__PARAMETER_NUMBER indirection ;
 /* A whole variable. */
 plain_variable { NODE(variable_name); }: identifier | variable_word | dotted_name | T__PARAMETER_NUMBER ;
-%list plain_variable_list: plain_variable %short %separator T__COMMA %node variable_list ;
-%list variable_list: variable %short %separator T__COMMA ;
 into_variables { NODE(into_clause); }: T__INTO_VARIABLES variable_list | T__INTO_LA T__STRICT variable_list ;
 
-/* Values without brackets around them. In a list of its own, so that within brackets a delimiter stays an error where it
-   stands. */
-%list value_list: expression %short %separator T__COMMA %node expression_list ;
-
 /* A value may be a whole query without its first word. */
-value: expression | one_column_query  { NODE(select_statement); } ;
+value: one_column_query  { NODE(select_statement); } ;
 one_column_query { NODE(select_statement); }
     : one_column clauses_after_into select_tail?
     | one_column select_tail ;
 one_column { NODE(select_list); }: value_item ;
 value_item { NODE(select_item); }: expression ;
-/* What is true or not. */
-tested { NODE(condition); }: value ;
 /* Up to a delimiter it may have several columns, or none. */
 value_or_query { NODE(select_statement); }
     : value  { PART; }

@@ -18,3 +18,4 @@ get_diagnostics { NODE(get_diagnostics_statement); }
 %list diagnostics_item_list: diagnostics_item %short %separator T__COMMA ;
 diagnostics_item { NODE; }: variable assignment_operator item_name ;
 item_name { NODE; }: plain_identifier ;
+exception_condition { NODE; }: T__SQLSTATE T__STRING ;

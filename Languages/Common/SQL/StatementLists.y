@@ -1,18 +1,9 @@
-/* Blocks of PL/pgSQL and the statements in them. */
-
-block { NODE(block_statement); }: block_head block_statements? exception_clause? T__END label_name? ;
-block_head { NODE; }: declare_clause? T__BEGIN_LA ;
-block_label { NODE(pl_sql_statement_label); }: T__LABEL_BEGIN label_name T__LABEL_END ;
-
-exception_clause { NODE; }: T__EXCEPTION exception_handler_list ;
-%list exception_handler_list: exception_handler %short ;
-exception_handler { NODE; }: handler_head block_statements? ;
-handler_head { NODE; }
-    : T__WHEN exception_condition_list T__THEN
-    | T__WHEN error T__THEN
-    | T__WHEN error pl_sql_statement_delimiter ;
-%list exception_condition_list: exception_condition %short %separator T__OR ;
-exception_condition { NODE; }: condition_name | T__SQLSTATE T__STRING ;
+/* The statements of a block: lists of them, IF, CASE and loops, with what is wrong or open in them.
+   A dialect defines unlabeled_statement (what stands in a block without a label, if_statement, case_statement and
+   null_statement among it), block, block_label, open_block_part (a block that isn't closed), loop_head, loop_end
+   and variable, and adds to value, bad_first_part and last_in_open_list.
+   An error costs its statement up to the delimiter. Where no delimiter follows, it ends the list, and all that is
+   open around it is closed there. */
 
 block_statements { NODE(body_pl_sql_statements); }
     : block_statements? listed_statement
@@ -21,6 +12,7 @@ listed_statement { PART(delimited_pl_sql_statement); }
     : bare_statement pl_sql_statement_delimiter
     | bad_head pl_sql_statement_delimiter
     | bad_statement ;
+bad_statement { NODE(delimited_pl_sql_statement); }: error pl_sql_statement_delimiter ;
 /* The delimiter stands beside it: in the list of a body a labeled statement loses what it holds itself. */
 labeled_statement { NODE(delimited_pl_sql_statement); }: label_and_statement ;
 label_and_statement { NODE(labeled_pl_sql_statement); }: block_label labelable_statement ;
@@ -34,9 +26,32 @@ labeled_bad_head { NODE(delimited_pl_sql_statement); }: label_and_bad_head ;
 label_and_bad_head { NODE(labeled_pl_sql_statement); }: block_label bad_head ;
 bad_first_part { NODE(loop_statement); }
     : T__IF error  { NODE(if_statement); }
-    | T__WHILE error
-    | T__FOR error
-    | T__FOREACH error ;
+    | T__WHILE error ;
+
+if_statement { NODE; }: if_parts else_branch? T__END_LA T__IF ;
+if_parts { PART(if_statement); }: if_branch | if_parts elsif_branch ;
+if_branch { NODE; }: if_head block_statements? ;
+if_head { NODE; }: T__IF tested T__THEN | T__IF error T__THEN ;
+elsif_branch { NODE; }: elsif_head block_statements? ;
+elsif_head { NODE; }
+    : T__ELSIF tested T__THEN
+    | T__ELSIF error T__THEN
+    | T__ELSIF error pl_sql_statement_delimiter ;
+else_branch { NODE; }: T__ELSE block_statements? ;
+
+case_statement { NODE; }: case_parts else_branch? T__END_LA T__CASE ;
+case_parts { NODE(case_statement); }: case_head case_when | case_parts case_when ;
+case_head { NODE; }: T__CASE value? ;
+case_when { NODE; }: case_when_head block_statements? ;
+case_when_head { NODE; }
+    : T__WHEN value_list T__THEN
+    | T__WHEN error T__THEN
+    | T__WHEN error pl_sql_statement_delimiter ;
+
+loop_statement { NODE; }: loop_head loop_body? loop_end ;
+loop_body { NODE; }: block_statements ;
+
+null_statement { NODE; }: T__NULL ;
 
 /* What is open where the body ends. */
 open_list { NODE(body_pl_sql_statements); }: block_statements? last_in_open_list ;
@@ -45,16 +60,11 @@ last_in_open_list
     | bad_head %prec LOWEST  { NODE(delimited_pl_sql_statement); }
     | labeled_bad_head %prec LOWEST
     | open_statement ;
+/* One that is wrong up to the end of the body. */
+bad_last_statement { NODE(delimited_pl_sql_statement); }: error %prec LOWEST ;
 open_statement { NODE(delimited_pl_sql_statement); }: bare_open_statement | labeled_open_statement ;
 bare_open_statement { NODE(pl_sql_statement); }: open_part | open_block_part ;
 labeled_open_statement { NODE(labeled_pl_sql_statement); }: block_label bare_open_statement ;
-open_block_part { NODE(block_statement); }
-    : open_declarations
-    | block_head open_list
-    | block_head block_statements? open_handlers ;
-open_declarations { NODE(declare_clause); }
-    : T__DECLARE error %prec LOWEST
-    | T__DECLARE declaration_list error %prec LOWEST ;
 open_part { NODE(if_statement); }
     : open_if_branch
     | if_parts open_elsif_branch
@@ -67,6 +77,11 @@ open_elsif_branch { NODE(elsif_branch); }: elsif_head open_list | T__ELSIF error
 open_else_branch { NODE(else_branch); }: T__ELSE open_list ;
 open_case_branch { NODE(case_when); }: case_when_head open_list | T__WHEN error %prec LOWEST ;
 open_loop_body { NODE(loop_body); }: open_list ;
-open_handlers { NODE(exception_clause); }: T__EXCEPTION open_handler_list ;
-open_handler_list { NODE(exception_handler_list); }: exception_handler_list? open_handler ;
-open_handler { NODE(exception_handler); }: handler_head open_list | T__WHEN error %prec LOWEST ;
+
+value: expression ;
+/* What is true or not. */
+tested { NODE(condition); }: value ;
+/* Values without brackets around them. In a list of its own, so that within brackets a delimiter stays an error where
+   it stands. */
+%list value_list: expression %short %separator T__COMMA %node expression_list ;
+%list variable_list: variable %short %separator T__COMMA ;
