@@ -63,36 +63,24 @@
 %start SQL_ROOT
 %%
 
-SQL_ROOT { NODE(SQL); }: %empty | pl_sql_statements ;
-
-/* Statements come in chunks of chunks under one name, so that a long script doesn't become a deep chain. */
-%list pl_sql_statements: script_part %last last_statement %deep ;
-
 /* The rows that follow a COPY ... FROM STDIN stand after its line, as the client reads them. */
 script_part
-    : delimited
-    | T__CLIENT_COMMAND  { NODE(client_command); }
+    : T__CLIENT_COMMAND  { NODE(client_command); }
     | T__COPIED_ROW  { NODE(copied_row); }
     | T__END_OF_DATA  { NODE(end_of_data); } ;
 
-/* What stands after the last delimiter. A rule may end in an error where nothing but the end of the text follows:
-   anywhere else the parser would raise the error again on the same token. */
-last_statement { NODE(pl_sql_statement); }
-    : pl_sql_statement  { PART; }
-    | error | open_routine
-    | error open_body ;
+last_statement { NODE(pl_sql_statement); }: open_routine | error open_body ;
 
 delimited { NODE(delimited_pl_sql_statement); }
-    : pl_sql_statement? pl_sql_statement_delimiter
-    | error pl_sql_statement_delimiter
-    | error quoted_body pl_sql_statement_delimiter
+    : error quoted_body pl_sql_statement_delimiter
     | error quoted_body routine_item_list pl_sql_statement_delimiter ;
 
-pl_sql_statement_delimiter { NODE; }: T__SEMICOLON | T__CLIENT_SEND ;
+pl_sql_statement_delimiter { NODE; }: T__CLIENT_SEND ;
 
 /* BEGIN and END as statements stand at the top alone: in the body of a routine END closes the body. */
-pl_sql_statement { NODE; }: statement | begin_end_statement ;
+pl_sql_statement { NODE; }: begin_end_statement ;
 
+%include "../Common/SQL/Script.y"
 %include "../Common/SQL/Names.y"
 %include "../Common/SQL/Literals.y"
 %include "../Common/SQL/Types.y"

@@ -1,6 +1,6 @@
 /* ALTER TABLE.
-   A dialect defines alter_action_list (a list of alter_action, with commas or without), and adds to alter_action and
-   column_action. */
+   A dialect defines alter_action_list (a list of alter_action, with commas or without), and adds to alter_action
+   and column_action. */
 
 alter_table_statement { NODE; }: T__ALTER T__TABLE if_exists? table alter_action_list ;
 alter_action { PART; }
@@ -13,7 +13,6 @@ alter_action { PART; }
     | T__RENAME T__COLUMN column_name T__TO new_name ;
 dropped_column { PART(alter_action); }: if_exists? column_name drop_behavior? ;
 dropped_constraint { PART(alter_action); }: if_exists? constraint_name drop_behavior? ;
-drop_behavior { NODE; }: T__CASCADE | T__RESTRICT ;
 column_action { NODE; }
     : T__SET T__DEFAULT expression
     | T__DROP T__DEFAULT

@@ -9,3 +9,4 @@ dropped_objects { NODE(drop_statement); }
     | T__SCHEMA if_exists? schema_name_list
     | any_routine_word if_exists? routine_signature_list ;
 if_exists { NODE; }: T__IF T__EXISTS ;
+drop_behavior { NODE; }: T__CASCADE | T__RESTRICT ;
