@@ -187,7 +187,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
         {"LanguageGuide.md",
          {"uvgrammar", "uvgrammar-score", "uvgrammar-test", "uvparse", "libUVParser.so"},
          9,
-         {"Languages/PostgreSQL"}},
+         {"Languages/Common", "Languages/PostgreSQL"}},
         {"UvgrammarGuide.md",
          {"uvgrammar", "uvgrammar-elements", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"},
          12},

@@ -13,7 +13,6 @@ alter_foreign_table_statement { NODE; }: T__ALTER T__FOREIGN T__TABLE if_exists?
 tablespace_move { NODE; }: moved_objects T__SET T__TABLESPACE tablespace_name T__NOWAIT? ;
 moved_objects { NODE(tablespace_move); }
     : T__ALL T__IN T__TABLESPACE tablespace_name (T__OWNED T__BY role_name_list)? ;
-alter_sequence_statement { NODE; }: T__ALTER T__SEQUENCE if_exists? sequence_name alter_action_list ;
 %list alter_action_list: alter_action %short %separator T__COMMA ;
 alter_action { NODE; }
     : T__ALTER T__COLUMN? T__INTEGER_NUMBER numbered_column_action

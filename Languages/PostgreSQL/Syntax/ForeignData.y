@@ -1,5 +1,14 @@
 /* Foreign data. */
 
+create_foreign_table_statement { NODE; }
+    : T__CREATE T__FOREIGN T__TABLE foreign_table_definition T__SERVER server_name generic_options? ;
+new_foreign_table { PART(create_foreign_table_statement); }: if_not_exists? table_name ;
+foreign_table_definition { NODE(create_foreign_table_statement); }
+    : new_foreign_table T__LPAREN table_element_list? T__RPAREN inherits_clause?
+    | new_foreign_table T__PARTITION T__OF table_name (T__LPAREN typed_element_list T__RPAREN)? partition_bound
+          ;
+inherits_clause { NODE; }: T__INHERITS T__LPAREN table_name_list T__RPAREN ;
+
 new_server { PART(create_server_statement); }: if_not_exists? server_name ;
 create_foreign_object_statement { NODE(create_wrapper_statement); }
     : T__CREATE T__FOREIGN T__DATA T__WRAPPER wrapper_name wrapper_option_list? generic_options?

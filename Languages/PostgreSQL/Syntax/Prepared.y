@@ -1,4 +1,4 @@
-/* EXPLAIN, DO, CALL, prepared statements. */
+/* EXPLAIN, DO, prepared statements. */
 
 utility_options { NODE(options); }: T__LPAREN utility_option_list T__RPAREN ;
 %list utility_option_list: utility_option %short %separator T__COMMA %node option_list ;

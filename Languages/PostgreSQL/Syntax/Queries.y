@@ -6,7 +6,6 @@ distinct_clause { NODE; }: T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN
 
 into_clause { PART; }: T__INTO into_target ;
 into_target { PART(into_clause); }: temporary? T__TABLE? table_name ;
-temporary { PART; }: (T__LOCAL | T__GLOBAL)? T__TEMP | T__UNLOGGED ;
 
 sort_direction { NODE; }: T__USING any_operator | T__USING T__OPERATOR T__LPAREN any_operator T__RPAREN ;
 

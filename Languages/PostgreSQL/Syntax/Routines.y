@@ -1,5 +1,10 @@
 /* What PostgreSQL adds to routines, bodies in SQL, aggregates and operators. */
 
+/* A type as functions take it, that of a column included. */
+function_type { NODE(data_type); }: data_type  { PART; } | T__SETOF? column_type ;
+/* The type that a column has. */
+column_type { NODE; }: dotted_type_name T__PERCENT T__TYPE ;
+
 parameter { PART; }: plain_parameter T__EQUAL expression ;
 plain_parameter { NODE(parameter); }
     : function_type

@@ -1,5 +1,7 @@
 /* What PostgreSQL adds to CREATE TABLE. */
 
+temporary { PART; }: (T__LOCAL | T__GLOBAL)? T__TEMP | T__UNLOGGED ;
+
 table_definition { PART(create_table_statement); }
     : new_table T__LPAREN T__RPAREN table_option_list?
     | new_table T__OF defined_type_name (T__LPAREN typed_element_list T__RPAREN)? table_option_list?
