@@ -1,9 +1,9 @@
 // How much of a text one fault costs.
 #pragma once
 
+#include "Tools/uvgrammar-score/Faults.h"
 #include "Tools/uvgrammar-score/ScoredFile.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -11,22 +11,11 @@
 
 namespace uvscore {
 
-enum class enFault
-{
-    Deleted, // a token
-    Doubled,
-    Keyword,     // in its place
-    Quote,       // the first or the last one of a quoted token is missing
-    DollarQuote, // as $$ or $name$; is missing
-    Bracket      // is missing
-};
-inline constexpr std::size_t kFaults = 6;
-
 // What one fault did.
 struct SFaultResult
 {
     enFault fault = enFault::Deleted;
-    std::size_t others = 0;   // clean statements of the text, apart from the one with the fault
+    std::size_t others = 0;   // clean statements of the text, apart from those that the fault is in
     std::size_t kept = 0;     // of these, whose trees are as before
     bool isTold = false;      // false: the text is a good one all the same
     std::size_t distance = 0; // tokens between the fault and the message
