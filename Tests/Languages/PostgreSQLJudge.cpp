@@ -84,12 +84,24 @@ std::string WithoutPlaces(std::string_view json)
 
 } // namespace
 
-bool JudgeAccepts(const std::string& sql)
+SVerdict Judge(const std::string& sql)
 {
     const PgQueryParseResult result = pg_query_parse(sql.c_str());
-    const bool isAccepted = result.error == nullptr;
+    SVerdict verdict;
+    if (result.error != nullptr) {
+        verdict.error = result.error->message;
+        // It counts characters, from 1.
+        for (int left = result.error->cursorpos - 1; left > 0 && verdict.offset < sql.size(); --left)
+            while (++verdict.offset < sql.size() && (sql[verdict.offset] & 0xC0) == 0x80) {
+            }
+    }
     pg_query_free_parse_result(result);
-    return isAccepted;
+    return verdict;
+}
+
+bool JudgeAccepts(const std::string& sql)
+{
+    return Judge(sql).error.empty();
 }
 
 std::optional<std::string> JudgeTree(const std::string& sql)

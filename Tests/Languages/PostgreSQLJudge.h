@@ -14,6 +14,14 @@ struct SByteRange
     bool operator==(const SByteRange&) const = default;
 };
 
+// What the judge says of a text.
+struct SVerdict
+{
+    std::string error;      // empty: the text is taken
+    std::size_t offset = 0; // bytes: what the error is about, the text's size at its end
+};
+
+SVerdict Judge(const std::string& sql);
 bool JudgeAccepts(const std::string& sql);
 // The judge's own tree without the places of its parts; nothing for a text that it refuses.
 std::optional<std::string> JudgeTree(const std::string& sql);
