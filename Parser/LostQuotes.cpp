@@ -9,18 +9,32 @@ namespace {
 // From the end of a string to an unexpected token that has to do with it.
 constexpr unsigned long kNearLines = 2;
 
+// Of a delimiter, blanks left out.
+constexpr std::ptrdiff_t kDelimiterBytes = 2;
+
+bool IsDelimiter(std::string_view between)
+{
+    return std::ranges::count_if(between, [](char c) {
+               return std::string_view(" \t\r\n\f\v").find(c) == std::string_view::npos;
+           }) <= kDelimiterBytes;
+}
+
 } // namespace
 
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
                    const std::vector<SDiscardedText>& lost, const std::optional<SUnfinishedText>& unfinished,
-                   std::size_t size)
+                   std::string_view text)
 {
     SReading reading{parsed != UVDB_OK, 0, unexpected.size()};
-    for (const SDiscardedText& text : lost)
-        reading.lostBytes += text.end - text.begin;
+    std::size_t last = std::string_view::npos; // where the piece before ends
+    for (const SDiscardedText& piece : lost) {
+        const bool isJoined = last <= piece.begin && IsDelimiter(text.substr(last, piece.begin - last));
+        reading.lostBytes += piece.end - (isJoined ? last : piece.begin);
+        last = piece.end;
+    }
     // An open comment is no token that anybody could miss, and takes in all that follows.
     if (unfinished)
-        reading.lostBytes += size - std::min(unfinished->read, size);
+        reading.lostBytes += text.size() - std::min(unfinished->read, text.size());
     return reading;
 }
 

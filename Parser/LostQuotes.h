@@ -8,15 +8,15 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
 // How well a text was read. The lesser one is the better.
 struct SReading
 {
-    bool isRefused = false; // there is no tree
-    std::size_t lostBytes =
-        0; // of the text; a token that takes in whole statements can be the only unexpected one
+    bool isRefused = false;    // there is no tree
+    std::size_t lostBytes = 0; // a token that takes in whole statements can be the only unexpected one
     std::size_t unexpectedTokens = 0;
 
     bool operator<(const SReading& other) const
@@ -26,10 +26,11 @@ struct SReading
     }
 };
 
-// `parsed`: what the parser returned; `size`: of the text.
+// `parsed`: what the parser returned. `lost`: of `text`, in its order. A delimiter between two lost pieces is lost too:
+// a reading that only cuts what it loses into more pieces is no better.
 SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
                    const std::vector<SDiscardedText>& lost, const std::optional<SUnfinishedText>& unfinished,
-                   std::size_t size);
+                   std::string_view text);
 
 // Where the scan can go on as if a long text that one of the tokens makes suspect had not been opened, or had
 // ended at its first line: bytes of the text, each once, in the order of the tokens.

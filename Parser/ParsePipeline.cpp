@@ -305,7 +305,7 @@ int CParsePipeline::ReadBest(SParseFindings& findings)
     const auto suspects = [&] { return SuspectPlaces(scanner.LongTexts(), findings.unexpected); };
     const auto reading = [&] {
         return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches(),
-                         findings.unfinished, m_Parsed.text.size());
+                         findings.unfinished, m_Grammar.Found().m_strQuery);
     };
     SReading best = reading();
     std::vector<std::size_t> walls;

@@ -57,4 +57,14 @@ TEST_F(LostQuotes, LostQuotesCostTheirStatement)
     }
 }
 
+// What is wrong there isn't the string. Read without its quote the statement falls to pieces, all of which are lost.
+TEST_F(LostQuotes, CuttingUpWhatIsLostIsNoGain)
+{
+    m_Options.closesLostQuotes = true;
+    EXPECT_EQ(Parse("print 'a\nb;\nc;' d;\nprint 2;\n"), UVDB_OK);
+    ASSERT_EQ(m_Parsed.findings.unexpected.size(), 1U);
+    EXPECT_EQ(m_Parsed.findings.unexpected.front().text, "d");
+    EXPECT_EQ(Statements(Result()), 1);
+}
+
 } // namespace
