@@ -1,6 +1,6 @@
 /* CREATE TABLE.
-   A dialect defines table_option (what follows the bracket), and adds to table_definition, table_element,
-   column_definition, column_constraint, the bodies of constraints and their columns. */
+   A dialect defines table_option (what follows the bracket) and stored_option (what may stand before a query), and adds to
+   table_definition, table_element, column_definition, column_constraint, the bodies of constraints and their columns. */
 
 create_table_statement { NODE; }: T__CREATE temporary? T__TABLE table_definition ;
 table_definition { PART(create_table_statement); }
@@ -11,7 +11,7 @@ if_not_exists { NODE; }: T__IF T__NOT T__EXISTS ;
 new_table { PART(create_table_statement); }: if_not_exists? table_name ;
 temporary { PART; }: (T__LOCAL | T__GLOBAL)? T__TEMPORARY ;
 
-table_as { NODE(create_table_statement); }: new_table columns? table_option_list? as_query ;
+table_as { NODE(create_table_statement); }: new_table columns? stored_option_list? as_query ;
 as_query { NODE; }: T__AS query with_data? ;
 with_data { NODE; }: T__WITH T__NO? T__DATA ;
 
@@ -65,3 +65,4 @@ foreign_columns { NODE(columns); }: T__LPAREN foreign_column_list T__RPAREN ;
 foreign_column { NODE(key_column); }: column_name ;
 
 %list table_option_list: table_option %short ;
+%list stored_option_list: stored_option %short %node table_option_list ;

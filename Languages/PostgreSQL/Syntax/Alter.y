@@ -3,6 +3,7 @@
 alter_table_statement { NODE; }: T__ALTER T__TABLE tablespace_move ;
 alter_index_statement { NODE; }
     : T__ALTER T__INDEX if_exists? index_name alter_action_list
+    | T__ALTER T__INDEX index_name attached_index_list
     | T__ALTER T__INDEX tablespace_move ;
 alter_view_statement { NODE; }: T__ALTER T__VIEW if_exists? view_name alter_action_list ;
 alter_materialized_view_statement { NODE; }
@@ -39,10 +40,12 @@ alter_action { NODE; }
     | T__NOT T__OF
     | T__REPLICA T__IDENTITY (T__NOTHING | T__FULL | T__DEFAULT)
     | T__REPLICA T__IDENTITY T__USING T__INDEX index_name
-    | T__ATTACH T__PARTITION (attached_index | table_name partition_bound)
+    | T__ATTACH T__PARTITION table_name partition_bound
     | T__DETACH T__PARTITION table_name (T__FINALIZE | T__CONCURRENTLY)?
     | extension_dependency | alter_generic_options ;
 /* Partitions of an index have no bounds. */
+attached_index_list { NODE(alter_action_list); }: index_attachment ;
+index_attachment { NODE(alter_action); }: T__ATTACH T__PARTITION attached_index ;
 attached_index { NODE(index_name); }: qualified_name ;
 extension_dependency { NODE; }: T__NO? T__DEPENDS T__ON T__EXTENSION extension_name ;
 trigger_or_rule { NODE(alter_action); }: T__TRIGGER (trigger_name | T__ALL | T__USER) | T__RULE rule_name ;

@@ -2,7 +2,8 @@
 
 argument { PART(named_argument); }
     : parameter_name T__COLON_EQUAL expression
-    | T__VARIADIC argument  { NODE(variadic_argument); } ;
+    | T__VARIADIC single_argument  { NODE(variadic_argument); } ;
+single_argument { PART(named_argument); }: (parameter_name (T__ARROW | T__COLON_EQUAL))? expression ;
 
 special_value { PART; }: T__CURRENT_ROLE | T__SYSTEM_USER | T__CURRENT_CATALOG | T__CURRENT_SCHEMA ;
 

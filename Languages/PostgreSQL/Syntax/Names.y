@@ -26,8 +26,11 @@ bare_label { NODE(sql_identifier); }: T__IDENTIFIER | other_identifier | bare_la
 
 access_method_name, channel_name, event_trigger_name, extension_name, language_name, policy_name,
 publication_name, rule_name, subscription_name, wrapper_name { NODE; }: identifier ;
-conversion_name, operator_class_name, operator_family_name, statistics_name, text_search_name, setting_name
-    { NODE; }: identifier | dotted_name ;
+conversion_name, operator_class_name, operator_family_name, statistics_name, text_search_name { NODE; }
+    : identifier | dotted_name ;
+setting_name { NODE; }: identifier | dotted_setting ;
+/* No part of it is a reserved word. */
+dotted_setting { NODE(qualified_sql_identifier); }: (identifier | dotted_setting) T__DOT identifier ;
 /* A function that another object calls. */
 handler_name { NODE(function_name); }: identifier | dotted_name ;
 role_name { NODE; }: T__CURRENT_ROLE | T__SESSION_USER ;

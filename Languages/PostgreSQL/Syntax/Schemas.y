@@ -4,7 +4,7 @@ schema_element
     : create_table_statement | create_index_statement | create_sequence_statement | create_trigger_statement
     | create_view_statement | grant_statement ;
 
-create_role_statement { NODE; }: T__CREATE (role_or_group | T__USER) role_name T__WITH? role_option_list? ;
+create_role_statement { NODE; }: T__CREATE (role_or_group | T__USER) role_name T__WITH? new_role_option_list? ;
 role_or_group: T__ROLE | T__GROUP ;
 %list role_option_list: role_option %short ;
 role_option { NODE; }
@@ -13,11 +13,14 @@ role_option { NODE; }
     | T__INHERIT
     | T__CONNECTION T__LIMIT signed_integer
     | T__VALID T__UNTIL string_literal
-    | (T__USER | T__ADMIN) role_name_list
-    | plain_identifier
+    | T__USER role_name_list
+    | plain_identifier ;
+/* What only a new role may have. */
+%list new_role_option_list: new_role_option %short %node role_option_list ;
+new_role_option { NODE(role_option); }
+    : role_option  { PART; }
     | T__SYSID T__INTEGER_NUMBER
-    | T__IN? T__ROLE role_name_list
-    | T__IN T__GROUP role_name_list ;
+    | (T__ADMIN | T__IN? T__ROLE | T__IN T__GROUP) role_name_list ;
 
 create_database_statement { NODE; }: T__CREATE T__DATABASE database_name T__WITH? database_option_list? ;
 %list database_option_list: database_option %short %node option_list ;

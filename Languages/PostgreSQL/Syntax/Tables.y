@@ -8,7 +8,7 @@ table_definition { PART(create_table_statement); }
     | new_table T__PARTITION T__OF table_name (T__LPAREN typed_element_list T__RPAREN)? partition_bound
           table_option_list? ;
 
-table_as { NODE(create_table_statement); }: new_table columns? table_option_list? as_execute ;
+table_as { NODE(create_table_statement); }: new_table columns? stored_option_list? as_execute ;
 as_execute { NODE; }: T__AS execute_part with_data? ;
 execute_part { NODE(execute_statement); }: T__EXECUTE statement_name (T__LPAREN expression_list T__RPAREN)? ;
 
@@ -67,7 +67,9 @@ constraint_mark { PART(constraint_attribute); }: T__NOT T__VALID | T__NO T__INHE
 table_option { NODE; }
     : T__INHERITS T__LPAREN table_name_list T__RPAREN
     | T__PARTITION T__BY identifier T__LPAREN index_element_list T__RPAREN
-    | T__USING access_method_name
+    | stored_option  { PART; } ;
+stored_option { NODE(table_option); }
+    : T__USING access_method_name
     | T__WITH options
     | T__WITHOUT T__OIDS
     | T__ON T__COMMIT T__DROP

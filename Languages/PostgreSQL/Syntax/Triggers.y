@@ -1,11 +1,17 @@
 /* What PostgreSQL adds to triggers; event triggers, rules, policies. */
 
-create_trigger_statement { NODE; }: T__CREATE T__CONSTRAINT trigger_definition ;
+create_trigger_statement { NODE; }: T__CREATE T__CONSTRAINT constraint_trigger_definition ;
+constraint_trigger_definition { NODE(create_trigger_statement); }
+    : T__TRIGGER trigger_name trigger_time trigger_event_list T__ON table_name constraint_trigger_clause_list
+          trigger_action ;
 trigger_event { NODE; }: T__TRUNCATE ;
-trigger_clause { NODE; }
+trigger_clause { NODE; }: T__FOR trigger_level ;
+%list constraint_trigger_clause_list: constraint_trigger_clause %short %node trigger_clause_list ;
+constraint_trigger_clause { NODE(trigger_clause); }
     : T__FROM table_name
     | constraint_attribute
-    | T__FOR trigger_level ;
+    | T__FOR T__EACH T__ROW
+    | T__WHEN T__LPAREN condition T__RPAREN ;
 trigger_action { NODE; }
     : T__EXECUTE (T__FUNCTION | T__PROCEDURE) function_name T__LPAREN trigger_arguments? T__RPAREN ;
 %list trigger_arguments: trigger_argument %short %separator T__COMMA %node argument_list ;

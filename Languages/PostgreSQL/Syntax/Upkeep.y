@@ -13,8 +13,8 @@ truncate_statement { NODE; }: T__TRUNCATE truncated_tables truncate_tail ;
 %parts truncate_tail: identity_restart drop_behavior %node truncate_statement ;
 identity_restart { NODE; }: (T__CONTINUE | T__RESTART) T__IDENTITY ;
 vacuum_statement { NODE; }: T__VACUUM (vacuum_words | utility_options)? vacuumed_table_list? ;
-vacuum_words { PART(vacuum_statement); }: vacuum_words? vacuum_word ;
-vacuum_word: T__FULL | T__FREEZE | T__VERBOSE | analyze_word ;
+/* Each once, and in this order. */
+%parts vacuum_words: T__FULL T__FREEZE T__VERBOSE analyze_word %node vacuum_statement ;
 %list vacuumed_table_list: vacuumed_table %short %separator T__COMMA ;
 vacuumed_table { NODE; }: table | table columns ;
 analyze_statement { NODE; }: analyze_word (T__VERBOSE | utility_options)? vacuumed_table_list? ;
