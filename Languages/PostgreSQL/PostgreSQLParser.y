@@ -59,7 +59,7 @@
 %left T__DOT
 %left T__JOIN T__CROSS T__LEFT T__FULL T__RIGHT T__INNER T__NATURAL
 
-%warnings 29
+%warnings 30
 %start SQL_ROOT
 %%
 
