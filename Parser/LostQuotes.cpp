@@ -39,7 +39,8 @@ SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
 }
 
 std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
-                                       const std::vector<SUnexpectedToken>& unexpected)
+                                       const std::vector<SUnexpectedToken>& unexpected,
+                                       const std::vector<SDiscardedText>& lost)
 {
     std::vector<std::size_t> places;
     const auto take = [&](const SLongText& suspect) {
@@ -50,7 +51,12 @@ std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
         const auto after = std::ranges::upper_bound(longTexts, token.offset, {}, &SLongText::end);
         if (after != longTexts.begin() && token.line - std::prev(after)->lastLine <= kNearLines)
             take(*std::prev(after));
-        if (after != longTexts.end() && after->begin <= token.offset)
+        if (after == longTexts.end())
+            continue;
+        const bool isLostWithToken = std::ranges::any_of(lost, [&](const SDiscardedText& piece) {
+            return piece.begin <= token.offset && token.offset < after->begin && after->begin < piece.end;
+        });
+        if (after->begin <= token.offset || isLostWithToken)
             take(*after);
     }
     return places;

@@ -1,6 +1,7 @@
 // Strings that have lost one of their quotes. Such a string goes on to the next quote anywhere in the text, and
-// from there on text and strings have changed places. What gives it away is an unexpected token within it, or
-// right after it. Ended at its first line it costs one statement.
+// from there on text and strings have changed places. What gives it away is an unexpected token within it, right
+// after it, or before it if the string is lost with it: without its opening quote a string is words, and its closing
+// quote opens the long one. Ended at its first line it costs one statement.
 #pragma once
 
 #include "Grammar/UVGrammarLexer.h"
@@ -35,4 +36,5 @@ SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
 // Where the scan can go on as if a long text that one of the tokens makes suspect had not been opened, or had
 // ended at its first line: bytes of the text, each once, in the order of the tokens.
 std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
-                                       const std::vector<SUnexpectedToken>& unexpected);
+                                       const std::vector<SUnexpectedToken>& unexpected,
+                                       const std::vector<SDiscardedText>& lost);

@@ -302,7 +302,10 @@ int CParsePipeline::ReadBest(SParseFindings& findings)
         scanner.set_Walls(walls);
         return RunGrammar(findings);
     };
-    const auto suspects = [&] { return SuspectPlaces(scanner.LongTexts(), findings.unexpected); };
+    const auto suspects = [&] {
+        return SuspectPlaces(scanner.LongTexts(), findings.unexpected,
+                             m_Grammar.Found().DiscardedStretches());
+    };
     const auto reading = [&] {
         return ReadingOf(parsed, findings.unexpected, m_Grammar.Found().DiscardedStretches(),
                          findings.unfinished, m_Grammar.Found().m_strQuery);
