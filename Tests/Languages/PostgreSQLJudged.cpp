@@ -63,7 +63,7 @@ constexpr SRow kRows[] = {
     {"block taken and clean",                         "block taken"},
     {"block refused and told",                        "block refused"},
     {"damaged in a block, refused and told",          "damaged in a block and refused"},
-    {"statement of a damaged body kept",              "statement of a damaged body"},
+    {"statement beside a fault in a body, as before", "statement beside a fault in a body"},
 };
 
 // What the language has and the judge, who is older, has not.
@@ -207,9 +207,9 @@ private:
     {
         const auto lines = std::count(m_Parsed.prepared.begin(),
                                       m_Parsed.prepared.begin() + static_cast<std::ptrdiff_t>(offset), '\n');
-        AppendFields(
-            m_strCases,
-            {name, "0", m_Path + ':' + std::to_string(lines + 1) + ": " + error + ": " + OneLine(text)});
+        AppendFields(m_strCases, {name, "0",
+                                  m_Path + ':' + std::to_string(lines + 1) + ": " + OneLine(error) + ": " +
+                                      OneLine(text)});
     }
 
     // Counts it under `whole`, and if it is so under `part`, else it is listed there.
@@ -305,7 +305,7 @@ private:
         const std::string damaged = edit->Apply(sql);
         const SParsedText parsed = m_Parser.ParseText(damaged, m_Path);
         const bool isClean = parsed.result.isParsed && parsed.result.findings.empty();
-        if (!isClean && fault != enFault::Delimiter)
+        if (!isClean && isInBody)
             CompareBodies(sql, *edit, parsed);
         SVerdict verdict = ::Judge(damaged);
         if (verdict.error.empty() && isInBody) {
@@ -331,14 +331,12 @@ private:
 
     static bool IsInBody(const std::vector<STokenPlace>& tokens, const SEdit& edit)
     {
-        bool isIn = false;
+        std::size_t opened = std::string::npos;
         for (const STokenPlace& token : tokens) {
-            if (token.name == "T__BODY_QUOTE_END")
-                isIn = false;
-            if (token.end > edit.begin || (token.end == edit.begin && edit.begin == edit.end))
-                return isIn && token.name != "T__BODY_QUOTE_END";
             if (token.name == "T__BLOCK_QUOTE_BEGIN" || token.name == "T__SQL_QUOTE_BEGIN")
-                isIn = true;
+                opened = token.end;
+            else if (token.name == "T__BODY_QUOTE_END" && opened <= edit.begin && edit.end <= token.begin)
+                return opened < edit.begin || !edit.text.starts_with(' '); // not if the quote is doubled
         }
         return false;
     }
@@ -359,7 +357,7 @@ private:
                                         ? statement.end + edit.text.size() - (edit.end - edit.begin)
                                         : statement.end;
             const auto found = after.find(end);
-            Count("statement of a damaged body", "statement of a damaged body kept",
+            Count("statement beside a fault in a body", "statement beside a fault in a body, as before",
                   found != after.end() && found->second.count(statement.form) > 0,
                   sql.substr(statement.begin, 30), 0, parsed.prepared);
         }
