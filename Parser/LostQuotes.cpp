@@ -59,5 +59,11 @@ std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
         if (after->begin <= token.offset || isLostWithToken)
             take(*after);
     }
+    // Soon after another one an unexpected token isn't told.
+    for (const SDiscardedText& piece : lost) {
+        const auto after = std::ranges::upper_bound(longTexts, piece.begin, {}, &SLongText::end);
+        if (!piece.isReported && after != longTexts.end() && after->begin < piece.end)
+            take(*after);
+    }
     return places;
 }

@@ -34,7 +34,7 @@ SReading ReadingOf(int parsed, const std::vector<SUnexpectedToken>& unexpected,
                    std::string_view text);
 
 // Where the scan can go on as if a long text that one of the tokens makes suspect had not been opened, or had
-// ended at its first line: bytes of the text, each once, in the order of the tokens.
+// ended at its first line: bytes of the text, each once, in the order of the tokens, and then of lost text without one.
 std::vector<std::size_t> SuspectPlaces(const std::vector<SLongText>& longTexts,
                                        const std::vector<SUnexpectedToken>& unexpected,
                                        const std::vector<SDiscardedText>& lost);

@@ -35,6 +35,7 @@ constexpr SLostQuoteCase kLostQuotes[] = {
     {"print 'a;\nprint 'b';\nprint 'c';\n", 1, 1, 2},     // its closing quote
     {"print a';\nprint 'b';\nprint 'c';\nprint 'd';\n", 1, 1, 3},
     {"print a b';\nprint 'b';\nprint 'c';\nprint 'd';\n", 1, 1, 3}, // the error stands before the quote
+    {"print b c; d';\nprint 'e';\nprint 'f';\n", 1, 1, 2},          // an error that isn't told stands at it
     {"print 'a\nb' c;\nprint 'd';\n", 1, 1, 1}, // the error has nothing to do with the string
     {"print 'a;\nprint b;\n", 1, 1, 1},         // no other quote follows
 };
