@@ -387,8 +387,10 @@ int Run(const SSettings& settings, CToolMessages& messages)
         [&](std::size_t job) { return CJudgedFile(parser, inputs.files[job], settings).Judge(); },
         [&](std::size_t job, const SJobResult& result) {
             if (!result.isDone) {
-                messages.Write(enSeverity::Error, SSourcePlace{inputs.files[job], 0, 0, {}}, result.text);
-                code = kToolFindings;
+                messages.Write(result.isCrash ? enSeverity::Error : enSeverity::Warning,
+                               SSourcePlace{inputs.files[job], 0, 0, {}}, result.text);
+                if (result.isCrash)
+                    code = kToolFindings;
                 return;
             }
             std::istringstream lines(result.text);
