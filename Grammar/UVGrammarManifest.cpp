@@ -15,6 +15,7 @@
 namespace {
 
 constexpr const char* kParts[] = {"Lexer", "Parser"};
+constexpr std::string_view kSources = "sources ";
 
 struct SFileList
 {
@@ -41,13 +42,19 @@ SFileList FilesOf(std::string_view part)
     return files;
 }
 
-std::string Shown(const STableFacts& facts)
+std::string Hexadecimal(std::uint32_t checksum)
 {
     constexpr char kDigits[] = "0123456789abcdef";
-    std::string checksum;
+    std::string shown;
     for (int shift = 28; shift >= 0; shift -= 4)
-        checksum += kDigits[(facts.checksum >> shift) & 15];
-    return std::to_string(facts.bytes) + ' ' + checksum + ' ' + std::to_string(facts.records);
+        shown += kDigits[(checksum >> shift) & 15];
+    return shown;
+}
+
+std::string Shown(const STableFacts& facts)
+{
+    return std::to_string(facts.bytes) + ' ' + Hexadecimal(facts.checksum) + ' ' +
+           std::to_string(facts.records);
 }
 
 // The next word of a line, and over the blank after it; empty at the end.
@@ -68,14 +75,15 @@ bool TakeNumber(std::string_view& line, T& value, int base)
 }
 
 // Manifest text:
-//     manifest = "language " name LF { file }
+//     manifest = "language " name LF [ "sources " checksum LF ] { file }
 //     file     = "file " part "/" name " " bytes " " checksum " " records LF
-// bytes and records in decimal, the checksum in eight hexadecimal digits, all of them of the unpacked
+// bytes and records in decimal, checksums in eight hexadecimal digits, all of a file's of the unpacked
 // content:
 //     language Tally
+//     sources 0e41c27b
 //     file Lexer/accept.dat 164 5f2b1c09 40
 // Each file of both parts has its line. The name of the language is told to the reader only: a folder may be
-// renamed.
+// renamed. The sources' checksum is for the tools that make tables anew.
 class CManifestReader
 {
 public:
@@ -90,6 +98,8 @@ public:
         if (TakeWord(line) != "language" || line.empty())
             Refuse("no language");
         std::map<std::string, STableFacts> facts;
+        if (m_Rest.starts_with(kSources) && !SourcesOfManifest(std::string("\n").append(NextLine())))
+            Refuse("not a checksum");
         while (!m_Rest.empty()) {
             line = NextLine();
             if (TakeWord(line) != "file")
@@ -198,9 +208,22 @@ STableFacts CTableFolder::ReadTable(const char* name, STable<T>& table) const
 template STableFacts CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
 template STableFacts CTableFolder::ReadTable<unsigned>(const char* name, STable<unsigned>& table) const;
 
-std::string ComposeManifest(const std::string& directory, const std::string& language)
+std::optional<std::uint32_t> SourcesOfManifest(std::string_view manifest)
+{
+    manifest.remove_prefix(std::min(manifest.find('\n'), manifest.size() - 1) + 1);
+    std::uint32_t checksum = 0;
+    if (!manifest.starts_with(kSources))
+        return std::nullopt;
+    manifest = manifest.substr(kSources.size(), manifest.find('\n') - kSources.size());
+    const std::string shown(manifest);
+    return TakeNumber(manifest, checksum, 16) && Hexadecimal(checksum) == shown ? std::optional(checksum)
+                                                                                : std::nullopt;
+}
+
+std::string ComposeManifest(const std::string& directory, const std::string& language, std::uint32_t sources)
 {
     std::string manifest = "language " + language + '\n';
+    manifest.append(kSources).append(Hexadecimal(sources)).append(1, '\n');
     for (const char* const part : kParts) {
         const CTableFolder folder(directory + part + '/');
         const SFileList files = FilesOf(part);

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -53,9 +54,13 @@ private:
     std::map<std::string, STableFacts> m_Facts; // by name of file; empty without a manifest
 };
 
-// The manifest of the tables in `directory`, which ends in a slash.
+// The manifest of the tables in `directory`, which ends in a slash. `sources`: the checksum of what they were made from.
 // Throws: Uve::U8CString with the line for the log if a table isn't there or damaged.
-std::string ComposeManifest(const std::string& directory, const std::string& language);
+std::string ComposeManifest(const std::string& directory, const std::string& language, std::uint32_t sources);
+
+// The checksum of the sources that a manifest's text has.
+// Returns: nothing for a text without one, whatever else it is.
+std::optional<std::uint32_t> SourcesOfManifest(std::string_view manifest);
 
 extern template STableFacts CTableFolder::ReadTable<int>(const char* name, STable<int>& table) const;
 extern template STableFacts CTableFolder::ReadTable<unsigned>(const char* name,

@@ -57,7 +57,11 @@ protected:
         const SUvgrammarRun run = Build(lexer, parser);
         EXPECT_EQ(run.exitCode, 0);
         EXPECT_EQ(run.messages, "");
-        return Snapshot("out");
+        auto tables = Snapshot("out");
+        // of sources that differ
+        std::string& manifest = tables.at(m_Folder.Path() + "out/Lang/manifest.txt");
+        manifest.erase(manifest.find("sources "), std::string_view("sources 01234567\n").size());
+        return tables;
     }
 };
 

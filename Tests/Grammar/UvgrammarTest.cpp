@@ -76,7 +76,8 @@ TEST_F(Uvgrammar, GoodGrammarGivesADirectoryThatTheEngineReads)
     EXPECT_THAT(run.output, HasSubstr("grammar Lang\n"));
     EXPECT_THAT(run.output, HasSubstr("conflicts: 0 shift/reduce, 0 reduce/reduce\n"));
     EXPECT_EQ(Snapshot("out").size(), 24u);
-    EXPECT_THAT(File("out/Lang/manifest.txt"), StartsWith("language Lang\nfile Lexer/actions.dat "));
+    EXPECT_THAT(File("out/Lang/manifest.txt"),
+                AllOf(StartsWith("language Lang\nsources "), HasSubstr("\nfile Lexer/actions.dat ")));
     EXPECT_EQ(File("out/Lang/Lexer/defines.dat"), "INITIAL 0\nCOMMENT 1\nSS_GENERAL 2\n");
     EXPECT_THAT(File("out/Lang/Lexer/actions.dat"),
                 HasSubstr("\n8 BRACKETS_ACTION 2 TOKEN_ACTION SEMI\n9 yytext 0\n"));

@@ -266,6 +266,23 @@ protected:
     }
 };
 
+// The same name, and dates before those of the tables that are there.
+TEST_F(UvgrammarTest, AnotherFolderOfTheSameNameGetsTablesOfItsOwn)
+{
+    Put("Pairs/Tests/a.tests", kGood);
+    EXPECT_EQ(Test("Pairs").code, 0);
+    Put("older/Pairs/PairsLexer.l", kLexer);
+    std::string parser = kParser;
+    parser.replace(parser.rfind("NODE;"), 5, "NODE(word);");
+    Put("older/Pairs/PairsParser.y", parser);
+    Put("older/Pairs/Tests/a.tests", kGood);
+    for (const char* file : {"PairsLexer.l", "PairsParser.y"})
+        fs::last_write_time(m_Folder / "older/Pairs" / file,
+                            fs::last_write_time(m_Folder / "Pairs" / file) - std::chrono::hours(1));
+    EXPECT_THAT(Test("older/Pairs").out, HasSubstr("+     word/T__NAME"));
+    EXPECT_EQ(Test("Pairs").code, 0);
+}
+
 TEST_F(UvgrammarTest, ComparesTreesAndTellsWhereTheyDiffer)
 {
     Put("Pairs/Tests/a.tests", kGood);

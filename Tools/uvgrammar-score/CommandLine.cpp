@@ -39,7 +39,7 @@ po::options_description VisibleOptions(SCommandLine& line, std::vector<std::stri
 // clang-format off
 constexpr char kUsage[] =
     "usage: uvgrammar score [options] LANGUAGE FILE|FOLDER...\n"
-    "Makes the tables of a language if they are older than its sources, parses files with them, and tells what\n"
+    "Makes the tables of a language if they aren't those of its sources, parses files with them, and tells what\n"
     "can't be read. LANGUAGE is the folder of the sources, with one *Lexer.l and one *Parser.y in it.\n\n";
 constexpr char kAfterOptions[] =
     "\nOf folders all files are taken that have an extension of the language, and all if no extension of it is\n"

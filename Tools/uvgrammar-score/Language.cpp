@@ -65,18 +65,18 @@ private:
     CToolMessages m_Messages{"", m_Nowhere};
 };
 
-// What the tables are made from; later than anything if a source can't be read.
-fs::file_time_type NewestOf(const SLanguageSources& sources)
+// Whether tables with this manifest say what the sources do. Their dates tell nothing: a source may be taken out of an
+// archive, and two folders may have languages of one name.
+bool AreTablesOf(const fs::path& manifest, const SLanguageSources& sources)
 {
+    if (TimeOf(manifest) < TimeOf(BesideProgram("uvgrammar")))
+        return false;
     CSilence silence;
     CToolMessages& messages = silence.Messages();
-    std::vector<std::string> paths = AssembleScanner(sources.lexerPath, messages).Paths();
-    const std::vector<std::string> ofParser = AssembleParser(sources.parserPath, messages).Paths();
-    paths.insert(paths.end(), ofParser.begin(), ofParser.end());
-    fs::file_time_type newest = TimeOf(BesideProgram("uvgrammar"));
-    for (const std::string& path : paths)
-        newest = std::max(newest, TimeOf(path));
-    return messages.ErrorCount() == 0 ? newest : fs::file_time_type::max();
+    const CGrammarSource scanner = AssembleScanner(sources.lexerPath, messages);
+    const CGrammarSource parser = AssembleParser(sources.parserPath, messages);
+    return messages.ErrorCount() == 0 &&
+           SourcesOfManifest(ReadWholeFile(manifest.string())) == SourcesChecksum(scanner, parser);
 }
 
 // The number that `text` begins with, and a blank after it, are taken off; -1 without them.
@@ -153,8 +153,7 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLangu
 {
     const std::string output = BesideProgram("Grammar") + '/' + sources.name;
     const fs::path manifest = fs::path(output) / kManifestName;
-    const fs::file_time_type newest = NewestOf(sources);
-    if (TimeOf(manifest) >= newest)
+    if (AreTablesOf(manifest, sources))
         return true;
     SGrammarBuild build;
     build.lexerPath = sources.lexerPath;
@@ -167,10 +166,9 @@ bool MakeTables(const SLanguageSources& sources, CToolMessages& messages, CLangu
         return false;
     if (rules != nullptr)
         rules->Take(std::move(generated));
-    // Tables that say the same as before stay in place; they are those of the sources all the same. The time is that of
-    // the sources, so that no edit is missed which comes while the tables are made, or right after.
+    // Tables that say the same as before stay in place, older than the tool.
     std::error_code ignored;
-    fs::last_write_time(manifest, newest, ignored);
+    fs::last_write_time(manifest, std::max(TimeOf(manifest), TimeOf(BesideProgram("uvgrammar"))), ignored);
     return true;
 }
 

@@ -26,8 +26,8 @@ struct SLanguageSources
 // Throws: CToolFailure.
 SLanguageSources FindLanguageSources(const std::string& folder);
 
-// Makes the tables of the language beside the program, in Grammar/<name>, if they aren't there or a source or the tool is
-// newer. What is wrong with the sources goes to `messages`.
+// Makes the tables of the language beside the program, in Grammar/<name>, if those that are there aren't of these sources or the tool
+// is newer. What is wrong with the sources goes to `messages`.
 // `rules`, unless null, get what the generators make, which needn't run for them again.
 // Returns: false if the grammar is refused.
 // Throws:  CToolFailure.

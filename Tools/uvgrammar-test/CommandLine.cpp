@@ -28,7 +28,7 @@ po::options_description VisibleOptions(SCommandLine& line)
 // clang-format off
 constexpr char kUsage[] =
     "usage: uvgrammar test [options] LANGUAGE [FILE...]\n"
-    "Makes the tables of a language if they are older than its sources, and compares the trees of texts with those\n"
+    "Makes the tables of a language if they aren't those of its sources, and compares the trees of texts with those\n"
     "that are expected. LANGUAGE is the folder of the sources, with one *Lexer.l and one *Parser.y in it; without a\n"
     "FILE the cases are those of all files *.tests in its folder Tests.\n\n";
 constexpr char kAfterOptions[] =

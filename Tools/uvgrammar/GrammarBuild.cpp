@@ -40,7 +40,7 @@ void AppendEndRecords(const CGrammarSource& source, const SGeneratedFiles& files
 }
 
 void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, const std::string& name,
-                 const std::string& directory)
+                 std::uint32_t sources, const std::string& directory)
 {
     const std::string lexer = directory + "Lexer/";
     const std::string parser = directory + "Parser/";
@@ -54,7 +54,7 @@ void WriteTables(const CGrammarSource& source, const SGeneratedFiles& files, con
     Require(UVDBGrammarKeeper::SaveTablesToFile(files.parserPath, parser), "the parser's tables");
     Require(UVDBGrammarKeeper::SaveConstantsToFile(files.parserPath, parser), "the final state");
     Require(UVDBGrammarKeeper::SaveDefinesToFile(files.parserPath, parser, defines), "the tokens");
-    WriteWholeFile(directory + kManifestName, ComposeManifest(directory, name));
+    WriteWholeFile(directory + kManifestName, ComposeManifest(directory, name, sources));
 }
 
 void AppendTables(std::string& report, std::initializer_list<std::pair<const char*, std::size_t>> tables)
@@ -183,6 +183,11 @@ private:
 
 } // namespace
 
+std::uint32_t SourcesChecksum(const CGrammarSource& scanner, const CGrammarSource& parser)
+{
+    return FactsOfText(scanner.Text() + parser.Text()).checksum;
+}
+
 enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std::string& report,
                         std::unique_ptr<const SGeneratedGrammar>* generated)
 {
@@ -212,7 +217,7 @@ enToolExit BuildGrammar(const SGrammarBuild& build, CToolMessages& messages, std
 
     const std::string written = output.NewPath();
     try {
-        WriteTables(lexer, files, build.name, written);
+        WriteTables(lexer, files, build.name, SourcesChecksum(lexer, parser), written);
     } catch (const Uve::U8CString& text) {
         throw CToolFailure(LogText(text));
     }

@@ -6,6 +6,7 @@
 #include "Tools/uvgrammar/Generators.h"
 #include "Tools/uvgrammar/GrammarSource.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -28,6 +29,9 @@ struct SGeneratedGrammar
     CGrammarSource parser;
     SGeneratedFiles files = {};
 };
+
+// Of what flex and bison read: sources with one checksum give the same tables.
+std::uint32_t SourcesChecksum(const CGrammarSource& scanner, const CGrammarSource& parser);
 
 // Writes the tables, unless the grammar is refused; then the directory stays as it was.
 // Returns: kToolClean, or kToolFindings with the reasons in `messages`. `report` takes the counts as text; `generated`,
