@@ -13,7 +13,7 @@ declared_type { PART(variable_declaration); }: variable_type (T__COLLATE collati
 variable_type { NODE(data_type); }: data_type  { PART; } | copied_type (T__ARRAY | array_bounds)? ;
 /* The type of another variable, or of a column or row. */
 copied_type { NODE(data_type); }: type_name T__PERCENT (T__TYPE | T__ROWTYPE) ;
-declared_value { PART(variable_declaration); }: (T__NOT T__NULL)? default_value ;
+declared_value { PART(variable_declaration); }: T__NOT T__NULL default_value? | default_value ;
 default_value { NODE; }: assignment_operator value | T__DEFAULT value ;
 assignment_operator: T__COLON_EQUAL | T__EQUAL ;
 
