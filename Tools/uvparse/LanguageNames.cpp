@@ -109,6 +109,12 @@ constexpr SPreparedLanguage kPrepared[] = {
     {"Progress4GL",    "-o INCLUDE_FILES=YES"                          },
     {"TelonCOBOL",     "-o COBOLFORMAT=ANSI or -o COBOLFORMAT=FREE"    },
 };
+
+constexpr SUsualOption kUsual[] = {
+//   language  option                     value
+    {"MySQL",  "ANSI_QUOTED_IDENTIFIERS", "No" }, // a text in double quotes is a string,
+    {"MySQL",  "OPTION_VARYING_PARSING",  "YES"}, // unless the whole reads better with names in them
+};
 // clang-format on
 
 } // namespace
@@ -125,6 +131,11 @@ std::string_view ParserOfOtherName(std::string_view name)
         return Uve::Compat::stricmp(row.name, wanted.c_str()) == 0;
     });
     return found != std::end(kOtherNames) ? found->parserName : std::string_view();
+}
+
+std::span<const SUsualOption> UsualOptions()
+{
+    return kUsual;
 }
 
 std::span<const SPreparedLanguage> PreparedLanguages()

@@ -1,5 +1,5 @@
-// What people call languages and how they name files, beside what the catalogue knows; and which languages
-// are prepared, under which options.
+// What people call languages and how they name files, beside what the catalogue knows; which languages are
+// prepared, under which options; and what is assumed of their texts.
 #pragma once
 
 #include <span>
@@ -28,5 +28,14 @@ struct SPreparedLanguage
 std::span<const SPreparedLanguage> PreparedLanguages();
 // Null if the texts of this language aren't prepared.
 const SPreparedLanguage* FindPreparedLanguage(std::string_view parserName);
+
+// Options of the database info that texts of a language are read with unless others are given.
+struct SUsualOption
+{
+    const char* parserName;
+    const char* key;
+    const char* value;
+};
+std::span<const SUsualOption> UsualOptions();
 
 } // namespace uvparse

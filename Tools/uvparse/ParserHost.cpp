@@ -7,6 +7,7 @@
 #include "Interfaces/UVDBResults.h"
 #include "Metadata/Options/UVDBOptionWrapper.h"
 #include "Metadata/UVDBDatabaseInfo.h"
+#include "Tools/uvparse/LanguageNames.h"
 #include "UVEnvironment/PluginHelpers.h"
 
 #include <charconv>
@@ -100,6 +101,9 @@ CParserHost::CParserHost(const SLanguage& language, const SHostSettings& setting
       m_Parser(PluginHelpers::CreateParser())
 {
     SetTextOption(m_DatabaseInfo, "SOURCE_FORMS", "FAITHFUL");
+    for (const SUsualOption& usual : UsualOptions())
+        if (m_ParserName == usual.parserName)
+            SetTextOption(m_DatabaseInfo, usual.key, usual.value);
     for (const auto& [key, value] : settings.options)
         SetTextOption(m_DatabaseInfo, key, value);
     SetTextOption(m_DatabaseInfo, "REPORT_UNEXPECTED_TOKENS", "3");
