@@ -257,8 +257,12 @@ TEST_F(Uvgrammar, WarnsOfWhatIsOnlySuspicious)
 TEST_F(Uvgrammar, ReportShowsAnExampleOfEachConflict)
 {
     const std::string parser = Replaced(kParser, "name: TID", "name: name name { NODE(PAIR); } | TID");
-    EXPECT_THAT(Build(kLexer, parser).messages,
-                HasSubstr("P.y: note: --report shows an example of each conflict\n"));
+    EXPECT_THAT(
+        Build(kLexer, parser).messages,
+        HasSubstr("P.y: note: before TID it is open whether there is a whole name or more of it comes\n"
+                  "    name: name name .\n"
+                  "    name: name . name\n"
+                  "P.y: note: --report shows an example of each conflict\n"));
     const SRun run = Build(kLexer, parser, "--report");
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.messages, HasSubstr("P.y: note: shift/reduce conflict on token"));

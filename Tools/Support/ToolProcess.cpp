@@ -3,10 +3,13 @@
 #include "Tools/Support/ToolFiles.h"
 
 #include <cerrno>
+#include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -24,10 +27,33 @@ constexpr int kNotStarted = 127;
     _exit(kNotStarted);
 }
 
+// Waits for the end of `child`, and kills it after `mostSeconds`, if that isn't 0.
+// Returns: its status; `wasKilled` is set if it didn't end by itself.
+int WaitFor(pid_t child, const std::string& program, unsigned mostSeconds, bool& wasKilled)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(mostSeconds);
+    int status = 0;
+    for (;;) {
+        const pid_t ended = waitpid(child, &status, mostSeconds == 0 || wasKilled ? 0 : WNOHANG);
+        if (ended == child)
+            return status;
+        if (ended < 0 && errno != EINTR)
+            throw CToolFailure(program + ": " + std::strerror(errno));
+        if (ended < 0)
+            continue;
+        if (std::chrono::steady_clock::now() < end) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            continue;
+        }
+        wasKilled = true;
+        kill(child, SIGKILL);
+    }
+}
+
 } // namespace
 
 SProgramResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
-                          const std::string& folder, const std::string& logPath)
+                          const std::string& folder, const std::string& logPath, unsigned mostSeconds)
 {
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
@@ -50,12 +76,8 @@ SProgramResult RunProgram(const std::string& program, const std::vector<std::str
     if (child < 0)
         throw CToolFailure(program + ": " + std::strerror(forkError));
 
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR)
-            throw CToolFailure(program + ": " + std::strerror(errno));
-    }
     SProgramResult result;
+    const int status = WaitFor(child, program, mostSeconds, result.wasStopped);
     result.exitCode = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
     result.output = ReadWholeFile(logPath);
     result.wasStarted = result.exitCode != kNotStarted;

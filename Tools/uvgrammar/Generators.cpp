@@ -2,6 +2,7 @@
 
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolProcess.h"
+#include "Tools/uvgrammar/ConflictReport.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -10,6 +11,9 @@
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
+
+constexpr std::size_t kMostConflicts = 5;    // are shown where no report is asked for
+constexpr unsigned kMostExampleSeconds = 60; // bison may look for hours
 
 // Calls `take` with each line, without its LF.
 template <class F>
@@ -113,9 +117,10 @@ bool BeginsExample(std::string_view message)
 }
 
 SProgramResult Generate(const std::string& program, const std::vector<std::string>& arguments,
-                        const std::string& folder)
+                        const std::string& folder, unsigned mostSeconds = 0)
 {
-    SProgramResult result = RunProgram(program, arguments, folder, folder + "/" + program + ".log");
+    SProgramResult result =
+        RunProgram(program, arguments, folder, folder + "/" + program + ".log", mostSeconds);
     if (!result.wasStarted)
         throw CToolFailure(program + ": can't be run; is it installed?");
     return result;
@@ -125,6 +130,18 @@ void WriteGeneratorMessages(const std::string& program, const SProgramResult& re
                             const CGrammarSource& source, CToolMessages& messages)
 {
     const std::size_t errorsBefore = messages.ErrorCount();
+    ForEachLine(result.output, [&](std::string_view line) {
+        if (!line.empty() && line.find("rerun with option '-Wcounterexamples'") == std::string_view::npos)
+            WriteGeneratorMessage(line, copy, source, messages);
+    });
+    if (result.exitCode != 0 && messages.ErrorCount() == errorsBefore)
+        messages.Write(enSeverity::Error, source.Place(0),
+                       program + " ended with code " + std::to_string(result.exitCode));
+}
+
+// bison's texts that have two meanings, as far as it has found them.
+void WriteExamples(const SProgramResult& result, const CGrammarSource& source, CToolMessages& messages)
+{
     std::string example; // with its message
     const auto endExample = [&] {
         if (!example.empty())
@@ -139,15 +156,28 @@ void WriteGeneratorMessages(const std::string& program, const SProgramResult& re
         endExample();
         if (BeginsExample(line))
             example = line.substr(line.find("warning: ") + 9, line.rfind(" [") - line.find("warning: ") - 9);
-        else if (line.find("rerun with option '-Wcounterexamples'") != std::string_view::npos)
-            messages.Write(enSeverity::Note, source.Place(0), "--report shows an example of each conflict");
-        else if (!line.empty())
-            WriteGeneratorMessage(line, copy, source, messages);
     });
     endExample();
-    if (result.exitCode != 0 && messages.ErrorCount() == errorsBefore)
-        messages.Write(enSeverity::Error, source.Place(0),
-                       program + " ended with code " + std::to_string(result.exitCode));
+    if (result.wasStopped)
+        messages.Write(enSeverity::Note, source.Place(0),
+                       "no more examples were found within " + std::to_string(kMostExampleSeconds) +
+                           " seconds");
+}
+
+void WriteConflicts(const std::string& report, bool all, const CGrammarSource& source,
+                    CToolMessages& messages)
+{
+    const std::vector<SConflict> conflicts = ReadConflicts(report);
+    const std::size_t shown = all ? conflicts.size() : std::min(conflicts.size(), kMostConflicts);
+    for (std::size_t i = 0; i < shown; ++i)
+        messages.Write(enSeverity::Note, source.Place(0), ConflictText(conflicts[i]));
+    const std::size_t left = conflicts.size() - shown;
+    if (!all)
+        messages.Write(enSeverity::Note, source.Place(0),
+                       left == 0
+                           ? "--report shows an example of each conflict"
+                           : std::to_string(left) +
+                                 " more of these; --report shows them, and an example of each conflict");
 }
 
 } // namespace
@@ -180,12 +210,14 @@ void RunBison(const CGrammarSource& source, const std::string& folder, SGenerate
     if (FindDefaultReduction(source.Text()).line == 0)
         arguments.push_back("-Dlr.default-reduction=consistent");
     arguments.push_back(copy);
-    SProgramResult result = Generate("bison", arguments, folder);
-    if (explains && result.output.find("[-Wconflicts-") != std::string::npos) {
-        arguments.insert(arguments.begin(), "-Wcounterexamples");
-        result = Generate("bison", arguments, folder);
-    }
+    const SProgramResult result = Generate("bison", arguments, folder);
     WriteGeneratorMessages("bison", result, copy, source, messages);
+    if (result.output.find("[-Wconflicts-") != std::string::npos) {
+        WriteConflicts(ReadWholeFile(folder + "/GrammarParser.output"), explains, source, messages);
+        arguments.insert(arguments.begin(), "-Wcounterexamples");
+        if (explains)
+            WriteExamples(Generate("bison", arguments, folder, kMostExampleSeconds), source, messages);
+    }
     if (messages.ErrorCount() != errorsBefore)
         return;
     files.parserText = ReadWholeFile(folder + "/GrammarParser.raw.c");

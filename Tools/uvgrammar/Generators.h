@@ -25,7 +25,7 @@ struct SGeneratedFiles
 // Throws: CToolFailure if a generator isn't there or its files can't be read or written.
 void RunFlex(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
              CToolMessages& messages);
-// `explains`: below a conflict stands a text that shows it, which may take bison seconds to find.
+// `explains`: all conflicts are told, not only a few, and texts that show them as far as bison finds them in a minute.
 void RunBison(const CGrammarSource& source, const std::string& folder, SGeneratedFiles& files,
               CToolMessages& messages, bool explains = false);
 

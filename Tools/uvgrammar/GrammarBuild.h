@@ -19,7 +19,7 @@ struct SGrammarBuild
     std::string depfilePath;  // takes the names of all files that were read, for make or ninja; empty: none
     std::string expandedPath; // takes the two sources as flex and bison read them; empty: they aren't kept
     bool isStyled = false;    // nodes whose names don't keep to the style are refused
-    bool explainsConflicts = false; // by texts that have two meanings, which may take seconds to find
+    bool explainsConflicts = false; // by texts that have two meanings, which may take a minute to find
 };
 
 // A grammar as the generators read it, and what they made of it. The files themselves are gone.
