@@ -258,7 +258,7 @@ std::vector<SLanguageRule> CLanguageRules::ScannerRules()
     for (const SActionCase& action : ReadScannerActions(made).cases)
         if (action.number != defaultRule)
             rules.push_back({source.Place(action.line),
-                             lines.at(static_cast<std::size_t>(action.line)),
+                             ReadableRule(lines.at(static_cast<std::size_t>(action.line))),
                              {action.number}});
     return rules;
 }

@@ -23,6 +23,23 @@ std::string_view Trimmed(std::string_view text)
     return end == std::string_view::npos ? std::string_view() : text.substr(begin, end + 1 - begin);
 }
 
+// A pattern for the text, in which flex takes what is quoted as it is. Each letter is a class of characters: where case
+// doesn't matter flex needs half the states for it, and its automaton is the same.
+std::string PatternOf(std::string_view spelling)
+{
+    std::string pattern;
+    for (std::size_t i = 0; i < spelling.size(); ++i) {
+        const bool isLetter =
+            (spelling[i] >= 'a' && spelling[i] <= 'z') || (spelling[i] >= 'A' && spelling[i] <= 'Z');
+        const std::size_t length = spelling[i] == '\\' && i + 1 < spelling.size() ? 2 : 1;
+        pattern.append(isLetter ? "[" : "\"")
+            .append(spelling.substr(i, length))
+            .append(isLetter ? "]" : "\"");
+        i += length - 1;
+    }
+    return pattern;
+}
+
 class CScannerAssembler
 {
 public:
@@ -113,7 +130,7 @@ private:
         for (const auto& [word, keyword] : table.Words()) {
             for (const std::string& spelling : keyword.spellings) {
                 std::string rule(conditions);
-                rule.append(1, '"').append(spelling).append("\" { TOKEN_ACTIONE(").append(keyword.token);
+                rule.append(PatternOf(spelling)).append(" { TOKEN_ACTIONE(").append(keyword.token);
                 rule.append(", ").append(std::to_string(keyword.color)).append("); }\n");
                 text.Write(*keyword.file, keyword.offset, rule);
             }
@@ -132,6 +149,24 @@ private:
 };
 
 } // namespace
+
+std::string ReadableRule(const std::string& line)
+{
+    const std::size_t from = line.starts_with('<') ? std::min(line.find('>'), line.size() - 1) + 1 : 0;
+    std::string spelling;
+    std::size_t at = from;
+    while (at + 2 < line.size() && (line[at] == '[' || line[at] == '"')) {
+        const char close = line[at] == '[' ? ']' : '"';
+        const std::size_t length = line[at + 1] == '\\' ? 2 : 1;
+        if (line[at + 1 + length] != close)
+            return line;
+        spelling.append(line, at + 1, length);
+        at += length + 2;
+    }
+    if (spelling.empty() || line[at] != ' ')
+        return line;
+    return line.substr(0, from).append("\"").append(spelling).append("\"").append(line, at);
+}
 
 CGrammarSource AssembleScanner(const std::string& path, CToolMessages& messages)
 {

@@ -14,3 +14,7 @@
 // The source as flex reads it. What is wrong with these forms goes to `messages`, and the result is of no use then.
 // Throws: CToolFailure if the source itself can't be read.
 CGrammarSource AssembleScanner(const std::string& path, CToolMessages& messages);
+
+// A line of such a source for people: what a table of words gave has its word in quotes in the place of the classes that
+// stand there for its letters.
+std::string ReadableRule(const std::string& line);
