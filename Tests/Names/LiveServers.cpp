@@ -1,5 +1,7 @@
 #include "Tests/Names/LiveServers.h"
 
+#include "Tests/Support/ServerSetup.h"
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -22,23 +24,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kServerFolders = "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin";
 constexpr auto kPatience = std::chrono::seconds(60);
 constexpr auto kPause = std::chrono::milliseconds(50);
 // Any user but root will do, as long as the system knows its name.
 constexpr const char* kServerUser = "nobody";
-
-// In memory, if there is room: MariaDB writes files for each table, and waits for the disk in spite of all
-// options.
-std::string FolderPrefix()
-{
-    constexpr std::uintmax_t kWantedBytes = 256u << 20;
-    const char* const memory = "/dev/shm";
-    std::error_code error;
-    const bool isRoomy =
-        access(memory, W_OK | X_OK) == 0 && fs::space(memory, error).available >= kWantedBytes;
-    return (isRoomy && !error ? std::string(memory) + '/' : testing::TempDir()) + "uvlive-";
-}
 
 // PostgreSQL's programs stand in a folder for each version: the newest one.
 std::string PostgreSqlFolder()
@@ -54,19 +43,6 @@ std::string PostgreSqlFolder()
         }
     }
     return newest;
-}
-
-std::string FindProgram(std::string_view name)
-{
-    const char* const path = std::getenv("PATH");
-    std::istringstream folders(std::string(path ? path : "") + ':' + std::string(kServerFolders) + ':' +
-                               PostgreSqlFolder());
-    for (std::string folder; std::getline(folders, folder, ':');) {
-        const std::string candidate = folder + '/' + std::string(name);
-        if (!folder.empty() && access(candidate.c_str(), X_OK) == 0)
-            return candidate;
-    }
-    return {};
 }
 
 std::vector<std::string> CleanCommand(const std::vector<std::string>& words)
@@ -98,10 +74,11 @@ std::size_t ReadMessageBy(const std::regex& pattern, std::string& text)
 
 // ---- All of them ----
 
-CLiveDatabase::CLiveDatabase(std::initializer_list<std::string_view> programs) : m_Folder(FolderPrefix())
+CLiveDatabase::CLiveDatabase(std::initializer_list<std::string_view> programs)
+    : m_Folder(ServerFolderPrefix())
 {
     for (const std::string_view program : programs)
-        m_Programs.emplace(program, FindProgram(program));
+        m_Programs.emplace(program, FindServerProgram(program, PostgreSqlFolder()));
     fs::create_directory(GetPath("data"));
     if (const passwd* const user = geteuid() == 0 ? getpwnam(kServerUser) : nullptr) {
         for (const std::string& folder : {GetFolder(), GetPath("data")}) {
@@ -282,17 +259,7 @@ CLiveMariaDb::CLiveMariaDb() : CLiveDatabase{"mariadbd", "mariadb", "setpriv"} {
 
 bool CLiveMariaDb::Start()
 {
-    // Without tables of rights there is nothing to install.
-    const std::string data = GetPath("data");
-    return StartServer("mariadbd",
-                       {"--no-defaults", "--datadir=" + data, "--tmpdir=" + data,
-                        "--socket=" + GetPath("socket"), "--pid-file=" + GetPath("pid"), "--skip-networking",
-                        "--skip-grant-tables", "--character-set-server=utf8mb4", "--performance-schema=OFF",
-                        "--debug-no-sync", "--innodb-flush-method=nosync", "--innodb-doublewrite=OFF",
-                        "--innodb-flush-log-at-trx-commit=0", "--innodb-buffer-pool-size=32M",
-                        "--innodb-log-file-size=16M", "--innodb-file-per-table=OFF",
-                        "--innodb-fast-shutdown=2"},
-                       SIGTERM);
+    return StartServer("mariadbd", MariaDbArguments(GetFolder()), SIGTERM);
 }
 
 SProgramResult CLiveMariaDb::RunClient(const std::string& scriptPath) const
