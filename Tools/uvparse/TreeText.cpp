@@ -165,6 +165,66 @@ private:
     std::string_view m_Word; // what is left of the word that stands for the character at m_Offset
 };
 
+// Counts statements tag by tag.
+class CStatementWalk
+{
+public:
+    void Take(const SMarkup& markup)
+    {
+        const bool isStart = markup.kind == enMarkup::Start;
+        if (IsStatementElement(markup.name) && (isStart || markup.kind == enMarkup::End)) {
+            m_Depth = isStart ? m_Depth + 1 : m_Depth - std::min<std::size_t>(m_Depth, 1);
+            m_IsDecided = m_IsDecided && m_Depth > 0;
+        } else if (markup.name == kDelimiterElement && (isStart || markup.kind == enMarkup::End)) {
+            m_Delimiters = isStart ? m_Delimiters + 1 : m_Delimiters - std::min<std::size_t>(m_Delimiters, 1);
+        } else if (isStart && m_Depth > 0 && m_Delimiters == 0 && !m_IsDecided) {
+            m_IsDecided = IsTokenElement(markup.name) || markup.name == kLostElement;
+            m_Count += IsTokenElement(markup.name) ? 1u : 0u;
+        }
+    }
+
+    std::size_t Count() const { return m_Count; }
+    bool IsInside() const { return m_Depth > 0; }
+
+private:
+    std::size_t m_Count = 0;
+    std::size_t m_Depth = 0; // of statement elements alone
+    std::size_t m_Delimiters = 0;
+    bool m_IsDecided = false; // whether the outermost statement counts
+};
+
+// Follows a text that its tree holds, where carriage returns and form feeds may be missing.
+class CTextInTree
+{
+public:
+    explicit CTextInTree(std::string_view text) : m_Text(text) { SkipMissing(); }
+
+    void Pass(std::string_view content)
+    {
+        for (const char c : content) {
+            if (IsMissing(c))
+                continue;
+            if (m_Offset < m_Text.size())
+                ++m_Offset;
+            SkipMissing();
+        }
+    }
+
+    std::size_t Offset() const { return m_Offset; }
+
+private:
+    static bool IsMissing(char c) { return c == '\r' || c == kFormFeed; }
+
+    void SkipMissing()
+    {
+        while (m_Offset < m_Text.size() && IsMissing(m_Text[m_Offset]))
+            ++m_Offset;
+    }
+
+    std::string_view m_Text;
+    std::size_t m_Offset = 0;
+};
+
 } // namespace
 
 bool IsTokenElement(std::string_view name)
@@ -212,24 +272,48 @@ std::optional<STreeDifference> FindTreeDifference(std::string_view tree, std::st
 
 std::size_t CountStatements(std::string_view tree)
 {
-    std::size_t count = 0;
-    std::size_t depth = 0; // of statement elements alone
-    std::size_t delimiters = 0;
-    bool isDecided = false; // whether the outermost statement counts
+    CStatementWalk walk;
+    CMarkupScanner scanner(tree);
+    for (SMarkup markup; scanner.Next(markup);)
+        walk.Take(markup);
+    return walk.Count();
+}
+
+STreeOutline OutlineOf(std::string_view tree, std::string_view text)
+{
+    STreeOutline outline;
+    CTextInTree place(text);
+    CStatementWalk walk;
+    bool hasRoot = false;
+    SStretch statement;
+    std::size_t lastToken = 0; // where the last token ends
+    std::size_t counted = 0;
+    bool isInToken = false;
     CMarkupScanner scanner(tree);
     for (SMarkup markup; scanner.Next(markup);) {
-        const bool isStart = markup.kind == enMarkup::Start;
-        if (IsStatementElement(markup.name) && (isStart || markup.kind == enMarkup::End)) {
-            depth = isStart ? depth + 1 : depth - std::min<std::size_t>(depth, 1);
-            isDecided = isDecided && depth > 0;
-        } else if (markup.name == kDelimiterElement && (isStart || markup.kind == enMarkup::End)) {
-            delimiters = isStart ? delimiters + 1 : delimiters - std::min<std::size_t>(delimiters, 1);
-        } else if (isStart && depth > 0 && delimiters == 0 && !isDecided) {
-            isDecided = IsTokenElement(markup.name) || markup.name == kLostElement;
-            count += IsTokenElement(markup.name) ? 1u : 0u;
+        if (markup.kind == enMarkup::Text) {
+            if (hasRoot)
+                place.Pass(PlainText(markup.text));
+            if (isInToken)
+                lastToken = place.Offset();
+            continue;
+        }
+        hasRoot = hasRoot || markup.kind != enMarkup::Other;
+        isInToken = markup.kind == enMarkup::Start && IsTokenElement(markup.name);
+        const bool wasInside = walk.IsInside();
+        walk.Take(markup);
+        if (!wasInside && walk.IsInside())
+            statement = {text.size(), place.Offset()};
+        if (isInToken) {
+            outline.tokens.push_back(place.Offset());
+            statement.begin = std::min(statement.begin, place.Offset());
+        }
+        if (wasInside && !walk.IsInside() && walk.Count() > counted) {
+            outline.statements.push_back({statement.begin, std::max(statement.begin, lastToken)});
+            counted = walk.Count();
         }
     }
-    return count;
+    return outline;
 }
 
 } // namespace uvparse

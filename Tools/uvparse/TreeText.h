@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace uvparse {
 
@@ -38,5 +39,22 @@ inline constexpr std::string_view kDataLinkEscapeWord = "ORVANTA_DATA_LINK_ESCAP
 // and "pl_sql_statement" that stand in no other of these and hold a token beside the delimiter. One that is
 // all there is of an "error_statement" doesn't count.
 std::size_t CountStatements(std::string_view tree);
+
+struct SStretch
+{
+    std::size_t begin = 0; // bytes of a text
+    std::size_t end = 0;
+};
+
+// Where the tokens of a text begin, and the statements that CountStatements counts, from their first token to the
+// end of their last; in the order of the text.
+struct STreeOutline
+{
+    std::vector<std::size_t> tokens;
+    std::vector<SStretch> statements;
+};
+
+// `tree` holds `text`, flattened or not. A data link escape puts the offsets after it out of place.
+STreeOutline OutlineOf(std::string_view tree, std::string_view text);
 
 } // namespace uvparse
