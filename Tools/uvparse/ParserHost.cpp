@@ -1,5 +1,6 @@
 #include "Tools/uvparse/ParserHost.h"
 
+#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Interfaces/IUVDBDatabaseInfo.h"
 #include "Interfaces/IUVDBErrorInfo.h"
 #include "Interfaces/IUVDBObjectInfo.h"
@@ -94,6 +95,13 @@ std::vector<SPreparationNote> ReadNotes(const std::string& list)
 }
 
 } // namespace
+
+std::string TextForParser(const SLanguage& language, std::string text)
+{
+    if (language.version.db == UVDB_DB_IBM_CL && !text.empty() && text.back() != '\n')
+        text += '\n';
+    return text;
+}
 
 CParserHost::CParserHost(const SLanguage& language, const SHostSettings& settings)
     : m_ParserName(language.parserName), m_Settings(settings),

@@ -60,6 +60,10 @@ struct SParseResult
     double seconds = 0;              // what making the output took
 };
 
+// The text as it has to be handed over. The preparation of IBM CL takes the last character, whatever it is: a line
+// feed is added for it.
+std::string TextForParser(const SLanguage& language, std::string text);
+
 class CParserHost
 {
 public:
