@@ -18,6 +18,7 @@
 #include "Tools/uvparse/Selection.h"
 #include "Tools/uvparse/SourcePlaces.h"
 #include "Tools/uvparse/SourceText.h"
+#include "Tools/uvparse/Statistics.h"
 #include "Tools/uvparse/TableCache.h"
 #include "Tools/uvparse/TraceFile.h"
 #include "Tools/uvparse/TreeText.h"
@@ -54,35 +55,6 @@ double SecondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
-
-// Counts of one text, or of all.
-struct SStatistics
-{
-    std::size_t statements = 0; // read
-    std::size_t lost = 0;
-    std::size_t unexpectedTokens = 0;
-    std::size_t bytes = 0;
-    double seconds = 0;
-
-    SStatistics& operator+=(const SStatistics& other)
-    {
-        statements += other.statements;
-        lost += other.lost;
-        unexpectedTokens += other.unexpectedTokens;
-        bytes += other.bytes;
-        seconds += other.seconds;
-        return *this;
-    }
-
-    std::string Text() const
-    {
-        const auto rate =
-            seconds > 0 ? static_cast<unsigned long long>(static_cast<double>(bytes) / seconds) : 0;
-        return std::to_string(statements) + " statements read, " + std::to_string(lost) + " lost, " +
-               std::to_string(unexpectedTokens) + " unexpected tokens, " + std::to_string(bytes) +
-               " bytes, " + std::to_string(rate) + " bytes/s";
-    }
-};
 
 class CRun
 {
