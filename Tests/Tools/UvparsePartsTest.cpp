@@ -422,6 +422,14 @@ struct SChoiceCase
     const char* refusal;
 };
 
+SLanguage Chosen(const CLanguageChoice& choice, const std::string& language, const std::string& database,
+                 const std::string& path)
+{
+    const std::vector<SLanguage> candidates = choice.Candidates(language, database, path);
+    EXPECT_EQ(candidates.size(), 1u);
+    return candidates.front();
+}
+
 TEST(UvparseLanguage, RulesAreTriedInOrder)
 {
     const CLanguageChoice here({"COBOL", "MySQL", "Pascal", "PostgreSQL", "Tiny"});
@@ -435,7 +443,6 @@ TEST(UvparseLanguage, RulesAreTriedInOrder)
         {"", "UVDB_DB_MySQL", "-", "MySQL", 5, ""},
         {"", "", "a/b.CBL/x.COB", "COBOL", 90, ""},
         {"", "", "x.pas", "Pascal", 82, ""}, // two kinds, one grammar
-        {"", "", "x.sql", nullptr, 0, "several languages"},
         {"", "", "x.java", nullptr, 0, "no language here"},
         {"", "", "x.", nullptr, 0, "no extension"},
         {"", "", "a.sql/x", nullptr, 0, "no extension"},
@@ -459,7 +466,7 @@ TEST(UvparseLanguage, RulesAreTriedInOrder)
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.language << '|' << c.database << '|' << c.path);
         try {
-            const SLanguage language = here.Choose(c.language, c.database, c.path);
+            const SLanguage language = Chosen(here, c.language, c.database, c.path);
             ASSERT_NE(c.parser, nullptr) << "gave " << language.parserName;
             EXPECT_EQ(language.parserName, c.parser);
             EXPECT_EQ(language.version.db, c.db);
@@ -473,21 +480,21 @@ TEST(UvparseLanguage, RulesAreTriedInOrder)
 TEST(UvparseLanguage, PreparationNeedsNoGrammar)
 {
     const CLanguageChoice none({}, enPurpose::Preparation);
-    EXPECT_EQ(none.Choose("JCL", "", "-").version.db, 96u);
-    EXPECT_EQ(none.Choose("", "IBMCL", "-").parserName, "IBMCL");
-    EXPECT_EQ(none.Choose("", "", "x.CL").version.db, none.Choose("IBMCL", "", "-").version.db);
-    EXPECT_EQ(none.Choose("", "", "x.pas").parserName, "Pascal"); // two kinds, one parser name
-    EXPECT_EQ(none.Choose("Jcl", "", "x.jcl").parserName, "JCL");
-    EXPECT_EQ(none.Choose("", "", "x.rpgle").parserName, "IBMRPG");
+    EXPECT_EQ(Chosen(none, "JCL", "", "-").version.db, 96u);
+    EXPECT_EQ(Chosen(none, "", "IBMCL", "-").parserName, "IBMCL");
+    EXPECT_EQ(Chosen(none, "", "", "x.CL").version.db, Chosen(none, "IBMCL", "", "-").version.db);
+    EXPECT_EQ(Chosen(none, "", "", "x.pas").parserName, "Pascal"); // two kinds, one parser name
+    EXPECT_EQ(Chosen(none, "Jcl", "", "x.jcl").parserName, "JCL");
+    EXPECT_EQ(Chosen(none, "", "", "x.rpgle").parserName, "IBMRPG");
     // Databases have these names too, but nothing prepares their texts.
-    EXPECT_EQ(none.Choose("FoxPro", "", "x").parserName, "FoxproPrograms");
-    EXPECT_EQ(none.Choose("progress", "", "x").parserName, "Progress4GL");
-    EXPECT_EQ(none.Choose("", "", "x.p").parserName, "Progress4GL");
-    EXPECT_EQ(none.Choose("", "", "x.cob").parserName, "COBOL"); // others of this extension are rare
-    EXPECT_THROW(none.Choose("../JCL", "", "x.jcl"), CLanguageError);
-    EXPECT_THROW(none.Choose("", "", "x.nonesuch"), CLanguageError);
+    EXPECT_EQ(Chosen(none, "FoxPro", "", "x").parserName, "FoxproPrograms");
+    EXPECT_EQ(Chosen(none, "progress", "", "x").parserName, "Progress4GL");
+    EXPECT_EQ(Chosen(none, "", "", "x.p").parserName, "Progress4GL");
+    EXPECT_EQ(Chosen(none, "", "", "x.cob").parserName, "COBOL"); // others of this extension are rare
+    EXPECT_THROW(Chosen(none, "../JCL", "", "x.jcl"), CLanguageError);
+    EXPECT_THROW(Chosen(none, "", "", "x.nonesuch"), CLanguageError);
     try {
-        none.Choose("", "", "x.inc");
+        Chosen(none, "", "", "x.inc");
         ADD_FAILURE() << "chosen among several";
     } catch (const CLanguageError& e) {
         EXPECT_STREQ(e.what(),
@@ -495,8 +502,8 @@ TEST(UvparseLanguage, PreparationNeedsNoGrammar)
     }
     // A grammar that is there goes first, also one that no database has.
     const CLanguageChoice here({"TelonCOBOL", "Tiny"}, enPurpose::Preparation);
-    EXPECT_EQ(here.Choose("", "", "x.cob").parserName, "TelonCOBOL");
-    EXPECT_EQ(here.Choose("Tiny", "", "x.cob").parserName, "Tiny");
+    EXPECT_EQ(Chosen(here, "", "", "x.cob").parserName, "TelonCOBOL");
+    EXPECT_EQ(Chosen(here, "Tiny", "", "x.cob").parserName, "Tiny");
 }
 
 struct SDatabaseCase
@@ -505,11 +512,40 @@ struct SDatabaseCase
     std::uint64_t db, subType, major, minor;
 };
 
-TEST(UvparseLanguage, CommonGivesWayToALanguageOfItsOwn)
+struct SCandidatesCase
 {
-    EXPECT_EQ(CLanguageChoice({"Common", "PostgreSQL"}).Choose("", "", "x.sql").parserName, "PostgreSQL");
-    EXPECT_EQ(CLanguageChoice({"COBOL", "Common"}).Choose("", "", "x.sql").parserName, "Common");
-    EXPECT_THROW(CLanguageChoice({"Common", "MySQL", "PostgreSQL"}).Choose("", "", "x.sql"), CLanguageError);
+    std::vector<std::string> grammars;
+    const char* language;
+    const char* database;
+    const char* path;
+    const char* candidates;
+};
+
+TEST(UvparseLanguage, TextDecidesWhereTheExtensionDoesNot)
+{
+    const std::vector<std::string> many = {"Common", "JCL", "MySQL", "PostgreSQL", "Tiny"};
+    const SCandidatesCase cases[] = {
+        {many, "", "", "x.sql", "PostgreSQL MySQL "}, // the preferred one first, and Common gives way
+        {many, "AUTO", "", "x.SQL", "PostgreSQL MySQL "},
+        {many, "auto", "", "x.jcl", "JCL "},
+        {many, "auto", "", "x.nothing", "PostgreSQL JCL MySQL Tiny Common "}, // Common last
+        {many, "Auto", "", "-", "PostgreSQL JCL MySQL Tiny Common "},
+        {many, "auto", "mysql", "x.sql", "MySQL "},
+        {many, "Tiny", "", "x.sql", "Tiny "},
+        {{"Common", "PostgreSQL"}, "", "", "x.sql", "PostgreSQL "},
+        {{"COBOL", "Common"}, "", "", "x.sql", "Common "},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.language << '|' << c.database << '|' << c.path);
+        std::string names;
+        for (const SLanguage& language :
+             CLanguageChoice(c.grammars).Candidates(c.language, c.database, c.path))
+            names += language.parserName + ' ';
+        EXPECT_EQ(names, c.candidates);
+    }
+    const CLanguageChoice none({}, enPurpose::Preparation);
+    EXPECT_EQ(Chosen(none, "auto", "", "x.rpgle").parserName, "IBMRPG");
+    EXPECT_THROW(Chosen(none, "auto", "", "-"), CLanguageError);
 }
 
 TEST(UvparseLanguage, DatabaseHasSubtypeAndVersion)

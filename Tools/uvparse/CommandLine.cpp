@@ -28,7 +28,7 @@ po::options_description VisibleOptions(SCommandLine& line, SRawOptions& raw)
     po::options_description visible("Options", 100);
     // clang-format off
     visible.add_options()
-        ("language,l", po::value(&line.language)->value_name("NAME"), "parser name; else chosen by --db or by the file's extension")
+        ("language,l", po::value(&line.language)->value_name("NAME"), "parser name; else chosen by --db or by the file's extension, and where that leads to several languages by the text; auto: by extension and text, whatever the extension")
         ("db", po::value(&line.database)->value_name("KIND[:SUBTYPE[:VERSION]]"), "database by number or by any of its names")
         ("option,o", po::value(&raw.options)->value_name("KEY=VALUE"), "option of the database info; repeatable")
         ("object-option", po::value(&raw.objectOptions)->value_name("KEY=VALUE"), "option of the object being converted; repeatable")
@@ -118,6 +118,8 @@ constexpr char kAfterOptions[] =
     "from below this folder (links and \"..\" resolved), as is good for foreign texts.\n"
     "Prepared tables are kept in uvparser in the user's cache folder; the environment's UVPARSER_CACHE names\n"
     "another one, or none if it is empty.\n"
+    "Where the text decides, its beginning is read in each of the languages, and the one that loses the least\n"
+    "of it is taken. A note tells which one, and why.\n"
     "Exit code: 0 clean; 1 a text was not read as a whole, failed to parse or differs from its tree,\n"
     "or --xpath selected nothing in any text (no node, false, zero or an empty string), or --lines was\n"
     "asked of a preparation that keeps no source lines;\n"

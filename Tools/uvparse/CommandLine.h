@@ -13,7 +13,7 @@ namespace uvparse {
 struct SCommandLine
 {
     std::vector<std::string> files; // "-" is standard input
-    std::string language;           // parser name; empty: by database or extension
+    std::string language;           // parser name or "auto"; empty: by database or extension
     std::string database;           // KIND[:SUBTYPE[:VERSION]]; empty: by language
     std::vector<std::pair<std::string, std::string>> options;
     std::vector<std::pair<std::string, std::string>> objectOptions;

@@ -53,6 +53,32 @@ std::string Listed(const Names& names)
     return text;
 }
 
+bool IsSameName(const std::string& name, const std::string& other)
+{
+    return Uve::Compat::stricmp(name.c_str(), other.c_str()) == 0;
+}
+
+std::string CommonParser()
+{
+    return GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON});
+}
+
+// Those that go before others first, the common grammar last, between them by name.
+template <class Names>
+std::vector<SLanguage> InOrderOfPreference(const Names& names)
+{
+    std::vector<SLanguage> languages;
+    languages.reserve(names.size());
+    for (const std::string& name : names)
+        languages.push_back({name, VersionOfParser(name)});
+    const auto rank = [common = CommonParser()](const SLanguage& language) {
+        return std::pair(language.parserName == common ? SIZE_MAX : PreferenceOf(language.parserName),
+                         std::string_view(language.parserName));
+    };
+    std::ranges::sort(languages, {}, rank);
+    return languages;
+}
+
 } // namespace
 
 DB_VERSION_INFO ReadDatabase(std::string_view text)
@@ -98,21 +124,22 @@ std::vector<std::string> ListGrammars(const std::string& grammarFolder)
     return names;
 }
 
-SLanguage CLanguageChoice::Choose(const std::string& parserName, const std::string& database,
-                                  const std::string& path) const
+std::vector<SLanguage> CLanguageChoice::Candidates(const std::string& parserName, const std::string& database,
+                                                   const std::string& path) const
 {
-    if (parserName.empty() && database.empty())
-        return ChooseByExtension(path);
+    const bool isAuto = IsSameName(parserName, "auto");
+    if ((parserName.empty() || isAuto) && database.empty())
+        return ByExtension(path, isAuto);
 
     SLanguage language;
-    const std::string named = NameOf(parserName);
+    const std::string named = isAuto ? std::string() : NameOf(parserName);
     if (!database.empty())
         language.version = ReadDatabase(database);
     else
         language.version = VersionOfParser(named);
     language.parserName = named.empty() ? GetParserModuleName(language.version) : named;
     RequireGrammar(language.parserName);
-    return language;
+    return {language};
 }
 
 // The name as the folders of tables and the catalogue have it, for one that is written or said otherwise.
@@ -126,9 +153,7 @@ std::string CLanguageChoice::NameOf(const std::string& said) const
         m_Purpose == enPurpose::Parsing || other.empty() || FindPreparedLanguage(said) != nullptr;
     if (IsInCatalogue(said) && isMeant)
         return said;
-    const auto isSame = [&](const std::string& name) {
-        return Uve::Compat::stricmp(name.c_str(), said.c_str()) == 0;
-    };
+    const auto isSame = [&](const std::string& name) { return IsSameName(name, said); };
     if (const auto grammar = std::ranges::find_if(m_Grammars, isSame); grammar != m_Grammars.end())
         return *grammar;
     std::string name = said;
@@ -139,18 +164,17 @@ std::string CLanguageChoice::NameOf(const std::string& said) const
     return (name == said || !isMeant) && !other.empty() ? std::string(other) : name;
 }
 
-SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
+std::vector<SLanguage> CLanguageChoice::ByExtension(const std::string& path, bool isAuto) const
 {
     std::string extension = std::filesystem::path(path).extension().string();
-    if (extension.size() < 2)
-        throw CLanguageError(
-            "'" + path + "' has no extension to tell its language; name one with --language. " + ListText());
+    if (extension.size() < 2 && !isAuto)
+        throw CLanguageError("'" + path +
+                             "' has no extension to tell its language; name one with --language, or 'auto' "
+                             "to have the text tell it. " +
+                             ListText());
     extension.erase(0, 1);
-    const auto isSame = [&](const char* other) {
-        return Uve::Compat::stricmp(other, extension.c_str()) == 0;
-    };
+    const auto isSame = [&](const char* other) { return !extension.empty() && IsSameName(other, extension); };
 
-    const std::string common = GetParserModuleName(DB_VERSION_INFO{.db = UVDB_DB_COMMON});
     std::set<std::string> fitting;
     std::set<std::string> known; // without a grammar here
     for (const SFileExtension& row : FileExtensions())
@@ -166,6 +190,7 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
             known.insert(parserName);
     });
     // The common grammar stands in for databases that have none: it gives way to any that has its own.
+    const std::string common = CommonParser();
     if (fitting.size() > 1)
         fitting.erase(common);
     known.erase(common);
@@ -178,12 +203,13 @@ SLanguage CLanguageChoice::ChooseByExtension(const std::string& path) const
                                  "; name one with --language");
         fitting = known;
     }
-    if (fitting.size() != 1)
-        throw CLanguageError((fitting.empty() ? "no language here reads files with the extension '"
-                                              : "several languages read files with the extension '") +
-                             extension + "'; name one with --language. " + ListText() +
-                             (fitting.size() + 1 == known.size() ? PreparationText(*known.begin()) : ""));
-    return {*fitting.begin(), VersionOfParser(*fitting.begin())};
+    if (fitting.empty() && isAuto)
+        fitting.insert(m_Grammars.begin(), m_Grammars.end());
+    if (fitting.empty())
+        throw CLanguageError("no language here reads files with the extension '" + extension +
+                             "'; name one with --language. " + ListText() +
+                             (known.size() == 1 ? PreparationText(*known.begin()) : ""));
+    return InOrderOfPreference(fitting);
 }
 
 bool CLanguageChoice::HasGrammar(const std::string& parserName) const

@@ -35,8 +35,9 @@ enum class enPurpose
 // Chooses among the grammars that are there. The rules, first to last:
 //   a parser name is taken as it is given, or for what it means (see LanguageNames.h), and the database kind
 //   is the one whose texts it reads; a database names its parser; a file's extension is looked up among those
-//   that such files have and in the catalogue, and must lead to exactly one grammar that is there; "Common"
-//   gives way to another one.
+//   that such files have and in the catalogue, and leads to the grammars that are there; "Common" gives way to
+//   another one. The name "auto", in any case of letters, asks for the extension as well, and where that leads to
+//   none for all grammars.
 // For preparation the parser names of the catalogue count as well, and an extension that leads to no grammar
 // may lead to exactly one of them.
 class CLanguageChoice
@@ -50,14 +51,16 @@ public:
     const std::vector<std::string>& GetGrammars() const { return m_Grammars; }
 
     // `parserName` and `database` (KIND[:SUBTYPE[:VERSION]]) may be empty.
-    // Throws: CLanguageError.
-    SLanguage Choose(const std::string& parserName, const std::string& database,
-                     const std::string& path) const;
+    // Returns: the language, or several among which the text has to decide; of those that read it alike the
+    //          first one is meant.
+    // Throws:  CLanguageError.
+    std::vector<SLanguage> Candidates(const std::string& parserName, const std::string& database,
+                                      const std::string& path) const;
 
 private:
     std::string NameOf(const std::string& said) const;
     bool HasGrammar(const std::string& parserName) const;
-    SLanguage ChooseByExtension(const std::string& path) const;
+    std::vector<SLanguage> ByExtension(const std::string& path, bool isAuto) const;
     void RequireGrammar(const std::string& parserName) const;
     std::string ListText() const;
 

@@ -95,6 +95,11 @@ constexpr SOtherName kOtherNames[] = {
     {"Visual FoxPro", "FoxproPrograms" },
 };
 
+// Order is meaning: a dialect that keeps to what all share goes before those that don't.
+constexpr std::string_view kPreferred[] = {
+    "PostgreSQL",
+};
+
 constexpr SPreparedLanguage kPrepared[] = {
 //   language          options
     {"ASP",            ""                                              },
@@ -136,6 +141,12 @@ std::string_view ParserOfOtherName(std::string_view name)
 std::span<const SUsualOption> UsualOptions()
 {
     return kUsual;
+}
+
+std::size_t PreferenceOf(std::string_view parserName)
+{
+    const auto* const found = std::ranges::find(kPreferred, parserName);
+    return static_cast<std::size_t>(found - std::begin(kPreferred));
 }
 
 std::span<const SPreparedLanguage> PreparedLanguages()

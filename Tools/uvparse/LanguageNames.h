@@ -2,6 +2,7 @@
 // prepared, under which options; and what is assumed of their texts.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -18,6 +19,9 @@ std::span<const SFileExtension> FileExtensions();
 
 // The parser name of what is called `name` in everyday speech, in any case of letters; empty if nothing is.
 std::string_view ParserOfOtherName(std::string_view name);
+
+// Several languages may read a text alike. The one with the least number is meant; many have the greatest.
+std::size_t PreferenceOf(std::string_view parserName);
 
 // A language whose texts are prepared before they are parsed.
 struct SPreparedLanguage

@@ -45,9 +45,11 @@ constexpr SMessageKindRow kRows[] = {
      "What --stat counted."},
     {Time,            Remark,    "time",              "Time",            kNote,
      "What --time measured."},
+    {ChosenLanguage,  Note,      "chosen-language",   "ChosenLanguage",  kNote,
+     "The language that the text was taken for by its content, and why."},
 };
 // clang-format on
-static_assert(std::size(kRows) == static_cast<std::size_t>(Time) + 1);
+static_assert(std::size(kRows) == static_cast<std::size_t>(ChosenLanguage) + 1);
 static_assert(std::ranges::is_sorted(kRows, {}, &SMessageKindRow::kind));
 
 } // namespace

@@ -28,7 +28,8 @@ enum class enMessageKind
     BadArguments,
     Verified,
     Statistics,
-    Time
+    Time,
+    ChosenLanguage
 };
 
 // What a message is about, and how it reads for people.
@@ -38,7 +39,8 @@ enum class enMessageSubject
     Unread,    // a source too: "uvparse: error: text"
     Run,       // "uvparse: error: text"
     Arguments, // likewise, before any work was done
-    Remark     // "file: text"
+    Remark,    // "file: text"
+    Note       // "file: note: text"
 };
 
 struct SMessageKindRow

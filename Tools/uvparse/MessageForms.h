@@ -26,7 +26,7 @@ class IMessageWriter
 public:
     virtual ~IMessageWriter() = default;
 
-    // A file whose text is about to be read.
+    // A file of the call, before messages about it. `language` is empty if it couldn't be told.
     virtual void Begin(const std::string& path, const std::string& language) = 0;
     virtual void Write(const SMessage& message) = 0;
     // Once, after all else.

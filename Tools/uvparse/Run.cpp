@@ -1,9 +1,9 @@
 #include "Tools/uvparse/Run.h"
 
-#include "Catalogue/UVDBDatabaseKinds.h"
 #include "Tools/Support/ToolExitCodes.h"
 #include "Tools/Support/ToolFiles.h"
 #include "Tools/Support/ToolTerminal.h"
+#include "Tools/uvparse/ContentChoice.h"
 #include "Tools/uvparse/Findings.h"
 #include "Tools/uvparse/KnownOptions.h"
 #include "Tools/uvparse/LanguageChoice.h"
@@ -56,6 +56,15 @@ double SecondsSince(Clock::time_point start)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
+// What the choice by content came to.
+struct SChosen
+{
+    std::string reason;
+    std::optional<SParseResult> result; // of this run's parse
+    double loadSeconds = 0;
+    double seconds = 0; // without loading
+};
+
 class CRun
 {
 public:
@@ -72,24 +81,27 @@ private:
     // A file of the call, read.
     struct SInput
     {
-        const SLanguage& language;
+        const SLanguage* language;
         const std::string& path;
         std::string text;
         std::size_t ownSize; // bytes of the text that the file has
         SFileBytes bytes;
         double readSeconds;
+        std::optional<SChosen> chosen; // nothing: the text didn't decide
 
         SSource Source() const
         {
-            return {path, language.parserName, std::string_view(text).substr(0, ownSize), bytes};
+            return {path, language->parserName, std::string_view(text).substr(0, ownSize), bytes};
         }
     };
 
     void NameOutputs();
     void RunFile(const std::string& path);
-    void ParseFile(const SInput& input);
+    void ParseFile(SInput& input);
     void PrepareFile(const SInput& input);
-    const SLanguage& LanguageOf(const std::string& path);
+    const std::vector<SLanguage>& CandidatesOf(const std::string& path);
+    SInput ReadInput(const std::string& path, const std::vector<SLanguage>& candidates);
+    void ChooseByContent(const std::vector<SLanguage>& candidates, SInput& input);
     CParserHost& HostOf(const SLanguage& language, enMode mode);
     std::string PrepareAgain(const SInput& input, const SParseResult& result);
     void Report(const SInput& input, const SPreparation& preparation, const SParseResult& result);
@@ -113,8 +125,8 @@ private:
     CMessageOutput& m_Messages;
     CLanguageChoice m_Languages;
     std::shared_ptr<CTraceFile> m_Trace;
-    std::map<std::string, SLanguage> m_Chosen; // by the extension of files
-    std::string m_Language;                    // of the file at hand, once it is known
+    std::map<std::string, std::vector<SLanguage>> m_Candidates; // by the extension of files
+    std::string m_Language;                                     // of the file at hand, once it is known
     // One parser object each.
     std::map<std::pair<std::string, enMode>, std::unique_ptr<CParserHost>> m_Hosts;
     std::map<std::string, std::string> m_OutputPaths; // by file
@@ -191,15 +203,16 @@ void CRun::NameOutputs()
     }
 }
 
-// The extension is all that the choice sees of a file.
-const SLanguage& CRun::LanguageOf(const std::string& path)
+// The extension is all that matters of a file's name.
+const std::vector<SLanguage>& CRun::CandidatesOf(const std::string& path)
 {
     const std::string extension = std::filesystem::path(path).extension().string();
-    auto chosen = m_Chosen.find(extension);
-    if (chosen == m_Chosen.end())
-        chosen =
-            m_Chosen.emplace(extension, m_Languages.Choose(m_Line.language, m_Line.database, path)).first;
-    return chosen->second;
+    auto found = m_Candidates.find(extension);
+    if (found == m_Candidates.end())
+        found =
+            m_Candidates.emplace(extension, m_Languages.Candidates(m_Line.language, m_Line.database, path))
+                .first;
+    return found->second;
 }
 
 CParserHost& CRun::HostOf(const SLanguage& language, enMode mode)
@@ -230,7 +243,7 @@ void CRun::Remark(enMessageKind kind, const SInput& input, const std::string& te
     message.kind = kind;
     message.severity = enSeverity::Note;
     message.file = input.path;
-    message.language = input.language.parserName;
+    message.language = input.language->parserName;
     message.text = ShownName(input.path) + ": " + text;
     Write(message);
 }
@@ -381,9 +394,14 @@ void CRun::TellTime(const SInput& input, double loadSeconds, const char* work, d
 {
     if (!m_Line.isTime)
         return;
+    std::string choice;
+    if (input.chosen) {
+        loadSeconds += input.chosen->loadSeconds;
+        choice = "choose " + std::to_string(Milliseconds(input.chosen->seconds)) + " ms, ";
+    }
     Remark(enMessageKind::Time, input,
            "load " + std::to_string(Milliseconds(loadSeconds)) + " ms, read " +
-               std::to_string(Milliseconds(input.readSeconds)) + " ms, " + work + ' ' +
+               std::to_string(Milliseconds(input.readSeconds)) + " ms, " + choice + work + ' ' +
                std::to_string(Milliseconds(workSeconds)) + " ms, write " +
                std::to_string(Milliseconds(SecondsSince(writing))) + " ms");
 }
@@ -398,15 +416,17 @@ std::string CRun::PrepareAgain(const SInput& input, const SParseResult& result)
         return PreparedText(input.text);
     if (result.findings.empty() && !m_Line.isVerify)
         return {};
-    return HostOf(input.language, enMode::Preparation).Parse(input.text, input.path).output;
+    return HostOf(*input.language, enMode::Preparation).Parse(input.text, input.path).output;
 }
 
-void CRun::ParseFile(const SInput& input)
+void CRun::ParseFile(SInput& input)
 {
-    CParserHost& host = HostOf(input.language, m_Line.isColor ? enMode::Coloring
-                                               : m_Line.isRaw ? enMode::RawTree
-                                                              : enMode::Tree);
-    const SParseResult result = host.Parse(input.text, input.path);
+    CParserHost& host = HostOf(*input.language, m_Line.isColor ? enMode::Coloring
+                                                : m_Line.isRaw ? enMode::RawTree
+                                                               : enMode::Tree);
+    const SParseResult result = input.chosen && input.chosen->result
+                                    ? *std::exchange(input.chosen->result, {})
+                                    : host.Parse(input.text, input.path);
     const std::string prepared = PrepareAgain(input, result);
     const SPreparation preparation{result.pass.empty() ? prepared : input.text, prepared,
                                    result.preparedLines, result.pass};
@@ -434,7 +454,7 @@ void CRun::ParseFile(const SInput& input)
 
 void CRun::PrepareFile(const SInput& input)
 {
-    CParserHost& host = HostOf(input.language, enMode::Preparation);
+    CParserHost& host = HostOf(*input.language, enMode::Preparation);
     const SParseResult result = host.Parse(input.text, input.path);
     Report(input, SPreparation{input.text, result.output, result.preparedLines, result.pass}, result);
     if (m_Line.isLines && !result.output.empty() && !result.preparedLines.IsKnown())
@@ -446,23 +466,62 @@ void CRun::PrepareFile(const SInput& input)
     TellTime(input, host.TakeLoadSeconds(), "prepare", result.seconds, writing);
 }
 
-void CRun::RunFile(const std::string& path)
+// Reads the file and has its language chosen.
+CRun::SInput CRun::ReadInput(const std::string& path, const std::vector<SLanguage>& candidates)
 {
-    const SLanguage& language = LanguageOf(path);
-    m_Language = language.parserName;
-    m_Messages.Begin(path, m_Language);
+    if (candidates.size() == 1)
+        m_Language = candidates.front().parserName;
     const Clock::time_point start = Clock::now();
     SSourceText source = ReadSourceText(path, {m_Line.encoding, m_Line.recordLength});
-    const std::size_t ownSize = source.text.size();
-    // The preparation takes the last character, whatever it is.
-    if (language.version.db == UVDB_DB_IBM_CL && !m_Line.isRaw && ownSize > 0 && source.text.back() != '\n')
-        source.text += '\n';
-    const SInput input{language, path, std::move(source.text), ownSize, source.bytes, SecondsSince(start)};
+    SInput input{&candidates.front(), path,        std::move(source.text), 0, source.bytes,
+                 SecondsSince(start), std::nullopt};
+    input.ownSize = input.text.size();
+    if (candidates.size() > 1)
+        ChooseByContent(candidates, input);
+    m_Language = input.language->parserName;
+    if (!m_Line.isRaw)
+        input.text = TextForParser(*input.language, std::move(input.text));
+    return input;
+}
+
+void CRun::ChooseByContent(const std::vector<SLanguage>& candidates, SInput& input)
+{
+    const Clock::time_point start = Clock::now();
+    const CContentChoice chooser(
+        [&](const SLanguage& language, enMode mode) -> CParserHost& { return HostOf(language, mode); });
+    SContentChoice choice = chooser.Choose(candidates, input.text, input.path);
+    input.language = &candidates[choice.index];
+    SChosen& chosen = input.chosen.emplace();
+    chosen.seconds = SecondsSince(start);
+    for (const SLanguage& language : candidates)
+        chosen.loadSeconds += HostOf(language, enMode::Tree).TakeLoadSeconds();
+    chosen.seconds -= chosen.loadSeconds;
+    chosen.reason = std::move(choice.reason);
+    if (!m_Line.IsPreparing() && !m_Line.isRaw && !m_Line.isColor)
+        chosen.result = std::move(choice.result);
+}
+
+void CRun::RunFile(const std::string& path)
+{
+    const std::vector<SLanguage>& candidates = CandidatesOf(path);
+    std::optional<SInput> input;
+    try {
+        input.emplace(ReadInput(path, candidates));
+    } catch (...) {
+        m_Messages.Begin(path, m_Language);
+        throw;
+    }
+    m_Messages.Begin(path, m_Language);
+    if (input->chosen && !m_IsSilent) {
+        SMessage message = MessageAbout(input->Source(), enMessageKind::ChosenLanguage);
+        message.text = input->chosen->reason;
+        Write(message);
+    }
     if (m_Line.IsPreparing())
-        PrepareFile(input);
+        PrepareFile(*input);
     else
-        ParseFile(input);
-    if (input.text.size() > kLongText)
+        ParseFile(*input);
+    if (input->text.size() > kLongText)
         m_Hosts.clear();
 }
 

@@ -158,9 +158,9 @@ void CSarifWriter::Begin(const std::string& path, const std::string& language)
 {
     if (!m_ArtifactIndices.emplace(path, m_Artifacts.size()).second)
         return;
-    Json artifact = {{"location", LocationOf(path)},
-                     {"roles", Json::array({"analysisTarget"})},
-                     {"sourceLanguage", language}};
+    Json artifact = {{"location", LocationOf(path)}, {"roles", Json::array({"analysisTarget"})}};
+    if (!language.empty())
+        artifact["sourceLanguage"] = language;
     artifact["location"].erase("index");
     m_Artifacts.push_back(TextOf(artifact));
 }

@@ -54,6 +54,7 @@ void CTextWriter::Write(const SMessage& message)
 {
     switch (RowOf(message.kind).subject) {
     case enMessageSubject::Source:
+    case enMessageSubject::Note:
         WriteOfSource(message);
         break;
     case enMessageSubject::Unread:
