@@ -76,6 +76,7 @@ delimited { NODE(delimited_pl_sql_statement); }
     | error quoted_body routine_item_list pl_sql_statement_delimiter ;
 
 pl_sql_statement_delimiter { NODE; }: T__CLIENT_SEND ;
+body_delimiter: pl_sql_statement_delimiter ;
 
 /* BEGIN and END as statements stand at the top alone: in the body of a routine END closes the body. */
 pl_sql_statement { NODE; }: begin_end_statement ;
@@ -91,6 +92,7 @@ pl_sql_statement { NODE; }: begin_end_statement ;
 %include "../Common/SQL/Aggregates.y"
 %include "../Common/SQL/Windows.y"
 %include "../Common/SQL/Queries.y"
+%include "../Common/SQL/TableQueries.y"
 %include "../Common/SQL/GroupingSets.y"
 %include "../Common/SQL/NullsOrder.y"
 %include "../Common/SQL/Fetch.y"
@@ -98,8 +100,10 @@ pl_sql_statement { NODE; }: begin_end_statement ;
 %include "../Common/SQL/CycleSearch.y"
 %include "../Common/SQL/From.y"
 %include "../Common/SQL/Lateral.y"
+%include "../Common/SQL/JsonTables.y"
 %include "../Common/SQL/TableSample.y"
 %include "../Common/SQL/DataChanges.y"
+%include "../Common/SQL/Conflicts.y"
 %include "../Common/SQL/Overriding.y"
 %include "../Common/SQL/Returning.y"
 %include "../Common/SQL/Merge.y"
@@ -108,21 +112,25 @@ pl_sql_statement { NODE; }: begin_end_statement ;
 %include "../Common/SQL/ConstraintStates.y"
 %include "../Common/SQL/Deferral.y"
 %include "../Common/SQL/Enforcement.y"
+%include "../Common/SQL/Periods.y"
 %include "../Common/SQL/Indexes.y"
 %include "../Common/SQL/Views.y"
 %include "../Common/SQL/Sequences.y"
 %include "../Common/SQL/Schemas.y"
+%include "../Common/SQL/Databases.y"
 %include "../Common/SQL/Alter.y"
 %include "../Common/SQL/Drop.y"
 %include "../Common/SQL/Comments.y"
 %include "../Common/SQL/Routines.y"
 %include "../Common/SQL/Triggers.y"
+%include "../Common/SQL/ForeignServers.y"
 %include "../Common/SQL/Rights.y"
 %include "../Common/SQL/Transactions.y"
 %include "../Common/SQL/Cursors.y"
 %include "../Common/SQL/Prepared.y"
 %include "../Common/SQL/StatementLists.y"
 %include "../Common/SQL/PlBlocks.y"
+%include "../Common/SQL/Diagnostics.y"
 %include "Syntax/Statements.y"
 %include "Syntax/Names.y"
 %include "Syntax/Literals.y"

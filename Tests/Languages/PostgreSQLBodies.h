@@ -34,7 +34,7 @@ constexpr SBlockCase kBlockStatements[] = {
     {"case x when 1, 2 then null; when 3 then x := 1; else null; end case;", "case_statement(case_head('case' 'x') case_when(case_when_head(expression_list('1' ',' '2')) null_statement) case_when else_branch 'end' 'case')"},
     {"case when x > 1 then null; end case;", "case_statement(case_when(case_when_head(expression_list(expression))))"},
     {"loop exit when b; continue when x > 1; exit; end loop;", "loop_statement(loop_head('loop') loop_body(exit_statement(when_clause('when' condition('b'))) exit_statement('continue') exit_statement) loop_end('end' 'loop'))"},
-    {"<<l>> loop exit l when b; end loop l;", "body_pl_sql_statements(labeled_pl_sql_statement(pl_sql_statement_label('<<' 'l' '>>') loop_statement(exit_statement(label_name('l') when_clause) loop_end(label_name('l')))) pl_sql_statement_delimiter)"},
+    {"<<l>> loop exit l when b; end loop l;", "body_pl_sql_statements(labeled_pl_sql_statement(pl_sql_statement_label('<<' 'l' '>>') loop_statement(exit_statement(label_name('l') when_clause) loop_end(label_name('l'))) pl_sql_statement_delimiter))"},
     {"<<outer>> while x < 5 loop null; end loop outer;", "loop_statement(while_head('while' condition(expression) 'loop') null_statement)"},
     {"while case when b then true end loop null; end loop;", "while_head(condition(case_expression))"},
     {"for i in 1..10 loop null; end loop;", "for_head('for' variable_list(variable_name('i')) 'in' loop_range('1' '..' '10') 'loop')"},

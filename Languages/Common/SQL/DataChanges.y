@@ -23,3 +23,5 @@ set_item { NODE; }: target_column T__EQUAL expression | insert_columns T__EQUAL 
 
 delete_statement { PART; }: with_clause? delete_core ;
 delete_core { NODE(delete_statement); }: T__DELETE T__FROM target_relation delete_tail? ;
+/* For the tail of a DELETE. */
+using_clause { NODE; }: T__USING from_list ;

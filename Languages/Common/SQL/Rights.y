@@ -21,3 +21,5 @@ privilege_target { NODE; }
     | T__SEQUENCE sequence_name_list
     | T__SCHEMA schema_name_list
     | any_routine_word routine_signature_list ;
+/* For statements on roles: the dialect defines role_option. */
+%list role_option_list: role_option %short ;

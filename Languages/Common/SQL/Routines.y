@@ -1,10 +1,11 @@
 /* CREATE FUNCTION, CREATE PROCEDURE, and how other statements point at a routine.
-   A dialect defines function_type (a type as routines take it) and routine_body, and adds to routine_item,
+   A dialect defines function_type (a type as routines take it) and routine_body, and adds to routine_head, routine_item,
    routine_attribute, plain_parameter and parameter_mode. */
 
 create_routine_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? routine_definition ;
 routine_definition { NODE(create_routine_statement); }
-    : routine_word function_name parameters routine_item_list? routine_body? ;
+    : routine_head routine_item_list? routine_body? ;
+routine_head { PART(create_routine_statement); }: routine_word function_name parameters ;
 routine_word: T__FUNCTION | T__PROCEDURE ;
 any_routine_word: T__FUNCTION | T__PROCEDURE | T__ROUTINE ;
 parameters { NODE; }: T__LPAREN parameter_list? T__RPAREN ;

@@ -32,11 +32,14 @@ column_constraint_body { NODE(column_constraint); }
     | T__UNIQUE
     | T__PRIMARY T__KEY
     | T__CHECK T__LPAREN condition T__RPAREN
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN
+    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN generated_kind?
     | references_clause ;
-default_clause { NODE; }: T__DEFAULT restricted_expression ;
+/* A COLLATE after it is that of the column. */
+default_clause { NODE; }: T__DEFAULT restricted_expression %prec T__DOT ;
+generated_kind: T__STORED | T__VIRTUAL ;
 generated_when { NODE; }: T__ALWAYS | T__BY T__DEFAULT ;
-references_clause { NODE; }: T__REFERENCES table_name foreign_columns? reference_option_list? ;
+/* An ON after it belongs to it. */
+references_clause { NODE; }: T__REFERENCES table_name foreign_columns? reference_option_list? %prec LOWEST ;
 %list reference_option_list: reference_option %short ;
 reference_option { NODE; }
     : T__MATCH T__FULL

@@ -1,7 +1,6 @@
 /* What PostgreSQL adds to INSERT, UPDATE, DELETE and MERGE. */
 
 target_column { NODE; }: column_name indirection ;
-%parts insert_tail: conflict_clause returning_clause %node insert_statement ;
 conflict_clause { NODE; }: T__ON T__CONFLICT conflict_target? conflict_action ;
 conflict_target { NODE; }
     : T__LPAREN index_element_list T__RPAREN where_clause?
@@ -16,7 +15,6 @@ returning_alias { NODE; }: old_or_new T__AS alias ;
 %parts update_tail: from_clause dml_where returning_clause %node update_statement ;
 
 %parts delete_tail: using_clause dml_where returning_clause %node delete_statement ;
-using_clause { NODE; }: T__USING from_list ;
 
 merge_core { NODE(merge_statement); }
     : T__MERGE T__INTO target_relation T__USING table_reference T__ON condition merge_when_list returning_clause

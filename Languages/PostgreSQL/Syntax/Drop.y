@@ -1,6 +1,5 @@
 /* What else PostgreSQL drops. */
 
-drop_statement { NODE; }: T__DROP dropped_roles ;
 dropped_objects { NODE(drop_statement); }
     : T__FOREIGN T__TABLE if_exists? table_name_list
     | T__MATERIALIZED T__VIEW if_exists? view_name_list
@@ -30,9 +29,8 @@ dropped_objects { NODE(drop_statement); }
     | T__TRANSFORM if_exists? T__FOR data_type T__LANGUAGE language_name
     | T__OWNED T__BY role_name_list ;
 dropped_language { PART(drop_statement); }: T__PROCEDURAL? T__LANGUAGE ;
-dropped_roles { NODE(drop_statement); }
-    : role_or_group if_exists? role_name_list
-    | T__USER if_exists? role_name_list
+dropped_alone { NODE(drop_statement); }
+    : T__GROUP if_exists? role_name_list
     | T__USER T__MAPPING if_exists? T__FOR mapped_user T__SERVER server_name
-    | T__DATABASE if_exists? database_name database_drop_options? ;
+    | T__DATABASE if_exists? database_name database_drop_options ;
 database_drop_options { PART(drop_statement); }: T__WITH? utility_options ;

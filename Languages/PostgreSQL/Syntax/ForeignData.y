@@ -9,7 +9,6 @@ foreign_table_definition { NODE(create_foreign_table_statement); }
           ;
 inherits_clause { NODE; }: T__INHERITS T__LPAREN table_name_list T__RPAREN ;
 
-new_server { PART(create_server_statement); }: if_not_exists? server_name ;
 create_foreign_object_statement { NODE(create_wrapper_statement); }
     : T__CREATE T__FOREIGN T__DATA T__WRAPPER wrapper_name wrapper_option_list? generic_options?
     | T__CREATE T__SERVER new_server server_clauses generic_options?  { NODE(create_server_statement); }

@@ -72,8 +72,6 @@ json_fallback { PART; }
 json_table { NODE; }: T__JSON_TABLE T__LPAREN json_table_source json_columns json_on_error? T__RPAREN ;
 json_table_source { NODE; }: json_operand T__COMMA json_table_path json_passing? ;
 json_table_path { PART; }: expression (T__AS alias)? ;
-json_columns { NODE; }: T__COLUMNS T__LPAREN json_column_list T__RPAREN ;
-%list json_column_list: json_column %short %separator T__COMMA ;
 json_column { NODE; }
     : column_name T__FOR T__ORDINALITY
     | column_name data_type (T__EXISTS | json_column_clauses | T__EXISTS json_exists_path)?

@@ -6,9 +6,8 @@ dollar_string { NODE; }: T__DOLLAR_QUOTE_BEGIN dollar_text? T__DOLLAR_QUOTE_END 
 dollar_text { NODE; }: dollar_text? T__DOLLAR_QUOTED_TEXT ;
 
 constant: T__BIT_STRING | T__HEX_STRING | T__NATIONAL_STRING ;
-typed_literal { NODE; }: literal_type string_literal | called_type string_literal ;
+typed_literal { NODE; }: called_type string_literal ;
 
 /* A type by its name. With modifiers it looks like a call of a function up to the string. */
-literal_type { NODE(data_type); }: literal_type_name ;
 literal_type_name { NODE(type_name); }: type_function_name | dotted_name ;
 called_type { NODE(data_type); }: function_name T__LPAREN argument_list T__RPAREN ;

@@ -15,6 +15,3 @@ definition_value { PART; }
     | T__OPERATOR T__LPAREN any_operator T__RPAREN
     | signed_number | string_literal | T__NONE ;
 
-generic_options { NODE(options_clause); }: T__OPTIONS T__LPAREN generic_option_list T__RPAREN ;
-%list generic_option_list: generic_option %short %separator T__COMMA %node option_list ;
-generic_option { NODE(option); }: option_name string_literal ;

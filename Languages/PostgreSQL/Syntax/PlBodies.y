@@ -13,14 +13,14 @@ quoted_body { NODE; }
 stray_statements { NODE(body_pl_sql_statements); }
     : bad_statement
     | stray_statements listed_statement
-    | stray_statements (labeled_statement | labeled_bad_head) pl_sql_statement_delimiter ;
+    | stray_statements (delimited_labeled_statement | delimited_labeled_bad_head) ;
 open_strays { NODE(body_pl_sql_statements); }: bad_last_statement | stray_statements last_in_open_list ;
 
 /* A routine whose closing quote is missing reaches to the end of the text. */
 open_routine { NODE(create_routine_statement); }
     : T__CREATE (T__OR T__REPLACE)? open_definition
     | T__DO open_do_items  { NODE(do_statement); } ;
-open_definition { NODE(create_routine_statement); }: routine_word function_name parameters open_routine_items ;
+open_definition { NODE(create_routine_statement); }: routine_head open_routine_items ;
 open_routine_items { NODE(routine_item_list); }: routine_item_list? open_routine_item ;
 open_routine_item { NODE(routine_item); }: T__AS open_body ;
 open_do_items { NODE(do_item_list); }: do_item_list? open_body ;
@@ -31,9 +31,9 @@ open_body { NODE(quoted_body); }
 
 body_block { NODE(body_pl_sql_statements); }
     : last_block | ended_block
-    | labeled_block pl_sql_statement_delimiter? ;
+    | labeled_block body_delimiter? ;
 last_block { NODE(delimited_pl_sql_statement); }: plain_block ;
-ended_block { NODE(delimited_pl_sql_statement); }: plain_block pl_sql_statement_delimiter ;
+ended_block { NODE(delimited_pl_sql_statement); }: plain_block body_delimiter ;
 plain_block { NODE(pl_sql_statement); }: block ;
 labeled_block { NODE(delimited_pl_sql_statement); }: label_and_block ;
 label_and_block { NODE(labeled_pl_sql_statement); }: block_label plain_block ;

@@ -1,10 +1,10 @@
 /* Declarations of a block of PL/pgSQL, its variables and values. */
 
 declaration { NODE; }
-    : variable_declaration pl_sql_statement_delimiter
-    | alias_declaration pl_sql_statement_delimiter
-    | cursor_declaration pl_sql_statement_delimiter
-    | error pl_sql_statement_delimiter ;
+    : variable_declaration body_delimiter
+    | alias_declaration body_delimiter
+    | cursor_declaration body_delimiter
+    | error body_delimiter ;
 
 variable_declaration { NODE; }: declared_name T__CONSTANT? declared_type declared_value? ;
 declared_name { NODE(variable_name); }: identifier | variable_word ;

@@ -13,9 +13,7 @@ raise_using { NODE(raise_using_clause); }: T__USING raise_option_list ;
 raise_option { NODE(option); }: raise_option_name assignment_operator expression ;
 raise_option_name { NODE(option_name); }: any_label ;
 assert_statement { NODE; }: T__ASSERT condition (T__COMMA expression)? ;
-get_diagnostics { NODE(get_diagnostics_statement); }
-    : T__GET (T__CURRENT | T__STACKED)? T__DIAGNOSTICS diagnostics_item_list ;
-%list diagnostics_item_list: diagnostics_item %short %separator T__COMMA ;
-diagnostics_item { NODE; }: variable assignment_operator item_name ;
+diagnostics_target: variable ;
+diagnostics_sign: assignment_operator ;
 item_name { NODE; }: plain_identifier ;
 exception_condition { NODE; }: T__SQLSTATE T__STRING ;

@@ -6,6 +6,7 @@ loop_head { NODE(for_head); }
           { NODE(foreach_head); }
     | T__FOREACH error T__LOOP  { NODE(foreach_head); } ;
 bad_first_part { NODE(loop_statement); }: T__FOREACH error ;
+loop_range { NODE; }: expression T__DOT_DOT expression T__BY expression ;
 /* A query by its first word, and what other statements return. */
 loop_query { PART(insert_statement); }
     : with_clause insert_core

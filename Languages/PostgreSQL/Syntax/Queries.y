@@ -1,7 +1,5 @@
 /* What PostgreSQL adds to queries. */
 
-other_select { PART(set_operation); }: T__TABLE table  { NODE(table_statement); } ;
-
 distinct_clause { NODE; }: T__DISTINCT T__ON T__LPAREN expression_list T__RPAREN ;
 
 into_clause { PART; }: T__INTO into_target ;

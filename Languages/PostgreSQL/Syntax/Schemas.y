@@ -6,7 +6,6 @@ schema_element
 
 create_role_statement { NODE; }: T__CREATE (role_or_group | T__USER) role_name T__WITH? new_role_option_list? ;
 role_or_group: T__ROLE | T__GROUP ;
-%list role_option_list: role_option %short ;
 role_option { NODE; }
     : (T__ENCRYPTED | T__UNENCRYPTED)? T__PASSWORD string_literal
     | T__PASSWORD T__NULL
@@ -23,7 +22,6 @@ new_role_option { NODE(role_option); }
     | (T__ADMIN | T__IN? T__ROLE | T__IN T__GROUP) role_name_list ;
 
 create_database_statement { NODE; }: T__CREATE T__DATABASE database_name T__WITH? database_option_list? ;
-%list database_option_list: database_option %short %node option_list ;
 database_option { NODE(option); }: database_option_name T__EQUAL? database_option_value ;
 database_option_name { NODE(option_name); }
     : plain_identifier

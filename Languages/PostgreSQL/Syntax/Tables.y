@@ -32,8 +32,7 @@ column_constraint_body { NODE(column_constraint); }
     | T__UNIQUE index_parameters
     | T__UNIQUE nulls_distinct index_parameters?
     | T__PRIMARY T__KEY index_parameters
-    | T__CHECK T__LPAREN condition T__RPAREN T__NO T__INHERIT
-    | T__GENERATED generated_when T__AS T__LPAREN expression T__RPAREN (T__STORED | T__VIRTUAL) ;
+    | T__CHECK T__LPAREN condition T__RPAREN T__NO T__INHERIT ;
 nulls_distinct { NODE; }: T__NULLS T__NOT? T__DISTINCT ;
 index_parameters { NODE; }: T__WITH definitions index_tablespace? | index_tablespace ;
 index_tablespace { NODE; }: T__USING T__INDEX T__TABLESPACE tablespace_name ;
@@ -47,8 +46,6 @@ table_constraint_body { NODE(table_constraint); }
     | T__PRIMARY T__KEY T__USING T__INDEX index_name constraint_attribute_list?
     | T__EXCLUDE exclusion ;
 key_columns { PART(table_constraint); }: unique_columns key_tail ;
-
-unique_column { NODE(key_column); }: column_name T__WITHOUT T__OVERLAPS ;
 
 foreign_column { NODE(key_column); }: T__PERIOD column_name ;
 %parts key_tail: include_clause index_parameters constraint_attribute_list %node table_constraint ;

@@ -23,7 +23,6 @@ create_event_trigger_statement { NODE; }
 event_trigger_action { NODE; }: T__EXECUTE (T__FUNCTION | T__PROCEDURE) function_name T__LPAREN T__RPAREN ;
 %list event_condition_list: event_condition %short %separator T__AND ;
 event_condition { NODE; }: identifier T__IN T__LPAREN string_list T__RPAREN ;
-%list string_list: string_literal %short %separator T__COMMA ;
 
 create_rule_statement { NODE; }: T__CREATE (T__OR T__REPLACE)? rule_definition ;
 rule_definition { NODE(create_rule_statement); }

@@ -1,0 +1,3 @@
+/* TABLE in the place of a SELECT: all of a table. */
+
+other_select { PART(set_operation); }: T__TABLE table  { NODE(table_statement); } ;
