@@ -1,0 +1,40 @@
+-- What MariaDB alone has: versions of rows, periods, sequences, dynamic columns.
+CREATE DATABASE ledger;
+USE ledger;
+CREATE TABLE price (id INT PRIMARY KEY, amount INT) WITH SYSTEM VERSIONING;
+CREATE TABLE rate (id INT, amount INT, since DATE, till DATE, PERIOD FOR valid (since, till));
+CREATE TABLE thing (id INT, attributes BLOB);
+CREATE SEQUENCE numbers START WITH 5;
+INSERT INTO price VALUES (1, 10), (2, 20);
+UPDATE price SET amount = 11 WHERE id = 1;
+
+SELECT * FROM price FOR SYSTEM_TIME AS OF NOW();
+SELECT * FROM price FOR SYSTEM_TIME AS OF TIMESTAMP '2037-01-01 00:00:00' AS p WHERE p.id = 1;
+SELECT * FROM price FOR SYSTEM_TIME BETWEEN (NOW() - INTERVAL 1 YEAR) AND NOW() JOIN rate USING (id);
+SELECT * FROM price FOR SYSTEM_TIME FROM '2020-01-01' TO '2030-01-01 00:00:00' p;
+SELECT COUNT(*) FROM price FOR SYSTEM_TIME ALL;
+DELETE HISTORY FROM price BEFORE SYSTEM_TIME TIMESTAMP '2020-01-01 00:00:00';
+DELETE HISTORY FROM price BEFORE SYSTEM_TIME NOW() - INTERVAL 1 DAY;
+DELETE HISTORY FROM price;
+
+INSERT INTO rate VALUES (1, 3, '2024-01-01', '2025-01-01');
+UPDATE rate FOR PORTION OF valid FROM '2024-03-01' TO '2024-04-01' SET amount = 4 WHERE id = 1;
+DELETE FROM rate FOR PORTION OF valid FROM DATE '2024-06-01' TO DATE '2024-06-01' + INTERVAL 1 MONTH WHERE amount = 3;
+
+SELECT NEXT VALUE FOR numbers, NEXTVAL(ledger.numbers), PREVIOUS VALUE FOR numbers, LASTVAL(numbers), SETVAL(numbers, 50, 1);
+INSERT INTO thing VALUES (NEXTVAL(numbers), COLUMN_CREATE('color', 'red', 'weight', 7 AS INT, 'at', '10:00' AS TIME(3)));
+UPDATE thing SET attributes = COLUMN_ADD(attributes, 'size', 'L' AS CHAR CHARACTER SET utf8mb4);
+SELECT COLUMN_GET(attributes, 'weight' AS UNSIGNED), COLUMN_JSON(attributes), COLUMN_LIST(attributes) FROM thing
+    WHERE COLUMN_EXISTS(attributes, 'color') AND COLUMN_CHECK(attributes);
+UPDATE thing SET attributes = COLUMN_DELETE(attributes, 'weight');
+
+WITH RECURSIVE walk (n) AS (SELECT 1 UNION SELECT n % 3 + 1 FROM walk) CYCLE n RESTRICT SELECT * FROM walk;
+SELECT JSON_ARRAYAGG(DISTINCT id ORDER BY amount DESC LIMIT 2), JSON_OBJECTAGG(id, amount) FROM price;
+SELECT JSON_VALUE('{"a": 1}', '$.a'), JSON_QUERY('{"a": [1]}', '$.a'), JSON_EXISTS('{}', '$.b'), JSON_DETAILED('[1]');
+SELECT j.* FROM JSON_TABLE('[{"a": 1, "c": [{"d": "x"}]}, {}]', '$[*]' COLUMNS (
+    n FOR ORDINALITY, a INT PATH '$.a' DEFAULT '0' ON EMPTY NULL ON ERROR, b INT EXISTS PATH '$.b',
+    NESTED PATH '$.c[*]' COLUMNS (d VARCHAR(5) PATH '$.d'))) AS j WHERE j.n > 0;
+HANDLER rate OPEN;
+HANDLER rate READ FIRST LIMIT 1;
+HANDLER rate CLOSE;
+TRUNCATE TABLE rate WAIT 2;

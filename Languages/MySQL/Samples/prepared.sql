@@ -1,0 +1,43 @@
+-- Statements made at run time, and what the server says of statements.
+CREATE DATABASE tools;
+USE tools;
+CREATE TABLE job (id INT PRIMARY KEY, state VARCHAR(10), due DATETIME, KEY by_state (state));
+INSERT INTO job VALUES (1, 'new', NOW()), (2, 'done', NOW());
+
+PREPARE pick FROM 'SELECT * FROM job WHERE state = ? AND id > ? LIMIT ?';
+SELECT 'new', 0, 10 INTO @state, @id, @rows;
+EXECUTE pick USING @state, @id, @rows;
+DEALLOCATE PREPARE pick;
+SELECT CONCAT('DELETE FROM ', 'job', ' WHERE state = ''done''') INTO @text;
+PREPARE gone FROM @text;
+EXECUTE gone;
+DROP PREPARE gone;
+PREPARE ask FROM CONCAT('SELECT COUNT(*) FROM ', DATABASE(), '.job');
+EXECUTE ask;
+EXECUTE IMMEDIATE 'SELECT * FROM job WHERE id = ?' USING 1;
+EXECUTE IMMEDIATE CONCAT('SELECT ', @id);
+DO SLEEP(0), @id := @id + 1;
+DO RELEASE_LOCK('tools');
+
+DESCRIBE job;
+DESC tools.job 's%';
+EXPLAIN job state;
+EXPLAIN SELECT * FROM job USE INDEX (by_state) WHERE state = 'new';
+EXPLAIN EXTENDED SELECT 1 FROM job FORCE INDEX FOR ORDER BY (PRIMARY) ORDER BY id;
+EXPLAIN PARTITIONS SELECT 1 FROM job IGNORE KEY (by_state, `PRIMARY`);
+EXPLAIN FORMAT = JSON UPDATE job SET state = 'old' WHERE due < NOW();
+EXPLAIN FORMAT = TRADITIONAL DELETE FROM job WHERE id = 3;
+DESCRIBE INSERT INTO job (id) VALUES (5);
+EXPLAIN REPLACE INTO job (id) SELECT 6;
+EXPLAIN (SELECT 1) UNION (SELECT 2);
+ANALYZE SELECT COUNT(*) FROM job;
+ANALYZE FORMAT = JSON SELECT COUNT(*) FROM job UNION SELECT 1;
+ANALYZE UPDATE job SET due = due + INTERVAL 1 HOUR;
+-- MySQL only
+EXPLAIN ANALYZE SELECT * FROM job;
+-- MySQL only
+EXPLAIN FORMAT = TREE TABLE job;
+-- MySQL only
+EXPLAIN FORMAT = JSON FOR CONNECTION 5;
+HELP 'SELECT';
+HELP contents;

@@ -1,0 +1,32 @@
+-- What runs at night: statistics, checks, repairs.
+CREATE DATABASE upkeep;
+USE upkeep;
+CREATE TABLE visits (id INT PRIMARY KEY, page VARCHAR(100), visitor INT, KEY by_page (page), KEY by_visitor (visitor)) ENGINE=MyISAM;
+CREATE TABLE pages (id INT, title VARCHAR(50)) ENGINE=MyISAM;
+CREATE VIEW popular AS SELECT page, COUNT(*) AS n FROM visits GROUP BY page;
+
+ANALYZE TABLE visits, pages;
+ANALYZE NO_WRITE_TO_BINLOG TABLE visits PERSISTENT FOR ALL;
+ANALYZE LOCAL TABLES visits PERSISTENT FOR COLUMNS (page, visitor) INDEXES (by_page, PRIMARY), pages PERSISTENT FOR COLUMNS ALL INDEXES ();
+CHECK TABLE visits, pages QUICK;
+CHECK TABLE visits FAST MEDIUM CHANGED;
+CHECK TABLES visits FOR UPGRADE;
+CHECK VIEW popular;
+CHECKSUM TABLE visits, pages;
+CHECKSUM TABLE visits QUICK;
+OPTIMIZE TABLE visits, pages;
+OPTIMIZE LOCAL TABLE visits WAIT 5;
+REPAIR TABLE visits QUICK EXTENDED;
+REPAIR NO_WRITE_TO_BINLOG TABLE pages USE_FRM;
+REPAIR VIEW popular FROM MYSQL;
+SET GLOBAL hot_keys.key_buffer_size = 128 * 1024;
+CACHE INDEX visits, pages IN hot_keys;
+CACHE INDEX visits INDEX (by_page, by_visitor) IN DEFAULT;
+LOAD INDEX INTO CACHE visits IGNORE LEAVES, pages;
+-- MySQL only
+ANALYZE TABLE visits UPDATE HISTOGRAM ON page, visitor WITH 32 BUCKETS;
+-- MySQL only
+ANALYZE TABLE visits DROP HISTOGRAM ON page;
+DROP VIEW IF EXISTS popular;
+DROP TABLE IF EXISTS visits, pages;
+DROP DATABASE IF EXISTS upkeep;
