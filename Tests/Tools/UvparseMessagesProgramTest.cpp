@@ -24,19 +24,19 @@ protected:
     // Texts with one of everything.
     void PutSources()
     {
-        Put("bad one.sql", "\xEF\xBB\xBFselect '\xE6\x97\xA5\t', \xF0\x9F\x98\x80 from from t;\r\nselec "
-                           "1;\n/* op\xC3\xA9n\n");
-        Put("wide.sql", "\xFF\xFEs\0e\0l\0e\0c\0t\0 \0"
-                        "f\0r\0o\0m\0 \0\x3D\xD8\0\xDE\n\0"
-                        "f\0r\0o\0m\0;\0"s);
-        Put("latin.sql", "select 1;\nselect 'caf\xE9';\n");
-        Put("clean.sql", "select 1;\n");
+        Put("bad one.pgsql", "\xEF\xBB\xBFselect '\xE6\x97\xA5\t', \xF0\x9F\x98\x80 from from t;\r\nselec "
+                             "1;\n/* op\xC3\xA9n\n");
+        Put("wide.pgsql", "\xFF\xFEs\0e\0l\0e\0c\0t\0 \0"
+                          "f\0r\0o\0m\0 \0\x3D\xD8\0\xDE\n\0"
+                          "f\0r\0o\0m\0;\0"s);
+        Put("latin.pgsql", "select 1;\nselect 'caf\xE9';\n");
+        Put("clean.pgsql", "select 1;\n");
         Put("a.cl", "PGM\nCHGVAR VAR(&A) +\n  VALUE(1) VALUE VALUE((\nENDPGM\n");
     }
 
     // The files of PutSources and two that can't be read.
     static constexpr char kSources[] =
-        "'bad one.sql' wide.sql clean.sql sub/../latin.sql a.cl missing.sql a.nothing";
+        "'bad one.pgsql' wide.pgsql clean.pgsql sub/../latin.pgsql a.cl missing.pgsql a.nothing";
 
     static std::vector<json> Lines(const std::string& text)
     {
@@ -116,7 +116,7 @@ TEST_F(UvparseMessages, FormsSayTheSame)
 TEST_F(UvparseMessages, RegionsHoldWhatTheyShow)
 {
     PutSources();
-    const json sarif = json::parse(Run("--messages sarif 'bad one.sql' wide.sql a.cl").err)["runs"][0];
+    const json sarif = json::parse(Run("--messages sarif 'bad one.pgsql' wide.pgsql a.cl").err)["runs"][0];
     const std::string base = Percented(sarif["originalUriBaseIds"]["%SRCROOT%"]["uri"]);
     ASSERT_TRUE(base.starts_with("file:///"));
     std::size_t found = 0;
@@ -129,7 +129,7 @@ TEST_F(UvparseMessages, RegionsHoldWhatTheyShow)
             continue;
         std::string bytes =
             ReadWholeFile(path).substr(region["byteOffset"], region["byteLength"].get<std::size_t>());
-        if (path.ends_with("wide.sql"))
+        if (path.ends_with("wide.pgsql"))
             std::erase(bytes, '\0');
         const std::string snippet = region["snippet"]["text"];
         EXPECT_EQ(bytes, snippet);
@@ -156,9 +156,10 @@ TEST_F(UvparseMessages, DocumentsAreValid)
                     "    sys.exit(error.message + ' at ' + str(list(error.path)))\n");
     const std::string schema = "'"s + folder + "/sarif-schema-2.1.0.json'";
     for (const std::string& arguments :
-         {"--stat --time --verify "s + kSources, "clean.sql"s, "-l PostgreSQL -"s, "-l nonesuch clean.sql"s,
-          "-o NOSUCH=1 clean.sql"s, "--pretty -l PostgreSQL -o ORVA_CHILD=1 'bad one.sql'"s,
-          "--prepare -l C -o PREPROCESSOR=0 b.c"s, "../*/clean.sql \"$PWD/wide.sql\""s}) {
+         {"--stat --time --verify "s + kSources, "clean.pgsql"s, "-l PostgreSQL -"s,
+          "-l nonesuch clean.pgsql"s, "-o NOSUCH=1 clean.pgsql"s,
+          "--pretty -l PostgreSQL -o ORVA_CHILD=1 'bad one.pgsql'"s, "--prepare -l C -o PREPROCESSOR=0 b.c"s,
+          "../*/clean.pgsql \"$PWD/wide.pgsql\""s}) {
         SCOPED_TRACE(arguments);
         Run("--messages sarif --messages-to m.sarif " + arguments);
         const SRunResult check = RunProgram("/usr/bin/env", "python3 check.py " + schema + " m.sarif");
@@ -175,21 +176,21 @@ struct SKindCase
 };
 
 const SKindCase kKindCases[] = {
-    {"", "a.sql", "select from from;\nselect 1;\n/* x", "unexpected-token 1:13 unclosed-text 3:1 "},
-    {"", "a.sql", "select ; creat x; selec 1; select 1;", "unexpected-token 1:10 skipped-text 1:19 "},
-    {"", "a.sql", "select 1;\n\xE9", "invalid-text 2:1 "},
+    {"", "a.pgsql", "select from from;\nselect 1;\n/* x", "unexpected-token 1:13 unclosed-text 3:1 "},
+    {"", "a.pgsql", "select ; creat x; selec 1; select 1;", "unexpected-token 1:10 skipped-text 1:19 "},
+    {"", "a.pgsql", "select 1;\n\xE9", "invalid-text 2:1 "},
     {"--prepare -l C -o PREPROCESSOR=0", "a.c", "\n#include \"none.h\"\n", "missing-include 2:- "},
     {"--prepare -l C -o PREPROCESSOR=0", "a.c", "int \xC2\xA7;\n", "failed-parse 1:- "},
 
     {"--prepare -l Progress4GL -o INCLUDE_FILES=YES", "a.p", "x.\n{none.i}\n", "missing-include 2:- "},
     {"--prepare -l ASP", "a.asp", "<p>\n<!--#include file=\"none.inc\"-->\n", "missing-include 2:- "},
     {"-l IBMCL", "a.txt", "/* nothing */", ""},
-    {"-o ORVA_CHILD=1", "a.sql", "select from from;", "unexpected-token 1:13 "},
-    {"-o TREE2SERIAL=1", "a.sql", "select 1;", "bad-arguments -:- "},
-    {"-l nonesuch", "a.sql", "select 1;", "could-not-run -:- "},
-    {"--stat", "a.sql", "select 1;", "statistics -:- "},
-    {"--time", "a.sql", "select 1;", "time -:- "},
-    {"--verify", "a.sql", "select 1;", "verified -:- "},
+    {"-o ORVA_CHILD=1", "a.pgsql", "select from from;", "unexpected-token 1:13 "},
+    {"-o TREE2SERIAL=1", "a.pgsql", "select 1;", "bad-arguments -:- "},
+    {"-l nonesuch", "a.pgsql", "select 1;", "could-not-run -:- "},
+    {"--stat", "a.pgsql", "select 1;", "statistics -:- "},
+    {"--time", "a.pgsql", "select 1;", "time -:- "},
+    {"--verify", "a.pgsql", "select 1;", "verified -:- "},
 };
 
 TEST_F(UvparseMessages, EachHasItsKindAndPlace)
@@ -210,29 +211,29 @@ TEST_F(UvparseMessages, EachHasItsKindAndPlace)
 
 TEST_F(UvparseMessages, GoWhereTheyAreWanted)
 {
-    Put("bad.sql", "select from from;\n");
-    const SRunResult usual = Run("bad.sql");
-    SRunResult run = Run("--messages-to m.txt bad.sql");
+    Put("bad.pgsql", "select from from;\n");
+    const SRunResult usual = Run("bad.pgsql");
+    SRunResult run = Run("--messages-to m.txt bad.pgsql");
     EXPECT_EQ(run.code, 1);
     EXPECT_EQ(run.out, usual.out);
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(Get("m.txt"), usual.err);
-    EXPECT_EQ(Run("--quiet --messages-to q.txt bad.sql").err, "");
+    EXPECT_EQ(Run("--quiet --messages-to q.txt bad.pgsql").err, "");
     EXPECT_EQ(Get("q.txt"), usual.err);
-    run = Run("--output trees --messages-to - bad.sql");
+    run = Run("--output trees --messages-to - bad.pgsql");
     EXPECT_EQ(run.out, usual.err);
     EXPECT_EQ(run.err, "");
-    EXPECT_EQ(Get("trees/bad.sql.xml"), usual.out);
+    EXPECT_EQ(Get("trees/bad.pgsql.xml"), usual.out);
 
-    run = Run("--messages sarif --messages-to none/m.sarif bad.sql");
+    run = Run("--messages sarif --messages-to none/m.sarif bad.pgsql");
     EXPECT_EQ(run.code, 2);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "uvparse: error: none/m.sarif: No such file or directory\n");
 
-    ExpectRefused({{"--messages xml bad.sql", "text, json or sarif, not 'xml'"},
-                   {"--messages-to '' bad.sql", "--messages-to"},
-                   {"--messages-to - bad.sql", "--output"},
-                   {"--messages json --quiet bad.sql", "--messages-to"}});
+    ExpectRefused({{"--messages xml bad.pgsql", "text, json or sarif, not 'xml'"},
+                   {"--messages-to '' bad.pgsql", "--messages-to"},
+                   {"--messages-to - bad.pgsql", "--output"},
+                   {"--messages json --quiet bad.pgsql", "--messages-to"}});
 }
 
 } // namespace
