@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Writes SQL of a given size for the benchmarks: half of it INSERT statements with many rows, half of it definitions
-and queries. The same size and seed give the same bytes.
+and queries. With --dump it is INSERT statements of thousands of rows alone, as the dumps of databases hold them, which
+PostgreSQL and MySQL both read. The same size and seed give the same bytes.
 
-usage: generate_sql.py SIZE [--seed N]      SIZE in bytes, or with the suffix K or M
+usage: generate_sql.py SIZE [--seed N] [--dump]      SIZE in bytes, or with the suffix K or M
 """
 
 import argparse
@@ -19,11 +20,11 @@ def text(rng):
     return "'" + " ".join(rng.choice(WORDS) for _ in range(rng.randint(1, 4))) + "'"
 
 
-def insert(rng):
+def insert(rng, least=20, most=200):
     table = rng.choice(NAMES)
     columns = COLUMNS[: rng.randint(4, len(COLUMNS))]
     rows = []
-    for _ in range(rng.randint(20, 200)):
+    for _ in range(rng.randint(least, most)):
         row = [str(rng.randint(1, 999999)), str(rng.randint(1, 9999)), text(rng)]
         while len(row) < len(columns):
             row.append(
@@ -40,6 +41,10 @@ def insert(rng):
             )
         rows.append("(" + ", ".join(row) + ")")
     return f"INSERT INTO {table} ({', '.join(columns)}) VALUES\n" + ",\n".join(rows) + ";\n"
+
+
+def dumped_insert(rng):
+    return insert(rng, 2000, 8000)
 
 
 def create_table(rng):
@@ -91,6 +96,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
     parser.add_argument("size")
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--dump", action="store_true")
     arguments = parser.parse_args()
     units = {"K": 1000, "M": 1000000}
     size = arguments.size
@@ -101,8 +107,9 @@ def main():
     written = inserts = 0
     out = sys.stdout.buffer
     while written < wanted:
-        isInsert = inserts * 2 <= written
-        statement = (insert if isInsert else rng.choice(others))(rng).encode()
+        isInsert = arguments.dump or inserts * 2 <= written
+        make = dumped_insert if arguments.dump else insert
+        statement = (make if isInsert else rng.choice(others))(rng).encode()
         out.write(statement)
         written += len(statement)
         inserts += len(statement) if isInsert else 0

@@ -14,7 +14,7 @@ build=(
 test=(
     binutils strace
     fp-compiler gnucobol3
-    libbenchmark-dev libecpg-dev libgtest-dev libgmock-dev libpg-query-dev libxml2-utils
+    libbenchmark-dev libecpg-dev libgtest-dev libgmock-dev libmariadb-dev libpg-query-dev libxml2-utils
     clang clang-format clang-tidy libclang-rt-14-dev llvm
     mariadb-client-core mariadb-server-core postgresql python3-jsonschema sqlite3
 )

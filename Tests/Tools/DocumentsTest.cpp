@@ -93,7 +93,7 @@ TEST(Documents, TheHostsInThemGiveTheTreesThatUvparseGives)
     const CTemporaryFolder folder(UV_BIN_DIR "/../documents-test-");
     const std::string file = folder.Path() + "/a.sql";
     WriteWholeFile(file, "select 'every byte' -- comes back\n from the, tree;");
-    const SRun tree = Shell(UV_BIN_DIR "/uvparse " + file);
+    const SRun tree = Shell(UV_BIN_DIR "/uvparse -l PostgreSQL " + file);
     ASSERT_EQ(tree.status, 0) << tree.output;
 
     const SRun host = Shell(UV_BIN_DIR "/host_example " + file);
@@ -192,7 +192,7 @@ TEST(Documents, GuidesWorkWhenFollowedToTheLetter)
          {"uvgrammar", "uvgrammar-elements", "uvgrammar-score", "uvgrammar-test", "libUVParser.so"},
          12},
         {"RuleFiles.md", {"uvrules"}, 5},
-        {"TreeStyle.md", {"uvparse", "libUVParser.so", "Grammar/PostgreSQL"}, 1},
+        {"TreeStyle.md", {"uvparse", "libUVParser.so", "Grammar/MySQL", "Grammar/PostgreSQL"}, 2},
         {"Types.md", {"uvtypes"}, 6},
         {"Names.md", {"uvnames"}, 6},
         {"NamesExample.md", {"uvnames"}, 6},
@@ -246,7 +246,7 @@ TEST(Documents, CommandsThatMeasureAreOnesThatRun)
         }
         ++programs;
     }
-    EXPECT_EQ(programs, 7);
+    EXPECT_EQ(programs, 8);
 
     const std::string sizes = "1M 10M 100M";
     const std::size_t begin = text.find("    for size in " + sizes);
