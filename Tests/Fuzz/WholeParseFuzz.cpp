@@ -1,4 +1,4 @@
-// Any bytes through the front door, with the fixture grammar that stands beside the program: the raw tree's
+// Any bytes through the front door, with the grammar UV_FUZZED_PARSER that stands beside the program: the raw tree's
 // text is the source, and a parse that succeeds gives a flattened tree with the same text, as XML reads it.
 #include "Catalogue/UVDBDatabaseKinds.h"
 #include "Catalogue/UVDBHelpers.h"
@@ -68,8 +68,10 @@ public:
     CFuzzedParser()
     {
         CUVDBOptionWrapper::SetParam(m_Info, "REPORT_UNEXPECTED_TOKENS", Uve::U8CString("1"));
+        // Where a language reads texts in double quotes as names and as strings, both are tried.
+        CUVDBOptionWrapper::SetParam(m_Info, "OPTION_VARYING_PARSING", Uve::U8CString("YES"));
         try {
-            m_Parser.Load("Common");
+            m_Parser.Load(UV_FUZZED_PARSER);
         } catch (const Uve::U8CString& message) {
             std::fprintf(stderr, "%s\n", message.c_str());
             std::abort();
@@ -101,8 +103,8 @@ public:
     }
 
 private:
-    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(
-        MakeDbVersionInfo(UVDB_DB_COMMON, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
+    std::shared_ptr<IUVDBDatabaseInfo2> m_Info = UVDBMakeObject<CUVDBDatabaseInfo>(MakeDbVersionInfo(
+        UV_FUZZED_DATABASE, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD, UVDB_NO_VERSION_WORD));
     CUVDBSQLParser m_Parser;
 };
 
